@@ -1,0 +1,26 @@
+#pragma once
+
+#include "foundation/Date.h"
+#include "foundation/RegionalSettings.h"
+
+#include <string>
+#include <string_view>
+
+namespace k7deval
+{
+
+std::string ShortDate(Date value, const RegionalSettings& settings);  ///< "3/10/2024"
+std::string LongTime(Date value, const RegionalSettings& settings);   ///< "3:05:09 PM"
+std::string MediumTime(Date value, const RegionalSettings& settings); ///< "03:05 PM"
+std::string ShortTime(Date value, const RegionalSettings& settings);  ///< "15:05"
+
+/// Whether the text is a date, a time or both, as the region writes them; see ToDate.
+/// `today` gives the year of a date without one.
+bool IsDate(std::string_view text, const RegionalSettings& settings, Date today);
+
+/// The date that a text holds: numeric day, month and year with "/", "-" or "." in the region's
+/// order (an impossible month swaps day and month), year first, or a month name; an optional time.
+/// A time alone lies on the zero date. Error 13 for any other text.
+Date ToDate(std::string_view text, const RegionalSettings& settings, Date today);
+
+} // namespace k7deval

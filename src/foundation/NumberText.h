@@ -1,0 +1,52 @@
+#pragma once
+
+#include "foundation/RegionalSettings.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace k7deval
+{
+
+/// A number format such as "0.0000" or "##0.0": how many places it has, and whether it prints a
+/// digit ahead of the mark. "0." prints the mark and no places.
+struct NumberFormat {
+    int places = 0;
+    bool mark = false; ///< The format holds a decimal mark.
+
+    /// Reads a format made of "#", "0" and one ".". Error 5 for anything else.
+    static NumberFormat parse(std::string_view format);
+};
+
+/// The value as decimal text (a single with at most 7 significant digits, a double with at most
+/// 15), rounded to the format's places, halves away from zero. A result of zero bears no sign.
+/// Error 5 for a format that is not made of "#", "0" and ".".
+std::string FormatNumber(float value, std::string_view format, const RegionalSettings& settings);
+std::string FormatNumber(double value, std::string_view format, const RegionalSettings& settings);
+
+/// General number form, what "%.7G" (single) and "%.15G" (double) print, with the region's decimal
+/// mark; zero is "0".
+std::string GeneralNumber(float value, const RegionalSettings& settings);
+std::string GeneralNumber(double value, const RegionalSettings& settings);
+
+/// The value written with so many decimals and read back: the rounding that the rules for drifts,
+/// limits and bins are defined by. Equal to ToSingle(FormatNumber(...)) for every single, whatever
+/// the region; no allocation. places: 0 to 9.
+float roundTrip(float value, int places);
+
+/// Whether the text is a number as the region writes it; see ToDouble.
+bool IsNumeric(std::string_view text, const RegionalSettings& settings);
+
+/// The number that a text holds: blanks around, a sign before or behind or parentheses, the
+/// currency mark at either end, group marks ahead of the decimal mark, an exponent with E or D.
+/// Error 13 when the text is not numeric, 6 when the number is out of range.
+double ToDouble(std::string_view text, const RegionalSettings& settings);
+/// As ToDouble, then rounded to a single; error 6 out of a single's range.
+float ToSingle(std::string_view text, const RegionalSettings& settings);
+/// As ToDouble, then the nearest integer, halves to even; error 6 out of range.
+std::int32_t ToInt32(std::string_view text, const RegionalSettings& settings);
+/// The nearest integer, halves to even; error 6 out of range.
+std::int32_t ToInt32(double value);
+
+} // namespace k7deval

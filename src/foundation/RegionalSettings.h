@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace k7deval
+{
+
+enum class DateOrder { MonthDayYear, DayMonthYear, YearMonthDay };
+
+/// How a user's region writes numbers, dates and times. A plain value; the library starts with
+/// en-US.
+struct RegionalSettings {
+    std::string name = "en-US";
+    std::string decimalMark = ".";
+    std::vector<std::string> groupMarks = {","}; ///< Any of them is read.
+    std::string currencyMark = "$";
+    DateOrder dateOrder = DateOrder::MonthDayYear;
+    std::string dateSeparator = "/";
+    bool twoDigitDayAndMonth = false; ///< "10/03/2024" rather than "3/10/2024".
+    bool twelveHourLongTime = true;   ///< The long time is "3:05:09 PM" rather than "15:05:09".
+    bool twelveHourMediumTime = true; ///< The medium time is "03:05 PM" rather than "03:05".
+    std::string amMark = "AM";
+    std::string pmMark = "PM";
+
+    friend bool operator==(const RegionalSettings&, const RegionalSettings&) = default;
+};
+
+/// The settings of a region by its name: "en-US", "en-GB", "de-DE" or "fr-FR". Error 5 for another.
+RegionalSettings regionalSettings(std::string_view name);
+
+} // namespace k7deval

@@ -14,6 +14,9 @@ std::string LongTime(Date value, const RegionalSettings& settings);   ///< "3:05
 std::string MediumTime(Date value, const RegionalSettings& settings); ///< "03:05 PM"
 std::string ShortTime(Date value, const RegionalSettings& settings);  ///< "15:05"
 
+/// The hour of a day (0 to 23) as a twelve-hour clock shows it: 12, 1, ... 11.
+int twelveHour(int hour);
+
 /// Whether the text is a date, a time or both, as the region writes them; see ToDate.
 /// `today` gives the year of a date without one.
 bool IsDate(std::string_view text, const RegionalSettings& settings, Date today);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,9 +21,13 @@ struct RegionalSettings {
     std::string dateSeparator = "/";
     bool twoDigitDayAndMonth = false; ///< "10/03/2024" rather than "3/10/2024".
     bool twelveHourLongTime = true;   ///< The long time is "3:05:09 PM" rather than "15:05:09".
-    bool twelveHourMediumTime = true; ///< The medium time is "03:05 PM" rather than "03:05".
-    std::string amMark = "AM";
+    bool twoDigitHour = false;        ///< The long time is "03:05:09" rather than "3:05:09".
+    std::string amMark = "AM";        ///< Empty in a region without AM and PM.
     std::string pmMark = "PM";
+    /// The names from January on; a date text may also use the English ones.
+    std::array<std::string, 12> monthNames = {"January",   "February", "March",    "April",
+                                              "May",       "June",     "July",     "August",
+                                              "September", "October",  "November", "December"};
 
     friend bool operator==(const RegionalSettings&, const RegionalSettings&) = default;
 };

@@ -21,8 +21,8 @@ Date CurrentDateTime(const Clock& clock);
 std::string FormatTimeStamp(Date value, std::int32_t style, const RegionalSettings& settings);
 
 /// Adds by calendar: "m" month, "d" day, "h" hour, "n" minute, "s" second (either case). A month
-/// keeps the day, cut to the last day of the month. Hours, minutes and seconds land on a whole
-/// second. Error 5 for another interval letter.
+/// keeps the day, cut to the last day of the month; months are whole, the nearest. The result lies
+/// on a whole second. Error 5 for another interval letter and outside the years 100 to 9999.
 Date DateAddExact(const std::string& interval, double amount, Date value);
 
 /// The beginning of the interval of so many seconds (1 to 86400, counted from midnight) that the
@@ -31,7 +31,12 @@ Date IntervalStart(Date value, std::int32_t seconds, bool previous);
 
 /// Rounds half away from zero, each step in the value's own type, and keeps that type. True counts
 /// as -1. Empty for a value that is not numeric. digits is cut to -9 to 9. Error 6 on overflow.
-Variant RoundNumber(const Variant& value, std::int32_t digits);
+/// A numeric text, read under the settings' region, comes back as the text of its number, which is
+/// rounded only when negative.
+Variant RoundNumber(const Variant& value, std::int32_t digits,
+                    const RegionalSettings& settings = {});
+/// RoundNumber of a single.
+float roundSingle(float value, std::int32_t digits);
 
 /// Whether the date is the zero date, which stands for a date that is not set.
 bool IsNoDate(Date value);

@@ -1,0 +1,67 @@
+#include "foundation/TextScanner.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace k7deval
+{
+
+namespace
+{
+
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t';
+}
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+bool isLetter(char character)
+{
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+           (static_cast<unsigned char>(character) & 0x80U) != 0;
+}
+
+} // namespace
+
+template <class Predicate> std::string_view TextScanner::takeWhile(Predicate belongs)
+{
+    const auto end = std::find_if_not(rest_.begin(), rest_.end(), belongs);
+    const std::string_view taken = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
+    rest_.remove_prefix(taken.size());
+    return taken;
+}
+
+bool TextScanner::take(char character)
+{
+    return takeOneOf({&character, 1}) != '\0';
+}
+
+char TextScanner::takeOneOf(std::string_view characters)
+{
+    if (rest_.empty() || characters.find(rest_.front()) == std::string_view::npos)
+        return '\0';
+    const char taken = rest_.front();
+    rest_.remove_prefix(1);
+    return taken;
+}
+
+bool TextScanner::takeBlanks()
+{
+    return !takeWhile(isBlank).empty();
+}
+
+std::string_view TextScanner::takeDigits()
+{
+    return takeWhile(isDigit);
+}
+
+std::string_view TextScanner::takeLetters()
+{
+    return takeWhile(isLetter);
+}
+
+} // namespace k7deval

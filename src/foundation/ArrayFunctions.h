@@ -20,10 +20,13 @@ public:
     [[nodiscard]] bool isSized() const { return sized_; }
     [[nodiscard]] const std::vector<T>& items() const { return items_; }
 
-    /// Grows or cuts the array to end at upperBound, keeping what is in it.
+    /// Grows or cuts the array to end at upperBound, keeping what is in it. An upper bound of -1
+    /// leaves no element; error 9 for one below.
     void resizeKeeping(std::int32_t upperBound)
     {
-        items_.resize(static_cast<std::size_t>(upperBound) + 1);
+        if (upperBound < -1)
+            throw Error(errors::kSubscript);
+        items_.resize(static_cast<std::size_t>(upperBound + 1));
         sized_ = true;
     }
 

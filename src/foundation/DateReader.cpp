@@ -142,14 +142,17 @@ bool takeNamedElement(TextScanner& scanner, NamedDate& date, const RegionalSetti
     return date.month.has_value();
 }
 
-// Blanks with at most one mark among them, which must lead on to another part of the date.
+// Blanks with at most one mark among them. Only the full stop of a shortened name may end a date,
+// and a time behind it stands apart.
 bool takeSeparator(TextScanner& scanner)
 {
-    scanner.takeBlanks();
+    const bool blankAhead = scanner.takeBlanks();
     const char mark = scanner.takeOneOf("/-.,");
-    scanner.takeBlanks();
+    const bool blank = scanner.takeBlanks() || blankAhead;
+    if (isAtTime(scanner) && !blank)
+        return false;
     const bool ends = scanner.isAtEnd() || isAtTime(scanner);
-    return mark == '\0' || mark == '.' || !ends;
+    return !ends || mark == '\0' || mark == '.';
 }
 
 std::optional<Calendar> fromNamedDate(const NamedDate& date, int presentYear)
@@ -186,16 +189,13 @@ std::optional<Calendar> takeCalendar(TextScanner& scanner, const RegionalSetting
 
 enum class HalfDay { None, Morning, Afternoon };
 
-std::optional<HalfDay> halfDayOf(std::string_view word, const RegionalSettings& settings)
+HalfDay takeHalfDay(TextScanner& scanner, const RegionalSettings& settings)
 {
-    const std::string lower = lowerCase(word);
-    if (lower.empty())
-        return HalfDay::None;
-    if (lower == "am" || lower == lowerCase(settings.amMark))
+    if (scanner.takeIgnoringCase("am") || scanner.takeIgnoringCase(settings.amMark))
         return HalfDay::Morning;
-    if (lower == "pm" || lower == lowerCase(settings.pmMark))
+    if (scanner.takeIgnoringCase("pm") || scanner.takeIgnoringCase(settings.pmMark))
         return HalfDay::Afternoon;
-    return std::nullopt;
+    return HalfDay::None;
 }
 
 std::optional<int> hourOfDay(const Number& hour, HalfDay halfDay)
@@ -225,10 +225,10 @@ std::optional<std::int64_t> takeTime(TextScanner& scanner, const RegionalSetting
     const auto minute = takeSixty(scanner);
     const auto second = scanner.take(':') ? takeSixty(scanner) : std::optional(0);
     scanner.takeBlanks();
-    const auto halfDay = halfDayOf(scanner.takeLetters(), settings);
-    if (!hour || hour->isFullYear() || !minute || !second || !halfDay)
+    const HalfDay halfDay = takeHalfDay(scanner, settings);
+    if (!hour || hour->isFullYear() || !minute || !second)
         return std::nullopt;
-    const auto fullHour = hourOfDay(*hour, *halfDay);
+    const auto fullHour = hourOfDay(*hour, halfDay);
     if (!fullHour)
         return std::nullopt;
     return (*fullHour * 60 + *minute) * 60 + *second;

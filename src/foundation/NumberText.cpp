@@ -85,8 +85,9 @@ Decimal roundToPlaces(Decimal decimal, int places)
 std::string scaledDigits(const Decimal& decimal, int places)
 {
     std::string text = std::to_string(decimal.digits);
+    const int zeros = decimal.exponent + places;
     if (decimal.digits != 0)
-        text.append(static_cast<std::size_t>(decimal.exponent + places), '0');
+        text.append(static_cast<std::size_t>(zeros), '0');
     return text == "0" ? std::string() : text;
 }
 
@@ -94,9 +95,9 @@ std::string fixedText(const Decimal& decimal, const NumberFormat& format,
                       const RegionalSettings& settings)
 {
     std::string text = scaledDigits(decimal, format.places);
-    const auto shortest = static_cast<std::size_t>(format.places + format.integerDigits);
-    if (text.size() < shortest)
-        text.insert(0, shortest - text.size(), '0');
+    const int missing = format.places + format.integerDigits - static_cast<int>(text.size());
+    if (missing > 0)
+        text.insert(0, static_cast<std::size_t>(missing), '0');
     if (format.mark)
         text.insert(text.size() - static_cast<std::size_t>(format.places), settings.decimalMark);
     return decimal.negative ? '-' + text : text;
@@ -186,7 +187,8 @@ NumberFormat NumberFormat::parse(std::string_view format)
     const auto isZeros = [](std::string_view text) {
         return text.find_first_not_of('0') == std::string_view::npos;
     };
-    if (format.empty() || !isZeros(ahead.substr(optional)) || !isZeros(behind))
+    if (format.find_first_of("0#") == std::string_view::npos || !isZeros(ahead.substr(optional)) ||
+        !isZeros(behind))
         throw Error(errors::kInvalidCall);
     return parsed;
 }

@@ -15,8 +15,8 @@ struct NumberFormat {
     int places = 0;        ///< The digits behind the mark.
     bool mark = false;     ///< The format holds a decimal mark.
 
-    /// Reads a format of "#", then "0", then "." and "0", each of which may be absent. Error 5 for
-    /// anything else.
+    /// Reads a format of "#"s, then "0"s, then "." and "0"s; any of these parts may be absent.
+    /// Error 5 for anything else.
     static NumberFormat parse(std::string_view format);
 };
 

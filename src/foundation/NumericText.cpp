@@ -15,11 +15,6 @@ namespace
 
 constexpr std::string_view kBlanks = " \t";
 
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
 bool takeFront(std::string_view& text, std::string_view mark)
 {
     const bool found = !mark.empty() && text.starts_with(mark);
@@ -56,8 +51,7 @@ bool takeGroupMark(std::string_view& text, const RegionalSettings& settings)
 
 std::string_view takeDigits(std::string_view& text)
 {
-    const auto end = std::find_if_not(text.begin(), text.end(), isDigit);
-    const std::string_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
+    const std::string_view digits = text.substr(0, text.find_first_not_of("0123456789"));
     text.remove_prefix(digits.size());
     return digits;
 }

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <concepts>
+#include <cstdlib>
 #include <limits>
 
 namespace k7deval

@@ -1,5 +1,7 @@
 #include "foundation/TextScanner.h"
 
+#include "foundation/MonthNames.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -38,6 +40,14 @@ template <class Predicate> std::string_view TextScanner::takeWhile(Predicate bel
 bool TextScanner::take(char character)
 {
     return takeOneOf({&character, 1}) != '\0';
+}
+
+bool TextScanner::takeIgnoringCase(std::string_view mark)
+{
+    if (mark.empty() || lowerCase(rest_.substr(0, mark.size())) != lowerCase(mark))
+        return false;
+    rest_.remove_prefix(mark.size());
+    return true;
 }
 
 char TextScanner::takeOneOf(std::string_view characters)

@@ -17,6 +17,8 @@ public:
 
     /// Takes the character if it comes next.
     bool take(char character);
+    /// Takes the mark if it comes next, in either case. An empty mark never does.
+    bool takeIgnoringCase(std::string_view mark);
     /// Takes the next character if it is one of those; else gives a zero character.
     char takeOneOf(std::string_view characters);
     /// Takes the blanks ahead; whether there were any.

@@ -115,7 +115,7 @@ Date addSeconds(Date value, double seconds)
     if (!(std::abs(seconds) < kFarthestSeconds))
         throw Error(errors::kInvalidCall);
     const Date sum = dateFromSeconds(start + std::llround(seconds));
-    return dateFromSeconds(wholeSeconds(sum));
+    return dateFromSeconds(wholeSeconds(sum)); // Refuses a sum outside the calendar.
 }
 
 } // namespace

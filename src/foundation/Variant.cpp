@@ -3,11 +3,10 @@
 #include "foundation/DateText.h"
 #include "foundation/Error.h"
 #include "foundation/NumberText.h"
+#include "foundation/TextFunctions.h"
 
-#include <algorithm>
-#include <cmath>
 #include <concepts>
-#include <string_view>
+#include <cstdlib>
 
 namespace k7deval
 {
@@ -80,13 +79,6 @@ struct TextWriter {
     std::string operator()(const std::string& text) const { return text; }
 };
 
-bool equalsIgnoringCase(std::string_view text, std::string_view lower)
-{
-    return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), [](char a, char b) {
-        return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
-    });
-}
-
 } // namespace
 
 bool IsNumeric(const Variant& value, const RegionalSettings& settings)
@@ -114,10 +106,9 @@ std::int32_t toInt32(const Variant& value, const RegionalSettings& settings)
 bool toBoolean(const Variant& value, const RegionalSettings& settings)
 {
     if (const auto* text = std::get_if<std::string>(&value)) {
-        if (equalsIgnoringCase(*text, "true"))
-            return true;
-        if (equalsIgnoringCase(*text, "false"))
-            return false;
+        const std::string upper = upperCase(*text);
+        if (upper == "TRUE" || upper == "FALSE")
+            return upper == "TRUE";
     }
     return toDouble(value, settings) != 0;
 }

@@ -53,4 +53,15 @@ std::string errorDescription(int number)
     return errorDescription(errors::kAutomation);
 }
 
+Error errorInFlight()
+{
+    try {
+        throw;
+    } catch (const Error& error) {
+        return error;
+    } catch (const std::exception& failure) {
+        return {errors::kAutomation, failure.what()};
+    }
+}
+
 } // namespace k7deval

@@ -46,4 +46,8 @@ private:
 /// The standing description of an error number; "Automation error" for a number without one.
 std::string errorDescription(int number);
 
+/// The error of the exception being handled, to be called in a handler; 440 with the exception's
+/// own text for one without a number.
+Error errorInFlight();
+
 } // namespace k7deval

@@ -1,0 +1,91 @@
+#include "screen/ComboBox.h"
+
+#include "foundation/Error.h"
+
+#include <utility>
+
+namespace k7deval::screen
+{
+
+ComboBox::ComboBox(Container& parent, std::string name, EditField editField)
+    : Widget(&parent, std::move(name)), editField_(editField)
+{
+}
+
+void ComboBox::Clear()
+{
+    list_.clear();
+    itemData_.clear();
+    listIndex_ = -1;
+    text_.clear();
+    Changed.raise();
+}
+
+void ComboBox::AddItem(std::string text, std::int32_t itemData)
+{
+    list_.push_back(std::move(text));
+    itemData_.push_back(itemData);
+    Changed.raise();
+}
+
+void ComboBox::SetListIndex(std::int32_t index)
+{
+    if (index != -1 && !isInList(index))
+        throw Error(errors::kInvalidArrayIndex);
+    listIndex_ = index;
+    text_ = index == -1 ? std::string() : list_[static_cast<std::size_t>(index)];
+    Changed.raise();
+    if (index != -1)
+        Picked.raise();
+}
+
+std::int32_t ComboBox::ItemData() const
+{
+    if (!isInList(listIndex_))
+        throw Error(errors::kInvalidArrayIndex);
+    return itemData_[static_cast<std::size_t>(listIndex_)];
+}
+
+void ComboBox::SetText(std::string text)
+{
+    if (editField_ == EditField::No)
+        throw Error(errors::kUnknownMember);
+    edit(std::move(text));
+}
+
+void ComboBox::Pick(std::int32_t index)
+{
+    if (isReachable() && isInList(index))
+        SetListIndex(index);
+}
+
+void ComboBox::Type(std::string_view text)
+{
+    if (isReachable() && editField_ == EditField::Yes)
+        edit(std::string(text));
+}
+
+void ComboBox::edit(std::string text)
+{
+    update(listIndex_, -1);
+    if (update(text_, std::move(text)))
+        TextChanged.raise();
+}
+
+PropertyList ComboBox::Properties() const
+{
+    PropertyList properties = Widget::Properties();
+    PropertyValues list;
+    for (const auto& entry : list_)
+        list.push_back({entry});
+    PropertyValues itemData;
+    for (const auto entry : itemData_)
+        itemData.push_back({entry});
+    properties.push_back({"List", {std::move(list)}});
+    properties.push_back({"ItemData", {std::move(itemData)}});
+    properties.push_back({"ListIndex", {listIndex_}});
+    properties.push_back({"Text", {text_}});
+    return properties;
+}
+
+} // namespace k7deval::screen

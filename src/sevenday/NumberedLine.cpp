@@ -1,0 +1,22 @@
+#include "sevenday/NumberedLine.h"
+
+namespace k7deval
+{
+
+namespace
+{
+
+constexpr std::int32_t kSeverity = 4;
+
+} // namespace
+
+void postLine(const std::shared_ptr<MessageSink>& irm, NumberedLine line, const Error& error)
+{
+    if (!irm)
+        return;
+    const std::string number = std::to_string(static_cast<int>(line));
+    irm->Post(kSeverity, "DEval-" + std::string(3 - number.size(), '0') + number + ": " +
+                             std::to_string(error.number()) + ", " + error.description());
+}
+
+} // namespace k7deval

@@ -1,0 +1,224 @@
+#include "sitedb/EcmpsQa.h"
+
+#include "sitedb/CsvTable.h"
+#include "sitedb/ImportSteps.h"
+#include "sitedb/JsonNode.h"
+#include "sitedb/TimeText.h"
+
+#include <algorithm>
+
+namespace k7deval::sitedb
+{
+
+namespace
+{
+
+constexpr int kHighestOrisCode = 999'999;
+// The tools hold values as singles and show at most six decimals.
+constexpr std::int32_t kMostDecimals = 6;
+// No gas is more than pure: a million ppm.
+constexpr double kLargestValue = 1'000'000;
+
+struct GasLevel {
+    std::int32_t code;
+    std::string text;
+};
+
+GasLevel upscaleLevel(const JsonNode& node)
+{
+    const std::string text = node.textOrNull();
+    if (text.empty() && node.isNull())
+        return {2, ""};
+    if (text == "LOW" || text == "MID")
+        return {1, text};
+    if (text == "HIGH")
+        return {2, text};
+    throw node.error(node.shown() + " is not LOW, MID or HIGH");
+}
+
+std::int32_t decimalsOf(const std::optional<double>& value)
+{
+    if (!value)
+        return 0;
+    const std::string text = numberText(*value);
+    const auto point = text.find('.');
+    const bool isPlain = text.find('e') == std::string::npos;
+    if (!isPlain)
+        return kMostDecimals;
+    const std::size_t decimals = point == std::string::npos ? 0 : text.size() - point - 1;
+    return std::min(static_cast<std::int32_t>(decimals), kMostDecimals);
+}
+
+/// Reads one row of calibrationInjectionData: a zero and an upscale injection.
+class RowReader
+{
+public:
+    explicit RowReader(const JsonNode& row) : row_(row) {}
+
+    /// The time stamp of the row, which both injections bear: the zero injection's.
+    [[nodiscard]] std::string runTime() const { return time("zero"); }
+
+    [[nodiscard]] QaInjection zero(const std::string& runTime) const
+    {
+        return injection("zero", {0, "ZERO"}, runTime);
+    }
+    [[nodiscard]] QaInjection upscale(const std::string& runTime) const
+    {
+        return injection("upscale", upscaleLevel(row_.field("upscaleGasLevelCode")), runTime);
+    }
+    [[nodiscard]] std::string upscaleTime() const { return time("upscale"); }
+
+private:
+    [[nodiscard]] JsonNode part(const std::string& gas, const char* name) const
+    {
+        return row_.field(gas + name);
+    }
+
+    [[nodiscard]] std::string time(const std::string& gas) const
+    {
+        const JsonNode date = part(gas, "InjectionDate");
+        const std::string day = date.text();
+        if (!dayNumber(day))
+            throw date.error(date.shown() + " is no date");
+        return minuteText(day, part(gas, "InjectionHour").whole(0, 23, "hour"),
+                          part(gas, "InjectionMinute").whole(0, 59, "minute"));
+    }
+
+    [[nodiscard]] QaInjection injection(const std::string& gas, GasLevel level,
+                                        const std::string& runTime) const
+    {
+        QaInjection injection;
+        injection.path = row_.path() + ", " + gas + " injection";
+        injection.runTime = runTime;
+        injection.injectionEnd = time(gas);
+        injection.gasLevelCode = level.code;
+        injection.gasLevelText = std::move(level.text);
+        injection.reference = part(gas, "ReferenceValue").numberOrNull(kLargestValue);
+        injection.measured = part(gas, "MeasuredValue").numberOrNull(kLargestValue);
+        injection.isOnline = row_.field("onlineOfflineIndicator").whole(0, 1, "indicator") == 1;
+        return injection;
+    }
+
+    const JsonNode& row_;
+};
+
+/// Reads a whole file.
+class QaReader
+{
+public:
+    explicit QaReader(bool leaveOutUnreadable) : leavesOut_(leaveOutUnreadable) {}
+
+    QaContent read(const JsonNode& root)
+    {
+        content_.orisCode = root.field("orisCode").whole(1, kHighestOrisCode, "ORIS code");
+        for (const auto& test : root.field("testSummaryData").elements())
+            readTest(test);
+        stepOverList(root, "certificationEventData");
+        stepOverList(root, "testExtensionExemptionData");
+        return std::move(content_);
+    }
+
+private:
+    void readTest(const JsonNode& node)
+    {
+        const auto rows = rowsOf(node);
+        if (rows.empty()) {
+            content_.steppedOver.push_back(node.path() + ": " + testName(node) +
+                                           " has no calibration injections.");
+            return;
+        }
+        QaTest test = testHeader(node);
+        for (const auto& row : rows)
+            readRow(test, row);
+        for (const auto& injection : test.injections)
+            test.decimals = std::max(
+                {test.decimals, decimalsOf(injection.reference), decimalsOf(injection.measured)});
+        content_.tests.push_back(std::move(test));
+    }
+
+    static std::vector<JsonNode> rowsOf(const JsonNode& test)
+    {
+        if (test.isObject() && !test.has("calibrationInjectionData"))
+            return {};
+        const JsonNode list = test.field("calibrationInjectionData");
+        return list.isNull() ? std::vector<JsonNode>() : list.elements();
+    }
+
+    static std::string testName(const JsonNode& test)
+    {
+        return test.has("testTypeCode") ? "the test " + test.field("testTypeCode").shown()
+                                        : std::string("the test");
+    }
+
+    static QaTest testHeader(const JsonNode& node)
+    {
+        const JsonNode unit = node.field("unitId");
+        const JsonNode component = node.field({"componentId", "componentID"});
+        const JsonNode scaleNode = node.field("spanScaleCode");
+        const auto scale = scaleOfCode(scaleNode.textOrNull());
+        if (!scale)
+            throw scaleNode.error(scaleNode.shown() + " is not H, L or null");
+        QaTest test;
+        test.unit = unit.text();
+        test.unitPath = unit.path();
+        test.component = component.text();
+        test.componentPath = component.path();
+        test.scale = *scale;
+        test.scalePath = scaleNode.path();
+        return test;
+    }
+
+    void readRow(QaTest& test, const JsonNode& row)
+    {
+        const RowReader reader(row);
+        attempt(test, [&] { return reader.zero(reader.runTime()); });
+        attempt(test, [&] { return reader.upscale(runTimeOfUpscale(reader)); });
+    }
+
+    // The zero injection's time stands for the row. Where that one is left out because its time
+    // can't be read, the upscale injection has only its own.
+    [[nodiscard]] std::string runTimeOfUpscale(const RowReader& reader) const
+    {
+        if (!leavesOut_)
+            return reader.runTime();
+        try {
+            return reader.runTime();
+        } catch (const ImportError&) {
+            return reader.upscaleTime();
+        }
+    }
+
+    template <class Read> void attempt(QaTest& test, const Read& read)
+    {
+        try {
+            test.injections.push_back(read());
+        } catch (const ImportError& failure) {
+            if (!leavesOut_)
+                throw;
+            content_.leftOut.push_back(failure.description());
+        }
+    }
+
+    void stepOverList(const JsonNode& root, const char* name)
+    {
+        if (!root.has(name) || root.field(name).isNull())
+            return;
+        const std::size_t count = root.field(name).elements().size();
+        if (count > 0)
+            content_.steppedOver.push_back(
+                std::string(name) + ": " +
+                (count == 1 ? std::string("1 entry.") : std::to_string(count) + " entries."));
+    }
+
+    bool leavesOut_;
+    QaContent content_;
+};
+
+} // namespace
+
+QaContent readEcmpsQa(const SourceFile& file, bool leaveOutUnreadable)
+{
+    return QaReader(leaveOutUnreadable).read(JsonNode::parse(file));
+}
+
+} // namespace k7deval::sitedb

@@ -1,0 +1,101 @@
+#include "sitedb/Import.h"
+
+#include "sitedb/ImportSteps.h"
+#include "sitedb/SiteIds.h"
+
+#include <algorithm>
+
+namespace k7deval::sitedb
+{
+
+namespace
+{
+
+bool hasColumns(const std::vector<std::string>& header, std::initializer_list<const char*> names)
+{
+    return std::ranges::all_of(
+        names, [&](const char* name) { return std::ranges::find(header, name) != header.end(); });
+}
+
+bool isJson(std::string_view content)
+{
+    const auto first = content.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && content[first] == '{';
+}
+
+ImportReport takeFile(sql::Connection& connection, const SourceFile& file,
+                      const ImportOptions& options)
+{
+    if (isJson(file.content))
+        return takeEcmpsQa(connection, file, options);
+    const auto header = CsvTable::headerOf(file.content);
+    if (hasColumns(header, {"unit_id", "component_id", "span_value"}))
+        return takeSpanTable(connection, file, options);
+    if (hasColumns(header, {"date", "hour", "gross_load_mw"}))
+        return takeHourlyLoad(connection, file, options);
+    throw file.error("", "this is no ECMPS QA file, no span table and no hourly load");
+}
+
+bool isPrintable(char letter)
+{
+    return letter >= ' ' && letter <= '~';
+}
+
+} // namespace
+
+ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
+                        const ImportOptions& options)
+{
+    return takeFile(site.connection(), readSourceFile(path), options);
+}
+
+ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
+                           const ImportOptions& options)
+{
+    return takeEcmpsQa(site.connection(), readSourceFile(path), options);
+}
+
+ImportReport importSpanTable(SiteDatabase& site, const std::filesystem::path& path,
+                             const ImportOptions& options)
+{
+    return takeSpanTable(site.connection(), readSourceFile(path), options);
+}
+
+ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& path,
+                              const ImportOptions& options)
+{
+    return takeHourlyLoad(site.connection(), readSourceFile(path), options);
+}
+
+std::string counted(std::size_t count, const std::string& what)
+{
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+std::string identifierFault(std::string_view text, std::size_t longest)
+{
+    const bool isGood = !text.empty() && text.size() <= longest && text.front() != ' ' &&
+                        text.back() != ' ' && std::ranges::all_of(text, isPrintable);
+    if (isGood)
+        return {};
+    return "\"" + std::string(text) + "\" is no identifier of 1 to " + std::to_string(longest) +
+           " letters and digits";
+}
+
+const std::string& identifier(const CsvTable& table, const CsvRow& row, std::size_t column,
+                              std::size_t longest)
+{
+    const std::string& text = table.field(row, column);
+    const std::string fault = identifierFault(text, longest);
+    if (!fault.empty())
+        throw table.error(row, column, fault);
+    return text;
+}
+
+std::string noMoreUnits(const std::string& identifier)
+{
+    return identifier + " would be one unit too many, since a site holds at most " +
+           std::to_string(kHighestUnit);
+}
+
+} // namespace k7deval::sitedb

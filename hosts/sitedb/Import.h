@@ -1,0 +1,61 @@
+#pragma once
+
+#include "foundation/Date.h"
+#include "foundation/Error.h"
+#include "sitedb/SiteDatabase.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// Importers of US EPA's files. An import takes all of a file in one transaction or leaves the site
+/// as it was.
+namespace k7deval::sitedb
+{
+
+/// Why a file was not taken: one plain sentence that names the file, the line or JSON path, and the
+/// field. Errors of the database itself are a plain Error.
+class ImportError : public Error
+{
+public:
+    explicit ImportError(const std::string& sentence, int number = errors::kInvalidCall)
+        : Error(number, sentence)
+    {
+    }
+};
+
+struct ImportOptions {
+    /// The unit that hourly load belongs to; made when the site doesn't have it.
+    std::string unit;
+    /// Leaves out the single injections of a QA file that can't be read, and takes all else.
+    bool leaveOutUnreadable = false;
+    /// The time of the import for the log; the zero date: not recorded.
+    Date time;
+};
+
+struct ImportReport {
+    std::string format;                   ///< What the file was taken for.
+    std::vector<std::string> counts;      ///< "4 units", "17 spans", ...
+    std::vector<std::string> steppedOver; ///< What the file holds that a site does not keep.
+    std::vector<std::string> leftOut;     ///< A sentence for each injection left out as unreadable.
+};
+
+/// Imports a file, plain or gzip, whose format is told from its content.
+ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
+                        const ImportOptions& options);
+
+/// Calibration injections of an ECMPS 2.0 QA file (JSON). The analyzers have to be in the site,
+/// from the span table.
+ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
+                           const ImportOptions& options);
+
+/// Units, analyzers and spans from a CSV table with the columns unit_id, component_id,
+/// component_type, span_scale, span_value and units.
+ImportReport importSpanTable(SiteDatabase& site, const std::filesystem::path& path,
+                             const ImportOptions& options);
+
+/// Hourly load of a unit from a CSV table with the columns date, hour and gross_load_mw.
+ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& path,
+                              const ImportOptions& options);
+
+} // namespace k7deval::sitedb

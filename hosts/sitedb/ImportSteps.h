@@ -1,0 +1,36 @@
+#pragma once
+
+#include "sitedb/CsvTable.h"
+#include "sitedb/Import.h"
+#include "sitedb/SourceFile.h"
+#include "sitedb/sql/Connection.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// The imports on a file that was read, and what they share.
+namespace k7deval::sitedb
+{
+
+ImportReport takeEcmpsQa(sql::Connection& connection, const SourceFile& file,
+                         const ImportOptions& options);
+ImportReport takeSpanTable(sql::Connection& connection, const SourceFile& file,
+                           const ImportOptions& options);
+ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
+                            const ImportOptions& options);
+
+/// "1 unit", "2 units".
+std::string counted(std::size_t count, const std::string& what);
+
+/// Why a text can't identify a unit or component, or nothing: identifiers are printable ASCII, of a
+/// limited length, without blanks at the ends.
+std::string identifierFault(std::string_view text, std::size_t longest);
+/// The identifier in a field. Raises ImportError for a field that holds none.
+const std::string& identifier(const CsvTable& table, const CsvRow& row, std::size_t column,
+                              std::size_t longest);
+
+/// Why one more unit can't be had.
+std::string noMoreUnits(const std::string& identifier);
+
+} // namespace k7deval::sitedb

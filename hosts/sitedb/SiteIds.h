@@ -1,0 +1,65 @@
+#pragma once
+
+#include "foundation/PIDFunctions.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// The numbers and names that a site gives to what it holds.
+namespace k7deval::sitedb
+{
+
+/// Status words of hours and calibrations; the table status_word says what each means.
+namespace status
+{
+inline constexpr std::int32_t kNoData = 0;
+inline constexpr std::int32_t kMeasured = 1;
+inline constexpr std::int32_t kUnitOffline = 2;
+inline constexpr std::int32_t kExcluded = 3;
+inline constexpr std::int32_t kOnlineCalibration = 28;
+inline constexpr std::int32_t kOfflineCalibration = 29;
+inline constexpr std::int32_t kReplacedByTwiceMpc = 35;
+inline constexpr std::int32_t kReplacedByTwiceRange = 36;
+} // namespace status
+
+/// Types of the parameters that are neither units nor calibrations. All are among the types that
+/// the load tool lists (8, 11) or reads its capacity from (4).
+namespace paramtype
+{
+inline constexpr std::int32_t kConstant = 4;
+inline constexpr std::int32_t kMeasuredSeries = 8;
+inline constexpr std::int32_t kOperationSeries = 11;
+} // namespace paramtype
+
+/// The subset of constants that belongs to a unit itself.
+inline constexpr std::int32_t kUnitConstants = 0;
+
+inline constexpr std::int32_t kHighestUnit = 19;
+inline constexpr std::int32_t kHighestComponent = 99;
+/// EPA's own identifiers are no longer than this.
+inline constexpr std::size_t kUnitIdentifierLength = 6;
+inline constexpr std::size_t kComponentIdLength = 3;
+
+inline constexpr const char* kLookupTable = "K7LOOKUP";
+inline constexpr const char* kFacilityNameEntry = "FacilityName";
+inline constexpr const char* kSiteTable = "K7SITE";
+inline constexpr const char* kSiteKeyEntry = "SiteKey";
+
+/// The scales of an analyzer, under the names that the calibrations carry.
+enum class Scale { Single, Low, Mid, High };
+/// "SINGLE", "LOW", "MID" or "HIGH".
+std::string scaleText(Scale scale);
+/// The scale of EPA's span scale code: "H", "L", or empty for an analyzer with one scale.
+std::optional<Scale> scaleOfCode(std::string_view code);
+
+PID loadPID(std::int32_t unit);
+PID operatingTimePID(std::int32_t unit);
+PID capacityPID(std::int32_t unit);
+/// component: the running number of the component among the unit's components for the gas, from 1.
+PID measuredPID(std::int32_t unit, std::int32_t parameterCode, std::int32_t component);
+/// The calibration of a measured parameter on one scale.
+PID calibrationPID(PID measured, Scale scale);
+
+} // namespace k7deval::sitedb

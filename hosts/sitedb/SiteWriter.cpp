@@ -1,0 +1,273 @@
+#include "sitedb/SiteWriter.h"
+
+#include "foundation/UtilityFunctions.h"
+#include "sitedb/TimeText.h"
+
+#include <charconv>
+
+namespace k7deval::sitedb
+{
+
+namespace
+{
+
+constexpr std::int64_t kPIDsOfUnit = 100'000'000;
+constexpr std::int32_t kFewestDecimals = 1;
+
+std::int64_t firstPID(std::int32_t unit)
+{
+    return unit * kPIDsOfUnit;
+}
+
+std::int64_t lastPID(std::int32_t unit)
+{
+    return firstPID(unit) + kPIDsOfUnit - 1;
+}
+
+std::string padded(std::string identifier)
+{
+    if (identifier.size() < kUnitIdentifierLength)
+        identifier.resize(kUnitIdentifierLength, ' ');
+    return identifier;
+}
+
+std::int32_t wholeNumber(const std::string& text)
+{
+    std::int32_t value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+std::string scaleSuffix(Scale scale)
+{
+    return scale == Scale::Single ? "" : "/" + scaleText(scale).substr(0, 1);
+}
+
+std::string joined(const std::vector<std::string>& texts)
+{
+    std::string all;
+    for (const auto& text : texts)
+        all += (all.empty() ? "" : ", ") + text;
+    return all;
+}
+
+} // namespace
+
+std::optional<std::int32_t> SiteWriter::findUnit(const std::string& identifier)
+{
+    const auto row =
+        connection_.prepare("SELECT pid FROM parameter WHERE param_type = $1 AND name = $2");
+    row->with(std::int64_t{kUnitType}, identifier);
+    return row->step() ? std::optional(PIDPart(row->int32(0), pidpart::kUnit)) : std::nullopt;
+}
+
+std::optional<std::int32_t> SiteWriter::addUnit(const std::string& identifier)
+{
+    const auto count = connection_.prepare("SELECT COUNT(*) FROM parameter WHERE param_type = $1");
+    count->with(std::int64_t{kUnitType}).step();
+    const std::int32_t unit = count->int32(0) + 1;
+    if (unit > kHighestUnit)
+        return std::nullopt;
+    const PID pid = UnitPID(unit);
+    const auto oris = orisCode();
+    addParameter(pid, identifier, kUnitType, "", "");
+    setAttribute(pid, attribute::kSeveralStacks, false);
+    setAttribute(pid, attribute::kUnitIdentifier, padded(identifier));
+    setAttribute(pid, attribute::kStackIdentifiers, std::string());
+    if (oris)
+        setAttribute(pid, attribute::kOrisCode, *oris);
+    return unit;
+}
+
+std::optional<PID> SiteWriter::findMeasured(std::int32_t unit, const std::string& component)
+{
+    const auto row = connection_.prepare(
+        "SELECT measured.value FROM attribute component"
+        " JOIN attribute measured ON measured.pid = component.pid AND measured.id = $1"
+        " WHERE component.id = $2 AND component.value = $3"
+        " AND component.pid BETWEEN $4 AND $5");
+    row->with(std::int64_t{attribute::kMeasuredPID}, std::int64_t{attribute::kComponentId},
+              component, firstPID(unit), lastPID(unit));
+    return row->step() ? std::optional(wholeNumber(row->text(0))) : std::nullopt;
+}
+
+std::optional<Analyzer> SiteWriter::findAnalyzer(std::int32_t unit, const std::string& component,
+                                                 Scale scale)
+{
+    const auto measured = findMeasured(unit, component);
+    if (!measured)
+        return std::nullopt;
+    const PID calibration = calibrationPID(*measured, scale);
+    const auto row = connection_.prepare("SELECT scale, span FROM calibration_record"
+                                         " WHERE pid = $1 AND record_table = $2");
+    row->with(std::int64_t{calibration}, std::string(kCalibrationTable));
+    if (!row->step())
+        return std::nullopt;
+    return Analyzer{*measured, calibration, row->text(0), row->real(1)};
+}
+
+std::optional<PID> SiteWriter::addMeasured(std::int32_t unit, const Gas& gas,
+                                           const std::string& component)
+{
+    std::int32_t number = 1;
+    while (number <= kHighestComponent && exists(measuredPID(unit, gas.parameterCode, number)))
+        ++number;
+    if (number > kHighestComponent)
+        return std::nullopt;
+    const PID pid = measuredPID(unit, gas.parameterCode, number);
+    addParameter(pid, std::string(gas.componentType) + " " + component, paramtype::kMeasuredSeries,
+                 std::string(gas.unitsText), "h");
+    setAttribute(pid, attribute::kLeftOutOfLists, false);
+    return pid;
+}
+
+void SiteWriter::addCalibration(PID measured, const Gas& gas, const std::string& component,
+                                Scale scale, double span)
+{
+    const PID pid = calibrationPID(measured, scale);
+    const std::string gasName(gas.componentType);
+    addParameter(pid, gasName + " " + component + scaleSuffix(scale) + " Calibration",
+                 kCalibrationType, std::string(gas.unitsText), "");
+    setAttribute(pid, attribute::kDecimals, kFewestDecimals);
+    setAttribute(pid, attribute::kMeasuredPID, measured);
+    setAttribute(pid, attribute::kLeftOutOfLists, false);
+    setAttribute(pid, attribute::kScale, scaleText(scale));
+    setAttribute(pid, attribute::kRangeUse, 0);
+    setAttribute(pid, attribute::kComponentId, component);
+    setAttribute(pid, attribute::kRecordTable, std::string(kCalibrationTable));
+    setAttribute(pid, attribute::kTestNumberBase, gasName);
+    addDefinition(pid, measured, scale, span);
+}
+
+void SiteWriter::addDefinition(PID calibration, PID measured, Scale scale, double span)
+{
+    connection_.execute("INSERT INTO calibration_record (record_table, pid, scale, gas_level_code,"
+                        " gas_level_text, cal_status, span, source_tag_pid)"
+                        " VALUES ($1, $2, $3, 0, '', 0, $4, $5)",
+                        std::string(kCalibrationTable), std::int64_t{calibration}, scaleText(scale),
+                        span, std::int64_t{measured});
+}
+
+void SiteWriter::raiseDecimals(PID calibration, std::int32_t decimals)
+{
+    const auto row = connection_.prepare("SELECT value FROM attribute WHERE pid = $1 AND id = $2");
+    row->with(std::int64_t{calibration}, std::int64_t{attribute::kDecimals});
+    if (row->step() && wholeNumber(row->text(0)) < decimals)
+        setAttribute(calibration, attribute::kDecimals, decimals);
+}
+
+void SiteWriter::addLoadParameters(std::int32_t unit)
+{
+    const PID load = loadPID(unit);
+    const PID operatingTime = operatingTimePID(unit);
+    if (exists(load))
+        return;
+    addParameter(load, "Load", paramtype::kOperationSeries, "MW", "h");
+    addParameter(operatingTime, "Operating Time", paramtype::kOperationSeries, "h", "h");
+    setAttribute(load, attribute::kLeftOutOfLists, false);
+    setAttribute(operatingTime, attribute::kLeftOutOfLists, false);
+    connection_.execute("INSERT INTO link (pid, id, target_pid) VALUES ($1, $2, $3)",
+                        std::int64_t{UnitPID(unit)}, std::int64_t{attribute::kOperatingTimePID},
+                        std::int64_t{operatingTime});
+}
+
+void SiteWriter::setCapacity(std::int32_t unit, double megawatts)
+{
+    const PID pid = capacityPID(unit);
+    if (!exists(pid)) {
+        addParameter(pid, "Capacity", paramtype::kConstant, "MW", "");
+        setAttribute(pid, attribute::kLeftOutOfLists, false);
+    }
+    connection_.execute("INSERT INTO constant (pid, subset, value, status)"
+                        " VALUES ($1, $2, $3, $4)"
+                        " ON CONFLICT (pid) DO UPDATE SET value = excluded.value",
+                        std::int64_t{pid}, std::int64_t{kUnitConstants}, megawatts,
+                        std::int64_t{status::kMeasured});
+}
+
+std::optional<std::int32_t> SiteWriter::orisCode()
+{
+    const auto row = connection_.prepare("SELECT MIN(value) FROM attribute WHERE id = $1");
+    row->with(std::int64_t{attribute::kOrisCode});
+    if (!row->step() || row->isNull(0))
+        return std::nullopt;
+    return wholeNumber(row->text(0));
+}
+
+void SiteWriter::setOrisCode(std::int32_t code)
+{
+    const auto units = connection_.prepare("SELECT pid FROM parameter WHERE param_type = $1");
+    units->with(std::int64_t{kUnitType});
+    while (units->step())
+        setAttribute(units->int32(0), attribute::kOrisCode, code);
+}
+
+void SiteWriter::setLookup(const std::string& table, const std::string& key,
+                           const std::string& value)
+{
+    connection_.execute("INSERT INTO lookup (lookup_table, lookup_key, value) VALUES ($1, $2, $3)"
+                        " ON CONFLICT (lookup_table, lookup_key)"
+                        " DO UPDATE SET value = excluded.value",
+                        table, key, value);
+}
+
+void SiteWriter::checkIsNew(const SourceFile& file)
+{
+    const auto row = connection_.prepare("SELECT file_name FROM import_log"
+                                         " WHERE file_size = $1 AND file_crc = $2");
+    row->with(file.size, file.crc);
+    if (row->step())
+        throw file.error("", "the site has imported this file before, as " + row->text(0));
+}
+
+void SiteWriter::log(const SourceFile& file, const ImportReport& report, Date time)
+{
+    const sql::Value at = IsNoDate(time) ? sql::Value() : sql::Value(minuteText(time));
+    connection_.execute("INSERT INTO import_log (file_name, format, file_size, file_crc,"
+                        " imported_at, summary) VALUES ($1, $2, $3, $4, $5, $6)",
+                        file.name, report.format, file.size, file.crc, at, joined(report.counts));
+}
+
+void SiteWriter::addParameter(PID pid, const std::string& name, std::int32_t type,
+                              const std::string& unitsText, const std::string& intervalLetter)
+{
+    const std::int64_t interval = intervalLetter.empty() ? 0 : 1;
+    connection_.execute("INSERT INTO parameter (pid, name, param_type, units_text,"
+                        " interval_letter, interval_multiple, interval_unit)"
+                        " VALUES ($1, $2, $3, $4, $5, $6, $7)",
+                        std::int64_t{pid}, name, std::int64_t{type}, unitsText, intervalLetter,
+                        interval, interval);
+}
+
+void SiteWriter::setAttribute(PID pid, std::int32_t id, std::int32_t value)
+{
+    setAttributeText(pid, id, "i4", std::to_string(value));
+}
+
+void SiteWriter::setAttribute(PID pid, std::int32_t id, bool value)
+{
+    setAttributeText(pid, id, "Boolean", value ? "True" : "False");
+}
+
+void SiteWriter::setAttribute(PID pid, std::int32_t id, const std::string& value)
+{
+    setAttributeText(pid, id, "text", value);
+}
+
+void SiteWriter::setAttributeText(PID pid, std::int32_t id, const char* kind,
+                                  const std::string& value)
+{
+    connection_.execute("INSERT INTO attribute (pid, id, kind, value) VALUES ($1, $2, $3, $4)"
+                        " ON CONFLICT (pid, id)"
+                        " DO UPDATE SET kind = excluded.kind, value = excluded.value",
+                        std::int64_t{pid}, std::int64_t{id}, std::string(kind), value);
+}
+
+bool SiteWriter::exists(PID pid)
+{
+    const auto row = connection_.prepare("SELECT 1 FROM parameter WHERE pid = $1");
+    row->with(std::int64_t{pid});
+    return row->step();
+}
+
+} // namespace k7deval::sitedb

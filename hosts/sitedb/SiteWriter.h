@@ -1,0 +1,78 @@
+#pragma once
+
+#include "foundation/DataInterface.h"
+#include "sitedb/Gases.h"
+#include "sitedb/SiteIds.h"
+#include "sitedb/SourceFile.h"
+#include "sitedb/sql/Connection.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace k7deval::sitedb
+{
+
+/// An analyzer on one scale, as the span table brought it in.
+struct Analyzer {
+    PID measured = 0;
+    PID calibration = 0;
+    std::string scale; ///< "HIGH", ...
+    double span = 0;   ///< In the analyzer's units.
+};
+
+/// What the importers and the site itself put into the tables. The caller holds the transaction.
+class SiteWriter
+{
+public:
+    explicit SiteWriter(sql::Connection& connection) : connection_(connection) {}
+
+    /// The number of the unit with this identifier, or nothing.
+    [[nodiscard]] std::optional<std::int32_t> findUnit(const std::string& identifier);
+    /// Makes a unit under the next number; nothing when the site has all the units that PIDs allow.
+    std::optional<std::int32_t> addUnit(const std::string& identifier);
+
+    /// The measured parameter of a component, or nothing.
+    [[nodiscard]] std::optional<PID> findMeasured(std::int32_t unit, const std::string& component);
+    /// The calibration of a component on a scale, or nothing.
+    [[nodiscard]] std::optional<Analyzer> findAnalyzer(std::int32_t unit,
+                                                       const std::string& component, Scale scale);
+    /// Makes the measured parameter of a component; nothing when the unit has all the components
+    /// that PIDs allow for the gas.
+    std::optional<PID> addMeasured(std::int32_t unit, const Gas& gas, const std::string& component);
+    /// Makes the calibration of a measured parameter on a scale, with its definition.
+    void addCalibration(PID measured, const Gas& gas, const std::string& component, Scale scale,
+                        double span);
+    /// Makes sure that a calibration shows at least so many decimals.
+    void raiseDecimals(PID calibration, std::int32_t decimals);
+
+    /// Makes the load and operating-time parameters of a unit where they are missing.
+    void addLoadParameters(std::int32_t unit);
+    void setCapacity(std::int32_t unit, double megawatts);
+
+    /// The ORIS code that the site's units carry, or nothing.
+    [[nodiscard]] std::optional<std::int32_t> orisCode();
+    /// Gives all units of the site their ORIS code.
+    void setOrisCode(std::int32_t code);
+
+    void setLookup(const std::string& table, const std::string& key, const std::string& value);
+
+    /// Raises ImportError when this very file was imported before.
+    void checkIsNew(const SourceFile& file);
+    /// Puts a finished import into the log.
+    void log(const SourceFile& file, const ImportReport& report, Date time);
+
+private:
+    void addParameter(PID pid, const std::string& name, std::int32_t type,
+                      const std::string& unitsText, const std::string& intervalLetter);
+    void setAttribute(PID pid, std::int32_t id, std::int32_t value);
+    void setAttribute(PID pid, std::int32_t id, bool value);
+    void setAttribute(PID pid, std::int32_t id, const std::string& value);
+    void setAttributeText(PID pid, std::int32_t id, const char* kind, const std::string& value);
+    void addDefinition(PID calibration, PID measured, Scale scale, double span);
+    [[nodiscard]] bool exists(PID pid);
+
+    sql::Connection& connection_;
+};
+
+} // namespace k7deval::sitedb

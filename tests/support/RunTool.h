@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace k7deval::testing
+{
+
+/// Runs a program found on the PATH and returns what it printed. A program that is missing or that
+/// fails: std::runtime_error with the command line.
+std::string runTool(const std::vector<std::string>& commandLine);
+
+} // namespace k7deval::testing

@@ -3,6 +3,7 @@
 #include "foundation/RegionalSettings.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace k7deval

@@ -1,6 +1,6 @@
 #include "sevenday/EcmpsExport.h"
 
-#include "foundation/FileFunctions.h"
+#include "foundation/FileReplacement.h"
 #include "foundation/NumberText.h"
 #include "foundation/TextFunctions.h"
 #include "foundation/UtilityFunctions.h"

@@ -48,7 +48,8 @@ std::shared_ptr<RunMap> inOrderOfTime(RunMap runs)
     if (runs.Count() <= 1)
         return std::make_shared<RunMap>(std::move(runs));
     auto ordered = std::make_shared<RunMap>();
-    for (const std::string& key : sortedKeys(runs.Keys()).items())
+    const Array<std::string> keys = sortedKeys(runs.Keys());
+    for (const std::string& key : keys.items())
         ordered->Add(key, runs.Item(key));
     return ordered;
 }

@@ -1,0 +1,43 @@
+#include "cli/ConsoleHost.h"
+
+#include "foundation/TextFunctions.h"
+
+#include <ostream>
+
+namespace k7deval::cli
+{
+
+std::optional<screen::SaveAnswer> ConsoleServices::ShowSave(const std::string& /*filter*/,
+                                                            const std::string& /*defaultExtension*/)
+{
+    return nextSave;
+}
+
+screen::MsgBoxAnswer ConsoleServices::MsgBox(const screen::MsgBoxRequest& request)
+{
+    const bool isQuestion = request.buttons == screen::MsgBoxButtons::YesNo;
+    *notes_ << replaceAll(request.prompt, "\r\n", " ") << (isQuestion ? " Yes" : "") << '\n';
+    failed = failed || !isQuestion;
+    return isQuestion ? screen::MsgBoxAnswer::Yes : screen::MsgBoxAnswer::OK;
+}
+
+std::optional<Date> ConsoleServices::PickDate(const std::string& /*title*/, Date /*date*/,
+                                              std::int32_t /*a*/, std::int32_t /*b*/,
+                                              std::int32_t /*c*/)
+{
+    return std::nullopt;
+}
+
+void ConsoleServices::OpenDocument(const std::string& path, std::int32_t /*a*/,
+                                   std::int32_t /*ownerWindow*/, std::int32_t /*b*/,
+                                   std::int32_t /*showCommand*/)
+{
+    *notes_ << path << '\n';
+}
+
+void PostedLines::Post(std::int32_t /*severity*/, const std::string& text)
+{
+    lines.push_back(text);
+}
+
+} // namespace k7deval::cli

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "sevenday/ctrl7Day.h"
+
+#include <iosfwd>
+
+namespace k7deval::cli
+{
+
+/// Prints what stands on the results page: analyzer, summary, and the tree with the details of each
+/// calibration, for which its entry is pressed. An entry used in the drift test is marked with an
+/// asterisk.
+void printResults(ctrl7DayResult& page, std::ostream& out);
+
+} // namespace k7deval::cli

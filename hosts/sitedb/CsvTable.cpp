@@ -52,7 +52,7 @@ private:
         if (end != std::string_view::npos && text_[end] == '"')
             throw file_.error(lineText(row.line), "a quote stands inside a field");
         const std::size_t length = std::min(end, text_.size()) - position_;
-        const std::string field(text_.substr(position_, length));
+        std::string field(text_.substr(position_, length));
         position_ += length;
         return field;
     }
@@ -117,16 +117,13 @@ CsvTable CsvTable::parse(const SourceFile& file)
     return table;
 }
 
-std::vector<std::string> CsvTable::headerOf(std::string_view content)
+std::vector<std::string> CsvTable::headerOf(const SourceFile& file)
 {
-    std::string_view line = content.substr(0, content.find_first_of("\r\n"));
-    std::vector<std::string> names;
-    while (true) {
-        const std::size_t comma = line.find(',');
-        names.emplace_back(line.substr(0, comma));
-        if (comma == std::string_view::npos)
-            return names;
-        line.remove_prefix(comma + 1);
+    try {
+        const auto header = CsvReader(file).next();
+        return header ? header->fields : std::vector<std::string>();
+    } catch (const ImportError&) {
+        return {};
     }
 }
 
@@ -134,7 +131,7 @@ void CsvTable::checkHeader() const
 {
     for (auto name = header_.begin(); name != header_.end(); ++name) {
         if (std::find(header_.begin(), name, *name) != name)
-            throw file_->error("line 1", "the column " + *name + " stands there twice");
+            throw file_->error("line 1", "the column " + inQuotes(*name) + " stands there twice");
     }
 }
 
@@ -170,7 +167,7 @@ double CsvTable::number(const CsvRow& row, std::size_t column, double lowest, do
     const std::string& text = field(row, column);
     const auto value = plainNumber(text);
     if (!value)
-        throw error(row, column, "\"" + text + "\" is no number");
+        throw error(row, column, inQuotes(text) + " is no number");
     if (*value < lowest || *value > highest)
         throw error(row, column,
                     text + " lies outside " + numberText(lowest) + " to " + numberText(highest));
@@ -184,7 +181,7 @@ int CsvTable::wholeNumber(const CsvRow& row, std::size_t column) const
     const char* end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value);
     if (read.ec != std::errc() || read.ptr != end)
-        throw error(row, column, "\"" + text + "\" is no whole number");
+        throw error(row, column, inQuotes(text) + " is no whole number");
     return value;
 }
 
@@ -205,9 +202,10 @@ std::optional<double> plainNumber(std::string_view text)
 
 std::string numberText(double value)
 {
-    std::array<char, 64> text{};
+    // The smallest numbers have more than 300 zeros behind the point.
+    std::array<char, 400> text{};
     const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general);
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
     return {text.data(), end.ptr};
 }
 

@@ -23,8 +23,8 @@ class CsvTable
 public:
     /// Raises ImportError for a text that is no such table. The file has to outlive the table.
     static CsvTable parse(const SourceFile& file);
-    /// The names in the first line of a text, whatever it is.
-    static std::vector<std::string> headerOf(std::string_view content);
+    /// The names in the first line of a file that may be a table; none when it is not.
+    static std::vector<std::string> headerOf(const SourceFile& file);
 
     [[nodiscard]] const std::vector<CsvRow>& rows() const { return rows_; }
     [[nodiscard]] const std::vector<std::string>& header() const { return header_; }
@@ -52,11 +52,11 @@ private:
     std::vector<CsvRow> rows_;
 };
 
-/// The number that a text holds: digits with an optional sign, decimal point and exponent, nothing
+/// The number that a text holds: digits with an optional minus, decimal point and exponent, nothing
 /// else.
 std::optional<double> plainNumber(std::string_view text);
 
-/// A number without needless zeros, for a sentence.
+/// A number without needless zeros and without an exponent.
 std::string numberText(double value);
 
 } // namespace k7deval::sitedb

@@ -42,9 +42,6 @@ std::int32_t decimalsOf(const std::optional<double>& value)
         return 0;
     const std::string text = numberText(*value);
     const auto point = text.find('.');
-    const bool isPlain = text.find('e') == std::string::npos;
-    if (!isPlain)
-        return kMostDecimals;
     const std::size_t decimals = point == std::string::npos ? 0 : text.size() - point - 1;
     return std::min(static_cast<std::int32_t>(decimals), kMostDecimals);
 }
@@ -152,6 +149,7 @@ private:
 
     static QaTest testHeader(const JsonNode& node)
     {
+        checkIsUnit(node);
         const JsonNode unit = node.field("unitId");
         const JsonNode component = node.field({"componentId", "componentID"});
         const JsonNode scaleNode = node.field("spanScaleCode");
@@ -166,6 +164,16 @@ private:
         test.scale = *scale;
         test.scalePath = scaleNode.path();
         return test;
+    }
+
+    static void checkIsUnit(const JsonNode& test)
+    {
+        if (!test.field("unitId").isNull() || !test.has("stackPipeId"))
+            return;
+        const JsonNode stack = test.field("stackPipeId");
+        if (!stack.isNull())
+            throw stack.error(stack.shown() + " is a stack or pipe, and a site keeps the"
+                                              " calibrations of units");
     }
 
     void readRow(QaTest& test, const JsonNode& row)
@@ -195,8 +203,17 @@ private:
         } catch (const ImportError& failure) {
             if (!leavesOut_)
                 throw;
-            content_.leftOut.push_back(failure.description());
+            ++content_.leftOutCount;
+            listLeftOut(failure.description());
         }
+    }
+
+    // A fault of a whole row keeps both its injections out; its sentence is listed once.
+    void listLeftOut(const std::string& sentence)
+    {
+        auto& list = content_.leftOut;
+        if (list.empty() || list.back() != sentence)
+            list.push_back(sentence);
     }
 
     void stepOverList(const JsonNode& root, const char* name)

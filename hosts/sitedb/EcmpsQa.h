@@ -40,7 +40,8 @@ struct QaContent {
     std::int32_t orisCode = 0;
     std::vector<QaTest> tests;
     std::vector<std::string> steppedOver;
-    std::vector<std::string> leftOut;
+    std::size_t leftOutCount = 0;     ///< Injections.
+    std::vector<std::string> leftOut; ///< Their sentences.
 };
 
 /// Reads an ECMPS 2.0 QA file. Raises ImportError for the first thing in it that can't be read;

@@ -115,11 +115,14 @@ ImportReport qaReport(const QaContent& content)
         for (const auto& injection : test.injections)
             ++(injection.gasLevelCode == 0 ? zeros : upscales);
     }
-    return {"ECMPS QA data",
-            {counted(content.tests.size(), "test"), counted(zeros, "zero injection"),
-             counted(upscales, "upscale injection")},
-            content.steppedOver,
-            content.leftOut};
+    ImportReport report{"ECMPS QA data",
+                        {counted(content.tests.size(), "test"), counted(zeros, "zero injection"),
+                         counted(upscales, "upscale injection")},
+                        content.steppedOver,
+                        content.leftOut};
+    if (content.leftOutCount > 0)
+        report.counts.push_back(counted(content.leftOutCount, "injection") + " left out");
+    return report;
 }
 
 } // namespace

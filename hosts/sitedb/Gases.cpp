@@ -1,6 +1,5 @@
 #include "sitedb/Gases.h"
 
-#include <algorithm>
 #include <array>
 
 namespace k7deval::sitedb
@@ -22,10 +21,11 @@ constexpr std::array kGases{
 
 const Gas* findGas(std::string_view componentType)
 {
-    const auto found = std::find_if(kGases.begin(), kGases.end(), [&](const Gas& gas) {
-        return gas.componentType == componentType;
-    });
-    return found == kGases.end() ? nullptr : &*found;
+    for (const auto& gas : kGases) {
+        if (gas.componentType == componentType)
+            return &gas;
+    }
+    return nullptr;
 }
 
 std::string gasNames()

@@ -42,7 +42,7 @@ LoadHour loadHour(const CsvTable& table, const CsvRow& row, const LoadColumns& c
     hour.line = row.line;
     hour.day = table.field(row, columns.day);
     if (!dayNumber(hour.day))
-        throw table.error(row, columns.day, "\"" + hour.day + "\" is no date");
+        throw table.error(row, columns.day, inQuotes(hour.day) + " is no date");
     hour.hour = table.wholeNumber(row, columns.hour);
     if (hour.hour < 0 || hour.hour > kLastHour)
         throw table.error(row, columns.hour,
@@ -102,15 +102,15 @@ void writeHours(sql::Connection& connection, std::int32_t unit, const std::vecto
 std::int32_t findOrAddUnit(SiteWriter& writer, const SourceFile& file, const std::string& name)
 {
     if (name.empty())
-        throw file.error("", "the unit that the load belongs to has to be named");
+        throw file.error("unit", "the unit that the load belongs to has to be named");
     const std::string fault = identifierFault(name, kUnitIdentifierLength);
     if (!fault.empty())
-        throw file.error("", fault);
+        throw file.error("unit", fault);
     if (const auto known = writer.findUnit(name))
         return *known;
     const auto added = writer.addUnit(name);
     if (!added)
-        throw file.error("", noMoreUnits(name));
+        throw file.error("unit", noMoreUnits(name));
     return *added;
 }
 
@@ -124,7 +124,7 @@ ImportReport loadReport(const CsvTable& table, const std::vector<LoadHour>& hour
                         {}};
     for (const auto& column : table.header()) {
         if (column != "date" && column != "hour" && column != "gross_load_mw")
-            report.steppedOver.push_back("The column " + column + ".");
+            report.steppedOver.push_back("The column " + inQuotes(column) + ".");
     }
     return report;
 }

@@ -28,17 +28,12 @@ ImportReport takeFile(sql::Connection& connection, const SourceFile& file,
 {
     if (isJson(file.content))
         return takeEcmpsQa(connection, file, options);
-    const auto header = CsvTable::headerOf(file.content);
+    const auto header = CsvTable::headerOf(file);
     if (hasColumns(header, {"unit_id", "component_id", "span_value"}))
         return takeSpanTable(connection, file, options);
     if (hasColumns(header, {"date", "hour", "gross_load_mw"}))
         return takeHourlyLoad(connection, file, options);
     throw file.error("", "this is no ECMPS QA file, no span table and no hourly load");
-}
-
-bool isPrintable(char letter)
-{
-    return letter >= ' ' && letter <= '~';
 }
 
 } // namespace
@@ -78,8 +73,7 @@ std::string identifierFault(std::string_view text, std::size_t longest)
                         text.back() != ' ' && std::ranges::all_of(text, isPrintable);
     if (isGood)
         return {};
-    return "\"" + std::string(text) + "\" is no identifier of 1 to " + std::to_string(longest) +
-           " letters and digits";
+    return inQuotes(text) + " is no identifier of 1 to " + std::to_string(longest) + " characters";
 }
 
 const std::string& identifier(const CsvTable& table, const CsvRow& row, std::size_t column,

@@ -37,7 +37,7 @@ struct ImportReport {
     std::string format;                   ///< What the file was taken for.
     std::vector<std::string> counts;      ///< "4 units", "17 spans", ...
     std::vector<std::string> steppedOver; ///< What the file holds that a site does not keep.
-    std::vector<std::string> leftOut;     ///< A sentence for each injection left out as unreadable.
+    std::vector<std::string> leftOut;     ///< Why injections were left out, a sentence each.
 };
 
 /// Imports a file, plain or gzip, whose format is told from its content.

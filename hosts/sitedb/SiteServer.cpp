@@ -25,6 +25,13 @@ std::optional<std::string> findLookup(sql::Connection& connection, const std::st
     return row->step() ? std::optional(row->text(0)) : std::nullopt;
 }
 
+/// "310007501 (3-100-0-75-01)"; a number that is no valid PID has no second form.
+std::string pidName(PID pid)
+{
+    const std::string text = PIDToText(pid);
+    return std::to_string(pid) + (text.empty() ? "" : " (" + text + ")");
+}
+
 class SiteParameters final : public DIParameters
 {
 public:
@@ -42,8 +49,7 @@ public:
     {
         auto parameter = readParameter(connection_, pid);
         if (!parameter)
-            throw Error(errors::kInvalidCall,
-                        "The site has no parameter " + std::to_string(pid) + ".");
+            throw Error(errors::kInvalidCall, "The site has no parameter " + pidName(pid) + ".");
         return parameter;
     }
 

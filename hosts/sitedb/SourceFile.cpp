@@ -1,5 +1,7 @@
 #include "sitedb/SourceFile.h"
 
+// Lets zlib read its input through a pointer to const.
+#define ZLIB_CONST
 #include <zlib.h>
 
 #include <array>
@@ -19,6 +21,7 @@ constexpr std::size_t kLargestContent = std::size_t{512} << 20U;
 constexpr std::size_t kChunk = std::size_t{64} << 10U;
 constexpr std::string_view kGzipMark = "\x1f\x8b";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::size_t kLongestQuote = 40;
 constexpr int kGzipWindow = 15 + 16;
 
 class Inflater
@@ -26,13 +29,9 @@ class Inflater
 public:
     explicit Inflater(const SourceFile& packed) : packed_(packed)
     {
-        if (packed.content.size() > kLargestContent)
-            throw packed.error("", "the file is too large");
         if (inflateInit2(&stream_, kGzipWindow) != Z_OK)
             throw packed.error("", "there is not enough memory to unpack it");
-        // zlib takes its input through a pointer to non-const, but does not write to it.
-        stream_.next_in =
-            reinterpret_cast<Bytef*>(const_cast<char*>(packed.content.data())); // NOLINT
+        stream_.next_in = reinterpret_cast<const Bytef*>(packed.content.data());
         stream_.avail_in = static_cast<uInt>(packed.content.size());
     }
     Inflater(const Inflater&) = delete;
@@ -97,8 +96,11 @@ void checkIsFile(const std::filesystem::path& path, const SourceFile& file)
         throw file.error("", "there is no such file", errors::kFileNotFound);
     if (kind != std::filesystem::file_type::regular)
         throw file.error("", "this is no file that can be read", errors::kPathAccess);
-    if (std::filesystem::file_size(path, failure) == 0)
+    const auto size = std::filesystem::file_size(path, failure);
+    if (size == 0)
         throw file.error("", "the file is empty");
+    if (size > kLargestContent)
+        throw file.error("", "the file is too large");
 }
 
 std::int64_t checkSum(const std::string& content)
@@ -108,6 +110,19 @@ std::int64_t checkSum(const std::string& content)
 }
 
 } // namespace
+
+std::string inQuotes(std::string_view text)
+{
+    std::string shown = "\"";
+    for (const char letter : text.substr(0, kLongestQuote))
+        shown += isPrintable(letter) ? letter : '?';
+    return shown + (text.size() > kLongestQuote ? "...\"" : "\"");
+}
+
+bool isPrintable(char letter)
+{
+    return letter >= ' ' && letter <= '~';
+}
 
 std::string utf8Text(const std::filesystem::path& path)
 {

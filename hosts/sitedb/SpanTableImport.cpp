@@ -63,11 +63,11 @@ private:
         const std::string& type = table_.field(row, columns_.type);
         const Gas* gas = findGas(type);
         if (gas == nullptr)
-            throw table_.error(row, columns_.type, "\"" + type + "\" is not " + gasNames());
+            throw table_.error(row, columns_.type, inQuotes(type) + " is not " + gasNames());
         const std::string& units = table_.field(row, columns_.units);
         if (units != gas->unitsCode)
             throw table_.error(row, columns_.units,
-                               "\"" + units + "\" is not " + std::string(gas->unitsCode) +
+                               inQuotes(units) + " is not " + std::string(gas->unitsCode) +
                                    ", the unit of " + type);
         return *gas;
     }
@@ -77,7 +77,7 @@ private:
         const std::string& code = row.fields[columns_.scale];
         const auto scale = scaleOfCode(code);
         if (!scale)
-            throw table_.error(row, columns_.scale, "\"" + code + "\" is not H, L or empty");
+            throw table_.error(row, columns_.scale, inQuotes(code) + " is not H, L or empty");
         return *scale;
     }
 

@@ -17,8 +17,9 @@ TEST(SampleImport, ReportsWhatItTook)
     const auto spans = importFile(site, sampleFile("spans.csv"), {});
     EXPECT_EQ(spans.counts, (std::vector<std::string>{"4 units", "16 analyzers", "17 spans"}));
     const auto tests = importFile(site, sampleFile("ecmps_qa_50292.json"), leavingOut());
-    EXPECT_EQ(tests.counts, (std::vector<std::string>{"19 tests", "131 zero injections",
-                                                      "132 upscale injections"}));
+    EXPECT_EQ(tests.counts,
+              (std::vector<std::string>{"19 tests", "131 zero injections", "132 upscale injections",
+                                        "1 injection left out"}));
     EXPECT_EQ(tests.leftOut,
               (std::vector<std::string>{
                   "ecmps_qa_50292.json: testSummaryData[1].calibrationInjectionData[0]"

@@ -13,7 +13,7 @@ namespace k7deval::sitedb::sql
 namespace
 {
 
-constexpr int kBusyMilliseconds = 2000;
+constexpr int kBusyMilliseconds = 1000;
 
 struct CloseDatabase {
     void operator()(sqlite3* database) const { sqlite3_close_v2(database); }

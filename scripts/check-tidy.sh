@@ -3,6 +3,6 @@
 set -euo pipefail
 build=$(realpath "$1")
 cd "$(dirname "$0")/.."
-run-clang-tidy-14 -quiet -p "$build" -j "$(nproc)" "$(pwd)/(src|hosts|tests)/.*" 2>&1 |
+run-clang-tidy-14 -quiet -p "$build" -j "$(nproc)" "$(pwd)/(src|hosts|tests|examples)/.*" 2>&1 |
     { grep -vE '^(clang-tidy-14 |[0-9]+ warnings (generated|treated)|Suppressed |Use -header-filter)' || true; }
 exit "${PIPESTATUS[0]}"

@@ -14,7 +14,7 @@ namespace k7deval::sitedb::test
 struct EmptySite {
     TemporaryDirectory directory;
     std::filesystem::path path = directory / "site.k7site";
-    SiteDatabase site = SiteDatabase::open(path, OpenMode::ReadWrite);
+    SiteDatabase site = makeSite(path);
 };
 
 /// A site with the analyzers that the small files below speak of: unit U1 with the NOX component

@@ -13,7 +13,7 @@ namespace
 TEST(SampleImport, ReportsWhatItTook)
 {
     TemporaryDirectory directory;
-    auto site = SiteDatabase::open(directory / "s.k7site", OpenMode::ReadWrite);
+    auto site = makeSite(directory / "s.k7site");
     const auto spans = importFile(site, sampleFile("spans.csv"), {});
     EXPECT_EQ(spans.counts, (std::vector<std::string>{"4 units", "16 analyzers", "17 spans"}));
     const auto tests = importFile(site, sampleFile("ecmps_qa_50292.json"), leavingOut());
@@ -31,7 +31,7 @@ TEST(SampleImport, ReportsWhatItTook)
 TEST(SampleImport, RefusesTheWholeQaFileUnlessToldOtherwise)
 {
     TemporaryDirectory directory;
-    auto site = SiteDatabase::open(directory / "s.k7site", OpenMode::ReadWrite);
+    auto site = makeSite(directory / "s.k7site");
     importFile(site, sampleFile("spans.csv"), {});
     const std::string before = dump(site);
     try {

@@ -119,6 +119,13 @@ std::string gunzip(const std::filesystem::path& path)
     return content;
 }
 
+SiteDatabase makeSite(const std::filesystem::path& path)
+{
+    auto site = SiteDatabase::open(path, OpenMode::ReadWrite);
+    site.connection().execute("PRAGMA synchronous = OFF");
+    return site;
+}
+
 std::string dump(const SiteDatabase& site)
 {
     std::string all;
@@ -148,8 +155,7 @@ ImportOptions leavingOut()
     return options;
 }
 
-SampleSite::SampleSite()
-    : site(SiteDatabase::open(directory / "bethpage.k7site", OpenMode::ReadWrite))
+SampleSite::SampleSite() : site(makeSite(directory / "bethpage.k7site"))
 {
     importFile(site, sampleFile("spans.csv"), {});
     importFile(site, sampleFile("ecmps_qa_50292.json"), leavingOut());

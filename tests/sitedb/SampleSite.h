@@ -38,6 +38,10 @@ std::string gzip(const std::string& content);
 /// The unpacked content of a gzip file.
 std::string gunzip(const std::filesystem::path& path);
 
+/// Makes a site for a test: a power cut in the middle of one need not be survived, so the disk is
+/// not waited for.
+SiteDatabase makeSite(const std::filesystem::path& path);
+
 /// Every row of every table of a site as text, in a fixed order.
 std::string dump(const SiteDatabase& site);
 

@@ -26,7 +26,7 @@ public:
     {
         if (upperBound < -1)
             throw Error(errors::kSubscript);
-        items_.resize(static_cast<std::size_t>(upperBound + 1));
+        items_.resize(static_cast<std::size_t>(upperBound) + 1);
         sized_ = true;
     }
 

@@ -12,7 +12,8 @@ namespace k7deval
 struct Date {
     double days = 0;
 
-    friend auto operator<=>(const Date&, const Date&) = default;
+    friend bool operator==(const Date&, const Date&) = default;
+    friend auto operator<=>(const Date& one, const Date& other) { return one.days <=> other.days; }
 };
 
 /// A calendar date and a clock reading. month and day count from 1.

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include <cctype>
 #include <ostream>
 
 namespace k7deval
@@ -223,7 +222,7 @@ TEST(DateReader, AYearFirstRegionReadsTheYearFirst)
 
 RC_GTEST_PROP(DateReaderProperties, EveryDateReadsBackFromItsShortDateAndLongTime, ())
 {
-    const auto region = *rc::gen::element("en-US", "en-GB", "de-DE", "fr-FR");
+    const auto region = *rc::gen::element<std::string>("en-US", "en-GB", "de-DE", "fr-FR");
     const RegionalSettings settings = regionalSettings(region);
     const Date value =
         makeDate(*rc::gen::inRange(100, 10000), *rc::gen::inRange(1, 13), *rc::gen::inRange(1, 29),

@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <random>
 #include <string>
 
@@ -195,7 +196,8 @@ RC_GTEST_PROP(NumberTextProperties, AWrittenDoubleReadsBackToItsFifteenDigits, (
     const double value = *rc::gen::suchThat(anyDouble(), [](double candidate) {
         return std::abs(candidate) < 1e308; // Rounded up, the very largest would overflow.
     });
-    RC_ASSERT(ToDouble(GeneralNumber(value, kUs), kUs) == std::stod(printed("%.14e", value)));
+    RC_ASSERT(ToDouble(GeneralNumber(value, kUs), kUs) ==
+              std::strtod(printed("%.14e", value).c_str(), nullptr));
 }
 
 } // namespace k7deval

@@ -191,7 +191,7 @@ TEST(NumericText, ManyDigitsAreReadToTheNearestDouble)
 
 RC_GTEST_PROP(NumericTextProperties, AnyTextIsANumberOrRefusedButNeverAnythingElse, ())
 {
-    const auto region = *rc::gen::element("en-US", "en-GB", "de-DE", "fr-FR");
+    const auto region = *rc::gen::element<std::string>("en-US", "en-GB", "de-DE", "fr-FR");
     const RegionalSettings settings = regionalSettings(region);
     const auto text =
         *rc::gen::container<std::string>(rc::gen::elementOf(std::string("0123456789.,+-()$€ED ")));

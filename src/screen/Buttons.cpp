@@ -57,13 +57,19 @@ OptionButton::OptionButton(Container& parent, OptionGroup& group, std::string na
 
 void OptionButton::SetSelected(bool selected)
 {
-    if (!update(selected_, selected) || !selected)
-        return;
+    if (selected)
+        deselectOthers();
+    if (update(selected_, selected) && selected)
+        Clicked.raise();
+}
+
+/// Comes first, so that nobody who follows the group ever sees two options selected.
+void OptionButton::deselectOthers()
+{
     for (OptionButton* other : group_->options_) {
         if (other != this)
             other->SetSelected(false);
     }
-    Clicked.raise();
 }
 
 void OptionButton::Press()

@@ -82,6 +82,8 @@ public:
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
+    void deselectOthers();
+
     OptionGroup* group_;
     std::string caption_;
     bool selected_ = false;

@@ -33,7 +33,9 @@ void ComboBox::SetListIndex(std::int32_t index)
     if (index != -1 && !isInList(index))
         throw Error(errors::kInvalidArrayIndex);
     listIndex_ = index;
-    text_ = index == -1 ? std::string() : list_[static_cast<std::size_t>(index)];
+    text_.clear();
+    if (index != -1)
+        text_ = list_[static_cast<std::size_t>(index)];
     Changed.raise();
     if (index != -1)
         Picked.raise();
@@ -46,11 +48,11 @@ std::int32_t ComboBox::ItemData() const
     return itemData_[static_cast<std::size_t>(listIndex_)];
 }
 
-void ComboBox::SetText(std::string text)
+void ComboBox::SetText(const std::string& text)
 {
     if (editField_ == EditField::No)
         throw Error(errors::kUnknownMember);
-    edit(std::move(text));
+    edit(text);
 }
 
 void ComboBox::Pick(std::int32_t index)
@@ -65,10 +67,15 @@ void ComboBox::Type(std::string_view text)
         edit(std::string(text));
 }
 
-void ComboBox::edit(std::string text)
+void ComboBox::edit(const std::string& text)
 {
-    update(listIndex_, -1);
-    if (update(text_, std::move(text)))
+    const bool isOtherText = text != text_;
+    if (!isOtherText && listIndex_ == -1)
+        return;
+    listIndex_ = -1;
+    text_ = text;
+    Changed.raise();
+    if (isOtherText)
         TextChanged.raise();
 }
 

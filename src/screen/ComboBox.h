@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] const std::string& Text() const { return text_; }
     /// Sets the text of the edit field by code; error 438 on a list without one.
-    void SetText(std::string text);
+    void SetText(const std::string& text);
 
     /// The user picks an entry; an index outside the list does nothing.
     void Pick(std::int32_t index);
@@ -54,7 +54,7 @@ private:
     {
         return index >= 0 && index < ListCount();
     }
-    void edit(std::string text);
+    void edit(const std::string& text);
 
     EditField editField_;
     std::vector<std::string> list_;

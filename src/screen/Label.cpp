@@ -13,7 +13,7 @@ namespace k7deval::screen
 std::string colorText(Color value)
 {
     std::array<char, 8> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, 16).ptr;
+    auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value, 16).ptr;
     std::string hex(digits.data(), end);
     std::transform(hex.begin(), hex.end(), hex.begin(),
                    [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });

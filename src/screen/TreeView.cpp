@@ -10,17 +10,6 @@ namespace k7deval::screen
 namespace
 {
 
-TreeNode* findIn(const std::vector<std::unique_ptr<TreeNode>>& nodes, std::string_view key)
-{
-    for (const auto& node : nodes) {
-        if (node->Key == key)
-            return node.get();
-        if (TreeNode* found = findIn(node->Children, key))
-            return found;
-    }
-    return nullptr;
-}
-
 PropertyValues described(const std::vector<std::unique_ptr<TreeNode>>& nodes)
 {
     PropertyValues values;
@@ -43,6 +32,7 @@ TreeView::TreeView(Container& parent, std::string name) : Widget(&parent, std::m
 void TreeView::Clear()
 {
     selected_ = nullptr;
+    nodesByKey_.clear();
     roots_.clear();
     Changed.raise();
 }
@@ -62,16 +52,19 @@ TreeNode& TreeView::AddChild(const std::string& parentKey, TreeNode node)
 
 TreeNode& TreeView::add(std::vector<std::unique_ptr<TreeNode>>& siblings, TreeNode node)
 {
-    if (Find(node.Key) != nullptr)
+    const auto [entry, isNew] = nodesByKey_.try_emplace(node.Key, nullptr);
+    if (!isNew)
         throw Error(errors::kDuplicateKey);
     siblings.push_back(std::make_unique<TreeNode>(std::move(node)));
+    entry->second = siblings.back().get();
     Changed.raise();
     return *siblings.back();
 }
 
 TreeNode* TreeView::Find(std::string_view key) const
 {
-    return findIn(roots_, key);
+    const auto found = nodesByKey_.find(key);
+    return found == nodesByKey_.end() ? nullptr : found->second;
 }
 
 void TreeView::SetSelectedItem(const TreeNode& node)

@@ -4,6 +4,8 @@
 #include "screen/Label.h"
 
 #include <any>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -54,6 +56,7 @@ private:
     TreeNode& add(std::vector<std::unique_ptr<TreeNode>>& siblings, TreeNode node);
 
     std::vector<std::unique_ptr<TreeNode>> roots_;
+    std::map<std::string, TreeNode*, std::less<>> nodesByKey_;
     const TreeNode* selected_ = nullptr;
     Color backColor_ = color::kWindow;
 };

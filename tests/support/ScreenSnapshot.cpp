@@ -1,0 +1,98 @@
+#include "support/ScreenSnapshot.h"
+
+#include <cstdint>
+#include <sstream>
+#include <utility>
+#include <variant>
+
+namespace k7deval::test
+{
+
+namespace
+{
+
+std::string textOf(const screen::PropertyValue& content);
+
+std::string listOf(const std::vector<std::string>& texts)
+{
+    std::string list;
+    for (const auto& text : texts)
+        list += (list.empty() ? "" : ", ") + text;
+    return "[" + list + "]";
+}
+
+struct ValueText {
+    std::string operator()(bool value) const { return value ? "True" : "False"; }
+    std::string operator()(std::int32_t value) const { return std::to_string(value); }
+    std::string operator()(float value) const
+    {
+        std::ostringstream text;
+        text << value;
+        return text.str();
+    }
+    std::string operator()(const std::string& value) const { return '"' + value + '"'; }
+    std::string operator()(const screen::PropertyValues& values) const
+    {
+        std::vector<std::string> texts;
+        for (const auto& value : values)
+            texts.push_back(textOf(value));
+        return listOf(texts);
+    }
+    std::string operator()(const screen::PropertyList& properties) const
+    {
+        std::vector<std::string> texts;
+        for (const auto& property : properties)
+            texts.push_back(property.name + "=" + textOf(property.content));
+        return listOf(texts);
+    }
+};
+
+std::string textOf(const screen::PropertyValue& content)
+{
+    return std::visit(ValueText{}, content.value);
+}
+
+void add(Snapshot& snapshot, const std::string& prefix, const screen::PropertyList& properties)
+{
+    for (const auto& [name, content] : properties) {
+        const auto* nested = std::get_if<screen::PropertyList>(&content.value);
+        if (nested == nullptr)
+            snapshot[prefix + name] = textOf(content);
+        else
+            add(snapshot, name == "Widgets" ? prefix : prefix + name + ".", *nested);
+    }
+}
+
+std::string valueOr(const Snapshot& snapshot, const std::string& name, const std::string& otherwise)
+{
+    const auto found = snapshot.find(name);
+    return found == snapshot.end() ? otherwise : found->second;
+}
+
+} // namespace
+
+Snapshot snapshotOf(const screen::Control& control)
+{
+    Snapshot snapshot;
+    add(snapshot, "", control.Properties());
+    return snapshot;
+}
+
+std::vector<std::string> changesBetween(const Snapshot& before, const Snapshot& after)
+{
+    Snapshot names = before;
+    names.insert(after.begin(), after.end());
+    std::vector<std::string> changes;
+    for (const auto& [name, value] : names) {
+        const std::string old = valueOr(before, name, "(absent)");
+        const std::string now = valueOr(after, name, "(absent)");
+        if (old == now)
+            continue;
+        std::string change = name;
+        change.append(": ").append(old).append(" -> ").append(now);
+        changes.push_back(std::move(change));
+    }
+    return changes;
+}
+
+} // namespace k7deval::test

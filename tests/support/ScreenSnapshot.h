@@ -1,0 +1,21 @@
+#pragma once
+
+#include "screen/Container.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace k7deval::test
+{
+
+/// All that stands on a screen and its pages, as text by "page.widget.Property". Texts stand in
+/// quotes, lists in brackets.
+using Snapshot = std::map<std::string, std::string>;
+
+Snapshot snapshotOf(const screen::Control& control);
+
+/// What differs, as "name: before -> after", sorted by name.
+std::vector<std::string> changesBetween(const Snapshot& before, const Snapshot& after);
+
+} // namespace k7deval::test

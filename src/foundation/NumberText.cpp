@@ -152,12 +152,12 @@ double nearestDouble(const Decimal& decimal)
         return digits / kPowersOfTen[static_cast<std::size_t>(-decimal.exponent)];
     if (decimal.exponent >= 0 && decimal.exponent <= kHighestExactPower)
         return digits * kPowersOfTen[static_cast<std::size_t>(decimal.exponent)];
-    std::array<char, 32> buffer{};
+    constexpr std::size_t kDigitsRoom = 20;
+    std::array<char, 2 * kDigitsRoom> buffer{};
     char* const begin = buffer.data();
-    char* const last = begin + buffer.size();
-    char* end = std::to_chars(begin, last, decimal.digits).ptr;
+    char* end = std::to_chars(begin, begin + kDigitsRoom, decimal.digits).ptr;
     *end++ = 'e';
-    end = std::to_chars(end, last, decimal.exponent).ptr;
+    end = std::to_chars(end, begin + buffer.size(), decimal.exponent).ptr;
     double value = 0;
     std::from_chars(begin, end, value);
     return value;

@@ -26,4 +26,24 @@ TEST(Error, ANumberWithoutADescriptionIsAFailureOfTheHost)
     EXPECT_EQ(error.description(), "Automation error");
 }
 
+TEST(Error, AFailureInFlightKeepsItsNumber)
+{
+    try {
+        throw Error(errors::kPathNotFound);
+    } catch (...) {
+        EXPECT_EQ(errorInFlight().number(), errors::kPathNotFound);
+        EXPECT_EQ(errorInFlight().description(), "Path not found");
+    }
+}
+
+TEST(Error, AFailureInFlightWithoutANumberIsTheHosts)
+{
+    try {
+        throw std::runtime_error("the host gave up");
+    } catch (...) {
+        EXPECT_EQ(errorInFlight().number(), errors::kAutomation);
+        EXPECT_EQ(errorInFlight().description(), "the host gave up");
+    }
+}
+
 } // namespace k7deval

@@ -26,7 +26,9 @@ public:
     /// The names in the first line of a file that may be a table; none when it is not.
     static std::vector<std::string> headerOf(const SourceFile& file);
 
-    [[nodiscard]] const std::vector<CsvRow>& rows() const { return rows_; }
+    [[nodiscard]] const std::vector<CsvRow>& rows() const& { return rows_; }
+    // The rows of a table that is gone at the end of the line can't be walked.
+    const std::vector<CsvRow>& rows() const&& = delete;
     [[nodiscard]] const std::vector<std::string>& header() const { return header_; }
     /// The index of a column. Raises ImportError when the table does not have it.
     [[nodiscard]] std::size_t column(std::string_view name) const;

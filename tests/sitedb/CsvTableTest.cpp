@@ -81,7 +81,8 @@ TEST(CsvTable, AnyTextIsATableOrIsRefusedWithItsLine)
             *rc::gen::container<std::string>(rc::gen::elementOf(std::string("ab1,,\"\r\n\n\xff")));
         const SourceFile source = file("a,b\n" + content);
         try {
-            for (const auto& row : CsvTable::parse(source).rows())
+            const auto table = CsvTable::parse(source);
+            for (const auto& row : table.rows())
                 RC_ASSERT(row.fields.size() == 2U);
         } catch (const ImportError& error) {
             RC_ASSERT(error.description().starts_with("t.csv: "));

@@ -27,25 +27,6 @@ struct PdfPage {
     [[nodiscard]] const PdfWord& word(const std::string& text) const;
 };
 
-/// A text as a PDF page draws it with one placement: where its base line starts, and how.
-struct PdfTextItem {
-    std::string text; ///< UTF-8.
-    std::string font; ///< The base font, such as "Helvetica-Bold".
-    double size = 0;
-    double x = 0;
-    double y = 0;
-    bool upward = false;
-};
-
-/// A straight line on a PDF page.
-struct PdfLine {
-    double x1 = 0;
-    double y1 = 0;
-    double x2 = 0;
-    double y2 = 0;
-    bool dashed = false;
-};
-
 /// The pages of a PDF file with the words on them.
 std::vector<PdfPage> pdfPages(const std::string& path);
 
@@ -61,7 +42,7 @@ std::vector<std::string> pdfFonts(const std::string& path);
 /// A PDF file with all its streams readable, as `qpdf` writes it; for looking at what is drawn.
 std::string pdfSource(const std::string& path);
 
-/// What `qpdf` finds wrong with a PDF file; std::runtime_error with its words if there is anything.
+/// std::runtime_error with their words if `qpdf` or a reader finds anything wrong with a PDF file.
 void requireValidPdf(const std::string& path);
 
 } // namespace k7deval::testing

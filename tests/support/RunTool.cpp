@@ -28,20 +28,36 @@ std::string readAll(std::FILE* stream)
     return output;
 }
 
-} // namespace
-
-std::string runTool(const std::vector<std::string>& commandLine)
+std::string outputOf(const std::string& command)
 {
-    std::string command;
-    for (const std::string& argument : commandLine)
-        command += quoted(argument) + " ";
     std::FILE* const stream = popen(command.c_str(), "r");
     if (stream == nullptr)
         throw std::runtime_error("cannot run " + command);
     std::string output = readAll(stream);
     if (const int status = pclose(stream); status != 0)
-        throw std::runtime_error(command + "ended with status " + std::to_string(status));
+        throw std::runtime_error(command + " ended with status " + std::to_string(status) + "\n" +
+                                 output);
     return output;
+}
+
+std::string asCommand(const std::vector<std::string>& commandLine)
+{
+    std::string command;
+    for (const std::string& argument : commandLine)
+        command += quoted(argument) + " ";
+    return command;
+}
+
+} // namespace
+
+std::string runTool(const std::vector<std::string>& commandLine)
+{
+    return outputOf(asCommand(commandLine));
+}
+
+std::string complaintsOfTool(const std::vector<std::string>& commandLine)
+{
+    return outputOf(asCommand(commandLine) + "2>&1 >/dev/null");
 }
 
 } // namespace k7deval::testing

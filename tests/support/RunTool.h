@@ -10,4 +10,7 @@ namespace k7deval::testing
 /// fails: std::runtime_error with the command line.
 std::string runTool(const std::vector<std::string>& commandLine);
 
+/// Runs a program as `runTool` does and returns what it printed to its error stream alone.
+std::string complaintsOfTool(const std::vector<std::string>& commandLine);
+
 } // namespace k7deval::testing

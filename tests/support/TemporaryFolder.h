@@ -19,7 +19,10 @@ public:
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
     /// The full name of a file in the folder.
-    [[nodiscard]] std::string file(const std::string& name) const { return (path_ / name).string(); }
+    [[nodiscard]] std::string file(const std::string& name) const
+    {
+        return (path_ / name).string();
+    }
     /// The names in the folder, sorted.
     [[nodiscard]] std::vector<std::string> names() const;
 

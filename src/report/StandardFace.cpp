@@ -1,0 +1,65 @@
+#include "report/StandardFace.h"
+
+#include "foundation/Error.h"
+#include "report/CharacterCodes.h"
+
+#include <hpdf.h>
+
+#include <cstddef>
+#include <memory>
+#include <new>
+#include <type_traits>
+
+namespace k7deval
+{
+
+namespace
+{
+
+struct FreeDocument {
+    void operator()(HPDF_Doc document) const { HPDF_Free(document); }
+};
+using Document = std::unique_ptr<std::remove_pointer_t<HPDF_Doc>, FreeDocument>;
+
+constexpr std::size_t kHyphen = 0x2D;
+constexpr std::size_t kSoftHyphen = 0xAD;
+
+std::array<int, 256> advances(HPDF_Font font)
+{
+    std::array<int, 256> advance{};
+    for (std::size_t byte = 0; byte < advance.size(); ++byte) {
+        if (const auto character = ofWindows1252(static_cast<unsigned char>(byte)))
+            advance.at(byte) =
+                HPDF_Font_GetUnicodeWidth(font, static_cast<HPDF_UNICODE>(*character));
+    }
+    // The encoding draws a soft hyphen as a hyphen; the library does not know its width.
+    advance.at(kSoftHyphen) = advance.at(kHyphen);
+    return advance;
+}
+
+} // namespace
+
+const char* standardFaceName(int fontCode)
+{
+    switch (fontCode) {
+    case 5:
+        return "Helvetica";
+    case 6:
+        return "Helvetica-Bold";
+    case 7:
+        return "Helvetica-Oblique";
+    default:
+        throw Error(errors::kInvalidCall);
+    }
+}
+
+StandardFace StandardFace::ofCode(int fontCode)
+{
+    const Document document(HPDF_New(nullptr, nullptr));
+    HPDF_Font font = HPDF_GetFont(document.get(), standardFaceName(fontCode), "WinAnsiEncoding");
+    if (font == nullptr)
+        throw std::bad_alloc();
+    return {HPDF_Font_GetAscent(font), HPDF_Font_GetDescent(font), advances(font)};
+}
+
+} // namespace k7deval

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/DriftOptions.h"
+#include "foundation/Clock.h"
 
 #include <iosfwd>
 #include <string>
@@ -12,10 +13,11 @@ namespace k7deval::cli
 /// Exit status of the program.
 enum class Status { Done = 0, NotPassed = 1, BadInput = 2 };
 
-/// Where a command writes: what was asked for, and notes beside it.
-struct Output {
+/// Where a command writes, what was asked for and notes beside it, and the time it goes by.
+struct Console {
     std::ostream& out;
     std::ostream& notes;
+    const Clock& clock;
 };
 
 struct ImportRequest {
@@ -38,23 +40,27 @@ struct DriftRequest {
 
 struct RoundRequest {
     std::string site;
-    std::string
-        tests;       ///< A table of tests: unit_id, test_number, component_id, component_type, ...
-    std::string out; ///< The folder of the PDF and XML files.
+    std::string tests; ///< A table as ReportedTests.h reads it.
+    std::string out;   ///< The folder of the PDF and XML files.
 };
 
-/// Imports files into a site, which is made when it is not there.
-Status runImport(const ImportRequest& request, const Output& output);
+// What can't be done is raised by each command as UsageError or Error.
+
+/// Imports files into a site, which is made when it is not there. A site that was made for an
+/// import that took nothing is not left behind.
+Status runImport(const ImportRequest& request, const Console& console);
 /// Lists the units of a site, one a line.
-Status runUnits(const std::string& site, const Output& output);
+Status runUnits(const std::string& site, const Console& console);
 /// Lists the analyzers of a unit, or of all units, as the 7-Day tool offers them.
-Status runAnalyzers(const std::string& site, const std::string& unit, const Output& output);
-/// Evaluates one drift test with the 7-Day tool and prints its screen.
-Status runDrift(const DriftRequest& request, const Output& output);
-/// Evaluates all tests of a table, one line each, and saves report and export of each.
-Status runRound(const RoundRequest& request, const Output& output);
+Status runAnalyzers(const std::string& site, const std::string& unit, const Console& console);
+/// Evaluates one drift test with the 7-Day tool, prints its screen and saves what was asked for.
+/// Nothing is written before all that can be refused was looked at.
+Status runDrift(const DriftRequest& request, const Console& console);
+/// Evaluates all tests of a table, one line each, and saves report and export of each that has a
+/// result.
+Status runRound(const RoundRequest& request, const Console& console);
 
 /// The program: reads the arguments, runs the command, tells a failure in one sentence.
-Status runProgram(int argc, const char* const* argv, const Output& output);
+Status runProgram(int argc, const char* const* argv, const Console& console);
 
 } // namespace k7deval::cli

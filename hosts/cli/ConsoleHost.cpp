@@ -15,10 +15,12 @@ std::optional<screen::SaveAnswer> ConsoleServices::ShowSave(const std::string& /
 
 screen::MsgBoxAnswer ConsoleServices::MsgBox(const screen::MsgBoxRequest& request)
 {
-    const bool isQuestion = request.buttons == screen::MsgBoxButtons::YesNo;
-    *notes_ << replaceAll(request.prompt, "\r\n", " ") << (isQuestion ? " Yes" : "") << '\n';
-    failed = failed || !isQuestion;
-    return isQuestion ? screen::MsgBoxAnswer::Yes : screen::MsgBoxAnswer::OK;
+    if (request.buttons != screen::MsgBoxButtons::YesNo) {
+        failure = request.prompt;
+        return screen::MsgBoxAnswer::OK;
+    }
+    *notes_ << replaceAll(request.prompt, "\r\n", " ") << " Yes\n";
+    return screen::MsgBoxAnswer::Yes;
 }
 
 std::optional<Date> ConsoleServices::PickDate(const std::string& /*title*/, Date /*date*/,
@@ -28,11 +30,11 @@ std::optional<Date> ConsoleServices::PickDate(const std::string& /*title*/, Date
     return std::nullopt;
 }
 
-void ConsoleServices::OpenDocument(const std::string& path, std::int32_t /*a*/,
+// There is no viewer to open a file in.
+void ConsoleServices::OpenDocument(const std::string& /*path*/, std::int32_t /*a*/,
                                    std::int32_t /*ownerWindow*/, std::int32_t /*b*/,
                                    std::int32_t /*showCommand*/)
 {
-    *notes_ << path << '\n';
 }
 
 void PostedLines::Post(std::int32_t /*severity*/, const std::string& text)

@@ -3,6 +3,7 @@
 #include "foundation/DataInterface.h"
 #include "screen/Services.h"
 
+#include <cstdint>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -18,10 +19,10 @@ class ConsoleServices final : public screen::Services
 public:
     explicit ConsoleServices(std::ostream& notes) : notes_(&notes) {}
 
-    /// What the next save dialog answers; nothing cancels it.
+    /// What the next save dialog answers.
     std::optional<screen::SaveAnswer> nextSave;
-    /// Whether a message box told of a failure.
-    bool failed = false;
+    /// The text of the last message box that asked nothing but told of a failure.
+    std::string failure;
 
     std::optional<screen::SaveAnswer> ShowSave(const std::string& filter,
                                                const std::string& defaultExtension) override;

@@ -1,12 +1,16 @@
 #include "cli/Commands.h"
 #include "cli/DriftSession.h"
+#include "cli/OpenSite.h"
 #include "cli/ScreenJson.h"
 #include "cli/ScreenText.h"
+#include "cli/Texts.h"
 #include "cli/UsageError.h"
 #include "foundation/FileFunctions.h"
-#include "sitedb/SiteDatabase.h"
 
+#include <algorithm>
+#include <array>
 #include <ostream>
+#include <system_error>
 
 namespace k7deval::cli
 {
@@ -14,45 +18,89 @@ namespace k7deval::cli
 namespace
 {
 
-void printPostedLines(const DriftSession& session, std::ostream& notes)
+RegionalSettings settingsOf(const std::string& region)
 {
+    const std::array<const char*, 4> regions{"en-US", "en-GB", "de-DE", "fr-FR"};
+    if (std::find(regions.begin(), regions.end(), region) == regions.end())
+        throw UsageError(inQuotes(region) + " is no region; it is one of: " +
+                         listed({regions.begin(), regions.end()}) + ".");
+    return regionalSettings(region);
+}
+
+bool isSameFile(const std::string& one, const std::string& other)
+{
+    std::error_code ignored;
+    return one == other || std::filesystem::equivalent(filePath(one), filePath(other), ignored);
+}
+
+/// A save takes the place of what is there, so it must not be the site or the other file.
+void checkTarget(const std::string& option, const std::string& path, const std::string& site)
+{
+    if (path.empty())
+        return;
+    if (isSameFile(path, site))
+        throw UsageError(option + " names the site itself.");
+    std::error_code ignored;
+    if (std::filesystem::is_directory(filePath(path), ignored))
+        throw UsageError(path + " is a folder; " + option + " needs a file.");
+}
+
+void checkTargets(const DriftRequest& request)
+{
+    checkTarget("--pdf", request.pdf, request.site);
+    checkTarget("--xml", request.xml, request.site);
+    if (!request.pdf.empty() && !request.xml.empty() && isSameFile(request.pdf, request.xml))
+        throw UsageError("--pdf and --xml name the same file.");
+}
+
+nlohmann::ordered_json screenAsJson(const DriftSession& session)
+{
+    nlohmann::ordered_json document;
+    document["Screen"] = toJson(session.control().Properties());
+    document["Test"] = toJson(session.control().Test());
+    document["Messages"] = session.postedLines();
+    return document;
+}
+
+void printScreen(DriftSession& session, bool json, const Console& console)
+{
+    ctrl7DayResult& results = session.control().ctrl7DayResult1;
+    if (json)
+        console.out << screenAsJson(session).dump(2, ' ', false,
+                                                  nlohmann::ordered_json::error_handler_t::replace)
+                    << '\n';
+    else if (results.Visible())
+        printResults(results, console.out);
     for (const auto& line : session.postedLines())
-        notes << line << '\n';
+        console.notes << line << '\n';
 }
 
-void printScreen(DriftSession& session, bool json, std::ostream& out)
+void save(DriftSession& session, const DriftRequest& request)
 {
-    ctrl7Day& control = session.control();
-    if (json) {
-        nlohmann::ordered_json document;
-        document["Screen"] = toJson(control.Properties());
-        document["Test"] = toJson(control.Test());
-        out << document.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
-            << '\n';
-    } else if (control.ctrl7DayResult1.Visible()) {
-        printResults(control.ctrl7DayResult1, out);
-    }
-}
-
-} // namespace
-
-Status runDrift(const DriftRequest& request, const Output& output)
-{
-    const auto server =
-        sitedb::SiteDatabase::open(filePath(request.site), sitedb::OpenMode::ReadOnly).server();
-    const SystemClock clock;
-    const RegionalSettings regional = regionalSettings(request.region);
-    DriftSession session(server, clock, regional, output.notes);
-    session.fillSetUp(request.options);
-    const bool evaluated = session.evaluate();
-    printPostedLines(session, output.notes);
-    printScreen(session, request.json, output.out);
-    if (!evaluated)
-        return Status::BadInput;
     if (!request.pdf.empty())
         session.savePdf(request.pdf);
     if (!request.xml.empty())
         session.saveXml(request.xml);
+}
+
+} // namespace
+
+Status runDrift(const DriftRequest& request, const Console& console)
+{
+    const RegionalSettings regional = settingsOf(request.region);
+    const auto server = readSite(request.site);
+    checkTargets(request);
+    DriftSession session(server, console.clock, regional, console.notes);
+    session.fillSetUp(request.options);
+    session.fillTestInformation(request.options);
+    if (!request.xml.empty() && !session.isUnder40CFR75())
+        throw UsageError(session.control().ctrl7DaySetUp1.AnalyzerInfoText() +
+                         " is not under 40 CFR 75, so there is no ECMPS export of it.");
+    session.evaluate();
+    printScreen(session, request.json, console);
+    if (const std::string failure = session.failure(); !failure.empty())
+        throw UsageError(failure);
+    save(session, request);
     return request.check && !session.control().Test().isPassed() ? Status::NotPassed : Status::Done;
 }
 

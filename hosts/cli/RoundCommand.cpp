@@ -1,12 +1,13 @@
 #include "cli/Commands.h"
 #include "cli/DriftSession.h"
+#include "cli/OpenSite.h"
+#include "cli/ReportedTests.h"
+#include "cli/Texts.h"
 #include "cli/UsageError.h"
 #include "foundation/FileFunctions.h"
-#include "sitedb/CsvTable.h"
-#include "sitedb/SiteDatabase.h"
-#include "sitedb/SourceFile.h"
 
-#include <iomanip>
+#include <algorithm>
+#include <optional>
 #include <ostream>
 #include <sstream>
 #include <system_error>
@@ -17,40 +18,47 @@ namespace k7deval::cli
 namespace
 {
 
-/// A test that a plant reported, as a table of tests has it.
-struct ReportedTest {
-    std::string unit;
-    std::string analyzer;
-    std::string testNumber;
-    std::string from; ///< "yyyy-mm-dd"
-    std::string to;
-    std::string result;
+constexpr std::size_t kVerdictWidth = 21; ///< "not passed: 6 counted"
+constexpr std::size_t kMarksWidth = 41;   ///< Seven days and the blanks between them.
+
+/// What a line says about a test.
+struct Finding {
+    std::string verdict;
+    std::string markedDays = "none";
+    std::string failure; ///< Why there is no verdict.
 };
 
-constexpr std::size_t kDateLength = 10;
-
-std::string scaleSuffix(const std::string& scale)
+/// Prints the findings one by one, as wide as the tests of the table need.
+class Lines
 {
-    return scale.empty() ? scale : "/" + scale;
-}
-
-std::vector<ReportedTest> readTests(const std::string& path)
-{
-    const auto file = sitedb::readSourceFile(filePath(path));
-    const auto table = sitedb::CsvTable::parse(file);
-    const auto text = [&](const sitedb::CsvRow& row, const char* column) {
-        return row.fields[table.column(column)];
-    };
-    std::vector<ReportedTest> tests;
-    for (const auto& row : table.rows()) {
-        tests.push_back({text(row, "unit_id"),
-                         text(row, "component_type") + " " + text(row, "component_id") +
-                             scaleSuffix(text(row, "span_scale")),
-                         text(row, "test_number"), text(row, "begin").substr(0, kDateLength),
-                         text(row, "end").substr(0, kDateLength), text(row, "reported_result")});
+public:
+    Lines(const std::vector<ReportedTest>& tests, std::ostream& out) : out_(out)
+    {
+        for (const auto& test : tests) {
+            unitWidth_ = std::max(unitWidth_, characters(test.unit));
+            analyzerWidth_ = std::max(analyzerWidth_, characters(test.analyzer));
+            resultWidth_ = std::max(resultWidth_, characters(test.result));
+        }
     }
-    return tests;
-}
+
+    void print(const ReportedTest& test, const Finding& finding) const
+    {
+        out_ << padded(test.unit, unitWidth_) << "  " << padded(test.analyzer, analyzerWidth_)
+             << "  " << test.from << " to " << test.to << "  "
+             << padded(finding.verdict, kVerdictWidth)
+             << "  marked: " << padded(finding.markedDays, kMarksWidth) << "  plant reported: ";
+        if (finding.failure.empty())
+            out_ << test.result << '\n';
+        else
+            out_ << padded(test.result, resultWidth_) << "  " << finding.failure << '\n';
+    }
+
+private:
+    std::ostream& out_;
+    std::size_t unitWidth_ = 0;
+    std::size_t analyzerWidth_ = 0;
+    std::size_t resultWidth_ = 0;
+};
 
 std::string markedDays(const DriftTest& test)
 {
@@ -62,56 +70,72 @@ std::string markedDays(const DriftTest& test)
     return days.empty() ? "none" : days;
 }
 
-std::string verdict(DriftSession& session, bool evaluated)
+Finding findingOf(const DriftTest& test)
 {
-    if (!evaluated)
-        return "no verdict (" + session.postedLines().front() + ")";
-    const DriftTest& test = session.control().Test();
-    if (test.isPassed())
-        return "passed";
-    return "not passed: " + std::to_string(test.lngGoodCals) + " counted";
+    return {test.isPassed() ? "passed"
+                            : "not passed: " + std::to_string(test.lngGoodCals) + " counted",
+            markedDays(test),
+            {}};
 }
 
-void evaluate(const ReportedTest& reported, const std::shared_ptr<DIServer>& server,
-              const std::string& folder, const Output& output)
+DriftOptions setUpFor(const ReportedTest& test)
 {
-    const SystemClock clock;
-    const RegionalSettings regional;
-    // The round saves what it finds, passed or not: the questions about it are not told.
-    std::ostringstream questions;
-    DriftSession session(server, clock, regional, questions);
     DriftOptions options;
-    options.unit = reported.unit;
-    options.analyzer = reported.analyzer;
-    options.from = reported.from;
-    options.to = reported.to;
-    options.testNumber = reported.testNumber;
-    session.fillSetUp(options);
-    const bool evaluated = session.evaluate();
-    output.out << std::left << std::setw(5) << reported.unit << std::setw(11) << reported.analyzer
-               << reported.from << " to " << reported.to << "  " << std::setw(21)
-               << verdict(session, evaluated) << "  marked: " << std::setw(41)
-               << markedDays(session.control().Test()) << "  plant reported: " << reported.result
-               << '\n';
-    if (!evaluated)
-        return;
-    const std::string stem = folder + "/" + reported.unit + "_" + reported.testNumber;
-    session.savePdf(stem + ".pdf");
-    session.saveXml(stem + ".xml");
+    options.unit = test.unit;
+    options.analyzer = test.analyzer;
+    options.from = test.from;
+    options.to = test.to;
+    return options;
+}
+
+/// Evaluates a test. Why there is no verdict, or nothing when there is one.
+std::string evaluate(DriftSession& session, const ReportedTest& test)
+{
+    try {
+        session.fillSetUp(setUpFor(test));
+        DriftOptions information;
+        information.testNumber = test.testNumber;
+        if (session.isUnder40CFR75())
+            session.fillTestInformation(information);
+    } catch (const UsageError& refusal) {
+        return refusal.what();
+    }
+    session.evaluate();
+    return session.failure();
+}
+
+void makeFolder(const std::string& path)
+{
+    std::error_code failure;
+    std::filesystem::create_directories(filePath(path), failure);
+    if (failure || !std::filesystem::is_directory(filePath(path), failure))
+        throw UsageError("The folder " + path + " could not be made.");
 }
 
 } // namespace
 
-Status runRound(const RoundRequest& request, const Output& output)
+Status runRound(const RoundRequest& request, const Console& console)
 {
-    const auto server =
-        sitedb::SiteDatabase::open(filePath(request.site), sitedb::OpenMode::ReadOnly).server();
-    std::error_code code;
-    std::filesystem::create_directories(filePath(request.out), code);
-    if (code)
-        throw UsageError("The folder " + request.out + " could not be made.");
-    for (const auto& test : readTests(request.tests))
-        evaluate(test, server, request.out, output);
+    const auto server = readSite(request.site);
+    const auto tests = readReportedTests(request.tests);
+    makeFolder(request.out);
+    const Lines lines(tests, console.out);
+    const RegionalSettings regional;
+    for (const auto& test : tests) {
+        // The round saves what it finds, passed or not: the questions about it are not told.
+        std::ostringstream questions;
+        DriftSession session(server, console.clock, regional, questions);
+        const std::string failure = evaluate(session, test);
+        if (!failure.empty()) {
+            lines.print(test, {"no verdict", "none", failure});
+            continue;
+        }
+        lines.print(test, findingOf(session.control().Test()));
+        const std::string stem = request.out + "/" + test.unit + "_" + test.testNumber;
+        session.savePdf(stem + ".pdf");
+        if (session.isUnder40CFR75())
+            session.saveXml(stem + ".xml");
+    }
     return Status::Done;
 }
 

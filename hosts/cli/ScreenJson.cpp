@@ -13,10 +13,22 @@ namespace
 
 using Json = nlohmann::ordered_json;
 
-/// The double that prints as the single does.
-double plainNumber(float value)
+/// The double that prints as the single does; null for what JSON has no number for.
+Json plainNumber(float value)
 {
+    if (!std::isfinite(value))
+        return nullptr;
     return ToDouble(GeneralNumber(value, {}), RegionalSettings{});
+}
+
+/// What has to be worked out, or null where that fails.
+template <class Work> Json workedOut(Work work)
+{
+    try {
+        return work();
+    } catch (const Error&) {
+        return nullptr;
+    }
 }
 
 Json toJson(const screen::PropertyValue& content);
@@ -57,7 +69,7 @@ Json toJson(const std::shared_ptr<clsStrippedCal>& injection)
         return nullptr;
     return {{"ReferenceValue", plainNumber(injection->ReferenceValue)},
             {"MeasuredValue", plainNumber(injection->MeasuredValue)},
-            {"Drift", plainNumber(injection->Drift())},
+            {"Drift", workedOut([&] { return plainNumber(injection->Drift()); })},
             {"DriftLimit", plainNumber(injection->DriftLimit)},
             {"UsesAPS", injection->UsesAPS},
             {"InjectionEndTime", timeText(injection->InjectionEndTime)},
@@ -72,7 +84,7 @@ Json toJson(const cls7DayAnalyzerCal& run)
             {"ManualCal", run.ManualCal},
             {"UseZeroCal", run.UseZeroCal},
             {"IsCompleteRun", run.IsCompleteRun()},
-            {"AnalyzerPassed", run.AnalyzerPassed()},
+            {"AnalyzerPassed", workedOut([&] { return Json(run.AnalyzerPassed()); })},
             {"IsUsedIn7Day", run.IsUsedIn7Day},
             {"ZeroCal", toJson(run.ZeroCal)},
             {"SpanCal", toJson(run.SpanCal)}};

@@ -1,13 +1,12 @@
 #include "cli/ScreenText.h"
 
+#include "cli/TextTable.h"
 #include "foundation/TextFunctions.h"
 
-#include <algorithm>
 #include <array>
-#include <iomanip>
 #include <ostream>
-#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace k7deval::cli
@@ -18,13 +17,16 @@ namespace
 
 using Row = std::vector<std::string>;
 
-constexpr std::size_t kFirstFigure = 3;
+constexpr const char* kUsed = "*";
+constexpr const char* kAboveLimit = "!";
+constexpr const char* kNothingToShow = "NA";
 
-Row headRow()
+std::string headOf(const screen::Label& label)
 {
-    return {"",      "Time",  "Result", "Instrument Span", "Zero Reference", "Measured",
-            "Drift", "Limit", "APS",    "Span Reference",  "Measured",       "Drift",
-            "Limit", "APS"};
+    std::string text = label.Caption();
+    if (text.ends_with(':'))
+        text.pop_back();
+    return text;
 }
 
 /// The legend's words for a picture.
@@ -44,53 +46,60 @@ std::string legendOf(const ctrl7DayResult& page, const std::string& picture)
     return picture;
 }
 
+void addHeads(const InjectionLabels& labels, Row& row)
+{
+    row.insert(row.end(), {headOf(labels.refLabel), headOf(labels.measLabel),
+                           headOf(labels.driftLabel) + " ", headOf(labels.limitLabel), ""});
+}
+
+TextTable tableFor(const ctrl7DayResult& page)
+{
+    std::vector<Align> columns(2, Align::Left);
+    columns.resize(13, Align::Right);
+    TextTable table(std::move(columns));
+    table.add({"", "", "", page.zero.frame.Caption(), "", "", "", "", page.span.frame.Caption(), "",
+               "", "", ""});
+    Row heads{"  Time", "Result", headOf(page.lblInstSpanLabel)};
+    addHeads(page.zero, heads);
+    addHeads(page.span, heads);
+    table.add(std::move(heads));
+    return table;
+}
+
 void addInjection(const InjectionLabels& labels, Row& row)
 {
-    for (const screen::Label* label : {&labels.refData, &labels.measData, &labels.driftData,
-                                       &labels.limitData, &labels.apsLabel})
-        row.push_back(label->Caption());
+    const std::string& drift = labels.driftData.Caption();
+    const bool isAbove = !drift.empty() && labels.driftData.ForeColor() == screen::color::kRed;
+    row.insert(row.end(), {labels.refData.Caption(), labels.measData.Caption(),
+                           drift + (isAbove ? kAboveLimit : " "), labels.limitData.Caption(),
+                           labels.apsLabel.Caption()});
 }
 
 Row rowOf(ctrl7DayResult& page, const screen::TreeNode& node, const std::string& indent)
 {
     page.tvwCalTimes.Press(node.Key);
-    Row row{node.BackColor == screen::color::kWhite ? "*" : "", indent + node.Text,
+    const bool isUsed = node.BackColor == screen::color::kWhite;
+    Row row{(isUsed ? kUsed : " ") + std::string(" ") + indent + node.Text,
             legendOf(page, node.Image)};
+    // An entry without a calibration of its own has no details, and its words may run on.
+    if (page.lblCalTimeData.Caption().empty())
+        return row;
     row.push_back(page.lblInstSpanData.Caption());
     addInjection(page.zero, row);
     addInjection(page.span, row);
     return row;
 }
 
-std::vector<Row> rowsOf(ctrl7DayResult& page)
+void printTree(ctrl7DayResult& page, std::ostream& out)
 {
-    std::vector<Row> rows{headRow()};
+    TextTable table = tableFor(page);
     for (const auto& node : page.tvwCalTimes.Nodes()) {
-        rows.push_back(rowOf(page, *node, ""));
+        table.add(rowOf(page, *node, ""));
         for (const auto& child : node->Children)
-            rows.push_back(rowOf(page, *child, "  "));
+            table.add(rowOf(page, *child, "  "));
     }
-    return rows;
-}
-
-std::vector<std::size_t> widthsOf(const std::vector<Row>& rows)
-{
-    std::vector<std::size_t> widths(rows.front().size());
-    for (const auto& row : rows) {
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], row[i].size());
-    }
-    return widths;
-}
-
-void printRow(const Row& row, const std::vector<std::size_t>& widths, std::ostream& out)
-{
-    std::ostringstream line;
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        line << (i < kFirstFigure ? std::left : std::right)
-             << std::setw(static_cast<int>(widths[i])) << row[i] << (i == 0 ? " " : "  ");
-    }
-    out << trimRight(line.str()) << '\n';
+    table.print(out);
+    out << "\n* used in the drift test   ! drift above its limit\n";
 }
 
 } // namespace
@@ -101,10 +110,10 @@ void printResults(ctrl7DayResult& page, std::ostream& out)
     if (!page.lblSummary.Caption().empty())
         out << replaceAll(page.lblSummary.Caption(), "\r\n", "\n") << '\n';
     out << '\n';
-    const auto rows = rowsOf(page);
-    const auto widths = widthsOf(rows);
-    for (const auto& row : rows)
-        printRow(row, widths, out);
+    if (page.tvwCalTimes.Find(kNothingToShow) != nullptr)
+        out << kNothingToShow << '\n';
+    else
+        printTree(page, out);
 }
 
 } // namespace k7deval::cli

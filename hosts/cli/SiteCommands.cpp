@@ -1,14 +1,14 @@
 #include "cli/Commands.h"
-#include "cli/UsageError.h"
-#include "foundation/Clock.h"
+#include "cli/ConsoleHost.h"
+#include "cli/OpenSite.h"
+#include "cli/OperatorActions.h"
 #include "foundation/FileFunctions.h"
 #include "sevenday/ctrl7Day.h"
 #include "sitedb/Import.h"
-#include "sitedb/SiteDatabase.h"
-
-#include "cli/ConsoleHost.h"
+#include "sitedb/SourceFile.h"
 
 #include <ostream>
+#include <system_error>
 
 namespace k7deval::cli
 {
@@ -22,66 +22,93 @@ void printLines(const std::vector<std::string>& lines, const char* indent, std::
         out << indent << line << '\n';
 }
 
-void printReport(const std::string& file, const sitedb::ImportReport& report, const Output& output)
+void printReport(const std::string& file, const sitedb::ImportReport& report, std::ostream& out)
 {
-    std::string counts;
-    for (const auto& count : report.counts)
-        counts += (counts.empty() ? "" : ", ") + count;
-    output.out << filePath(file).filename().string() << " (" << report.format << "): " << counts
-               << '\n';
-    printLines(report.steppedOver, "  stepped over: ", output.out);
-    printLines(report.leftOut, "  left out: ", output.out);
+    out << sitedb::utf8Text(filePath(file).filename()) << " (" << report.format
+        << "): " << listed(report.counts) << '\n';
+    printLines(report.steppedOver, "  stepped over: ", out);
+    printLines(report.leftOut, "  left out: ", out);
+}
+
+/// Takes a site away again that was made for an import which then took nothing.
+class NewSite
+{
+public:
+    explicit NewSite(const std::string& site) : path_(filePath(site))
+    {
+        std::error_code ignored;
+        keep_ = std::filesystem::exists(path_, ignored);
+    }
+    NewSite(const NewSite&) = delete;
+    NewSite& operator=(const NewSite&) = delete;
+    ~NewSite()
+    {
+        std::error_code ignored;
+        if (!keep_)
+            std::filesystem::remove(path_, ignored);
+    }
+
+    void keep() { keep_ = true; }
+
+private:
+    std::filesystem::path path_;
+    bool keep_ = false;
+};
+
+void printAnalyzers(const ctrl7DaySetUp& page, std::ostream& out)
+{
+    for (const auto& analyzer : page.cmbAnalyzer.List())
+        out << page.cmbUnit.Text() << '\t' << analyzer << '\n';
 }
 
 } // namespace
 
-Status runImport(const ImportRequest& request, const Output& output)
+Status runImport(const ImportRequest& request, const Console& console)
 {
-    auto site = sitedb::SiteDatabase::open(filePath(request.site), sitedb::OpenMode::ReadWrite);
-    if (!request.facility.empty())
-        site.setFacilityName(request.facility);
+    if (request.files.empty() && request.facility.empty())
+        throw UsageError("There is nothing to import; name a file, or the facility by --facility.");
+    NewSite newSite(request.site);
+    auto site = openSite(request.site, sitedb::OpenMode::ReadWrite);
     sitedb::ImportOptions options;
     options.unit = request.unit;
     options.leaveOutUnreadable = request.leaveOutUnreadable;
-    options.time = SystemClock().now();
-    for (const auto& file : request.files)
-        printReport(file, sitedb::importFile(site, filePath(file), options), output);
-    return Status::Done;
-}
-
-Status runUnits(const std::string& site, const Output& output)
-{
-    const auto server =
-        sitedb::SiteDatabase::open(filePath(site), sitedb::OpenMode::ReadOnly).server();
-    for (const auto& unit : server->Units())
-        output.out << unit->Name(0) << '\n';
-    return Status::Done;
-}
-
-Status runAnalyzers(const std::string& site, const std::string& unit, const Output& output)
-{
-    const auto server =
-        sitedb::SiteDatabase::open(filePath(site), sitedb::OpenMode::ReadOnly).server();
-    const SystemClock clock;
-    const RegionalSettings regional;
-    ConsoleServices services(output.notes);
-    ctrl7Day control({services, clock, regional});
-    if (server->Units().empty())
-        return Status::Done;
-    control.Setup(nullptr, server);
-    screen::ComboBox& units = control.ctrl7DaySetUp1.cmbUnit;
-    const screen::ComboBox& analyzers = control.ctrl7DaySetUp1.cmbAnalyzer;
-    bool found = unit.empty();
-    for (std::int32_t i = 0; i < units.ListCount(); ++i) {
-        units.Pick(i);
-        if (!unit.empty() && units.Text() != unit)
-            continue;
-        found = true;
-        for (const auto& analyzer : analyzers.List())
-            output.out << units.Text() << '\t' << analyzer << '\n';
+    options.time = console.clock.now();
+    for (const auto& file : request.files) {
+        printReport(file, sitedb::importFile(site, filePath(file), options), console.out);
+        newSite.keep();
     }
-    if (!found)
-        throw UsageError("There is no unit \"" + unit + "\" in the site.");
+    if (!request.facility.empty())
+        site.setFacilityName(request.facility);
+    newSite.keep();
+    return Status::Done;
+}
+
+Status runUnits(const std::string& site, const Console& console)
+{
+    const auto server = readSite(site);
+    requireUnits(*server);
+    for (const auto& unit : server->Units())
+        console.out << unit->Name(0) << '\n';
+    return Status::Done;
+}
+
+Status runAnalyzers(const std::string& site, const std::string& unit, const Console& console)
+{
+    const auto server = readSite(site);
+    requireUnits(*server);
+    const RegionalSettings regional;
+    ConsoleServices services(console.notes);
+    ctrl7Day control({services, console.clock, regional});
+    const auto posted = std::make_shared<PostedLines>();
+    control.Setup(posted, server);
+    ctrl7DaySetUp& page = control.ctrl7DaySetUp1;
+    // The setup page has the analyzers of the first unit already.
+    posted->lines.clear();
+    for (const auto& listedUnit : unit.empty() ? page.cmbUnit.List() : std::vector{unit}) {
+        pick(page.cmbUnit, listedUnit, "There is no unit " + inQuotes(listedUnit));
+        printAnalyzers(page, console.out);
+    }
+    printLines(posted->lines, "", console.notes);
     return Status::Done;
 }
 

@@ -1,0 +1,194 @@
+#include "cli/CommandLine.h"
+
+#include "cli/Texts.h"
+#include "cli/UsageError.h"
+
+#include <optional>
+#include <vector>
+
+namespace k7deval::cli
+{
+
+namespace
+{
+
+CLI::Option* addText(CLI::App& command, const std::string& name, std::string& text,
+                     const std::string& help)
+{
+    return command.add_option(name, text, help)->check([](const std::string& given) {
+        return given.empty() ? std::string("the text is empty") : std::string();
+    });
+}
+
+void addSite(CLI::App& command, std::string& site)
+{
+    addText(command, "--site", site, "The site database, one file")->required();
+}
+
+/// A pair of flags such as --aps and --no-aps; neither leaves the screen's proposal.
+void addChoice(CLI::App& command, const std::string& name, std::optional<bool>& choice,
+               const std::string& help)
+{
+    command.add_flag_callback(
+        "--" + name, [&choice] { choice = true; }, help);
+    command.add_flag_callback(
+        "--no-" + name, [&choice] { choice = false; }, "The opposite of --" + name);
+}
+
+/// An option with no value or with several of them.
+std::string mismatchOf(const std::string& text)
+{
+    const std::string option = text.substr(0, text.find(':'));
+    return option + (text.ends_with("missing") ? " needs a text behind it" : " is given twice");
+}
+
+/// The command that was named on the command line, or nothing.
+const CLI::App* namedCommand(const CLI::App& app)
+{
+    const auto named = app.get_subcommands();
+    return named.empty() ? nullptr : named.front();
+}
+
+} // namespace
+
+CommandLine::CommandLine()
+    : app_("Evaluation of continuous emissions monitoring data under 40 CFR 75 and 60", "k7deval")
+{
+    app_.require_subcommand(0, 1);
+    addImport();
+    addUnits();
+    addAnalyzers();
+    addDrift();
+    addRound();
+}
+
+void CommandLine::addImport()
+{
+    CLI::App& command =
+        *app_.add_subcommand("import", "Take EPA files into a site: QA files (JSON), span tables "
+                                       "and hourly load (CSV, plain or gzip)");
+    addSite(command, import_.site);
+    addText(command, "--unit", import_.unit, "The unit that hourly load belongs to");
+    addText(command, "--facility", import_.facility, "Name of the facility, for the reports");
+    command.add_flag("--leave-out", import_.leaveOutUnreadable,
+                     "Leave out single injections that can't be read, and list them");
+    command.add_option("files", import_.files, "The files");
+    command.callback([this] {
+        command_ = [this](const Console& console) { return runImport(import_, console); };
+    });
+}
+
+void CommandLine::addUnits()
+{
+    CLI::App& command = *app_.add_subcommand("units", "List the units of a site");
+    addSite(command, site_);
+    command.callback(
+        [this] { command_ = [this](const Console& console) { return runUnits(site_, console); }; });
+}
+
+void CommandLine::addAnalyzers()
+{
+    CLI::App& command =
+        *app_.add_subcommand("analyzers", "List the analyzers of a site, or of one unit");
+    addSite(command, site_);
+    addText(command, "--unit", unit_, "The unit");
+    command.callback([this] {
+        command_ = [this](const Console& console) { return runAnalyzers(site_, unit_, console); };
+    });
+}
+
+void CommandLine::addDrift()
+{
+    CLI::App& command = *app_.add_subcommand("drift", "Evaluate a 7-Day drift test");
+    addSite(command, drift_.site);
+    addSetUp(command);
+    addTestInformation(command);
+    addText(command, "--region", drift_.region,
+            "How dates and numbers are written: en-US, en-GB, de-DE or fr-FR");
+    addText(command, "--pdf", drift_.pdf, "Save the report to this file, in place of one there");
+    addText(command, "--xml", drift_.xml,
+            "Save the ECMPS export to this file, in place of one there");
+    command.add_flag("--json", drift_.json,
+                     "Print the whole screen and the state of the test as JSON");
+    command.add_flag("--check", drift_.check, "End with status 1 when the test is not passed");
+    command.callback([this] {
+        command_ = [this](const Console& console) { return runDrift(drift_, console); };
+    });
+}
+
+void CommandLine::addSetUp(CLI::App& command)
+{
+    DriftOptions& options = drift_.options;
+    addText(command, "--unit", options.unit, "The unit; the first of the site if not given");
+    addText(command, "--analyzer", options.analyzer, "The analyzer; the unit's first if not given");
+    addText(command, "--from", options.from, "First day of the interval; a month ago if not given");
+    addText(command, "--to", options.to, "Last day of the interval; today if not given");
+    addText(command, "--specification", options.specification,
+            "2.5-span, 5-span, 0.5-absolute, other-span, other-absolute or ps9; "
+            "the analyzer's own if not given");
+    addText(command, "--limit", options.limit,
+            "Limit of the specification other-span (%) or other-absolute, which takes 5 instead "
+            "while the analyzer has APS of 5 checked (see --no-aps)");
+    addChoice(command, "aps", options.aps, "Use APS of 5 if appropriate");
+    addChoice(command, "six-of-seven", options.sixOfSeven, "6 of 7 calibration days passed");
+    addChoice(command, "manual", options.manualCals, "Include manual cals");
+    addChoice(command, "summary", options.summary, "Show the drift test summary");
+    addText(command, "--show", options.show,
+            "Calibrations to show: interval, test-end or test-only");
+}
+
+void CommandLine::addTestInformation(CLI::App& command)
+{
+    DriftOptions& options = drift_.options;
+    addText(command, "--oris", options.oris, "Test information: ORISPL code");
+    addText(command, "--stack", options.stack, "Test information: unit or stack identifier");
+    addText(command, "--component", options.component, "Test information: component identifier");
+    addText(command, "--reason", options.reason,
+            "Test information: initial, recertification or diagnostic");
+    addText(command, "--test-number", options.testNumber, "Test information: test number");
+}
+
+void CommandLine::addRound()
+{
+    CLI::App& command = *app_.add_subcommand(
+        "round",
+        "Evaluate all drift tests of a table, one line each, and save their reports and exports");
+    addSite(command, round_.site);
+    addText(command, "--tests", round_.tests, "The table of tests (CSV)")->required();
+    addText(command, "--out", round_.out, "The folder for PDF and XML files")->required();
+    command.callback([this] {
+        command_ = [this](const Console& console) { return runRound(round_, console); };
+    });
+}
+
+Status CommandLine::run(int argc, const char* const* argv, const Console& console)
+{
+    try {
+        app_.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        app_.exit(help, console.out, console.notes);
+        return Status::Done;
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(sentenceOf(error));
+    }
+    if (!command_)
+        throw UsageError("A command is missing; see k7deval --help.");
+    return command_(console);
+}
+
+std::string CommandLine::sentenceOf(const CLI::ParseError& error) const
+{
+    const CLI::App* command = namedCommand(app_);
+    const std::string help =
+        "; see k7deval " + (command == nullptr ? "" : command->get_name() + " ") + "--help.";
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
+        return mismatchOf(error.what()) + help;
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) == nullptr)
+        return error.what() + help;
+    const std::string extra = inQuotes(app_.remaining(true).front());
+    if (command == nullptr)
+        return "There is no command " + extra + help;
+    return "k7deval " + command->get_name() + " does not take " + extra + help;
+}
+
+} // namespace k7deval::cli

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace k7deval::cli
+{
+
+/// A line that the 7-Day tool posted, as the reason in a sentence: what a user can see to, as far
+/// as it is known, and the line itself in parentheses.
+std::string asReason(const std::string& line);
+
+} // namespace k7deval::cli

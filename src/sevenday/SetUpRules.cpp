@@ -88,8 +88,9 @@ void ctrl7DaySetUp::listAnalyzer(DIParameter& parameter)
     if (name.empty())
         return;
     if (!isListed) {
-        calibrationPIDs_.push_back(parameter.PID());
+        calibrationPIDs_.push_back(0);
         cmbAnalyzer.AddItem(name, static_cast<std::int32_t>(calibrationPIDs_.size()));
+        calibrationPIDs_.back() = parameter.PID();
         return;
     }
     // A second parameter of the name takes the place of the analyzer listed last, if it knows its

@@ -48,7 +48,6 @@ private:
     enum class Page { SetUp = 1, Result = 2 };
 
     void SwitchPage(Page page);
-    void showOnly(Page page);
     void evaluate();
     void ReadSetup();
     void fillDisplay();

@@ -125,7 +125,8 @@ void ctrl7DayResult::showDay(const clsDaySummary& day)
 void ctrl7DayResult::showSeveralRuns(const clsDaySummary& day)
 {
     const std::string dayText = ShortDate(day.TStamp, *regional_);
-    screen::TreeNode& dayNode = tvwCalTimes.AddRoot({dayText, dayText, {}, {}, {}, {}});
+    screen::TreeNode& dayNode =
+        tvwCalTimes.AddRoot({dayText, dayText, {}, screen::color::kWindow, {}, {}});
     bool noneFailed = true;
     for (const auto& run : day.DisplayedCals.items()) {
         tvwCalTimes.AddChild(dayText, runNode(run));

@@ -61,8 +61,10 @@ void ctrl7DaySetUp::Setup(std::shared_ptr<MessageSink> irm, std::shared_ptr<DISe
     irm_ = std::move(irm);
     server_ = std::move(objDI);
     cmbUnit.Clear();
-    for (const auto& unit : present(server_).Units())
-        cmbUnit.AddItem(present(unit).Name(0), unit->PID());
+    for (const auto& unit : present(server_).Units()) {
+        const std::string name = present(unit).Name(0);
+        cmbUnit.AddItem(name, unit->PID());
+    }
     cmbUnit.SetListIndex(0);
 }
 
@@ -96,11 +98,11 @@ std::string ctrl7DaySetUp::AnalyzedScale() const
 std::string ctrl7DaySetUp::AnalyzedPrecision() const
 {
     const std::string format = "0.000000";
-    const std::int32_t length =
-        toInt32(selectedAttribute(attribute::kDecimals), surroundings_.regional) + 2;
-    if (length < 0)
+    const std::int64_t decimals =
+        toInt32(selectedAttribute(attribute::kDecimals), surroundings_.regional);
+    if (decimals < -2)
         throw Error(errors::kInvalidCall);
-    return format.substr(0, static_cast<std::size_t>(length));
+    return format.substr(0, static_cast<std::size_t>(decimals + 2));
 }
 
 Date ctrl7DaySetUp::StartDate() const

@@ -2,11 +2,20 @@
 
 #include "foundation/Error.h"
 
+#include <stdexcept>
+
 namespace k7deval::test
 {
 
 namespace
 {
+
+/// The constant arguments of a call are part of what a host is promised.
+void insistOn(bool promise, const char* what)
+{
+    if (!promise)
+        throw std::logic_error(what);
+}
 
 void failIf(const std::optional<Error>& error)
 {
@@ -36,17 +45,20 @@ screen::MsgBoxAnswer FakeServices::MsgBox(const screen::MsgBoxRequest& request)
     return answer;
 }
 
-std::optional<Date> FakeServices::PickDate(const std::string& title, Date date, std::int32_t /*a*/,
-                                           std::int32_t /*b*/, std::int32_t /*c*/)
+std::optional<Date> FakeServices::PickDate(const std::string& title, Date date, std::int32_t a,
+                                           std::int32_t b, std::int32_t c)
 {
+    insistOn(a == -1 && b == -1 && c == -1, "PickDate is called with -1, -1, -1");
+    failIf(dateError);
     dateRequests.emplace_back(title, date);
     return dateAnswer;
 }
 
-void FakeServices::OpenDocument(const std::string& path, std::int32_t /*a*/,
-                                std::int32_t /*ownerWindow*/, std::int32_t /*b*/,
-                                std::int32_t /*showCommand*/)
+void FakeServices::OpenDocument(const std::string& path, std::int32_t a,
+                                std::int32_t /*ownerWindow*/, std::int32_t b,
+                                std::int32_t showCommand)
 {
+    insistOn(a == 0 && b == 0 && showCommand == 1, "OpenDocument is called with 0, 0 and 1");
     opened.push_back(path);
     failIf(openError);
 }

@@ -29,6 +29,7 @@ public:
         answers; ///< To message boxes, in turn; OK when there is none left.
     std::optional<Error> msgBoxError;
     std::optional<Date> dateAnswer;
+    std::optional<Error> dateError;
     std::optional<Error> openError;
 
     std::vector<std::string> filters;

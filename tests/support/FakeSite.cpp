@@ -1,6 +1,7 @@
 #include "support/FakeSite.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace k7deval::test
 {
@@ -9,6 +10,13 @@ namespace
 {
 
 using Site = std::shared_ptr<SiteData>;
+
+/// The constant arguments of a call are part of what the data interface asks for.
+void insistOn(bool promise, const char* what)
+{
+    if (!promise)
+        throw std::logic_error(what);
+}
 
 std::string called(const char* member, std::int32_t argument)
 {
@@ -25,8 +33,9 @@ public:
         site_->noteCall("DIParameter.PID");
         return pid_;
     }
-    std::string Name(std::int32_t /*form*/) override
+    std::string Name(std::int32_t form) override
     {
+        insistOn(form == 0, "Name is called with 0");
         site_->noteCall("DIParameter.Name");
         return data().name;
     }
@@ -112,8 +121,9 @@ public:
         site_->noteCall("DIParameters.Exists");
         return site_->has(pid);
     }
-    std::shared_ptr<DIParameter> Item(PID pid, std::int32_t /*form*/) override
+    std::shared_ptr<DIParameter> Item(PID pid, std::int32_t form) override
     {
+        insistOn(form == -1, "Item is called with -1");
         site_->noteCall("DIParameters.Item");
         if (!site_->has(pid))
             throw Error(errors::kInvalidCall);

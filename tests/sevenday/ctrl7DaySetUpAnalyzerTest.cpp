@@ -1,0 +1,232 @@
+#include "foundation/ExpectError.h"
+#include "sevenday/SetUpBench.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+/// What follows from the pick of an analyzer.
+namespace k7deval::test
+{
+
+namespace
+{
+
+AnalyzerFacts withCode(std::int32_t code, std::int32_t program)
+{
+    AnalyzerFacts facts;
+    facts.code = code;
+    facts.program = program;
+    return facts;
+}
+
+std::string selectedSpecification(const ctrl7DaySetUp& page)
+{
+    std::string selected;
+    for (const screen::OptionButton* option :
+         {&page.opt025Span, &page.opt05Span, &page.opt005Absolute, &page.optOtherSpan,
+          &page.optOtherAbsolute, &page.optPS9GC})
+        selected += option->isSelected() ? option->Name() : "";
+    return selected;
+}
+
+} // namespace
+
+struct CodeCase {
+    std::int32_t code;
+    const char* option;
+    bool sixOfSeven;
+    bool isPpm;
+};
+
+// By parameter code: the gases with a specification of their own, and the rest.
+constexpr CodeCase kCodes[] = {
+    {99, "optOtherSpan", false, false},    {100, "opt025Span", false, true},
+    {101, "optOtherSpan", false, false},   {110, "opt025Span", false, true},
+    {120, "opt025Span", false, true},      {121, "optOtherSpan", false, false},
+    {140, "opt05Span", true, false},       {145, "opt05Span", true, false},
+    {141, "optOtherSpan", false, false},   {150, "optOtherSpan", false, false},
+    {220, "opt005Absolute", false, false}, {240, "opt005Absolute", false, false},
+    {243, "opt005Absolute", false, false}, {230, "optOtherSpan", false, false},
+    {233, "optOtherSpan", false, false},   {241, "optOtherSpan", false, false},
+    {245, "optOtherSpan", false, false},   {260, "optOtherSpan", false, false},
+    {680, "optOtherSpan", false, false},
+};
+
+class SetUpAnalyzerOfCode : public ::testing::TestWithParam<CodeCase>
+{
+};
+
+TEST_P(SetUpAnalyzerOfCode, GetsItsSpecification)
+{
+    for (const std::int32_t program : {75, 60}) {
+        SetUpBench bench(siteOf(withCode(GetParam().code, program)));
+        bench.setup();
+        EXPECT_EQ(selectedSpecification(bench.page), GetParam().option);
+        EXPECT_EQ(bench.page.SixOfSevenCals(), GetParam().sixOfSeven);
+        EXPECT_EQ(bench.page.chkUseAPS.isChecked(), GetParam().isPpm && program == 75);
+        EXPECT_EQ(bench.page.Is40CFR75(), program == 75);
+        EXPECT_EQ(bench.page.fraTestInfo.Visible(), program == 75);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, SetUpAnalyzerOfCode, ::testing::ValuesIn(kCodes),
+                         [](const auto& tested) { return std::to_string(tested.param.code); });
+
+TEST(SetUpAnalyzer, APickTakesBackWhatTheUserChose)
+{
+    SetUpBench bench;
+    auto& page = bench.setup().page;
+    page.optOtherSpan.Press();
+    page.chk6of7.Press();
+    page.chkUseAPS.SetChecked(false);
+    page.cmbAnalyzer.Pick(0);
+    EXPECT_EQ(selectedSpecification(page), "opt025Span");
+    EXPECT_FALSE(page.chk6of7.isChecked());
+    EXPECT_TRUE(page.chkUseAPS.isChecked());
+    EXPECT_TRUE(page.chkUseAPS.Enabled());
+}
+
+TEST(SetUpAnalyzer, TheOptionRuleRunsWithThePick)
+{
+    SetUpBench bench(siteOf(withCode(230, 75)));
+    auto& page = bench.setup().page;
+    EXPECT_FALSE(page.chkUseAPS.Enabled());
+    EXPECT_TRUE(page.txtOtherSpanValue.Enabled());
+    EXPECT_EQ(page.txtOtherSpanValue.Text(), "3");
+}
+
+TEST(SetUpAnalyzer, ACheckedAPSIsClearedForAnAnalyzerThatHasNone)
+{
+    SetUpBench bench;
+    AnalyzerFacts co = withCode(140, 75);
+    co.name = "CO";
+    addAnalyzer(*bench.site, co);
+    auto& page = bench.setup().page;
+    EXPECT_TRUE(page.chkUseAPS.isChecked());
+    page.cmbAnalyzer.Pick(1);
+    EXPECT_FALSE(page.chkUseAPS.isChecked());
+    EXPECT_FALSE(page.chkUseAPS.Enabled());
+}
+
+struct TestNumberCase {
+    const char* what;
+    const char* base;
+    const char* scale;
+    const char* component;
+    const char* expected;
+};
+
+constexpr TestNumberCase kTestNumbers[] = {
+    {"high scale", "NOX", "HIGH", "101", "NOXH_101_7DAY"},
+    {"mid scale", "NOX", "MID", "101", "NOXM_101_7DAY"},
+    {"low scale", "NOX", "LOW", "101", "NOXL_101_7DAY"},
+    {"single scale", "NOX", "SINGLE", "101", "NOX_101_7DAY"},
+    {"a scale in lower case", "NOX", "high", "101", "NOX_101_7DAY"},
+    {"dry oxygen", "O2DRY", "SINGLE", "102", "O2_102_7DAY"},
+    {"dry oxygen on a scale", "O2DRY", "HIGH", "102", "O2H_102_7DAY"},
+    {"every dry oxygen", "O2DRY-O2DRY", "SINGLE", "102", "O2-O2_102_7DAY"},
+    {"lower case is not dry oxygen", "O2dry", "SINGLE", "102", "O2dry_102_7DAY"},
+    {"no component", "NOX", "HIGH", "", "NOXH__7DAY"},
+    {"no base", "", "HIGH", "101", "H_101_7DAY"},
+    {"a component longer than the field", "NOX", "HIGH", "10123", "NOXH_10123_7DAY"},
+};
+
+TEST(SetUpAnalyzer, TheTestNumberIsBuiltOfGasScaleAndComponent)
+{
+    for (const TestNumberCase& row : kTestNumbers) {
+        AnalyzerFacts facts;
+        facts.testNumberBase = std::string(row.base);
+        facts.scale = std::string(row.scale);
+        facts.component = std::string(row.component);
+        SetUpBench bench(siteOf(facts));
+        bench.setup();
+        EXPECT_EQ(bench.page.TestNumber(), row.expected) << row.what;
+        EXPECT_EQ(bench.page.ComponentID(), row.component) << row.what;
+    }
+}
+
+TEST(SetUpAnalyzer, WhatItIsIsReadFromTheCalibrationParameter)
+{
+    AnalyzerFacts facts;
+    facts.scale = std::string("LOW");
+    SetUpBench bench(siteOf(facts));
+    auto& page = bench.setup().page;
+    EXPECT_EQ(page.AnalyzedPID(), facts.measuredPID());
+    EXPECT_EQ(page.AnalyzedScale(), "LOW");
+    EXPECT_EQ(page.AnalyzerInfoText(), "GT3 NOX/L");
+}
+
+TEST(SetUpAnalyzer, WhatItIsIsReadWhenAsked)
+{
+    SetUpBench bench;
+    auto& page = bench.setup().page;
+    bench.site->parameter(AnalyzerFacts().calibrationPID()).attributes[attribute::kScale] =
+        std::string("SINGLE");
+    EXPECT_EQ(page.AnalyzedScale(), "SINGLE");
+}
+
+TEST(SetUpAnalyzer, OneThatIsGoneClearsTheFlagAndKeepsTheAnalyzerBefore)
+{
+    SetUpBench bench;
+    AnalyzerFacts co = withCode(140, 75);
+    co.name = "CO";
+    addAnalyzer(*bench.site, co);
+    auto& page = bench.setup().page;
+    std::erase_if(bench.site->parameters,
+                  [&](const auto& p) { return p.pid == co.calibrationPID(); });
+    EXPECT_EQ(
+        bench.changesBy([&] { page.cmbAnalyzer.Pick(1); }),
+        (Lines{"chk6of7.Value: 0 -> 1", "chkUseAPS.Enabled: True -> False",
+               "chkUseAPS.Value: 1 -> 0", "cmbAnalyzer.ListIndex: 0 -> 1",
+               "cmbAnalyzer.Text: \"NOX/H\" -> \"CO/H\"", "fraTestInfo.Visible: True -> False",
+               "opt025Span.Value: True -> False", "opt05Span.Value: False -> True"}));
+    EXPECT_EQ(page.AnalyzedPID(), AnalyzerFacts().measuredPID());
+    EXPECT_EQ(bench.messages->lines(), Lines());
+}
+
+struct PrecisionCase {
+    std::int32_t decimals;
+    const char* format;
+};
+
+TEST(SetUpAnalyzer, ThePrecisionIsAFormatOfItsDecimals)
+{
+    constexpr PrecisionCase kRows[] = {
+        {-2, ""},        {-1, "0"},       {0, "0."},
+        {1, "0.0"},      {2, "0.00"},     {3, "0.000"},
+        {6, "0.000000"}, {7, "0.000000"}, {2147483647, "0.000000"},
+    };
+    for (const PrecisionCase& row : kRows) {
+        AnalyzerFacts facts;
+        facts.decimals = row.decimals;
+        SetUpBench bench(siteOf(facts));
+        EXPECT_EQ(bench.setup().page.AnalyzedPrecision(), row.format) << row.decimals;
+    }
+}
+
+TEST(SetUpAnalyzer, APrecisionOfLessThanNoCharacterIsAnError)
+{
+    for (const std::int32_t decimals : {-3, std::numeric_limits<std::int32_t>::min()}) {
+        AnalyzerFacts facts;
+        facts.decimals = decimals;
+        SetUpBench bench(siteOf(facts));
+        EXPECT_EQ(errorOf([&] { return bench.setup().page.AnalyzedPrecision(); }), 5) << decimals;
+    }
+}
+
+TEST(SetUpAnalyzer, ANullWhereAValueIsNeededIsAnErrorOfItsReader)
+{
+    AnalyzerFacts facts;
+    SetUpBench bench(siteOf(facts));
+    auto& page = bench.setup().page;
+    auto& attributes = bench.site->parameter(facts.calibrationPID()).attributes;
+    attributes[attribute::kMeasuredPID] = Null{};
+    attributes[attribute::kScale] = Null{};
+    attributes[attribute::kDecimals] = Null{};
+    EXPECT_EQ(errorOf([&] { return page.AnalyzedPID(); }), 94);
+    EXPECT_EQ(errorOf([&] { return page.AnalyzedScale(); }), 94);
+    EXPECT_EQ(errorOf([&] { return page.AnalyzedPrecision(); }), 94);
+}
+
+} // namespace k7deval::test

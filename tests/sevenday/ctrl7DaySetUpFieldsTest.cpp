@@ -1,0 +1,253 @@
+#include "foundation/ExpectError.h"
+#include "sevenday/SetUpBench.h"
+
+#include <gtest/gtest.h>
+
+/// What is typed into the setup page, and the calendar.
+namespace k7deval::test
+{
+
+struct TextCase {
+    const char* what;
+    const char* typed;
+    const char* shown;
+};
+
+// The field takes six characters. Whole numbers are the nearest, halves to even.
+constexpr TextCase kOrisCodes[] = {
+    {"a plain number", "50292", "50292"},
+    {"leading zeros", "00123", "123"},
+    {"zero", "0", "0"},
+    {"the largest", "999999", "999999"},
+    {"longer than the field", "1234567", "123456"},
+    {"decimals", "12.4", "12"},
+    {"a half goes to even below", "12.5", "12"},
+    {"a half goes to even above", "13.5", "14"},
+    {"nearly zero", "-0.4", "0"},
+    {"a half below zero", "-0.5", "0"},
+    {"just above the largest", "1E6", ""},
+    {"an exponent within", "1E5", "100000"},
+    {"below zero", "-1", ""},
+    {"text", "GT3", ""},
+    {"nothing", "", ""},
+    {"a blank", " ", ""},
+    {"group marks", "50,292", "50292"},
+    {"a currency mark", "$5", "5"},
+    {"parentheses", "(5)", ""},
+    {"far above any integer", "9E99", ""},
+    {"far above any number", "9E9999", ""},
+    {"no number", "inf", ""},
+};
+
+TEST(SetUpFields, TheOrisCodeBecomesAPlainNumberOrNothing)
+{
+    for (const TextCase& row : kOrisCodes) {
+        SetUpBench bench;
+        bench.setup();
+        SetUpBench::enter(bench.page.txtORIS, row.typed);
+        EXPECT_EQ(bench.page.txtORIS.Text(), row.shown) << row.what;
+    }
+}
+
+TEST(SetUpFields, AnOrisCodeByCodeIsRefusedAboveSixDigitsWhenTheFieldIsLeft)
+{
+    SetUpBench bench;
+    bench.setup();
+    bench.page.SetOrisCode(1000000);
+    EXPECT_EQ(bench.page.txtORIS.Text(), "1000000");
+    bench.page.txtORIS.Leave();
+    EXPECT_EQ(bench.page.txtORIS.Text(), "");
+}
+
+TEST(SetUpFields, TheOrisCodeIsNotTouchedBeforeTheFieldIsLeft)
+{
+    SetUpBench bench;
+    bench.setup().page.txtORIS.Type("00x");
+    EXPECT_EQ(bench.page.txtORIS.Text(), "00x");
+}
+
+struct LimitTextCase {
+    const char* what;
+    const char* typed;
+    const char* shown; ///< An accepted text stays as it was typed.
+    float limit;
+};
+
+constexpr LimitTextCase kLimitTexts[] = {
+    {"a number", "4", "4", 4},
+    {"decimals", "0.125", "0.125", 0.125F},
+    {"zero", "0", "0", 0},
+    {"below zero", "-2", "-2", -2},
+    {"an exponent", "1.5E1", "1.5E1", 15},
+    {"blanks around", " 6 ", " 6 ", 6},
+    {"more digits than a single holds", "0.123456789", "0.123456789", 0.12345679F},
+    {"the largest single", "3.402823E+38", "3.402823E+38", 3.402823e38F},
+    {"above the largest single", "3.5E38", "8", 8},
+    {"above the largest double", "1E999", "8", 8},
+    {"text", "a lot", "8", 8},
+    {"nothing", "", "8", 8},
+    {"another region's mark", "4,5.", "4,5.", 45},
+    {"two marks", "4.5.6", "8", 8},
+};
+
+class SetUpLimitField : public ::testing::TestWithParam<LimitTextCase>
+{
+};
+
+TEST_P(SetUpLimitField, TakesANumberForTheSpanLimitOrReturnsToTheLastOne)
+{
+    SetUpBench bench;
+    auto& page = bench.page;
+    page.optOtherSpan.Press();
+    SetUpBench::enter(page.txtOtherSpanValue, "8");
+    SetUpBench::enter(page.txtOtherSpanValue, GetParam().typed);
+    EXPECT_EQ(page.txtOtherSpanValue.Text(), GetParam().shown) << GetParam().what;
+    EXPECT_EQ(page.PercentOfSpanLimit(), GetParam().limit) << GetParam().what;
+    EXPECT_EQ(page.AbsoluteLimit(), 5) << "the other limit stays";
+}
+
+TEST_P(SetUpLimitField, TakesANumberForTheAbsoluteLimitOrReturnsToTheLastOne)
+{
+    SetUpBench bench;
+    auto& page = bench.page;
+    page.optOtherAbsolute.Press();
+    SetUpBench::enter(page.txtOtherAbsoluteValue, "8");
+    SetUpBench::enter(page.txtOtherAbsoluteValue, GetParam().typed);
+    EXPECT_EQ(page.txtOtherAbsoluteValue.Text(), GetParam().shown) << GetParam().what;
+    EXPECT_EQ(page.AbsoluteLimit(), GetParam().limit) << GetParam().what;
+    EXPECT_EQ(page.PercentOfSpanLimit(), 3) << "the other limit stays";
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SetUpLimitField, ::testing::ValuesIn(kLimitTexts));
+
+TEST(SetUpFields, ALimitThatIsTypedButNotLeftDoesNotCountYet)
+{
+    SetUpBench bench;
+    bench.page.optOtherSpan.Press();
+    bench.page.txtOtherSpanValue.Type("4");
+    EXPECT_EQ(bench.page.PercentOfSpanLimit(), 3);
+}
+
+TEST(SetUpFields, LimitsAreReadAndShownWithTheRegionsMark)
+{
+    SetUpBench bench(siteOf({}), "de-DE");
+    auto& page = bench.page;
+    page.optOtherSpan.Press();
+    SetUpBench::enter(page.txtOtherSpanValue, "2,5");
+    EXPECT_EQ(page.PercentOfSpanLimit(), 2.5F);
+    SetUpBench::enter(page.txtOtherSpanValue, "x");
+    EXPECT_EQ(page.txtOtherSpanValue.Text(), "2,5");
+}
+
+struct DateCase {
+    const char* what;
+    const char* typed;
+    DateParts date;
+    const char* shown;
+};
+
+// On 10 March 2024, in the region en-US; the field holds 2/10/2024 before.
+const DateCase kDates[] = {
+    {"a date", "3/1/2024", {2024, 3, 1}, "3/1/2024"},
+    {"leading zeros", "03/01/2024", {2024, 3, 1}, "3/1/2024"},
+    {"a date and a time", "3/1/2024 3:05 PM", {2024, 3, 1}, "3/1/2024"},
+    {"the last second of a day", "3/1/2024 23:59:59", {2024, 3, 1}, "3/1/2024"},
+    {"an impossible month", "13/3/2024", {2024, 3, 13}, "3/13/2024"},
+    {"year first", "2024-03-01", {2024, 3, 1}, "3/1/2024"},
+    {"a month's name", "1 March 2024", {2024, 3, 1}, "3/1/2024"},
+    {"a month's short name", "Mar 1, 2024", {2024, 3, 1}, "3/1/2024"},
+    {"no year", "3/1", {2024, 3, 1}, "3/1/2024"},
+    {"a year of two digits in this century", "3/1/29", {2029, 3, 1}, "3/1/2029"},
+    {"a year of two digits in the last", "3/1/30", {1930, 3, 1}, "3/1/1930"},
+    {"a time alone", "3:05 PM", {1899, 12, 30}, "12/30/1899"},
+    {"29 February", "2/29/2024", {2024, 2, 29}, "2/29/2024"},
+    {"29 February of another year", "2/29/2023", {2024, 2, 10}, "2/10/2024"},
+    {"a number", "45361", {2024, 2, 10}, "2/10/2024"},
+    {"text", "yesterday", {2024, 2, 10}, "2/10/2024"},
+    {"nothing", "", {2024, 2, 10}, "2/10/2024"},
+    {"a year too early", "3/1/0099", {2024, 2, 10}, "2/10/2024"},
+    {"a year too late", "3/1/10000", {2024, 2, 10}, "2/10/2024"},
+};
+
+TEST(SetUpFields, ADateIsTakenWithoutItsTimeAndRewrittenOrComesBack)
+{
+    for (const DateCase& row : kDates) {
+        SetUpBench bench;
+        auto& page = bench.page;
+        SetUpBench::enter(page.txtToDate, "12/31/2099");
+        SetUpBench::enter(page.txtFromDate, row.typed);
+        EXPECT_EQ(page.txtFromDate.Text(), row.shown) << row.what;
+        EXPECT_EQ(dateParts(page.StartDate()), row.date) << row.what;
+        EXPECT_EQ(page.StartDate(), dateOnly(page.StartDate())) << row.what;
+    }
+}
+
+TEST(SetUpFields, TheToDateGoesByTheSameRules)
+{
+    SetUpBench bench;
+    auto& page = bench.page;
+    SetUpBench::enter(page.txtToDate, "3/12/2024 08:15");
+    EXPECT_EQ(page.txtToDate.Text(), "3/12/2024");
+    EXPECT_EQ(page.EndDate(), makeDate(2024, 3, 12));
+    SetUpBench::enter(page.txtToDate, "soon");
+    EXPECT_EQ(page.txtToDate.Text(), "3/12/2024");
+    EXPECT_EQ(page.StartDate(), makeDate(2024, 2, 10)) << "the from date stays";
+}
+
+TEST(SetUpFields, AFromDateAfterTheToDateGivesTheSameInterval)
+{
+    SetUpBench bench;
+    auto& page = bench.page;
+    SetUpBench::enter(page.txtFromDate, "3/10/2024");
+    SetUpBench::enter(page.txtToDate, "2/10/2024");
+    EXPECT_EQ(page.StartDate(), makeDate(2024, 2, 10));
+    EXPECT_EQ(page.EndDate(), makeDate(2024, 3, 10));
+}
+
+TEST(SetUpFields, ADateOfAnotherRegionIsReadInItsOrder)
+{
+    SetUpBench bench(siteOf({}), "de-DE");
+    SetUpBench::enter(bench.page.txtFromDate, "1.3.2024");
+    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 3, 1));
+    EXPECT_EQ(bench.page.txtFromDate.Text(), "01.03.2024");
+}
+
+TEST(SetUpCalendar, IsShownAtTheDateAndItsAnswerTaken)
+{
+    SetUpBench bench;
+    bench.services.dateAnswer = makeDate(2024, 1, 5);
+    EXPECT_EQ(bench.changesBy([&] { bench.page.cmdFromDate.Press(); }),
+              Lines{"txtFromDate.Text: \"2/10/2024\" -> \"1/5/2024\""});
+    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 1, 5));
+    bench.services.dateAnswer = makeDate(2024, 4, 6);
+    EXPECT_EQ(bench.changesBy([&] { bench.page.cmdToDate.Press(); }),
+              Lines{"txtToDate.Text: \"3/10/2024\" -> \"4/6/2024\""});
+    EXPECT_EQ(bench.page.EndDate(), makeDate(2024, 4, 6));
+    EXPECT_EQ(bench.services.dateRequests,
+              (std::vector<std::pair<std::string, Date>>{{"7-Day Drift", makeDate(2024, 2, 10)},
+                                                         {"7-Day Drift", makeDate(2024, 3, 10)}}));
+}
+
+TEST(SetUpCalendar, WithoutAnAnswerTheDateStays)
+{
+    SetUpBench bench;
+    EXPECT_EQ(bench.changesBy([&] {
+        bench.page.cmdFromDate.Press();
+        bench.page.cmdToDate.Press();
+    }),
+              Lines());
+    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 2, 10));
+    EXPECT_EQ(bench.page.EndDate(), makeDate(2024, 3, 10));
+}
+
+TEST(SetUpCalendar, AFailingCalendarReachesTheHost)
+{
+    SetUpBench bench;
+    bench.setup();
+    bench.services.dateError = Error(errors::kAutomation);
+    EXPECT_EQ(errorOf([&] { return bench.page.cmdFromDate.Press(), 0; }), 440);
+    EXPECT_EQ(bench.messages->lines(), Lines());
+    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 2, 10));
+}
+
+} // namespace k7deval::test

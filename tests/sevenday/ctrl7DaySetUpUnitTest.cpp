@@ -1,0 +1,234 @@
+#include "sevenday/SetUpBench.h"
+
+#include <gtest/gtest.h>
+
+/// What follows from the pick of a unit.
+namespace k7deval::test
+{
+
+namespace
+{
+
+AnalyzerFacts analyzer(const std::string& name, const Variant& scale, std::int32_t suffix = 1,
+                       const Variant& component = std::string("101"))
+{
+    AnalyzerFacts facts;
+    facts.name = name;
+    facts.scale = scale;
+    facts.suffix = suffix;
+    facts.component = component;
+    return facts;
+}
+
+std::shared_ptr<SiteData> siteWith(const std::vector<AnalyzerFacts>& analyzers)
+{
+    auto site = siteOfUnits();
+    for (const AnalyzerFacts& facts : analyzers)
+        addAnalyzer(*site, facts);
+    return site;
+}
+
+/// The analyzers that the list shows of a site.
+Lines listOf(const std::vector<AnalyzerFacts>& analyzers)
+{
+    SetUpBench bench(siteWith(analyzers));
+    bench.setup();
+    EXPECT_EQ(bench.messages->lines(), Lines());
+    return bench.page.cmbAnalyzer.List();
+}
+
+const Variant kHigh = std::string("HIGH");
+
+/// The PID of the analyzer that stands behind the first entry: the selected parameter's measured
+/// PID tells which of several calibration parameters of one name it is.
+PID measuredPIDOfEntry(SetUpBench& bench, std::int32_t entry)
+{
+    bench.page.cmbAnalyzer.Pick(entry);
+    return bench.page.AnalyzedPID();
+}
+
+} // namespace
+
+struct ScaleCase {
+    const char* what;
+    Variant scale;
+    const char* name;
+};
+
+TEST(SetUpUnit, TheScaleIsAppendedToTheNameOfTheAnalyzer)
+{
+    const ScaleCase rows[] = {
+        {"low", std::string("LOW"), "NOX/L"},   {"mid", std::string("MID"), "NOX/M"},
+        {"high", std::string("HIGH"), "NOX/H"}, {"single", std::string("SINGLE"), "NOX"},
+        {"empty", std::string(), "NOX"},        {"lower case", std::string("low"), "NOX"},
+        {"padded", std::string("LOW "), "NOX"}, {"Null", Null{}, "NOX"},
+    };
+    for (const ScaleCase& row : rows) {
+        SetUpBench bench(siteOf(analyzer("NOX", row.scale)));
+        bench.setup();
+        EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{row.name}) << row.what;
+    }
+}
+
+TEST(SetUpUnit, ListsTheCalibrationParametersOfTheUnitInTheirOrder)
+{
+    AnalyzerFacts ofOtherUnit = analyzer("SO2", kHigh);
+    ofOtherUnit.unit = 2;
+    EXPECT_EQ(listOf({analyzer("O2", kHigh), ofOtherUnit, analyzer("CO", kHigh, 2),
+                      analyzer("NOX", std::string("SINGLE"), 3)}),
+              (Lines{"O2/H", "CO/H", "NOX"}));
+}
+
+TEST(SetUpUnit, AsksForTheParametersOfTypeThreeOnly)
+{
+    auto site = siteOf({});
+    ParameterData other = site->parameter(AnalyzerFacts().calibrationPID());
+    other.pid = MakePID(1, 120, 0, 75, 9);
+    other.type = 4;
+    other.attributes[attribute::kScale] = std::string("LOW");
+    site->parameters.push_back(other);
+    SetUpBench bench(site);
+    bench.setup();
+    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{"NOX/H"});
+}
+
+TEST(SetUpUnit, LeavesOutWhatIsNoCalibration)
+{
+    AnalyzerFacts other = analyzer("CO", kHigh, 2);
+    AnalyzerFacts unconfigured = analyzer("SO2", kHigh, 3);
+    other.table = std::string("K7CALX");
+    unconfigured.table = Null{};
+    EXPECT_EQ(listOf({other, unconfigured, analyzer("NOX", kHigh)}), Lines{"NOX/H"});
+}
+
+TEST(SetUpUnit, LeavesOutWhatIsMarkedSoAndListsWhatIsNotConfigured)
+{
+    AnalyzerFacts leftOut = analyzer("CO", kHigh, 2);
+    AnalyzerFacts unconfigured = analyzer("SO2", kHigh, 3);
+    leftOut.leftOut = true;
+    unconfigured.leftOut = Null{};
+    EXPECT_EQ(listOf({leftOut, unconfigured, analyzer("NOX", kHigh)}), (Lines{"SO2/H", "NOX/H"}));
+}
+
+TEST(SetUpUnit, PassesOverAnAnalyzerWithoutAName)
+{
+    EXPECT_EQ(listOf({analyzer("", std::string("SINGLE")), analyzer("NOX", kHigh, 2)}),
+              Lines{"NOX/H"});
+}
+
+TEST(SetUpUnit, AScaleAloneIsAName)
+{
+    EXPECT_EQ(listOf({analyzer("", kHigh)}), Lines{"/H"});
+}
+
+TEST(SetUpUnit, TellsNamesApartByCase)
+{
+    EXPECT_EQ(listOf({analyzer("NOX", kHigh), analyzer("NOx", kHigh, 2)}),
+              (Lines{"NOX/H", "NOx/H"}));
+}
+
+TEST(SetUpUnit, OfTwoOfOneNameTheLaterOneWithAComponentReplacesTheFirst)
+{
+    const AnalyzerFacts later = analyzer("NOX", kHigh, 2);
+    SetUpBench bench(siteWith({analyzer("NOX", kHigh), later}));
+    bench.setup();
+    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{"NOX/H"});
+    EXPECT_EQ(measuredPIDOfEntry(bench, 0), later.measuredPID());
+}
+
+TEST(SetUpUnit, OfTwoOfOneNameTheLaterOneWithoutAComponentIsPassedOver)
+{
+    const AnalyzerFacts first = analyzer("NOX", kHigh);
+    const Variant without[] = {std::string(), Null{}, Empty{}};
+    for (const Variant& component : without) {
+        SetUpBench bench(siteWith({first, analyzer("NOX", kHigh, 2, component)}));
+        bench.setup();
+        EXPECT_EQ(measuredPIDOfEntry(bench, 0), first.measuredPID());
+    }
+}
+
+TEST(SetUpUnit, TheLaterOneReplacesTheAnalyzerListedLastAndNotItsNamesake)
+{
+    const AnalyzerFacts nox = analyzer("NOX", kHigh);
+    const AnalyzerFacts secondNox = analyzer("NOX", kHigh, 3);
+    SetUpBench bench(siteWith({nox, analyzer("CO", kHigh, 2), secondNox}));
+    bench.setup();
+    EXPECT_EQ(bench.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
+    EXPECT_EQ(measuredPIDOfEntry(bench, 0), nox.measuredPID());
+    EXPECT_EQ(measuredPIDOfEntry(bench, 1), secondNox.measuredPID());
+}
+
+TEST(SetUpUnit, WithAnAnalyzerTheUnitsFactsAreTaken)
+{
+    SetUpBench bench;
+    bench.setup();
+    EXPECT_EQ(bench.page.txtORIS.Text(), "50292");
+    EXPECT_EQ(bench.page.StackID(), "GT3");
+    EXPECT_TRUE(bench.page.txtStackID.Visible());
+}
+
+TEST(SetUpUnit, OnlyTrailingBlanksOfTheIdentifierGo)
+{
+    SetUpBench bench;
+    bench.site->parameter(kGT3).attributes[attribute::kUnitIdentifier] = std::string(" CS 1  ");
+    bench.setup();
+    EXPECT_EQ(bench.page.StackID(), " CS 1");
+}
+
+TEST(SetUpUnit, AUnitOfSeveralStacksOffersThem)
+{
+    SetUpBench bench;
+    auto& attributes = bench.site->parameter(kGT3).attributes;
+    attributes[attribute::kSeveralStacks] = true;
+    attributes[attribute::kStackIdentifiers] = std::string("CS1  ;MS2");
+    bench.setup();
+    EXPECT_EQ(bench.page.cmbStackID.List(), (Lines{"CS1", "MS2"}));
+    EXPECT_EQ(bench.page.StackID(), "CS1");
+    EXPECT_EQ(bench.page.txtStackID.Text(), "GT3");
+    EXPECT_FALSE(bench.page.txtStackID.Visible());
+}
+
+TEST(SetUpUnit, StacksThatAreNotMarkedAsSeveralAreNotOffered)
+{
+    SetUpBench bench;
+    auto& attributes = bench.site->parameter(kGT3).attributes;
+    attributes[attribute::kStackIdentifiers] = std::string("CS1;MS2");
+    for (const Variant& several : {Variant(false), Variant(Null{})}) {
+        attributes[attribute::kSeveralStacks] = several;
+        bench.setup();
+        EXPECT_EQ(bench.page.StackID(), "GT3");
+    }
+}
+
+TEST(SetUpUnit, AUnitWithoutAnalyzersShowsNAAndLeavesTheFieldsOfTheUnitBefore)
+{
+    SetUpBench bench;
+    bench.setup();
+    EXPECT_EQ(
+        bench.changesBy([&] { bench.page.cmbUnit.Pick(1); }),
+        (Lines{"cmbAnalyzer.ItemData: [1] -> [0]", "cmbAnalyzer.List: [\"NOX/H\"] -> [\"N/A\"]",
+               "cmbAnalyzer.Text: \"NOX/H\" -> \"N/A\"", "cmbUnit.ListIndex: 0 -> 1",
+               "cmbUnit.Text: \"GT3\" -> \"GT4\"", "fraTestInfo.Visible: True -> False"}));
+    EXPECT_FALSE(bench.page.Is40CFR75());
+    EXPECT_EQ(bench.messages->lines(), Lines());
+}
+
+TEST(SetUpUnit, APickOfNAKeepsTheAnalyzerSelectedBefore)
+{
+    SetUpBench bench;
+    bench.setup();
+    bench.page.cmbUnit.Pick(1);
+    EXPECT_EQ(bench.page.AnalyzedPID(), AnalyzerFacts().measuredPID());
+    EXPECT_EQ(bench.changesBy([&] { bench.page.cmbAnalyzer.Pick(0); }), Lines());
+}
+
+TEST(SetUpUnit, PickingTheUnitAgainRunsItsRuleAgain)
+{
+    SetUpBench bench;
+    bench.setup();
+    addAnalyzer(*bench.site, analyzer("CO", kHigh, 2));
+    bench.page.cmbUnit.Pick(0);
+    EXPECT_EQ(bench.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
+}
+
+} // namespace k7deval::test

@@ -74,10 +74,9 @@ private:
     [[nodiscard]] std::string time(const std::string& gas) const
     {
         const JsonNode date = part(gas, "InjectionDate");
-        const std::string day = date.text();
-        if (!dayNumber(day))
+        if (!date.isText() || !dayNumber(date.text()))
             throw date.error(date.shown() + " is no date");
-        return minuteText(day, part(gas, "InjectionHour").whole(0, 23, "hour"),
+        return minuteText(date.text(), part(gas, "InjectionHour").whole(0, 23, "hour"),
                           part(gas, "InjectionMinute").whole(0, 59, "minute"));
     }
 

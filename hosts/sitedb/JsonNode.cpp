@@ -61,6 +61,11 @@ bool JsonNode::isObject() const
     return value_->is_object();
 }
 
+bool JsonNode::isText() const
+{
+    return value_->is_string();
+}
+
 bool JsonNode::has(std::string_view name) const
 {
     return value_->is_object() && value_->contains(name);
@@ -91,7 +96,7 @@ std::vector<JsonNode> JsonNode::elements() const
 
 std::string JsonNode::text() const
 {
-    if (!value_->is_string())
+    if (!isText())
         throw error(shown() + " is no text");
     return value_->get<std::string>();
 }

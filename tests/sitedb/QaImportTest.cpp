@@ -233,7 +233,7 @@ constexpr LeftOutCase kLeftOut[] = {
     {"the zero hour", "replace", "/zeroInjectionHour", "24",
      ".zeroInjectionHour: 24 is no hour from 0 to 23.", 1, 2, "2020/03/01 06:15"},
     {"the zero date", "replace", "/zeroInjectionDate", "null",
-     ".zeroInjectionDate: null is no text.", 1, 2, "2020/03/01 06:15"},
+     ".zeroInjectionDate: null is no date.", 1, 2, "2020/03/01 06:15"},
     {"the zero reading", "replace", "/zeroMeasuredValue", "true",
      ".zeroMeasuredValue: true is no number.", 1, 2, "2020/03/01 06:10"},
     {"the upscale minute", "replace", "/upscaleInjectionMinute", "60",

@@ -90,7 +90,7 @@ constexpr QaFault kQaFaults[] = {
     {"no zero date", "remove", "/zeroInjectionDate", "",
      ".zeroInjectionDate: the field is missing."},
     {"zero date null", "replace", "/zeroInjectionDate", "null",
-     ".zeroInjectionDate: null is no text."},
+     ".zeroInjectionDate: null is no date."},
     {"30 February", "replace", "/zeroInjectionDate", R"("2020-02-30")",
      R"(.zeroInjectionDate: "2020-02-30" is no date.)"},
     {"29 February of a common year", "replace", "/zeroInjectionDate", R"("2021-02-29")",
@@ -116,7 +116,7 @@ constexpr QaFault kQaFaults[] = {
     {"upscale hour 24", "replace", "/upscaleInjectionHour", "24",
      ".upscaleInjectionHour: 24 is no hour from 0 to 23."},
     {"upscale date null", "replace", "/upscaleInjectionDate", "null",
-     ".upscaleInjectionDate: null is no text."},
+     ".upscaleInjectionDate: null is no date."},
     {"no upscale minute", "remove", "/upscaleInjectionMinute", "",
      ".upscaleInjectionMinute: the field is missing."},
     // Values.

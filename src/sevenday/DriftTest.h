@@ -119,7 +119,7 @@ private:
     void markAllowedFailure(const clsDaySummary& day);
     void recountGoodCals(const std::vector<std::string>& days, std::int32_t first,
                          std::int32_t last);
-    void clearMarksBeforeTest(const std::vector<std::string>& days);
+    void clearMarksBeforeTest(const std::vector<std::string>& days) const;
 
     void displayDay(std::int32_t index, const std::shared_ptr<clsDaySummary>& day);
     [[nodiscard]] Date firstDayOfTest() const;

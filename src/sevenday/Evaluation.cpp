@@ -20,8 +20,10 @@ bool fails(const cls7DayAnalyzerCal& run)
 DayKind kindOf(const clsDaySummary& day)
 {
     const RunMap& runs = day.CalsInDay();
-    if (std::any_of(runs.begin(), runs.end(),
-                    [](const auto& entry) { return fails(*entry.second); }))
+    // All runs are looked at, also behind a failed one: a drift that can't be computed ends the
+    // evaluation wherever it stands.
+    if (std::count_if(runs.begin(), runs.end(),
+                      [](const auto& entry) { return fails(*entry.second); }) > 0)
         return DayKind::Failed;
     // An operating day without an on-line run, whether or not it has off-line ones.
     if (day.IsOpDay() && !day.HasOnlineCals())
@@ -135,18 +137,20 @@ void DriftTest::takeAllowedFailure(const std::vector<std::string>& days, std::in
     if (lngLastFailDay > ub) {
         // First failure.
         markAllowedFailure(objDay);
+        lngLastFailDay = day;
     } else if (lngPrevFailDay > ub) {
         // Second failure: the good runs from before the first one stay counted, although their
         // marks are cleared in the end.
         markAllowedFailure(objDay);
         lngPrevFailDay = lngLastFailDay;
+        lngLastFailDay = day;
     } else {
         // Later failure, and any after a restart.
         lngPrevFailDay = lngLastFailDay;
+        lngLastFailDay = day;
         recountGoodCals(days, lngPrevFailDay + 1, day);
         markAllowedFailure(objDay);
     }
-    lngLastFailDay = day;
 }
 
 /// Marks the day's first eligible run, whether or not it is the one that failed.
@@ -175,7 +179,7 @@ void DriftTest::recountGoodCals(const std::vector<std::string>& days, std::int32
 
 /// After a restart or a second failure the test begins on the day behind the previous fail day. A
 /// single failure cuts nothing: the failed run lies inside the test.
-void DriftTest::clearMarksBeforeTest(const std::vector<std::string>& days)
+void DriftTest::clearMarksBeforeTest(const std::vector<std::string>& days) const
 {
     std::string strCut;
     if (lngPrevFailDay <= upperBound(days))

@@ -16,7 +16,7 @@ constexpr float kNeverPasses = -999;
 
 float roundedLimit(double product)
 {
-    return roundTrip(static_cast<float>(product), kLimitPlaces);
+    return roundTrip(ToSingle(product), kLimitPlaces);
 }
 
 float percentOfSpan(float span, float percent)

@@ -2,6 +2,8 @@
 #include "sevenday/DriftTest.h"
 #include "sevenday/NumberedLine.h"
 
+#include <iterator>
+
 namespace k7deval
 {
 

@@ -1,0 +1,324 @@
+#include "sevenday/DriftTestData.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace k7deval::test
+{
+
+namespace
+{
+
+// The days, as daysOf reads them, and what the evaluation finds. A fail day is an index from 0, or
+// kNone.
+struct EvaluationCase {
+    const char* name;
+    const char* days;
+    int good;
+    int failed;
+    int lastFail;
+    int prevFail;
+    const char* marks;
+    int undetermined = 0;
+};
+
+void PrintTo(const EvaluationCase& row, std::ostream* out)
+{
+    *out << row.days;
+}
+
+constexpr int kNone = -1;
+
+std::string nameOf(const testing::TestParamInfo<EvaluationCase>& row)
+{
+    return row.param.name;
+}
+
+void expectOutcome(const EvaluationCase& row, model::Options options)
+{
+    DriftBench bench;
+    const std::vector<model::Day> days = daysOf(row.days);
+    setDays(bench, days);
+    bench.test.blnSixOfSeven = options.sixOfSeven;
+    bench.test.blnIncludeManualCals = options.includeManual;
+
+    bench.test.EvaluateDriftTest();
+
+    const auto past = static_cast<int>(days.size());
+    const model::Outcome found = outcomeOf(bench.test);
+    EXPECT_EQ(marksText(found, days.size()), row.marks);
+    EXPECT_EQ(found.goodCals, row.good);
+    EXPECT_EQ(found.failedCals, row.failed);
+    EXPECT_EQ(found.lastFailDay, row.lastFail == kNone ? past : row.lastFail);
+    EXPECT_EQ(found.prevFailDay, row.prevFail == kNone ? past : row.prevFail);
+    EXPECT_EQ(found.undeterminedDays, row.undetermined);
+    EXPECT_THAT(bench.messages->lines(), testing::IsEmpty());
+}
+
+} // namespace
+
+class AllSevenRequired : public testing::TestWithParam<EvaluationCase>
+{
+};
+
+TEST_P(AllSevenRequired, Finds)
+{
+    expectOutcome(GetParam(), {.sixOfSeven = false, .includeManual = false});
+}
+
+constexpr EvaluationCase kAllSevenRequired[] = {
+    // Seven good days in a row, whatever lies around them.
+    {"SevenGoodDaysPass", "PPPPPPP", 7, 0, kNone, kNone, "1111111"},
+    {"SixGoodDaysWait", "PPPPPP", 6, 0, kNone, kNone, "111111"},
+    {"TheEighthGoodDayIsNotLookedAt", "PPPPPPPP", 7, 0, kNone, kNone, "1111111."},
+    {"AFailureBehindTheTestIsNotLookedAt", "PPPPPPPF", 7, 0, kNone, kNone, "1111111."},
+    {"AMissedDayBehindTheTestIsNotLookedAt", "PPPPPPPM", 7, 0, kNone, kNone, "1111111."},
+    // Days without operation add nothing and break nothing.
+    {"IdleDaysDoNotBreakTheSequence", "PPNNPPPPP", 7, 0, kNone, kNone, "11..11111"},
+    {"IdleDaysAroundAndBetween", "NPNPNPNPNPNPNPN", 7, 0, kNone, kNone, ".1.1.1.1.1.1.1."},
+    {"IdleDaysOnly", "NNN", 0, 0, kNone, kNone, "..."},
+    // A failed day starts the test anew behind it; the marks up to it go.
+    {"AFailureRestarts", "PPFPPPPPPP", 7, 0, 2, 2, "...1111111"},
+    {"AFailureOnTheFirstDay", "FPPPPPPP", 7, 0, 0, 0, ".1111111"},
+    {"AFailureOnTheSeventhDayLeavesNothing", "PPPPPPF", 0, 0, 6, 6, "......."},
+    {"TheLastOfSeveralFailuresCounts", "FPPFPFPP", 2, 0, 5, 5, "......11"},
+    {"FailuresOnly", "FFF", 0, 0, 2, 2, "..."},
+    // So does a day of operation without a run.
+    {"AMissedDayRestarts", "PPMP", 1, 0, 2, 2, "...1"},
+    {"AMissedDayBehindAFailure", "PFPMPP", 2, 0, 3, 3, "....11"},
+    {"AMissedDayAtTheEndLeavesNothing", "PPPPPPM", 0, 0, 6, 6, "......."},
+    {"TheTestFitsBehindAMissedDay", "PMPPPNPPPPF", 7, 0, 1, 1, "..111.1111."},
+    // Days of undetermined status count while the scan lasts and the unit did not operate.
+    {"UndeterminedDaysUpToTheEndOfTheTest", "PUPUPPPPPU", 7, 0, kNone, kNone, "1.1.11111.", 2},
+    {"UndeterminedDaysOnly", "UUU", 0, 0, kNone, kNone, "...", 3},
+    {"AnOnlineRunMakesAnOperatingDay", "P ?A+ ?a+ P", 3, 0, kNone, kNone, "11.1", 1},
+    {"AnHourWithoutDataLeavesAnOperatingDay", "QQUP", 3, 0, kNone, kNone, "11.1", 1},
+    {"AnOperatedHourMakesAnOperatingDay", "PWU", 0, 0, 1, 1, "...", 1},
+    {"UndeterminedDaysAheadOfARestartStayCounted", "UUPFU", 0, 0, 3, 3, ".....", 3},
+};
+
+INSTANTIATE_TEST_SUITE_P(Evaluation, AllSevenRequired, testing::ValuesIn(kAllSevenRequired),
+                         nameOf);
+
+class SixOfSeven : public testing::TestWithParam<EvaluationCase>
+{
+};
+
+TEST_P(SixOfSeven, Finds)
+{
+    expectOutcome(GetParam(), {.sixOfSeven = true, .includeManual = false});
+}
+
+constexpr EvaluationCase kSixOfSeven[] = {
+    // Without a failure nothing changes.
+    {"SevenGoodDaysPass", "PPPPPPP", 7, 0, kNone, kNone, "1111111"},
+    {"SixGoodDaysWait", "PPPPPP", 6, 0, kNone, kNone, "111111"},
+    // The first failure takes a place in the test and cuts nothing.
+    {"OneFailureIsAllowed", "PPFPPPP", 6, 1, 2, kNone, "1111111"},
+    {"TheFailureMayComeFirst", "FPPPPPP", 6, 1, 0, kNone, "1111111"},
+    {"TheFailureMayComeLast", "PPPPPPF", 6, 1, 6, kNone, "1111111"},
+    {"IdleDaysAroundTheFailure", "PPNFNPPPP", 6, 1, 3, kNone, "11.1.1111"},
+    {"NoDayBehindTheSeventhIsLookedAt", "PPFPPPPFM", 6, 1, 2, kNone, "1111111.."},
+    // The second failure keeps the count of the good runs ahead of the first, but not their marks.
+    {"TheSecondFailureKeepsTheCount", "PPFPFPPP", 6, 1, 4, 2, "...11111"},
+    {"TwoFailuresInARow", "PFFPPPPPP", 6, 1, 2, 1, "..111111."},
+    {"TwoFailuresOnly", "FF", 0, 1, 1, 0, ".1"},
+    {"TheSecondFailureEndsNoTest", "PPPPPFF", 5, 1, 6, 5, "......1"},
+    // From the third one on the good runs behind the failure before it are counted anew.
+    {"TheThirdFailureRecounts", "PFPFPF", 1, 1, 5, 3, "....11"},
+    {"ThreeFailuresInARow", "PFFF", 0, 1, 3, 2, "...1"},
+    {"TheThirdFailureRecountsSeveral", "FFPNPPF", 3, 1, 6, 1, "..1.111"},
+    {"TheFourthFailureRecounts", "FPFPPFPPPFP", 4, 1, 9, 5, "......11111"},
+    {"TheTestIsPassedBehindTheThirdFailure", "FFPPFPPPP", 6, 1, 4, 1, "..1111111"},
+    // A missed day restarts the count of good runs; a failure taken before it stays counted.
+    {"AMissedDayRestarts", "PPMP", 1, 0, 2, 2, "...1"},
+    {"ARestartKeepsTheAllowedFailure", "PFMPPPPPP", 6, 1, 2, 2, "...111111"},
+    {"ARestartAtTheEndLeavesTheFailureCounted", "FPPPPPM", 0, 1, 6, 6, "......."},
+    // A failure behind a restart counts as a later one.
+    {"AFailureBehindARestartRecounts", "MPFP", 2, 1, 2, 0, ".111"},
+    {"AFailureRightBehindARestart", "PPMF", 0, 1, 3, 2, "...1"},
+    {"TwoFailuresBehindARestart", "MPFPFP", 2, 1, 4, 2, "...111"},
+    {"ARestartBetweenTwoFailures", "PFPMPPFP", 3, 1, 6, 3, "....1111"},
+    {"ATestPassedWithAFailureBehindARestart", "PPMPPPFPPP", 6, 1, 6, 2, "...1111111"},
+    // Days of undetermined status.
+    {"UndeterminedDaysUpToTheEndOfTheTest", "UPPFUPPPPU", 6, 1, 3, kNone, ".111.1111.", 2},
+};
+
+INSTANTIATE_TEST_SUITE_P(Evaluation, SixOfSeven, testing::ValuesIn(kSixOfSeven), nameOf);
+
+class ManualIncluded : public testing::TestWithParam<EvaluationCase>
+{
+};
+
+TEST_P(ManualIncluded, Finds)
+{
+    expectOutcome(GetParam(), {.sixOfSeven = false, .includeManual = true});
+}
+
+constexpr EvaluationCase kManualIncluded[] = {
+    // A day counts once, with its last automatic run or else its first.
+    {"TheLaterOfTwoAutomaticRuns", "A+A+", 1, 0, kNone, kNone, "2"},
+    {"TheLastOfThreeAutomaticRuns", "A+A+A+", 1, 0, kNone, kNone, "3"},
+    {"AnAutomaticRunAheadOfAManualOne", "A+M+", 1, 0, kNone, kNone, "1"},
+    {"AManualRunAheadOfAnAutomaticOne", "M+A+", 1, 0, kNone, kNone, "2"},
+    {"TheFirstOfTwoManualRuns", "M+M+", 1, 0, kNone, kNone, "1"},
+    {"AnAutomaticRunAmongManualOnes", "M+M+A+M+", 1, 0, kNone, kNone, "3"},
+    {"AutomaticRunsAroundAManualOne", "A+M+A+", 1, 0, kNone, kNone, "3"},
+    {"ADayOfManualRunsCounts", "P M+ P", 3, 0, kNone, kNone, "111"},
+    // Off-line runs are neither counted nor do they fail a day.
+    {"AnOfflineRunIsNotPicked", "A+a+", 1, 0, kNone, kNone, "1"},
+    {"AnOfflineRunFailsNothing", "a-A+m-", 1, 0, kNone, kNone, "2"},
+    {"OfflineRunsWithoutOperation", "P a+m- P", 2, 0, kNone, kNone, "1.1"},
+    {"OfflineRunsOnADayOfOperation", "P !a+ P", 1, 0, 1, 1, "..1"},
+    // One failing run fails the day, wherever it stands.
+    {"AGoodRunBehindAFailedOne", "A-A+", 0, 0, 0, 0, "."},
+    {"AGoodRunAheadOfAFailedOne", "A+A-", 0, 0, 0, 0, "."},
+    {"AFailedManualRun", "P A+M- P", 1, 0, 1, 1, "..1"},
+    // An on-line run makes a day of operation of one whose hours have none.
+    {"AnOnlineRunWithoutOperatingHours", "A+ N A+", 2, 0, kNone, kNone, "1.1"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Evaluation, ManualIncluded, testing::ValuesIn(kManualIncluded), nameOf);
+
+class ManualExcluded : public testing::TestWithParam<EvaluationCase>
+{
+};
+
+TEST_P(ManualExcluded, Finds)
+{
+    expectOutcome(GetParam(), {.sixOfSeven = false, .includeManual = false});
+}
+
+constexpr EvaluationCase kManualExcluded[] = {
+    {"AnAutomaticRunAheadOfAManualOne", "A+M+", 1, 0, kNone, kNone, "1"},
+    {"AManualRunAheadOfAnAutomaticOne", "M+A+", 1, 0, kNone, kNone, "2"},
+    // A day of manual runs only is neither counted nor missed.
+    {"ADayOfManualRunsOnly", "P M+M+ P", 2, 0, kNone, kNone, "1.1"},
+    {"AnOperatingDayOfManualRunsOnly", "P !M+ P", 2, 0, kNone, kNone, "1.1"},
+    // An excluded run that fails still fails its day.
+    {"AFailedManualRun", "P M- P", 1, 0, 1, 1, "..1"},
+    {"AFailedManualRunBesideAGoodAutomaticOne", "P A+M- P", 1, 0, 1, 1, "..1"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Evaluation, ManualExcluded, testing::ValuesIn(kManualExcluded), nameOf);
+
+class ManualExcludedSixOfSeven : public testing::TestWithParam<EvaluationCase>
+{
+};
+
+TEST_P(ManualExcludedSixOfSeven, Finds)
+{
+    expectOutcome(GetParam(), {.sixOfSeven = true, .includeManual = false});
+}
+
+constexpr EvaluationCase kManualExcludedSixOfSeven[] = {
+    // The allowed failure is the day's first eligible run, whether or not it is the failed one.
+    {"AGoodRunStandsForTheFailure", "A+A-", 0, 1, 0, kNone, "1"},
+    {"AnOfflineRunDoesNot", "a+A-", 0, 1, 0, kNone, "2"},
+    {"AnExcludedRunDoesNot", "M+A-", 0, 1, 0, kNone, "2"},
+    {"AGoodRunStandsForAnExcludedFailedOne", "M-A+A+", 0, 1, 0, kNone, "2"},
+    // A failure without an eligible run is recorded, and marks and counts nothing.
+    {"AnExcludedFailureMarksNothing", "P M- P", 2, 0, 1, kNone, "1.1"},
+    {"SevenGoodRunsAroundAnExcludedFailure", "PPP M- PPPP", 7, 0, 3, kNone, "111.1111"},
+    {"AnExcludedFailureAsTheSecond", "P F P M- P", 3, 1, 3, 1, "..1.1"},
+    {"AnExcludedFailureAsTheFirstOfTwo", "P M- P F P", 3, 1, 3, 1, "..111"},
+    {"AnExcludedFailureAsTheThird", "F F P M- P", 2, 1, 3, 1, "..1.1"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Evaluation, ManualExcludedSixOfSeven,
+                         testing::ValuesIn(kManualExcludedSixOfSeven), nameOf);
+
+TEST(ManualIncludedSixOfSeven, TheFirstRunStandsForTheFailureAlsoWhenItIsManual)
+{
+    const EvaluationCase row{"", "M+A-", 0, 1, 0, kNone, "1"};
+    expectOutcome(row, {.sixOfSeven = true, .includeManual = true});
+}
+
+TEST(Evaluation, AnEmptyIntervalIsNoScan)
+{
+    DriftBench bench;
+    bench.setInterval(0);
+    bench.test.dictCals = std::make_shared<RunMap>();
+    bench.test.lngGoodCals = 5;
+    bench.test.lngFailedCals = 1;
+    bench.test.lngUndeterminedDays = 3;
+
+    bench.test.EvaluateDriftTest();
+
+    EXPECT_TRUE(bench.test.dictDays.isEmpty());
+    EXPECT_EQ(outcomeOf(bench.test), model::Outcome());
+    EXPECT_THAT(bench.messages->lines(), testing::IsEmpty());
+}
+
+TEST(Evaluation, MarksAndCountersOfAnEarlierEvaluationGo)
+{
+    DriftBench bench;
+    setDays(bench, daysOf("PPPPPPPF"));
+    bench.test.EvaluateDriftTest();
+    ASSERT_EQ(bench.test.lngGoodCals, 7);
+
+    // The first day fails now, so the scan goes on to the last one, which restarts it.
+    bench.test.dictCals->Item("2024/03/10 06:00")->SpanCal->MeasuredValue = 50;
+    bench.test.EvaluateDriftTest();
+
+    const model::Outcome found = outcomeOf(bench.test);
+    EXPECT_EQ(found.goodCals, 0);
+    EXPECT_EQ(marksText(found, 8), "........");
+    EXPECT_EQ(found.lastFailDay, 7);
+}
+
+TEST(Evaluation, ARunOutsideTheIntervalGetsAnUndeterminedDayAtTheEnd)
+{
+    DriftBench bench;
+    std::vector<model::Day> days = daysOf("PP A+ a+");
+    days[2].date = -3;
+    days[3].date = -2;
+    setDays(bench, days, 2);
+
+    bench.test.EvaluateDriftTest();
+
+    EXPECT_THAT(bench.test.dictDays.Keys(),
+                testing::ElementsAre("2024/03/10", "2024/03/11", "2024/03/07", "2024/03/08"));
+    const clsDaySummary& added = *bench.test.dictDays.Item("2024/03/07");
+    EXPECT_EQ(added.TStamp, Date{});
+    EXPECT_TRUE(added.OpStatusIsUndetermined);
+    EXPECT_THAT(added.CalsInDay().Keys(), testing::ElementsAre("2024/03/07 06:00"));
+    EXPECT_EQ(bench.test.lngGoodCals, 3);
+    // The day of the on-line run is an operating day, the other one is not.
+    EXPECT_EQ(bench.test.lngUndeterminedDays, 1);
+}
+
+// Marks go by the calendar, not by the place of the day in the list.
+TEST(Evaluation, ACutOnADayAtTheEndOfTheListTakesTheEarlierDatesOnly)
+{
+    DriftBench bench;
+    std::vector<model::Day> days = daysOf("PP A+ A-");
+    days[2].date = -3;
+    days[3].date = -2;
+    setDays(bench, days, 2);
+
+    bench.test.EvaluateDriftTest();
+
+    EXPECT_EQ(marksText(outcomeOf(bench.test), 4), "11..");
+    EXPECT_EQ(bench.test.lngGoodCals, 0);
+    EXPECT_EQ(bench.test.lngPrevFailDay, 3);
+}
+
+TEST(Evaluation, ALimitChangedBetweenEvaluationsChangesTheVerdict)
+{
+    DriftBench bench;
+    setDays(bench, daysOf("PF"));
+    bench.test.EvaluateDriftTest();
+    ASSERT_EQ(bench.test.lngLastFailDay, 1);
+
+    // The failed run reads 2 below its reference, which the new limit just allows.
+    bench.test.dictCals->Item("2024/03/11 06:00")->SpanCal->DriftLimit = 2;
+    bench.test.EvaluateDriftTest();
+
+    EXPECT_EQ(bench.test.lngLastFailDay, 2);
+    EXPECT_EQ(bench.test.lngGoodCals, 2);
+}
+
+} // namespace k7deval::test

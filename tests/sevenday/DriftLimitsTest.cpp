@@ -1,0 +1,386 @@
+#include "sevenday/DriftTestData.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace k7deval::test
+{
+
+namespace
+{
+
+constexpr float kUnset = 0;
+
+// A run of the bench and the limits it got.
+class Limits : public testing::Test
+{
+protected:
+    Limits()
+    {
+        run_->InstrumentSpan = 100;
+        run_->ZeroCal = injection(0, 1, kUnset);
+        run_->SpanCal = injection(50, 51, kUnset);
+        bench_.add(run_);
+    }
+
+    void apply(CalLimitRulesEnum rule)
+    {
+        bench_.test.lngLimitRule = rule;
+        bench_.test.ApplyLimits();
+        EXPECT_THAT(bench_.messages->lines(), testing::IsEmpty());
+    }
+
+    void expectZero(float limit, bool usesAPS) const
+    {
+        EXPECT_EQ(run_->ZeroCal->DriftLimit, limit);
+        EXPECT_EQ(run_->ZeroCal->UsesAPS, usesAPS);
+    }
+    void expectUpscale(float limit, bool usesAPS) const
+    {
+        EXPECT_EQ(run_->SpanCal->DriftLimit, limit);
+        EXPECT_EQ(run_->SpanCal->UsesAPS, usesAPS);
+    }
+
+    DriftBench bench_;
+    std::shared_ptr<cls7DayAnalyzerCal> run_ = std::make_shared<cls7DayAnalyzerCal>();
+};
+
+} // namespace
+
+TEST_F(Limits, OfAnAbsoluteValueHoldBothInjectionsToIt)
+{
+    run_->ZeroCal->UsesAPS = true;
+    run_->SpanCal->UsesAPS = true;
+    bench_.test.sngAbsoluteLimit = 0.5F;
+    apply(CalLimitRules_AbsoluteValue);
+    expectZero(0.5F, false);
+    expectUpscale(0.5F, false);
+}
+
+TEST_F(Limits, OfAnAbsoluteValueAreNotRounded)
+{
+    bench_.test.sngAbsoluteLimit = 0.12345F;
+    apply(CalLimitRules_AbsoluteValue);
+    expectUpscale(0.12345F, false);
+}
+
+TEST_F(Limits, OfAPercentageOfSpanHoldBothInjectionsToIt)
+{
+    run_->ZeroCal->UsesAPS = true;
+    run_->SpanCal->UsesAPS = true;
+    bench_.test.sngPercentOfSpanLimit = 2.5F;
+    apply(CalLimitRules_PercentOfSpan);
+    expectZero(2.5F, false);
+    expectUpscale(2.5F, false);
+}
+
+namespace
+{
+
+struct RoundedLimitCase {
+    const char* name;
+    float base; ///< The span, or the reference.
+    float percent;
+    float limit;
+};
+
+void PrintTo(const RoundedLimitCase& row, std::ostream* out)
+{
+    *out << row.percent << "% of " << row.base;
+}
+
+std::string nameOf(const testing::TestParamInfo<RoundedLimitCase>& row)
+{
+    return row.param.name;
+}
+
+} // namespace
+
+class LimitOfSpan : public testing::TestWithParam<RoundedLimitCase>
+{
+};
+
+TEST_P(LimitOfSpan, IsRoundedToThreeDecimals)
+{
+    const RoundedLimitCase& row = GetParam();
+    DriftBench bench;
+    const auto run = runAt(onDay(0, 8));
+    run->InstrumentSpan = row.base;
+    bench.add(run);
+    bench.test.sngPercentOfSpanLimit = row.percent;
+    bench.test.lngLimitRule = CalLimitRules_PercentOfSpan;
+    bench.test.ApplyLimits();
+    EXPECT_EQ(run->SpanCal->DriftLimit, row.limit);
+}
+
+constexpr RoundedLimitCase kLimitsOfSpan[] = {
+    {"AWholeNumber", 200, 2.5F, 5},
+    {"NoSpan", 0, 2.5F, 0},
+    // 1.2504, 1.2505 and 1.2506: halves go away from zero, also where the single lies below.
+    {"UnderAHalf", 50.016F, 2.5F, 1.25F},
+    {"AHalf", 50.02F, 2.5F, 1.251F},
+    {"OverAHalf", 50.024F, 2.5F, 1.251F},
+    {"AHalfOfATinySpan", 10.1F, 2.5F, 0.253F},
+    {"AHalfOfALargeSpan", 333.3F, 2.5F, 8.333F},
+    // 0.0705 in double; two roundings to single on the way would give 0.070.
+    {"OneRoundingOfTheProduct", 1.41F, 5, 0.071F},
+    {"ASecondOfThese", 1.49F, 5, 0.075F},
+    {"ANegativeHalf", -50.02F, 2.5F, -1.251F},
+};
+
+INSTANTIATE_TEST_SUITE_P(Limits, LimitOfSpan, testing::ValuesIn(kLimitsOfSpan), nameOf);
+
+class LimitOfReference : public testing::TestWithParam<RoundedLimitCase>
+{
+};
+
+TEST_P(LimitOfReference, IsRoundedToThreeDecimals)
+{
+    const RoundedLimitCase& row = GetParam();
+    DriftBench bench;
+    const auto run = runAt(onDay(0, 8));
+    run->InstrumentSpan = 1;
+    run->SpanCal = injection(row.base, row.base, kUnset);
+    bench.add(run);
+    bench.test.sngPercentOfRefLimit = row.percent;
+    bench.test.lngLimitRule = CalLimitRules_PercentOfRef;
+    bench.test.ApplyLimits();
+    EXPECT_EQ(run->SpanCal->DriftLimit, row.limit);
+}
+
+constexpr RoundedLimitCase kLimitsOfReference[] = {
+    {"AWholeNumber", 50, 10, 5},
+    {"UnderAHalf", 12.504F, 10, 1.25F},
+    {"AHalf", 12.505F, 10, 1.251F},
+    {"OverAHalf", 12.506F, 10, 1.251F},
+    // 0.0885 less a little in double; singles on the way would give 0.089.
+    {"OneRoundingOfTheProduct", 1.18F, 7.5F, 0.088F},
+    {"ASecondOfThese", 1.93F, 5, 0.096F},
+};
+
+INSTANTIATE_TEST_SUITE_P(Limits, LimitOfReference, testing::ValuesIn(kLimitsOfReference), nameOf);
+
+TEST_F(Limits, GoByTheSpanOfEachRun)
+{
+    const auto other = runAt(onDay(1, 8));
+    other->InstrumentSpan = 400;
+    bench_.add(other);
+    bench_.test.sngPercentOfSpanLimit = 2.5F;
+    apply(CalLimitRules_PercentOfSpan);
+    expectUpscale(2.5F, false);
+    EXPECT_EQ(other->SpanCal->DriftLimit, 10);
+    EXPECT_EQ(other->ZeroCal->DriftLimit, 10);
+}
+
+// Span 100, 2.5% and an alternative of 5.
+class Alternative : public Limits
+{
+protected:
+    void apply(float zeroDrift, float upscaleDrift)
+    {
+        run_->ZeroCal->MeasuredValue = zeroDrift;
+        run_->SpanCal->ReferenceValue = 0;
+        run_->SpanCal->MeasuredValue = upscaleDrift;
+        bench_.test.sngPercentOfSpanLimit = 2.5F;
+        bench_.test.sngAbsoluteLimit = 5;
+        Limits::apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
+    }
+};
+
+TEST_F(Alternative, IsNotNeededOnThePercentage)
+{
+    apply(2.5F, -2.5F);
+    expectZero(2.5F, false);
+    expectUpscale(2.5F, false);
+    EXPECT_TRUE(run_->AnalyzerPassed());
+}
+
+TEST_F(Alternative, HoldsAnInjectionThatMissesThePercentage)
+{
+    apply(2.6F, -2.6F);
+    expectZero(5, true);
+    expectUpscale(5, true);
+    EXPECT_TRUE(run_->AnalyzerPassed());
+}
+
+TEST_F(Alternative, IsNeededJustOverThePercentage)
+{
+    apply(2.5001F, 2.49996F);
+    expectZero(5, true);
+    expectUpscale(2.5F, false);
+}
+
+TEST_F(Alternative, FailsAnInjectionThatMissesIt)
+{
+    apply(0, 5.1F);
+    expectUpscale(5, true);
+    EXPECT_FALSE(run_->SpanCal->isWithinLimit());
+    EXPECT_FALSE(run_->AnalyzerPassed());
+}
+
+TEST_F(Alternative, PassesAnInjectionOnIt)
+{
+    apply(5, -5);
+    expectZero(5, true);
+    EXPECT_TRUE(run_->AnalyzerPassed());
+}
+
+TEST_F(Alternative, IsChosenForEachInjectionByItself)
+{
+    apply(2.6F, 1);
+    expectZero(5, true);
+    expectUpscale(2.5F, false);
+
+    apply(1, 2.6F);
+    expectZero(2.5F, false);
+    expectUpscale(5, true);
+}
+
+TEST_F(Alternative, MayBeTighterThanThePercentage)
+{
+    apply(2.6F, 2);
+    bench_.test.sngAbsoluteLimit = 1;
+    Limits::apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
+    expectZero(1, true);
+    EXPECT_FALSE(run_->ZeroCal->isWithinLimit());
+    expectUpscale(2.5F, false);
+}
+
+// Reference 50, 10%: a limit of 5.
+class Reference : public Limits
+{
+protected:
+    void apply(float upscaleMeasured)
+    {
+        run_->SpanCal->MeasuredValue = upscaleMeasured;
+        bench_.test.sngPercentOfRefLimit = 10;
+        Limits::apply(CalLimitRules_PercentOfRef);
+    }
+};
+
+TEST_F(Reference, HoldsTheUpscaleInjectionToItsPercentage)
+{
+    run_->SpanCal->UsesAPS = true;
+    apply(55);
+    expectUpscale(5, false);
+    EXPECT_TRUE(run_->SpanCal->isWithinLimit());
+    apply(45);
+    expectUpscale(5, false);
+}
+
+TEST_F(Reference, WritesNothingToAFreshInjectionThatMissesIt)
+{
+    apply(56);
+    expectUpscale(kUnset, false);
+    EXPECT_FALSE(run_->SpanCal->isWithinLimit());
+}
+
+TEST_F(Reference, LeavesTheLimitOfAnEarlierRuleToAnInjectionThatMissesIt)
+{
+    bench_.test.sngAbsoluteLimit = 7;
+    Limits::apply(CalLimitRules_AbsoluteValue);
+    apply(56);
+    expectUpscale(7, false);
+    EXPECT_TRUE(run_->SpanCal->isWithinLimit());
+}
+
+TEST_F(Reference, LeavesTheAlternativeOfAnEarlierRuleToAnInjectionThatMissesIt)
+{
+    run_->SpanCal->MeasuredValue = 56;
+    bench_.test.sngPercentOfSpanLimit = 2.5F;
+    bench_.test.sngAbsoluteLimit = 5.5F;
+    Limits::apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
+    apply(56);
+    expectUpscale(5.5F, true);
+}
+
+TEST_F(Reference, FailsEveryZeroInjection)
+{
+    run_->ZeroCal->MeasuredValue = 0;
+    run_->ZeroCal->UsesAPS = true;
+    apply(50);
+    expectZero(-999, false);
+    EXPECT_FALSE(run_->AnalyzerPassed());
+}
+
+TEST_F(Reference, FailsTheZeroInjectionOfARunWithoutAnUpscaleOne)
+{
+    run_->SpanCal = nullptr;
+    bench_.test.sngPercentOfRefLimit = 10;
+    Limits::apply(CalLimitRules_PercentOfRef);
+    expectZero(-999, false);
+}
+
+TEST_F(Reference, PassesARunWithoutAZeroInjection)
+{
+    run_->ZeroCal = nullptr;
+    run_->UseZeroCal = false;
+    apply(55);
+    EXPECT_TRUE(run_->AnalyzerPassed());
+}
+
+TEST_F(Limits, AreAppliedToTheInjectionsThatARunHas)
+{
+    run_->ZeroCal = nullptr;
+    const auto zeroOnly = std::make_shared<cls7DayAnalyzerCal>();
+    zeroOnly->CalTime = onDay(1, 8);
+    zeroOnly->InstrumentSpan = 100;
+    zeroOnly->ZeroCal = injection(0, 0, kUnset);
+    bench_.add(zeroOnly);
+    bench_.test.sngAbsoluteLimit = 3;
+    bench_.test.sngPercentOfSpanLimit = 2.5F;
+
+    apply(CalLimitRules_AbsoluteValue);
+    expectUpscale(3, false);
+    EXPECT_EQ(zeroOnly->ZeroCal->DriftLimit, 3);
+    apply(CalLimitRules_PercentOfSpan);
+    expectUpscale(2.5F, false);
+    EXPECT_EQ(zeroOnly->ZeroCal->DriftLimit, 2.5F);
+    zeroOnly->ZeroCal->MeasuredValue = 2.6F;
+    apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
+    expectUpscale(2.5F, false);
+    EXPECT_EQ(zeroOnly->ZeroCal->DriftLimit, 3);
+}
+
+TEST_F(Limits, OfAnUnknownRuleWriteNothing)
+{
+    run_->ZeroCal->DriftLimit = 11;
+    run_->ZeroCal->UsesAPS = true;
+    run_->SpanCal->DriftLimit = 12;
+    bench_.test.sngAbsoluteLimit = 1;
+    bench_.test.sngPercentOfSpanLimit = 1;
+    bench_.test.sngPercentOfRefLimit = 1;
+    for (const int rule : {-1, 4, 100}) {
+        apply(static_cast<CalLimitRulesEnum>(rule));
+        expectZero(11, true);
+        expectUpscale(12, false);
+    }
+}
+
+TEST_F(Limits, WithoutRunsAreNoError)
+{
+    bench_.test.dictCals = std::make_shared<RunMap>();
+    apply(CalLimitRules_PercentOfSpan);
+}
+
+// A span that no analyzer has: the product does not fit, and the runs behind keep their limits.
+TEST_F(Limits, OutOfRangeEndAtTheRun)
+{
+    const auto tooLarge = runAt(onDay(1, 8));
+    tooLarge->InstrumentSpan = 3e38F;
+    const auto behind = runAt(onDay(2, 8));
+    behind->InstrumentSpan = 100;
+    bench_.add(tooLarge);
+    bench_.add(behind);
+    bench_.test.sngPercentOfSpanLimit = 200;
+    bench_.test.lngLimitRule = CalLimitRules_PercentOfSpan;
+
+    bench_.test.ApplyLimits();
+
+    EXPECT_THAT(bench_.messages->lines(), testing::ElementsAre("DEval-004: 6, Overflow"));
+    expectUpscale(200, false);
+    EXPECT_EQ(tooLarge->SpanCal->DriftLimit, 1);
+    EXPECT_EQ(behind->SpanCal->DriftLimit, 1);
+}
+
+} // namespace k7deval::test

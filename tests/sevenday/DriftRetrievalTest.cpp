@@ -1,0 +1,541 @@
+#include "sevenday/DriftTestData.h"
+
+#include "foundation/UtilityFunctions.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+
+namespace k7deval::test
+{
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kEight = "2024/03/10 08:15";
+
+// A bench with an interval of three days, and its records.
+class Retrieval : public testing::Test
+{
+protected:
+    Retrieval() { bench_.setInterval(3); }
+
+    RecordData& add(const RecordData& record)
+    {
+        bench_.site->records.push_back(record);
+        return bench_.site->records.back();
+    }
+    RecordData& addZero(Date runTime) { return add(zeroRecord(runTime)); }
+    RecordData& addUpscale(Date runTime) { return add(upscaleRecord(runTime)); }
+
+    void retrieve()
+    {
+        bench_.test.RetrieveCals();
+        EXPECT_THAT(bench_.messages->lines(), IsEmpty());
+    }
+
+    // Retrieves with this one zero record and gives its run.
+    const cls7DayAnalyzerCal& runOf(const RecordData& zero)
+    {
+        add(zero);
+        retrieve();
+        return bench_.run(minuteKey(zero.runTime));
+    }
+
+    DriftBench bench_;
+};
+
+} // namespace
+
+TEST_F(Retrieval, AsksOnceForTheRecordsOfTheAnalyzerAndTheInterval)
+{
+    bench_.site->siteKey = "PLANT";
+    bench_.test.strAnalyzedScale = "LOW";
+    retrieve();
+
+    const RangeRecordQuery query{
+        .siteKey = "PLANT",
+        .argument2 = 0,
+        .start = onDay(0),
+        .end = onDay(2, 23, 59),
+        .argument5 = "",
+        .pid = kDriftAnalyzer,
+        .argument7 = 0,
+        .argument8 = "",
+        .scale = "LOW",
+        .argument10 = "",
+        .tables = "K7CAL,K7PMCAL,K7PS9SINGLEINJCALCHK,K7PS9TRIPLEINJCALCHK",
+        .argument12 = 0,
+        .argument13 = 0,
+        .argument14 = 1,
+    };
+    EXPECT_THAT(bench_.site->rangeQueries, ElementsAre(query));
+}
+
+TEST_F(Retrieval, OfNoRecordsGivesAnEmptyMap)
+{
+    retrieve();
+    ASSERT_TRUE(bench_.test.dictCals);
+    EXPECT_TRUE(bench_.test.dictCals->isEmpty());
+}
+
+TEST_F(Retrieval, PairsTheInjectionsOfAMinute)
+{
+    addZero(onDay(0, 8, 15, 10));
+    addUpscale(onDay(0, 8, 15, 50));
+    retrieve();
+
+    EXPECT_THAT(bench_.runKeys(), ElementsAre(kEight));
+    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    EXPECT_TRUE(run.IsCompleteRun());
+    EXPECT_EQ(run.CalTime, onDay(0, 8, 15, 10));
+}
+
+TEST_F(Retrieval, DoesNotPairInjectionsOfTwoMinutes)
+{
+    addZero(onDay(0, 8, 15, 50));
+    addUpscale(onDay(0, 8, 16, 10));
+    retrieve();
+
+    EXPECT_THAT(bench_.runKeys(), ElementsAre(kEight, "2024/03/10 08:16"));
+    EXPECT_TRUE(bench_.run(kEight).ZeroCal);
+    EXPECT_FALSE(bench_.run(kEight).SpanCal);
+    EXPECT_FALSE(bench_.run("2024/03/10 08:16").ZeroCal);
+    EXPECT_TRUE(bench_.run("2024/03/10 08:16").SpanCal);
+}
+
+TEST_F(Retrieval, PairsAlsoWhenTheUpscaleRecordComesFirst)
+{
+    addUpscale(onDay(0, 8, 15, 50)).calStatus = 29;
+    addZero(onDay(0, 8, 15, 10));
+    retrieve();
+
+    EXPECT_THAT(bench_.runKeys(), ElementsAre(kEight));
+    EXPECT_TRUE(bench_.run(kEight).IsCompleteRun());
+    EXPECT_TRUE(bench_.run(kEight).IsOnline);
+}
+
+TEST_F(Retrieval, KeepsTheFirstZeroRecordOfAMinute)
+{
+    addZero(onDay(0, 8, 15, 10)).measured = 1.0F;
+    addZero(onDay(0, 8, 15, 5)).measured = 2.0F;
+    retrieve();
+
+    EXPECT_EQ(bench_.run(kEight).ZeroCal->MeasuredValue, 1);
+    EXPECT_EQ(bench_.run(kEight).CalTime, onDay(0, 8, 15, 10));
+}
+
+TEST_F(Retrieval, KeepsTheFirstUpscaleRecordOfAMinuteWhateverItsLevel)
+{
+    for (const std::int32_t first : {1, 2}) {
+        bench_.site->records.clear();
+        addZero(onDay(0, 8, 15));
+        addUpscale(onDay(0, 8, 15, 30)).gasLevelCode = first;
+        addUpscale(onDay(0, 8, 15, 20)).gasLevelCode = 3 - first;
+        bench_.site->records[1].measured = 1.0F;
+        bench_.site->records[2].measured = 2.0F;
+        retrieve();
+        EXPECT_EQ(bench_.run(kEight).SpanCal->MeasuredValue, 1);
+    }
+}
+
+TEST_F(Retrieval, KeepsTheFirstUpscaleRecordOfARunWithoutZeroGas)
+{
+    addUpscale(onDay(0, 8, 15, 30)).measured = 1.0F;
+    addUpscale(onDay(0, 8, 15, 20)).measured = 2.0F;
+    retrieve();
+
+    EXPECT_EQ(bench_.run(kEight).SpanCal->MeasuredValue, 1);
+    EXPECT_EQ(bench_.run(kEight).CalTime, onDay(0, 8, 15, 30));
+}
+
+TEST_F(Retrieval, DropsOtherGasLevels)
+{
+    for (const std::int32_t code : {-1, 3, 4, 100})
+        addZero(onDay(0, 8, code + 2)).gasLevelCode = code;
+    retrieve();
+    EXPECT_THAT(bench_.runKeys(), IsEmpty());
+}
+
+TEST_F(Retrieval, DropsAnotherScaleBeforeAnythingElse)
+{
+    for (const char* scale : {"LOW", "high", "HIGH ", ""})
+        addZero(onDay(0, 8, 15)).scale = scale;
+    addUpscale(onDay(0, 8, 15)).scale = "LOW";
+    addZero(onDay(0, 9));
+    retrieve();
+
+    EXPECT_THAT(bench_.runKeys(), ElementsAre("2024/03/10 09:00"));
+    EXPECT_EQ(bench_.site->countCalls("DIRecord.Scale"), 6U);
+    EXPECT_EQ(bench_.site->countCalls("DIRecord.GasLevelCode"), 1U);
+}
+
+TEST_F(Retrieval, KeepsAnOfflineRunAsSuch)
+{
+    RecordData offline = zeroRecord(onDay(0, 8, 15));
+    offline.calStatus = 29;
+    EXPECT_FALSE(runOf(offline).IsOnline);
+}
+
+TEST_F(Retrieval, TakesEveryOtherStatusForOnline)
+{
+    for (const std::int32_t status : {0, 28, 30, -29}) {
+        RecordData record = zeroRecord(onDay(0, 8, 15));
+        record.calStatus = status;
+        EXPECT_TRUE(runOf(record).IsOnline) << status;
+        bench_.site->records.clear();
+    }
+}
+
+TEST_F(Retrieval, ReadsWhetherARunWasStartedByHand)
+{
+    for (const Variant& manual : {Variant(true), Variant(std::int32_t{-1}), Variant("True")}) {
+        RecordData record = zeroRecord(onDay(0, 8, 15));
+        record.manual = manual;
+        EXPECT_TRUE(runOf(record).ManualCal);
+        bench_.site->records.clear();
+    }
+    EXPECT_FALSE(runOf(zeroRecord(onDay(0, 8, 15))).ManualCal);
+}
+
+TEST_F(Retrieval, ReadsTheValuesOfARunAndItsInjections)
+{
+    RecordData& zero = addZero(onDay(0, 8, 15));
+    zero.span = 200.5;
+    zero.measured = 0.1;
+    zero.reference = std::string("0.2");
+    zero.gasLevelText = "Zero";
+    RecordData& upscale = addUpscale(onDay(0, 8, 15));
+    upscale.measured = 99.9;
+    upscale.reference = std::int16_t{101};
+    upscale.gasLevelText = "high Gas";
+    retrieve();
+
+    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    EXPECT_EQ(run.InstrumentSpan, 200.5F);
+    EXPECT_EQ(run.ZeroCal->MeasuredValue, 0.1F);
+    EXPECT_EQ(run.ZeroCal->ReferenceValue, 0.2F);
+    EXPECT_EQ(run.ZeroCal->GasLevel, "ZERO");
+    EXPECT_EQ(run.SpanCal->MeasuredValue, 99.9F);
+    EXPECT_EQ(run.SpanCal->ReferenceValue, 101);
+    EXPECT_EQ(run.SpanCal->GasLevel, "HIGH GAS");
+    EXPECT_EQ(run.ZeroCal->DriftLimit, 0);
+    EXPECT_FALSE(run.SpanCal->UsesAPS);
+    EXPECT_FALSE(run.IsUsedIn7Day);
+}
+
+TEST_F(Retrieval, TakesTheFlagsOfTheZeroRecord)
+{
+    RecordData& zero = addZero(onDay(0, 8, 15));
+    zero.manual = true;
+    zero.calStatus = 29;
+    zero.span = 300.0F;
+    addUpscale(onDay(0, 8, 15, 20));
+    retrieve();
+
+    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    EXPECT_TRUE(run.ManualCal);
+    EXPECT_FALSE(run.IsOnline);
+    EXPECT_EQ(run.InstrumentSpan, 300);
+    EXPECT_EQ(run.CalTime, onDay(0, 8, 15));
+}
+
+TEST_F(Retrieval, TakesTheFlagsOfAnUpscaleRecordWithoutAZeroOne)
+{
+    RecordData& upscale = addUpscale(onDay(0, 8, 15, 20));
+    upscale.manual = true;
+    upscale.calStatus = 29;
+    upscale.span = 300.0F;
+    retrieve();
+
+    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    EXPECT_TRUE(run.ManualCal);
+    EXPECT_FALSE(run.IsOnline);
+    EXPECT_EQ(run.InstrumentSpan, 300);
+    EXPECT_EQ(run.CalTime, onDay(0, 8, 15, 20));
+    EXPECT_FALSE(run.ZeroCal);
+}
+
+TEST_F(Retrieval, TakesTheRunTimeForAnInjectionWithoutAnEnd)
+{
+    addZero(onDay(0, 8, 15, 10));
+    addUpscale(onDay(0, 8, 15, 50));
+    retrieve();
+    EXPECT_EQ(bench_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 15, 10));
+    EXPECT_EQ(bench_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 15, 50));
+}
+
+TEST_F(Retrieval, TakesTheEndOfAnInjectionThatHasOne)
+{
+    addZero(onDay(0, 8, 15, 10)).injectionEnd = onDay(0, 8, 11);
+    addUpscale(onDay(0, 8, 15, 50)).injectionEnd = onDay(0, 8, 20);
+    retrieve();
+    EXPECT_EQ(bench_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 11));
+    EXPECT_EQ(bench_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 20));
+}
+
+TEST_F(Retrieval, TellsOnlyRunsWithoutAZeroRecordWhetherTheyNeedOne)
+{
+    addZero(onDay(0, 8));
+    addZero(onDay(0, 9));
+    addUpscale(onDay(0, 9));
+    addUpscale(onDay(0, 10));
+    for (const bool useZeroCals : {false, true}) {
+        bench_.test.blnUseZeroCals = useZeroCals;
+        retrieve();
+        EXPECT_TRUE(bench_.run("2024/03/10 08:00").UseZeroCal);
+        EXPECT_TRUE(bench_.run("2024/03/10 09:00").UseZeroCal);
+        EXPECT_EQ(bench_.run("2024/03/10 10:00").UseZeroCal, useZeroCals);
+    }
+}
+
+TEST_F(Retrieval, ReplacesTheRunsOfAnEarlierOne)
+{
+    addZero(onDay(0, 8, 15));
+    retrieve();
+    bench_.test.dictCals->Item(kEight)->IsUsedIn7Day = true;
+    retrieve();
+    EXPECT_FALSE(bench_.run(kEight).IsUsedIn7Day);
+}
+
+// The operating time of the unit, and of what the analyzer is linked to.
+class OperatingTime : public Retrieval
+{
+protected:
+    void link(PID source, PID object)
+    {
+        bench_.site->parameter(source).links[attribute::kLinkedObjectPID] = object;
+    }
+    void giveStackItsOwn(PID hours)
+    {
+        bench_.site->parameter(kDriftStack).links[attribute::kOperatingTimePID] = hours;
+    }
+    PID found()
+    {
+        bench_.test.lngOpTimePID = 1;
+        retrieve();
+        return bench_.test.lngOpTimePID;
+    }
+};
+
+TEST_F(OperatingTime, OfTheUnitIsTakenWithoutRecords)
+{
+    EXPECT_EQ(found(), kDriftUnitHours);
+    EXPECT_EQ(bench_.site->countCalls("DIRecord.SourceTagID"), 0U);
+}
+
+TEST_F(OperatingTime, OfTheUnitIsTakenWithoutALink)
+{
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, IsNoneForAUnitWithoutOne)
+{
+    bench_.site->parameter(kDriftUnit).links.clear();
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), 0);
+}
+
+TEST_F(OperatingTime, OfTheLinkedObjectWins)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftStackHours);
+}
+
+TEST_F(OperatingTime, OfTheLinkedObjectWinsForAUnitWithoutOne)
+{
+    bench_.site->parameter(kDriftUnit).links.clear();
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftStackHours);
+}
+
+TEST_F(OperatingTime, OfTheUnitStandsWhenTheLinkedObjectHasNone)
+{
+    link(kDriftSource, kDriftStack);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, OfTheUnitStandsWhenThatOfTheLinkedObjectDoesNotExist)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours + 1);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, OfTheUnitStandsWhenTheLinkedObjectDoesNotExist)
+{
+    link(kDriftSource, kDriftStack + 1);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, OfAParameterWithPidZeroNeverWins)
+{
+    ParameterData zero;
+    zero.pid = 0;
+    bench_.site->parameters.push_back(zero);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, GoesByTheFirstUpscaleRecord)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addZero(onDay(0, 8)).sourceTag = kDriftAnalyzer;
+    addUpscale(onDay(0, 8));
+    addUpscale(onDay(0, 9)).sourceTag = kDriftAnalyzer;
+    EXPECT_EQ(found(), kDriftStackHours);
+
+    std::swap(bench_.site->records[1], bench_.site->records[2]);
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, GoesByTheFirstZeroRecordWithoutUpscaleOnes)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addZero(onDay(0, 8));
+    addZero(onDay(0, 9)).sourceTag = kDriftAnalyzer;
+    EXPECT_EQ(found(), kDriftStackHours);
+
+    std::swap(bench_.site->records[0].sourceTag, bench_.site->records[1].sourceTag);
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, DoesNotGoByRecordsOfAnotherScale)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addUpscale(onDay(0, 8)).scale = "LOW";
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+// What the order of the runs comes from: zero runs first, then the runs of upscale records alone.
+class Order : public Retrieval
+{
+};
+
+TEST_F(Order, IsThatOfTime)
+{
+    addZero(onDay(0, 8));
+    addZero(onDay(2, 8));
+    addZero(onDay(1, 8));
+    addUpscale(onDay(1, 7));
+    addUpscale(onDay(2, 9));
+    retrieve();
+    EXPECT_THAT(bench_.runKeys(),
+                ElementsAre("2024/03/10 08:00", "2024/03/11 07:00", "2024/03/11 08:00",
+                            "2024/03/12 08:00", "2024/03/12 09:00"));
+    EXPECT_TRUE(bench_.run("2024/03/11 07:00").SpanCal);
+    EXPECT_TRUE(bench_.run("2024/03/11 08:00").ZeroCal);
+}
+
+TEST_F(Order, OfOneRunNeedsNone)
+{
+    addUpscale(onDay(0, 8));
+    retrieve();
+    EXPECT_THAT(bench_.runKeys(), ElementsAre("2024/03/10 08:00"));
+}
+
+TEST_F(Order, TakesASmallestRunFromTheThirdOn)
+{
+    addZero(onDay(1, 8));
+    addZero(onDay(2, 8));
+    addUpscale(onDay(0, 8));
+    retrieve();
+    EXPECT_THAT(bench_.runKeys(),
+                ElementsAre("2024/03/10 08:00", "2024/03/11 08:00", "2024/03/12 08:00"));
+}
+
+TEST_F(Order, CanNotTakeASecondRunAheadOfTheFirst)
+{
+    addZero(onDay(1, 8));
+    retrieve();
+    const auto before = bench_.test.dictCals;
+
+    addUpscale(onDay(0, 8));
+    bench_.test.RetrieveCals();
+
+    EXPECT_THAT(bench_.messages->lines(), ElementsAre("DEval-003: 9, Subscript out of range"));
+    EXPECT_EQ(bench_.test.dictCals, before);
+    EXPECT_THAT(bench_.runKeys(), ElementsAre("2024/03/11 08:00"));
+}
+
+TEST_F(Order, CanNotTakeASecondRunAheadOfTheFirstAmongMany)
+{
+    addZero(onDay(1, 8));
+    addZero(onDay(0, 8));
+    addZero(onDay(2, 8));
+    bench_.test.RetrieveCals();
+    EXPECT_THAT(bench_.messages->lines(), ElementsAre("DEval-003: 9, Subscript out of range"));
+    EXPECT_EQ(bench_.test.dictCals, nullptr);
+}
+
+namespace
+{
+
+// Two to twelve different minutes of the interval, in any order.
+std::vector<int> anyMinutes()
+{
+    const auto count = *rc::gen::inRange<std::size_t>(2, 13);
+    return *rc::gen::unique<std::vector<int>>(count, rc::gen::inRange(0, 3 * 1440));
+}
+
+void addZeroRecords(DriftBench& bench, const std::vector<int>& minutes)
+{
+    bench.setInterval(3);
+    for (const int minute : minutes)
+        bench.site->records.push_back(zeroRecord(onDay(0, 0, minute)));
+}
+
+} // namespace
+
+RC_GTEST_PROP(AnyOrder, WithTheSecondRunBehindTheFirstIsSorted, ())
+{
+    auto minutes = anyMinutes();
+    if (minutes[1] < minutes[0])
+        std::swap(minutes[0], minutes[1]);
+    DriftBench bench;
+    addZeroRecords(bench, minutes);
+
+    bench.test.RetrieveCals();
+
+    RC_ASSERT(bench.messages->posted.empty());
+    std::sort(minutes.begin(), minutes.end());
+    RC_ASSERT(bench.test.dictCals->Count() == minutes.size());
+    std::size_t next = 0;
+    for (const auto& [key, run] : *bench.test.dictCals) {
+        RC_ASSERT(run->CalTime == onDay(0, 0, minutes[next++]));
+        RC_ASSERT(key == minuteKey(run->CalTime));
+    }
+}
+
+RC_GTEST_PROP(AnyOrder, WithTheSecondRunAheadOfTheFirstFails, ())
+{
+    auto minutes = anyMinutes();
+    if (minutes[1] > minutes[0])
+        std::swap(minutes[0], minutes[1]);
+    DriftBench bench;
+    addZeroRecords(bench, minutes);
+
+    bench.test.RetrieveCals();
+
+    const std::vector<std::string> line{"DEval-003: 9, Subscript out of range"};
+    RC_ASSERT(bench.messages->lines() == line);
+    RC_ASSERT(bench.test.dictCals == nullptr);
+}
+
+} // namespace k7deval::test

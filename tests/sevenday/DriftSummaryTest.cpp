@@ -1,0 +1,203 @@
+#include "sevenday/DriftTestData.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace k7deval::test
+{
+
+namespace
+{
+
+// Runs on 9, 10 and 11 March at 8:00, of which the middle one is marked.
+class Summary : public testing::Test
+{
+protected:
+    Summary()
+    {
+        for (const int day : {-1, 0, 1})
+            bench_.add(runAt(onDay(day, 8)));
+        mark("2024/03/10 08:00", true);
+    }
+
+    void mark(const std::string& key, bool marked)
+    {
+        bench_.test.dictCals->Item(key)->IsUsedIn7Day = marked;
+    }
+
+    std::string summary(int good, int failed, bool sixOfSeven, int undetermined = 0)
+    {
+        bench_.test.lngGoodCals = good;
+        bench_.test.lngFailedCals = failed;
+        bench_.test.blnSixOfSeven = sixOfSeven;
+        bench_.test.lngUndeterminedDays = undetermined;
+        bench_.test.BuildSummary(true);
+        EXPECT_THAT(bench_.messages->lines(), testing::IsEmpty());
+        return bench_.test.strSummary;
+    }
+
+    DriftBench bench_;
+};
+
+} // namespace
+
+TEST_F(Summary, SaysThatThereAreNoRuns)
+{
+    bench_.test.dictCals = std::make_shared<RunMap>();
+    for (const bool showSummary : {false, true}) {
+        bench_.test.strSummary = "of the evaluation before";
+        bench_.test.lngUndeterminedDays = 2;
+        bench_.test.BuildSummary(showSummary);
+        EXPECT_EQ(bench_.test.strSummary, "There are no calibrations in selected time range.");
+    }
+}
+
+TEST_F(Summary, IsEmptyWhenItIsNotToBeShown)
+{
+    for (const int good : {3, 7}) {
+        bench_.test.strSummary = "of the evaluation before";
+        bench_.test.lngGoodCals = good;
+        bench_.test.lngUndeterminedDays = 1;
+        bench_.test.BuildSummary(false);
+        EXPECT_EQ(bench_.test.strSummary, "");
+    }
+}
+
+TEST_F(Summary, SaysThatTheTestWasPassed)
+{
+    EXPECT_EQ(summary(7, 0, false), "The 7-Day Drift Test has been passed.");
+    EXPECT_EQ(summary(7, 0, true), "The 7-Day Drift Test has been passed.");
+    EXPECT_EQ(summary(6, 1, true), "The 7-Day Drift Test has been passed.");
+    EXPECT_EQ(summary(6, 1, false), "The 7-Day Drift Test has been passed.");
+}
+
+TEST_F(Summary, SaysHowManyRunsAreMissing)
+{
+    EXPECT_EQ(summary(3, 0, false),
+              "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.");
+}
+
+TEST_F(Summary, SaysThatAFailureIsAllowed)
+{
+    EXPECT_EQ(summary(3, 0, true),
+              "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test where 1 of "
+              "remaining cals is allowed to fail.");
+}
+
+TEST_F(Summary, SaysThatAFailureWasTaken)
+{
+    EXPECT_EQ(summary(3, 1, true),
+              "Starting on 3/10/2024 there are 3 on-line cal(s) and 1 on-line failed cal counted "
+              "in the 7-Day Drift Test.\r\n3 more on-line daily cal(s) are needed to pass the "
+              "Drift Test.");
+}
+
+// The option was taken back behind the evaluation: the failure is named, but it makes up for none.
+TEST_F(Summary, CountsAFailureForNothingWithoutTheOption)
+{
+    EXPECT_EQ(summary(3, 1, false),
+              "Starting on 3/10/2024 there are 3 on-line cal(s) and 1 on-line failed cal counted "
+              "in the 7-Day Drift Test.\r\n4 more on-line daily cal(s) are needed to pass the "
+              "Drift Test.");
+}
+
+TEST_F(Summary, KeepsThePluralInBracketsForOneAndNone)
+{
+    EXPECT_EQ(summary(6, 0, false),
+              "Starting on 3/10/2024 there are 6 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n1 more on-line daily cal(s) are needed to pass the Drift Test.");
+    EXPECT_EQ(summary(1, 0, false),
+              "Starting on 3/10/2024 there are 1 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n6 more on-line daily cal(s) are needed to pass the Drift Test.");
+}
+
+TEST_F(Summary, StartsOnTheEarliestMarkedRun)
+{
+    mark("2024/03/11 08:00", true);
+    EXPECT_THAT(summary(2, 0, false), testing::StartsWith("Starting on 3/10/2024 there"));
+    mark("2024/03/09 08:00", true);
+    EXPECT_THAT(summary(3, 0, false), testing::StartsWith("Starting on 3/9/2024 there"));
+}
+
+TEST_F(Summary, StartsOnTheLastRunWhenNoneIsMarked)
+{
+    mark("2024/03/10 08:00", false);
+    EXPECT_EQ(summary(0, 0, false),
+              "Starting on 3/11/2024 there are 0 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n7 more on-line daily cal(s) are needed to pass the Drift Test.");
+}
+
+TEST_F(Summary, WritesTheDateAsTheRegionDoes)
+{
+    bench_.regional = regionalSettings("de-DE");
+    EXPECT_THAT(summary(3, 0, false), testing::StartsWith("Starting on 10.03.2024 there are 3 "));
+}
+
+TEST_F(Summary, NamesOneUndeterminedDay)
+{
+    EXPECT_EQ(summary(7, 0, false, 1),
+              "The 7-Day Drift Test has been passed.\r\nUnit operating status cannot be determined "
+              "for 1 day in selected timeframe prior to completion of the test. Test results may "
+              "be inaccurate.");
+}
+
+TEST_F(Summary, NamesSeveralUndeterminedDays)
+{
+    EXPECT_EQ(summary(3, 0, false, 2),
+              "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.\r\nUnit "
+              "operating status cannot be determined for 2 days in selected timeframe prior to "
+              "completion of the test. Test results may be inaccurate.");
+}
+
+namespace
+{
+
+std::string summaryOf(std::string_view days, bool sixOfSeven = false)
+{
+    DriftBench bench;
+    setDays(bench, daysOf(days));
+    bench.test.blnSixOfSeven = sixOfSeven;
+    bench.test.EvaluateDriftTest();
+    bench.test.BuildSummary(true);
+    return bench.test.strSummary;
+}
+
+} // namespace
+
+TEST(SummaryOfATest, StartsOnItsFirstDay)
+{
+    EXPECT_EQ(summaryOf("PPFNPPP"),
+              "Starting on 3/14/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.");
+}
+
+TEST(SummaryOfATest, StartsOnTheLastRunBehindARestartOnTheLastDay)
+{
+    EXPECT_EQ(summaryOf("PPPF"),
+              "Starting on 3/13/2024 there are 0 on-line cal(s) counted in the 7-Day Drift "
+              "Test.\r\n7 more on-line daily cal(s) are needed to pass the Drift Test.");
+}
+
+// The count is kept over the second failure, so the test is passed with five marks.
+TEST(SummaryOfATest, SaysPassedByTheCountNotByTheMarks)
+{
+    EXPECT_EQ(summaryOf("PPFPFPPP", true), "The 7-Day Drift Test has been passed.");
+}
+
+TEST(SummaryOfATest, NamesTheUndeterminedDaysUpToItsEnd)
+{
+    EXPECT_EQ(summaryOf("PPPUPPPP"),
+              "The 7-Day Drift Test has been passed.\r\nUnit operating status cannot be determined "
+              "for 1 day in selected timeframe prior to completion of the test. Test results may "
+              "be inaccurate.");
+}
+
+TEST(SummaryOfATest, DoesNotNameUndeterminedDaysBehindItsEnd)
+{
+    EXPECT_EQ(summaryOf("PPPPPPPUU"), "The 7-Day Drift Test has been passed.");
+}
+
+} // namespace k7deval::test

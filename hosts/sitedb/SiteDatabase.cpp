@@ -1,10 +1,10 @@
 #include "sitedb/SiteDatabase.h"
 
+#include "sitedb/PlainText.h"
 #include "sitedb/Schema.h"
 #include "sitedb/SiteIds.h"
 #include "sitedb/SiteServer.h"
 #include "sitedb/SiteWriter.h"
-#include "sitedb/SourceFile.h"
 #include "sitedb/sql/SqliteConnection.h"
 
 #include <cmath>

@@ -1,5 +1,6 @@
 #include "sitedb/SiteParameter.h"
 
+#include "sitedb/PlainText.h"
 #include "sitedb/SiteIds.h"
 #include "sitedb/TimeText.h"
 
@@ -32,8 +33,8 @@ std::int32_t wholeAttribute(const std::string& text)
     const char* end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value);
     if (text.empty() || read.ec != std::errc() || read.ptr != end)
-        throw Error(errors::kTypeMismatch,
-                    "The attribute \"" + text + "\" in the site database is no whole number.");
+        throw Error(errors::kTypeMismatch, "The attribute " + inQuotes(text) +
+                                               " in the site database is no whole number.");
     return value;
 }
 
@@ -60,7 +61,7 @@ public:
     {
         const auto number = dayNumber(day);
         if (!number)
-            throw Error(errors::kTypeMismatch, "\"" + day + "\" is no date in the site database.");
+            throw Error(errors::kTypeMismatch, inQuotes(day) + " is no date in the site database.");
         const std::int64_t slot = *number * kHoursPerDay + hour - first_;
         return slot < 0 ? count_ : std::min(static_cast<std::size_t>(slot), count_);
     }

@@ -1,5 +1,6 @@
 #include "sitedb/SiteRecords.h"
 
+#include "sitedb/PlainText.h"
 #include "sitedb/TimeText.h"
 
 #include <algorithm>
@@ -142,7 +143,7 @@ void checkSiteKey(const std::string& siteKey, const std::string& asked)
 {
     if (asked != siteKey)
         throw Error(errors::kInvalidCall,
-                    "The site's key is \"" + siteKey + "\", not \"" + asked + "\".");
+                    "The site's key is " + inQuotes(siteKey) + ", not " + inQuotes(asked) + ".");
 }
 
 } // namespace k7deval::sitedb

@@ -21,7 +21,6 @@ constexpr std::size_t kLargestContent = std::size_t{512} << 20U;
 constexpr std::size_t kChunk = std::size_t{64} << 10U;
 constexpr std::string_view kGzipMark = "\x1f\x8b";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::size_t kLongestQuote = 40;
 constexpr int kGzipWindow = 15 + 16;
 
 class Inflater
@@ -110,25 +109,6 @@ std::int64_t checkSum(const std::string& content)
 }
 
 } // namespace
-
-std::string inQuotes(std::string_view text)
-{
-    std::string shown = "\"";
-    for (const char letter : text.substr(0, kLongestQuote))
-        shown += isPrintable(letter) ? letter : '?';
-    return shown + (text.size() > kLongestQuote ? "...\"" : "\"");
-}
-
-bool isPrintable(char letter)
-{
-    return letter >= ' ' && letter <= '~';
-}
-
-std::string utf8Text(const std::filesystem::path& path)
-{
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
 
 ImportError SourceFile::error(std::string_view place, std::string_view what, int number) const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sitedb/Import.h"
+#include "sitedb/PlainText.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -9,14 +10,6 @@
 
 namespace k7deval::sitedb
 {
-
-/// The text of a path as UTF-8, whatever the platform keeps paths in.
-std::string utf8Text(const std::filesystem::path& path);
-
-/// Whether a byte is a printable ASCII character or a blank.
-bool isPrintable(char letter);
-/// A text in quotes for a sentence: cut if it is long, with "?" for what is not printable ASCII.
-std::string inQuotes(std::string_view text);
 
 /// A file to import: its content, unpacked if it is gzip, and what identifies it.
 struct SourceFile {

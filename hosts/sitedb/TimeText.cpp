@@ -1,6 +1,7 @@
 #include "sitedb/TimeText.h"
 
 #include "foundation/Error.h"
+#include "sitedb/PlainText.h"
 
 #include <array>
 #include <charconv>
@@ -99,8 +100,7 @@ Date dateOfMinute(std::string_view text)
             return makeDate(int{day->year()}, static_cast<int>(unsigned{day->month()}),
                             static_cast<int>(unsigned{day->day()}), *hour, *minute);
     }
-    throw Error(errors::kTypeMismatch,
-                "\"" + std::string(text) + "\" is no time in the site database.");
+    throw Error(errors::kTypeMismatch, inQuotes(text) + " is no time in the site database.");
 }
 
 } // namespace k7deval::sitedb

@@ -31,7 +31,7 @@ TEST(CsvTable, RowsKnowTheLineTheyBeginIn)
 }
 
 struct NumberCase {
-    const char* text;
+    const char* text = "";
     std::optional<double> value;
 };
 

@@ -49,7 +49,7 @@ TEST(FileRefusal, AContentOfNoKnownFormat)
         {"a table of something else", "unit_id,test_number\nU1,7\n", unknown},
         {"a load table with semicolons", "date;hour;gross_load_mw\n2020-01-01;0;1\n", unknown},
         {"bytes", std::string("\0\1\2\xff", 4), unknown},
-        {"a quote without an end", "\"date,hour,gross_load_mw", unknown},
+        {"a quote without an end", R"("date,hour,gross_load_mw)", unknown},
     };
     for (const auto& entry : cases) {
         SmallSite held;

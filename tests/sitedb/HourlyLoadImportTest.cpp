@@ -88,7 +88,7 @@ TEST(HourlyLoadImport, ReportsWhatItTookAndWhatItSteppedOver)
         "U1");
     EXPECT_EQ(report.format, "hourly load");
     EXPECT_THAT(report.counts, ElementsAre("2 hours", "1 hour with load"));
-    EXPECT_THAT(report.steppedOver, ElementsAre("The column \"heat_input_mmbtu\"."));
+    EXPECT_THAT(report.steppedOver, ElementsAre(R"(The column "heat_input_mmbtu".)"));
     EXPECT_TRUE(report.leftOut.empty());
 }
 

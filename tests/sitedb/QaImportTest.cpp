@@ -171,7 +171,7 @@ TEST(QaImport, TestsWithoutInjectionsAreSteppedOver)
     const auto report = importSmallQa(held, text, {});
     EXPECT_EQ(report.steppedOver,
               (std::vector<std::string>{
-                  "testSummaryData[0]: the test \"LINE\" has no calibration injections.",
+                  R"(testSummaryData[0]: the test "LINE" has no calibration injections.)",
                   "certificationEventData: 2 entries."}));
     EXPECT_EQ(report.counts,
               (std::vector<std::string>{"1 test", "2 zero injections", "2 upscale injections"}));
@@ -299,8 +299,8 @@ TEST(LeavingOutUnreadable, TwoFaultsOfARowAreListedApart)
 {
     SmallSite held;
     auto text = smallQa();
-    text.replace(text.find("\"zeroInjectionHour\": 6"), 22, "\"zeroInjectionHour\": 24");
-    text.replace(text.find("\"upscaleInjectionHour\": 6"), 25, "\"upscaleInjectionHour\": 25");
+    text.replace(text.find(R"("zeroInjectionHour": 6)"), 22, R"("zeroInjectionHour": 24)");
+    text.replace(text.find(R"("upscaleInjectionHour": 6)"), 25, R"("upscaleInjectionHour": 25)");
     const auto report = importSmallQa(held, text, leavingOut());
     const std::string row = "qa.json: testSummaryData[1].calibrationInjectionData[0]";
     EXPECT_EQ(report.leftOut, (std::vector<std::string>{

@@ -169,10 +169,10 @@ TEST(QaRefusals, AStackIsNoUnit)
 {
     SmallSite held;
     auto text = patchedQa("replace", "/testSummaryData/1/unitId", "null");
-    text.replace(text.find("\"stackPipeId\": null"), 19, "\"stackPipeId\": \"CS1\"");
+    text.replace(text.find(R"("stackPipeId": null)"), 19, R"("stackPipeId": "CS1")");
     EXPECT_EQ(
         refusal(held, held.directory.write("qa.json", text), {}),
-        "qa.json: testSummaryData[1].stackPipeId: \"CS1\" is a stack or pipe, and a site keeps "
+        R"(qa.json: testSummaryData[1].stackPipeId: "CS1" is a stack or pipe, and a site keeps )"
         "the calibrations of units.");
 }
 
@@ -207,10 +207,10 @@ TEST(QaRefusals, ARunThatStandsTwiceIsRefused)
     SmallSite held;
     auto text = smallQa();
     for (const std::string from :
-         {"2020-03-02", "\"zeroInjectionHour\": 7", "\"zeroInjectionMinute\": 15"}) {
+         {"2020-03-02", R"("zeroInjectionHour": 7)", R"("zeroInjectionMinute": 15)"}) {
         const std::string to = from == "2020-03-02" ? "2020-03-01"
-                               : from.back() == '7' ? "\"zeroInjectionHour\": 6"
-                                                    : "\"zeroInjectionMinute\": 10";
+                               : from.back() == '7' ? R"("zeroInjectionHour": 6)"
+                                                    : R"("zeroInjectionMinute": 10)";
         text.replace(text.find(from), from.size(), to);
     }
     EXPECT_EQ(refusal(held, held.directory.write("qa.json", text), {}),
@@ -247,10 +247,10 @@ constexpr BrokenJson kBrokenJson[] = {
     {"cut off in its third line", "{\n\"orisCode\": 5,\n\"testS", "line 3: the JSON is cut off."},
     {"a comma too many", "{\"orisCode\": 54,\n \"testSummaryData\": [],\n}",
      "line 3: this is no JSON."},
-    {"a number beyond all bounds", "{\"orisCode\": 1e999}",
+    {"a number beyond all bounds", R"({"orisCode": 1e999})",
      "a number in the JSON is out of range."},
     {"a text that is no UTF-8", "{\"orisCode\": \"\xff\"}", "line 1: this is no JSON."},
-    {"an object of something else", "{\"monitoringLocationData\": []}",
+    {"an object of something else", R"({"monitoringLocationData": []})",
      "orisCode: the field is missing."},
 };
 
@@ -267,7 +267,7 @@ TEST(QaRefusals, BrokenJsonIsToldWithItsLine)
 TEST(QaRefusals, DeepNestingIsNoDanger)
 {
     SmallSite held;
-    const std::string deep = "{\"orisCode\": " + std::string(200'000, '[');
+    const std::string deep = R"({"orisCode": )" + std::string(200'000, '[');
     EXPECT_EQ(refusal(held, held.directory.write("qa.json", deep), {}),
               "qa.json: line 1: the JSON is cut off.");
 }
@@ -279,7 +279,7 @@ TEST(QaRefusals, ALongValueIsCutInTheSentence)
         "\"" + std::string(38, 'x') + "\xC3\xA9" + std::string(50, 'y') + "\"";
     const auto file = held.directory.write(
         "qa.json", patchedQa("replace", "/testSummaryData/1/spanScaleCode", longText));
-    EXPECT_EQ(refusal(held, file, {}), "qa.json: testSummaryData[1].spanScaleCode: \"" +
+    EXPECT_EQ(refusal(held, file, {}), R"(qa.json: testSummaryData[1].spanScaleCode: ")" +
                                            std::string(38, 'x') + "... is not H, L or null.");
 }
 

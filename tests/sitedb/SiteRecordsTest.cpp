@@ -56,10 +56,10 @@ TEST(SiteRecords, ComeInTheOrderOfTimeZeroGasFirst)
 }
 
 struct RangeCase {
-    const char* what;
+    const char* what = "";
     Date start;
     Date end;
-    std::size_t count;
+    std::size_t count = 0;
 };
 
 TEST(SiteRecords, BothEndsOfARangeBelongToIt)
@@ -133,7 +133,7 @@ TEST(SiteRecords, TheKeyOfAnotherSiteIsAnError)
 {
     SiteWithRecords held;
     const auto server = held.site.server();
-    const std::string sentence = "The site's key is \"site\", not \"other\".";
+    const std::string sentence = R"(The site's key is "site", not "other".)";
     const auto expectRefused = [&](const auto& call) {
         try {
             call();

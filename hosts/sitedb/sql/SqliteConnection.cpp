@@ -1,7 +1,7 @@
 #include "sitedb/sql/SqliteConnection.h"
 
 #include "foundation/Error.h"
-#include "sitedb/SourceFile.h"
+#include "sitedb/PlainText.h"
 
 #include <sqlite3.h>
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace k7deval::sitedb
+{
+
+/// The text of a path as UTF-8, whatever the platform keeps paths in.
+std::string utf8Text(const std::filesystem::path& path);
+
+/// Whether a byte is a printable ASCII character or a blank.
+bool isPrintable(char letter);
+/// A text in quotes for a sentence: cut if it is long, with "?" for what is not printable ASCII.
+std::string inQuotes(std::string_view text);
+
+} // namespace k7deval::sitedb

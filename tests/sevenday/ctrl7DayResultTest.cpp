@@ -1,0 +1,317 @@
+#include "sevenday/ResultBench.h"
+
+#include <gtest/gtest.h>
+
+/// The results page as it is created, and the details of a run.
+namespace k7deval::test
+{
+
+namespace
+{
+
+const Date kMorning = makeDate(2024, 3, 10, 8, 15);
+const Date kEvening = makeDate(2024, 3, 10, 20, 15);
+const Date kDay = makeDate(2024, 3, 10);
+
+struct LabelCase {
+    const char* name;
+    const char* caption;
+};
+
+constexpr LabelCase kLabels[] = {
+    {"lblSummary", ""},
+    {"lblAnalyzerLabel", ""},
+    {"lblOnlinePass", "Pass On-Line"},
+    {"lblOfflinePass", "Pass Off-Line"},
+    {"lblOnlineFail", "Fail On-Line"},
+    {"lblOfflineFail", "Fail Off-Line"},
+    {"lblOpDayNoCals", "Unit Operated in Day Without On-line Cal"},
+    {"lblCalTimeLabel", "Calibration Time:"},
+    {"lblCalTimeData", ""},
+    {"lblInstSpanLabel", "Instrument Span:"},
+    {"lblInstSpanData", ""},
+    {"lblCalResultLabel", ""},
+    {"lblCalOnline", ""},
+    {"lblZeroRefLabel", "Reference:"},
+    {"lblZeroRefData", ""},
+    {"lblZeroMeasLabel", "Measured:"},
+    {"lblZeroMeasData", ""},
+    {"lblZeroDriftLabel", "Drift:"},
+    {"lblZeroDriftData", ""},
+    {"lblZeroLimitLabel", "Limit:"},
+    {"lblZeroLimitData", ""},
+    {"lblZeroAPSLabel", ""},
+    {"lblSpanRefLabel", "Reference:"},
+    {"lblSpanRefData", ""},
+    {"lblSpanMeasLabel", "Measured:"},
+    {"lblSpanMeasData", ""},
+    {"lblSpanDriftLabel", "Drift:"},
+    {"lblSpanDriftData", ""},
+    {"lblSpanLimitLabel", "Limit:"},
+    {"lblSpanLimitData", ""},
+    {"lblSpanAPSLabel", ""},
+};
+
+constexpr LabelCase kFrames[] = {
+    {"fraSummary", "Summary"},
+    {"fraZero", "Zero Gas"},
+    {"fraSpan", "Span Gas"},
+};
+
+constexpr const char* kLegend[] = {"OnlinePass", "OfflinePass", "OnlineFail", "OfflineFail",
+                                   "OpDayNoCals"};
+
+std::string quoted(const std::string& text)
+{
+    return '"' + text + '"';
+}
+
+} // namespace
+
+TEST(ResultStart, HasEveryLabelAndFrameWithItsText)
+{
+    const ResultBench bench;
+    const Snapshot all = snapshotOf(bench.page);
+    for (const LabelCase& row : kLabels) {
+        EXPECT_EQ(all.at(std::string(row.name) + ".Kind"), "\"Label\"") << row.name;
+        EXPECT_EQ(all.at(std::string(row.name) + ".Caption"), quoted(row.caption)) << row.name;
+    }
+    for (const LabelCase& row : kFrames) {
+        EXPECT_EQ(all.at(std::string(row.name) + ".Kind"), "\"Frame\"") << row.name;
+        EXPECT_EQ(all.at(std::string(row.name) + ".Caption"), quoted(row.caption)) << row.name;
+    }
+    // The tree, its images and the five pictures of the legend are all that is left.
+    EXPECT_EQ(bench.page.Widgets().size(), std::size(kLabels) + std::size(kFrames) + 7);
+}
+
+TEST(ResultStart, TheTreeHasNoEntryAtAll)
+{
+    const ResultBench bench;
+    EXPECT_TRUE(bench.page.tvwCalTimes.Nodes().empty());
+    EXPECT_EQ(bench.page.tvwCalTimes.SelectedItem(), nullptr);
+}
+
+TEST(ResultStart, TheLegendIsBlendedWithThePageAndTheTreesImagesWithItsWindow)
+{
+    const ResultBench bench;
+    const Snapshot all = snapshotOf(bench.page);
+    for (const char* key : kLegend) {
+        const std::string image = std::string("img") + key;
+        EXPECT_EQ(all.at(image + ".Picture"), quoted(key));
+        EXPECT_EQ(all.at(image + ".BackColor"), "\"0x8000000F\"");
+    }
+    EXPECT_EQ(bench.page.imgOnOffLine.Keys(),
+              (Lines{"OnlinePass", "OfflinePass", "OnlineFail", "OfflineFail", "OpDayNoCals"}));
+    EXPECT_EQ(bench.page.imgOnOffLine.BackColor(), 0x80000005U);
+}
+
+TEST(ResultTexts, AreTakenAsTheyStand)
+{
+    ResultBench bench;
+    const std::string text = "first\r\nsecond  \r\nthird";
+    EXPECT_EQ(bench.changesBy([&] {
+        bench.page.SetSummaryText(text);
+        bench.page.SetAnalyzerText("GT3 NOX/H ");
+    }),
+              (Lines{"lblAnalyzerLabel.Caption: \"\" -> \"GT3 NOX/H \"",
+                     "lblSummary.Caption: \"\" -> \"" + text + "\""}));
+}
+
+TEST(ResultDetails, APassedRunShowsItsFiguresInBlack)
+{
+    ResultBench bench;
+    CalRun run = runAt(kMorning);
+    run->ZeroCal = injection(0.25F, 0.5F, 2.5F);
+    run->SpanCal = injection(160, 158.75F, 5, true);
+    const auto changes = bench.changesBy([&] { bench.show({dayWith(kDay, {run})}); });
+    EXPECT_EQ(changes, (Lines{"lblCalOnline.Caption: \"\" -> \"On-Line\"",
+                              "lblCalResultLabel.Caption: \"\" -> \"Passed\"",
+                              "lblCalTimeData.Caption: \"\" -> \"3/10/2024 08:15\"",
+                              "lblInstSpanData.Caption: \"\" -> \"200\"",
+                              "lblSpanAPSLabel.Caption: \"\" -> \"APS\"",
+                              "lblSpanDriftData.Caption: \"\" -> \"-1.25\"",
+                              "lblSpanLimitData.Caption: \"\" -> \"5\"",
+                              "lblSpanMeasData.Caption: \"\" -> \"158.75\"",
+                              "lblSpanRefData.Caption: \"\" -> \"160\"",
+                              "lblZeroDriftData.Caption: \"\" -> \"0.25\"",
+                              "lblZeroLimitData.Caption: \"\" -> \"2.5\"",
+                              "lblZeroMeasData.Caption: \"\" -> \"0.5\"",
+                              "lblZeroRefData.Caption: \"\" -> \"0.25\"",
+                              "tvwCalTimes.Nodes: [] -> [[Key=\"3/10/2024 08:15\", "
+                              "Text=\"3/10/2024 08:15\", Image=\"OnlinePass\", "
+                              "BackColor=\"0x00FFFFFF\", Children=[]]]",
+                              "tvwCalTimes.SelectedItem: \"\" -> \"3/10/2024 08:15\""}));
+}
+
+TEST(ResultDetails, AFailedRunIsRedAndBoldAndSoIsTheDriftThatFailedIt)
+{
+    ResultBench bench;
+    auto& page = bench.show({dayWith(kDay, {offline(failedRunAt(kMorning))})});
+    EXPECT_EQ(page.lblCalResultLabel.Caption(), "Failed");
+    EXPECT_EQ(page.lblCalResultLabel.ForeColor(), 255U);
+    EXPECT_TRUE(page.lblCalResultLabel.Bold());
+    EXPECT_EQ(page.lblCalOnline.Caption(), "Off-Line");
+    EXPECT_EQ(page.zero.driftData.ForeColor(), 0U);
+    EXPECT_EQ(page.span.driftData.ForeColor(), 255U);
+    EXPECT_EQ(page.span.driftData.Caption(), "6");
+    EXPECT_FALSE(page.span.driftData.Bold());
+}
+
+TEST(ResultDetails, APassedRunBehindAFailedOneIsBlackAgain)
+{
+    ResultBench bench;
+    auto& page = bench.show({dayWith(kDay, {failedRunAt(kMorning), runAt(kEvening)})});
+    page.tvwCalTimes.Press("3/10/2024 08:15");
+    ASSERT_TRUE(page.lblCalResultLabel.Bold());
+    page.tvwCalTimes.Press("3/10/2024 20:15");
+    EXPECT_EQ(page.lblCalResultLabel.Caption(), "Passed");
+    EXPECT_EQ(page.lblCalResultLabel.ForeColor(), 0U);
+    EXPECT_FALSE(page.lblCalResultLabel.Bold());
+    EXPECT_EQ(page.span.driftData.ForeColor(), 0U);
+}
+
+struct DriftColourCase {
+    const char* what;
+    float measured; ///< Of a reference of 100.
+    float limit;
+    screen::Color expected;
+};
+
+constexpr DriftColourCase kDriftColours[] = {
+    {"below the limit", 102.25F, 2.5F, 0},
+    {"at the limit", 102.5F, 2.5F, 0},
+    {"at the limit, below the reference", 97.5F, 2.5F, 0},
+    {"above the limit", 102.5625F, 2.5F, 255},
+    {"above the limit, below the reference", 97.4375F, 2.5F, 255},
+    {"no drift and no limit", 100, 0, 0},
+    {"a limit that never passes", 100, -999, 255},
+};
+
+TEST(ResultDetails, OnlyADriftAboveItsLimitIsRed)
+{
+    for (const DriftColourCase& row : kDriftColours) {
+        ResultBench bench;
+        CalRun run = runAt(kMorning);
+        run->ZeroCal = injection(100, row.measured, row.limit);
+        run->SpanCal = injection(100, row.measured, row.limit);
+        auto& page = bench.show({dayWith(kDay, {run})});
+        EXPECT_EQ(page.zero.driftData.ForeColor(), row.expected) << row.what;
+        EXPECT_EQ(page.span.driftData.ForeColor(), row.expected) << row.what;
+    }
+}
+
+struct FigureCase {
+    float value;
+    const char* text;
+};
+
+// General number form: at most seven significant digits, no fixed decimals.
+constexpr FigureCase kFigures[] = {
+    {10, "10"},
+    {12.5F, "12.5"},
+    {0.05F, "0.05"},
+    {0, "0"},
+    {12345678, "1.234568E+07"},
+    {1234567, "1234567"},
+    {-0.125F, "-0.125"},
+    {33.3333333F, "33.33333"},
+};
+
+TEST(ResultDetails, FiguresAreInPlainNumberForm)
+{
+    for (const FigureCase& row : kFigures) {
+        ResultBench bench;
+        CalRun run = runAt(kMorning);
+        run->InstrumentSpan = row.value;
+        run->ZeroCal = injection(row.value, 0, row.value);
+        run->SpanCal = injection(0, row.value, row.value);
+        auto& page = bench.show({dayWith(kDay, {run})});
+        EXPECT_EQ(page.lblInstSpanData.Caption(), row.text);
+        EXPECT_EQ(page.zero.refData.Caption(), row.text);
+        EXPECT_EQ(page.zero.limitData.Caption(), row.text);
+        EXPECT_EQ(page.span.measData.Caption(), row.text);
+        EXPECT_EQ(page.span.limitData.Caption(), row.text);
+    }
+}
+
+TEST(ResultDetails, TheDriftIsTheOneKeptToFourDecimals)
+{
+    ResultBench bench;
+    CalRun run = runAt(kMorning);
+    run->SpanCal = injection(0, 0.12345678F, 1);
+    EXPECT_EQ(bench.show({dayWith(kDay, {run})}).span.driftData.Caption(), "0.1235");
+}
+
+TEST(ResultDetails, DatesAndFiguresAreWrittenAsTheRegionDoes)
+{
+    ResultBench bench("de-DE");
+    CalRun run = runAt(kEvening);
+    run->InstrumentSpan = 12.5F;
+    auto& page = bench.show({dayWith(kDay, {run})});
+    EXPECT_EQ(page.lblCalTimeData.Caption(), "10.03.2024 20:15");
+    EXPECT_EQ(page.lblInstSpanData.Caption(), "12,5");
+}
+
+TEST(ResultDetails, AnAbsentInjectionLeavesItsFiveFieldsEmpty)
+{
+    ResultBench bench;
+    CalRun whole = runAt(kMorning);
+    whole->ZeroCal->UsesAPS = true;
+    whole->SpanCal->UsesAPS = true;
+    CalRun withoutZero = runAt(kEvening);
+    withoutZero->ZeroCal = nullptr;
+    CalRun withoutSpan = runAt(makeDate(2024, 3, 10, 22, 15));
+    withoutSpan->SpanCal = nullptr;
+    auto& page = bench.show({dayWith(kDay, {whole, withoutZero, withoutSpan})});
+
+    page.tvwCalTimes.Press("3/10/2024 08:15");
+    EXPECT_EQ(page.zero.apsLabel.Caption() + page.span.apsLabel.Caption(), "APSAPS");
+    page.tvwCalTimes.Press("3/10/2024 20:15");
+    for (const auto* label : {&page.zero.refData, &page.zero.measData, &page.zero.driftData,
+                              &page.zero.limitData, &page.zero.apsLabel})
+        EXPECT_EQ(label->Caption(), "") << label->Name();
+    EXPECT_EQ(page.span.refData.Caption(), "160");
+    EXPECT_EQ(page.lblCalResultLabel.Caption(), "Failed");
+    page.tvwCalTimes.Press("3/10/2024 22:15");
+    for (const auto* label : {&page.span.refData, &page.span.measData, &page.span.driftData,
+                              &page.span.limitData, &page.span.apsLabel})
+        EXPECT_EQ(label->Caption(), "") << label->Name();
+    EXPECT_EQ(page.zero.refData.Caption(), "0");
+}
+
+TEST(ResultDetails, APressOfADayBlanksThemAndLeavesTheColoursOfTheFailedRunBefore)
+{
+    ResultBench bench;
+    auto& page = bench.show({dayWith(kDay, {failedRunAt(kMorning), runAt(kEvening)})});
+    page.tvwCalTimes.Press("3/10/2024 08:15");
+    EXPECT_EQ(
+        bench.changesBy([&] { page.tvwCalTimes.Press("3/10/2024"); }),
+        (Lines{"lblCalOnline.Caption: \"On-Line\" -> \"\"",
+               "lblCalResultLabel.Caption: \"Failed\" -> \"\"",
+               "lblCalTimeData.Caption: \"3/10/2024 08:15\" -> \"\"",
+               "lblInstSpanData.Caption: \"200\" -> \"\"",
+               "lblSpanDriftData.Caption: \"6\" -> \"\"", "lblSpanLimitData.Caption: \"5\" -> \"\"",
+               "lblSpanMeasData.Caption: \"166\" -> \"\"",
+               "lblSpanRefData.Caption: \"160\" -> \"\"", "lblZeroDriftData.Caption: \"0\" -> \"\"",
+               "lblZeroLimitData.Caption: \"5\" -> \"\"", "lblZeroMeasData.Caption: \"0\" -> \"\"",
+               "lblZeroRefData.Caption: \"0\" -> \"\"",
+               "tvwCalTimes.SelectedItem: \"3/10/2024 08:15\" -> \"3/10/2024\""}));
+    EXPECT_EQ(page.lblCalResultLabel.ForeColor(), 255U);
+    EXPECT_TRUE(page.lblCalResultLabel.Bold());
+    EXPECT_EQ(page.span.driftData.ForeColor(), 255U);
+}
+
+TEST(ResultDetails, AShownRunStaysWithItsTreeEntry)
+{
+    ResultBench bench;
+    CalRun run = runAt(kMorning);
+    const std::weak_ptr<cls7DayAnalyzerCal> held = run;
+    bench.show({dayWith(kDay, {std::exchange(run, nullptr)})});
+    EXPECT_FALSE(held.expired());
+    bench.page.tvwCalTimes.Press("3/10/2024 08:15");
+    EXPECT_EQ(bench.page.lblCalResultLabel.Caption(), "Passed");
+    bench.page.ClearTreeView();
+    EXPECT_TRUE(held.expired());
+}
+
+} // namespace k7deval::test

@@ -1,0 +1,258 @@
+#include "foundation/ExpectError.h"
+#include "sevenday/ResultBench.h"
+
+#include <gtest/gtest.h>
+
+/// The tree of days and runs.
+namespace k7deval::test
+{
+
+namespace
+{
+
+const Date kDay = makeDate(2024, 3, 10);
+const Date kMorning = makeDate(2024, 3, 10, 8, 15);
+const Date kEvening = makeDate(2024, 3, 10, 20, 15);
+const Date kNextMorning = makeDate(2024, 3, 11, 8, 15);
+
+const Lines kNothingToShow = {"NA [OfflineFail] light"};
+
+Lines treeOf(const std::vector<CalDay>& days)
+{
+    ResultBench bench;
+    return linesOf(bench.show(days).tvwCalTimes);
+}
+
+} // namespace
+
+TEST(ResultTree, ClearedItHasTheEntryNAWhichIsNotSelected)
+{
+    ResultBench bench;
+    bench.page.ClearTreeView();
+    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), kNothingToShow);
+    EXPECT_EQ(bench.page.tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_EQ(runOf(*bench.page.tvwCalTimes.Nodes().front()), nullptr);
+}
+
+TEST(ResultTree, ClearingBlanksTheDetails)
+{
+    ResultBench bench;
+    bench.show({dayWith(kDay, {runAt(kMorning)})}).ClearTreeView();
+    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), kNothingToShow);
+    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "");
+    EXPECT_EQ(bench.page.lblCalResultLabel.Caption(), "");
+    EXPECT_EQ(bench.page.span.refData.Caption(), "");
+}
+
+TEST(ResultTree, APressOfTheEntryNASelectsIt)
+{
+    ResultBench bench;
+    bench.page.ClearTreeView();
+    bench.page.tvwCalTimes.Press("NA");
+    ASSERT_NE(bench.page.tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "");
+}
+
+TEST(ResultTree, AnEmptyArrayIsNothingToShow)
+{
+    ResultBench bench;
+    bench.show({dayWith(kDay, {runAt(kMorning)})});
+    bench.show({});
+    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), kNothingToShow);
+    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "");
+}
+
+TEST(ResultTree, AnArrayNeverSizedFailsAtItsFirstElement)
+{
+    ResultBench bench;
+    bench.show({dayWith(kDay, {runAt(kMorning)})});
+    EXPECT_EQ(errorOf([&] { return bench.page.SetTreeView(DayArray()), 0; }), 9);
+    EXPECT_TRUE(bench.page.tvwCalTimes.Nodes().empty());
+}
+
+TEST(ResultTree, ADayWithoutDisplayedRunsIsAnOperatingDayWithoutCalsAndNeverUsed)
+{
+    CalDay used = dayWith(kDay, {runAt(kMorning)});
+    used->DisplayedCals = RunArray();
+    CalDay cut = dayWith(makeDate(2024, 3, 11), {});
+    cut->DisplayedCals.resizeKeeping(-1);
+    EXPECT_EQ(treeOf({used, cut, operated(dayWith(makeDate(2024, 3, 12), {}))}),
+              (Lines{"3/10/2024 [OpDayNoCals] light", "3/11/2024 [OpDayNoCals] light",
+                     "3/12/2024 [OpDayNoCals] light"}));
+}
+
+TEST(ResultTree, ADayWithOneRunIsTheRunItself)
+{
+    EXPECT_EQ(treeOf({dayWith(kDay, {runAt(kMorning)})}),
+              Lines{"3/10/2024 08:15 [OnlinePass] white"});
+}
+
+TEST(ResultTree, ADayWithSeveralRunsHoldsThem)
+{
+    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning)), runAt(kEvening)})}),
+              (Lines{"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] light",
+                     "  3/10/2024 20:15 [OnlinePass] white"}));
+}
+
+TEST(ResultTree, MixesDatesAndDatesWithTimes)
+{
+    EXPECT_EQ(treeOf({dayWith(kDay, {runAt(kMorning), runAt(kEvening)}),
+                      dayWith(makeDate(2024, 3, 11), {runAt(kNextMorning)}),
+                      operated(dayWith(makeDate(2024, 3, 12), {}))}),
+              (Lines{"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] white",
+                     "  3/10/2024 20:15 [OnlinePass] white", "3/11/2024 08:15 [OnlinePass] white",
+                     "3/12/2024 [OpDayNoCals] light"}));
+}
+
+struct ImageCase {
+    bool passed;
+    bool online;
+    const char* image;
+};
+
+TEST(ResultTree, TheImageOfARunTellsPassedAndOnline)
+{
+    constexpr ImageCase kRows[] = {{true, true, "OnlinePass"},
+                                   {true, false, "OfflinePass"},
+                                   {false, true, "OnlineFail"},
+                                   {false, false, "OfflineFail"}};
+    for (const ImageCase& row : kRows) {
+        CalRun run = row.passed ? runAt(kMorning) : failedRunAt(kMorning);
+        run->IsOnline = row.online;
+        const std::string look = std::string(" [") + row.image + "] white";
+        EXPECT_EQ(treeOf({dayWith(kDay, {run})}), Lines{"3/10/2024 08:15" + look});
+        CalRun second = runAt(kEvening);
+        EXPECT_EQ(treeOf({dayWith(kDay, {run, second})})[1], "  3/10/2024 08:15" + look);
+    }
+}
+
+TEST(ResultTree, ARunThatIsNotUsedHasTheLightBackground)
+{
+    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning))})}),
+              Lines{"3/10/2024 08:15 [OnlinePass] light"});
+}
+
+struct DayImageCase {
+    const char* what;
+    bool firstPasses;
+    bool firstOnline;
+    bool secondPasses;
+    bool secondOnline;
+    bool dayOperated;
+    const char* image;
+};
+
+// An on-line run makes its day an operating day by itself.
+constexpr DayImageCase kDayImages[] = {
+    {"all passed on-line", true, true, true, true, true, "OnlinePass"},
+    {"all passed on-line, no operating hour", true, true, true, true, false, "OnlinePass"},
+    {"the first failed", false, true, true, true, true, "OnlineFail"},
+    {"the last failed", true, true, false, true, true, "OnlineFail"},
+    {"a failed off-line run beside an on-line one", true, true, false, false, true, "OnlineFail"},
+    {"a passed off-line run beside an on-line one", true, true, true, false, false, "OnlinePass"},
+    {"off-line runs, no operation", true, false, true, false, false, "OfflinePass"},
+    {"off-line runs, one failed, no operation", true, false, false, false, false, "OfflineFail"},
+    {"off-line runs, operation", true, false, true, false, true, "OpDayNoCals"},
+    {"off-line runs, failed, operation", false, false, false, false, true, "OpDayNoCals"},
+};
+
+TEST(ResultTree, TheImageOfADayRollsUpItsRuns)
+{
+    for (const DayImageCase& row : kDayImages) {
+        CalRun first = row.firstPasses ? runAt(kMorning) : failedRunAt(kMorning);
+        CalRun second = row.secondPasses ? runAt(kEvening) : failedRunAt(kEvening);
+        first->IsOnline = row.firstOnline;
+        second->IsOnline = row.secondOnline;
+        CalDay day = dayWith(kDay, {first, second});
+        day->SetIsOpDay(row.dayOperated);
+        EXPECT_EQ(treeOf({day})[0], std::string("3/10/2024 [") + row.image + "] white") << row.what;
+    }
+}
+
+TEST(ResultTree, ADayWhoseOnlineRunIsNotDisplayedIsStillAnOnlineDay)
+{
+    CalDay day = dayWith(kDay, {offline(runAt(kMorning)), offline(runAt(kEvening))});
+    const CalRun hidden = runAt(makeDate(2024, 3, 10, 22, 0));
+    day->CalsInDay().Add(minuteKey(hidden->CalTime), hidden);
+    EXPECT_EQ(treeOf({day})[0], "3/10/2024 [OnlinePass] white");
+}
+
+TEST(ResultTree, AFailedRunThatIsNotDisplayedDoesNotFailItsDay)
+{
+    CalDay day = dayWith(kDay, {runAt(kMorning), runAt(kEvening)});
+    const CalRun hidden = failedRunAt(makeDate(2024, 3, 10, 22, 0));
+    day->CalsInDay().Add(minuteKey(hidden->CalTime), hidden);
+    EXPECT_EQ(treeOf({day})[0], "3/10/2024 [OnlinePass] white");
+}
+
+TEST(ResultTree, ADayIsWhiteWhenOneOfItsRunsIsUsed)
+{
+    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning)), runAt(kEvening)})})[0],
+              "3/10/2024 [OnlinePass] white");
+    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning)), unused(runAt(kEvening))})})[0],
+              "3/10/2024 [OnlinePass] light");
+}
+
+TEST(ResultTree, TheFirstEntryIsSelectedAndItsDetailsShown)
+{
+    ResultBench bench;
+    auto& page =
+        bench.show({dayWith(kDay, {runAt(kMorning)}), dayWith(kDay, {runAt(kNextMorning)})});
+    EXPECT_EQ(page.tvwCalTimes.SelectedItem(), page.tvwCalTimes.Nodes().front().get());
+    EXPECT_EQ(page.lblCalTimeData.Caption(), "3/10/2024 08:15");
+}
+
+TEST(ResultTree, AFirstEntryOfADayLeavesTheDetailsBlank)
+{
+    ResultBench bench;
+    auto& page = bench.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
+    EXPECT_EQ(page.tvwCalTimes.SelectedItem()->Key, "3/10/2024");
+    EXPECT_EQ(page.lblCalTimeData.Caption(), "");
+}
+
+TEST(ResultTree, EachCallBuildsItAnew)
+{
+    ResultBench bench;
+    bench.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
+    bench.show({dayWith(kDay, {runAt(kNextMorning)})});
+    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), Lines{"3/11/2024 08:15 [OnlinePass] white"});
+    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "3/11/2024 08:15");
+}
+
+TEST(ResultTree, TwoRunsOfOneMinuteFailAtTheSecond)
+{
+    ResultBench bench;
+    CalDay day = dayWith(kDay, {runAt(kMorning)});
+    day->DisplayedCals =
+        RunArray({runAt(kMorning), runAt(makeDate(2024, 3, 10, 8, 15, 20)), runAt(kEvening)});
+    EXPECT_EQ(errorOf([&] { return bench.show({day}), 0; }), 457);
+    EXPECT_EQ(linesOf(bench.page.tvwCalTimes),
+              (Lines{"3/10/2024 [] other colour", "  3/10/2024 08:15 [OnlinePass] white"}));
+    EXPECT_EQ(bench.page.tvwCalTimes.SelectedItem(), nullptr);
+}
+
+TEST(ResultTree, TwoDaysOfOneDateFailAtTheSecond)
+{
+    ResultBench bench;
+    EXPECT_EQ(errorOf([&] { return bench.show({dayWith(kDay, {}), dayWith(kDay, {})}), 0; }), 457);
+}
+
+TEST(ResultTree, DatesAreWrittenAsTheRegionDoes)
+{
+    ResultBench bench("de-DE");
+    bench.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
+    EXPECT_EQ(linesOf(bench.page.tvwCalTimes),
+              (Lines{"10.03.2024 [OnlinePass] white", "  10.03.2024 08:15 [OnlinePass] white",
+                     "  10.03.2024 20:15 [OnlinePass] white"}));
+}
+
+TEST(ResultTree, AChildHoldsItsRunAndADayHoldsNone)
+{
+    ResultBench bench;
+    const CalRun morning = runAt(kMorning);
+    auto& page = bench.show({dayWith(kDay, {morning, runAt(kEvening)})});
+    EXPECT_EQ(runOf(*page.tvwCalTimes.Find("3/10/2024 08:15")), morning);
+    EXPECT_EQ(runOf(*page.tvwCalTimes.Find("3/10/2024")), nullptr);
+}
+
+} // namespace k7deval::test

@@ -35,6 +35,8 @@ void deleteFile(const std::string& path)
     const fs::file_status status = fs::status(file, failure);
     if (!fs::exists(status))
         throw Error(errors::kFileNotFound);
+    if (!fs::is_regular_file(status))
+        throw Error(errors::kPathAccess);
     if ((status.permissions() & fs::perms::owner_write) == fs::perms::none)
         throw Error(errors::kPermissionDenied);
     if (!fs::remove(file, failure))

@@ -219,6 +219,10 @@ constexpr EvaluationCase kManualExcludedSixOfSeven[] = {
     {"AnOfflineRunDoesNot", "a+A-", 0, 1, 0, kNone, "2"},
     {"AnExcludedRunDoesNot", "M+A-", 0, 1, 0, kNone, "2"},
     {"AGoodRunStandsForAnExcludedFailedOne", "M-A+A+", 0, 1, 0, kNone, "2"},
+    // A good run that stands for a failure is not recounted: neither on the day of the failure nor
+    // on the fail day before it.
+    {"AGoodRunOfTheThirdFailureIsNotRecounted", "F F P A+A-", 1, 1, 3, 1, "..11"},
+    {"AGoodRunOfTheFailureBeforeIsNotRecounted", "F F P A+A- P F", 1, 1, 5, 3, "....11"},
     // A failure without an eligible run is recorded, and marks and counts nothing.
     {"AnExcludedFailureMarksNothing", "P M- P", 2, 0, 1, kNone, "1.1"},
     {"SevenGoodRunsAroundAnExcludedFailure", "PPP M- PPPP", 7, 0, 3, kNone, "111.1111"},
@@ -252,7 +256,32 @@ TEST(Evaluation, AnEmptyIntervalIsNoScan)
     EXPECT_THAT(bench.messages->lines(), testing::IsEmpty());
 }
 
-TEST(Evaluation, MarksAndCountersOfAnEarlierEvaluationGo)
+TEST(Evaluation, AMarkThatTheOptionsNoLongerAllowGoes)
+{
+    DriftBench bench;
+    setDays(bench, daysOf("M+ P"));
+    bench.test.blnIncludeManualCals = true;
+    bench.test.EvaluateDriftTest();
+    ASSERT_EQ(marksText(outcomeOf(bench.test), 2), "11");
+
+    bench.test.blnIncludeManualCals = false;
+    bench.test.EvaluateDriftTest();
+
+    EXPECT_EQ(marksText(outcomeOf(bench.test), 2), ".1");
+    EXPECT_EQ(bench.test.lngGoodCals, 1);
+}
+
+TEST(Evaluation, ARunMadeWithinTheIntervalIsPlacedUnderItsDayAndMinute)
+{
+    DriftBench bench;
+    setDays(bench, daysOf("P A+a+"));
+    bench.test.EvaluateDriftTest();
+    const RunMap& runs = bench.test.dictDays.Item("2024/03/11")->CalsInDay();
+    EXPECT_THAT(runs.Keys(), testing::ElementsAre("2024/03/11 06:00", "2024/03/11 06:01"));
+    EXPECT_EQ(runs.Item("2024/03/11 06:01"), bench.test.dictCals->Item("2024/03/11 06:01"));
+}
+
+TEST(Evaluation, CountersOfAnEarlierEvaluationGo)
 {
     DriftBench bench;
     setDays(bench, daysOf("PPPPPPPF"));

@@ -1,0 +1,138 @@
+#include "sevenday/RetrievalBench.h"
+
+#include <utility>
+
+namespace k7deval::test
+{
+
+// The operating time of the unit, and of what the analyzer is linked to.
+class OperatingTime : public Retrieval
+{
+protected:
+    void link(PID source, PID object)
+    {
+        bench_.site->parameter(source).links[attribute::kLinkedObjectPID] = object;
+    }
+    void giveStackItsOwn(PID hours)
+    {
+        bench_.site->parameter(kDriftStack).links[attribute::kOperatingTimePID] = hours;
+    }
+    PID found()
+    {
+        bench_.test.lngOpTimePID = 1;
+        retrieve();
+        return bench_.test.lngOpTimePID;
+    }
+};
+
+TEST_F(OperatingTime, OfTheUnitIsTakenWithoutRecords)
+{
+    EXPECT_EQ(found(), kDriftUnitHours);
+    EXPECT_EQ(bench_.site->countCalls("DIRecord.SourceTagID"), 0U);
+}
+
+TEST_F(OperatingTime, OfTheUnitIsTakenWithoutALink)
+{
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, IsNoneForAUnitWithoutOne)
+{
+    bench_.site->parameter(kDriftUnit).links.clear();
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), 0);
+}
+
+TEST_F(OperatingTime, OfTheLinkedObjectWins)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftStackHours);
+}
+
+TEST_F(OperatingTime, OfTheLinkedObjectWinsForAUnitWithoutOne)
+{
+    bench_.site->parameter(kDriftUnit).links.clear();
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftStackHours);
+}
+
+TEST_F(OperatingTime, OfTheUnitStandsWhenTheLinkedObjectHasNone)
+{
+    link(kDriftSource, kDriftStack);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, OfTheUnitStandsWhenThatOfTheLinkedObjectDoesNotExist)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours + 1);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, OfTheUnitStandsWhenTheLinkedObjectDoesNotExist)
+{
+    link(kDriftSource, kDriftStack + 1);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, WithPidZeroNeverWins)
+{
+    ParameterData zero;
+    zero.pid = 0;
+    bench_.site->parameters.push_back(zero);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+// Without records the linked object is that of PID 0, which a site may have.
+TEST_F(OperatingTime, OfAParameterWithPidZeroWinsWithoutRecords)
+{
+    ParameterData zero;
+    zero.pid = 0;
+    zero.links[attribute::kOperatingTimePID] = kDriftStackHours;
+    bench_.site->parameters.push_back(zero);
+    EXPECT_EQ(found(), kDriftStackHours);
+}
+
+TEST_F(OperatingTime, GoesByTheFirstUpscaleRecord)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addZero(onDay(0, 8)).sourceTag = kDriftAnalyzer;
+    addUpscale(onDay(0, 8));
+    addUpscale(onDay(0, 9)).sourceTag = kDriftAnalyzer;
+    EXPECT_EQ(found(), kDriftStackHours);
+
+    std::swap(bench_.site->records[1], bench_.site->records[2]);
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, GoesByTheFirstZeroRecordWithoutUpscaleOnes)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addZero(onDay(0, 8));
+    addZero(onDay(0, 9)).sourceTag = kDriftAnalyzer;
+    EXPECT_EQ(found(), kDriftStackHours);
+
+    std::swap(bench_.site->records[0].sourceTag, bench_.site->records[1].sourceTag);
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+TEST_F(OperatingTime, DoesNotGoByRecordsOfAnotherScale)
+{
+    link(kDriftSource, kDriftStack);
+    giveStackItsOwn(kDriftStackHours);
+    addUpscale(onDay(0, 8)).scale = "LOW";
+    EXPECT_EQ(found(), kDriftUnitHours);
+}
+
+} // namespace k7deval::test

@@ -20,28 +20,31 @@ constexpr float kSummaryRows = 4;
 
 std::optional<Error> DriftReport::WriteDriftReport(const std::string& fileName)
 {
-    return runPosting(test_->irm, NumberedLine::WriteDriftReport, [&] { writeReport(fileName); });
+    return runPosting(test_->irm, NumberedLine::WriteDriftReport, [&] {
+        if (const auto document = build())
+            document->SaveToFile(fileName);
+    });
 }
 
-void DriftReport::writeReport(const std::string& fileName)
+std::unique_ptr<ReportDocument> DriftReport::build()
 {
     strFacilityName = facilityName(present(test_->DIServer));
     strPrecision = setUp_->AnalyzedPrecision();
-    ReportDocument document;
-    document.SetAuthor("Kelvo Data Evaluation");
-    document.SetCreator("Kelvo Data Evaluation");
-    document.SetSubject("7-Day Drift Testing");
-    document.SetTitle("7-Day Drift Testing");
+    auto document = std::make_unique<ReportDocument>();
+    document->SetAuthor("Kelvo Data Evaluation");
+    document->SetCreator("Kelvo Data Evaluation");
+    document->SetSubject("7-Day Drift Testing");
+    document->SetTitle("7-Day Drift Testing");
 
-    Position at = newPage(document);
+    Position at = newPage(*document);
     if (test_->hasRunsToShow(setUp_->ShowOnlyDriftCals())) {
         if (SafeUBound(test_->objDaysToDisplay) < SafeLBound(test_->objDaysToDisplay))
-            return;
-        drawRows(document, at);
+            return nullptr;
+        drawRows(*document, at);
     }
     if (!test_->strSummary.empty())
         DrawSummaryText(*at.page, at.y - at.reserve / kSummaryRows);
-    document.SaveToFile(fileName);
+    return document;
 }
 
 DriftReport::Position DriftReport::newPage(ReportDocument& document)

@@ -5,6 +5,7 @@
 #include "sevenday/DriftTest.h"
 #include "sevenday/ctrl7DaySetUp.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -29,6 +30,11 @@ public:
     /// no file is left then.
     std::optional<Error> WriteDriftReport(const std::string& fileName);
 
+    /// The report with everything in its place, ready to be saved. Nothing when there are runs but
+    /// no days to show them in. Raises what keeps it from being built, such as error 9 for days
+    /// that were never sized.
+    [[nodiscard]] std::unique_ptr<ReportDocument> build();
+
     std::string strFacilityName; ///< The title line of each page.
     std::string strPrecision;    ///< The number format of all figures but the span.
 
@@ -39,7 +45,6 @@ private:
         float y = 0;
         float reserve = 0;
     };
-    void writeReport(const std::string& fileName);
     [[nodiscard]] std::optional<std::int32_t> firstDayWithCals() const;
     Position newPage(ReportDocument& document);
     void drawRows(ReportDocument& document, Position& at);

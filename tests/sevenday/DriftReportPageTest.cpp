@@ -1,0 +1,281 @@
+#include "sevenday/ReportBench.h"
+
+#include <gtest/gtest.h>
+
+/// What stands on a page of the report, at positions worked by hand: a text of Helvetica is 0.925
+/// of its size high and as wide as the advances of its characters together.
+namespace k7deval::test
+{
+
+namespace
+{
+
+const Date kDay = makeDate(2024, 3, 10);
+const Date kMorning = makeDate(2024, 3, 10, 8, 15);
+
+/// The footer, three title lines, nine upper and eleven lower head texts.
+constexpr std::size_t kHeadTexts = 24;
+constexpr std::size_t kRowTexts = 11;
+
+/// A text centred on a column.
+struct CentredText {
+    const char* text;
+    double centre;
+    double width; ///< In Helvetica at 10 points: "Time" is T 611, i 222, m 833 and e 556.
+};
+
+constexpr CentredText kUpperHeads[] = {
+    {"Instrument", 166, 47.24}, {"Zero", 226, 20.56}, {"Zero", 286, 20.56},
+    {"Zero", 346, 20.56},       {"Zero", 406, 20.56}, {"Span", 466, 23.35},
+    {"Span", 526, 23.35},       {"Span", 586, 23.35}, {"Span", 646, 23.35},
+};
+
+constexpr CentredText kLowerHeads[] = {
+    {"Time", 86, 22.22},         {"Span", 166, 23.35},     {"Reference", 226, 46.13},
+    {"Measured", 286, 44.46},    {"Drift", 346, 18.33},    {"Drift Limit", 406, 42.22},
+    {"Reference", 466, 46.13},   {"Measured", 526, 44.46}, {"Drift", 586, 18.33},
+    {"Drift Limit", 646, 42.22}, {"Status", 716, 28.35},
+};
+
+void expectCentred(const ReportPage& page, const CentredText& text, double y, int font = 5)
+{
+    expectText(page, {text.text, font, 10, text.centre - text.width / 2, y});
+}
+
+/// A report of one run.
+struct RowBench : ReportBench {
+    explicit RowBench(const CalRun& run, const AnalyzerFacts& facts = {},
+                      const std::string& region = "en-US")
+        : ReportBench(facts, region)
+    {
+        show({dayWith(kDay, {run})});
+    }
+    [[nodiscard]] Lines row() { return textsAt(sheet(0), rowY(1)); }
+};
+
+/// The font of a text of the first row; 0 when it isn't there.
+int fontOf(ReportBench& bench, const std::string& text)
+{
+    for (const ReportTextItem& item : bench.sheet(0).TextItems()) {
+        if (item.Text() == text)
+            return item.Font();
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(ReportDocumentOfDrift, TellsWhoMadeItAndWhatItIs)
+{
+    ReportBench bench;
+    const ReportDocument& document = bench.build();
+    EXPECT_EQ(document.Author(), "Kelvo Data Evaluation");
+    EXPECT_EQ(document.Creator(), "Kelvo Data Evaluation");
+    EXPECT_EQ(document.Subject(), "7-Day Drift Testing");
+    EXPECT_EQ(document.Title(), "7-Day Drift Testing");
+}
+
+TEST(ReportHead, IsALandscapePage)
+{
+    ReportBench bench;
+    EXPECT_EQ(bench.sheet(0).Height(), 612);
+    EXPECT_EQ(bench.sheet(0).Width(), 792);
+}
+
+TEST(ReportHead, HasTheFacilityTheToolAndTheAnalyzerOnTheCentreLine)
+{
+    ReportBench bench;
+    const ReportPage& page = bench.sheet(0);
+    expectText(page, {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
+    expectText(page, {"7-Day Drift Test", 6, 12, 392 - 88.68 / 2, 563.05 - 11.1 - 2});
+    expectText(page, {"GT3 NOX/H", 5, 10, 392 - 53.9 / 2, 549.95 - 9.25 - 2});
+    EXPECT_EQ(countTexts(page), kHeadTexts);
+}
+
+TEST(ReportHead, HasTwoLinesOfColumnHeads)
+{
+    ReportBench bench;
+    for (const CentredText& head : kUpperHeads)
+        expectCentred(bench.sheet(0), head, 538.7 - 11.25);
+    for (const CentredText& head : kLowerHeads)
+        expectCentred(bench.sheet(0), head, 527.45 - 11.25);
+}
+
+TEST(ReportHead, HasARuleUnderItAndOneOverTheFooter)
+{
+    ReportBench bench;
+    const auto& lines = bench.sheet(0).Lines();
+    ASSERT_EQ(lines.Count(), 2);
+    const double expected[] = {49.1, 514.2};
+    for (int i = 0; i < 2; ++i) {
+        const ReportLine& line = *std::next(lines.begin(), i);
+        EXPECT_EQ(line.X1(), 36);
+        EXPECT_EQ(line.X2(), 756);
+        EXPECT_NEAR(line.Y1(), expected[i], 0.001);
+        EXPECT_EQ(line.Y2(), line.Y1());
+        EXPECT_FALSE(line.isDashed());
+    }
+    EXPECT_NEAR(kHeadRule, 514.2, 1e-9);
+}
+
+TEST(ReportHead, TheFooterHangsBelowItsRuleWithTheTimeOfTheReport)
+{
+    ReportBench bench;
+    expectText(bench.sheet(0), {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
+}
+
+TEST(ReportHead, TheFooterIsWrittenAsTheRegionDoes)
+{
+    ReportBench bench({}, "de-DE");
+    expectText(bench.sheet(0), {"7-Day Drift Summary 10.03.2024 14:30", 7, 8, 36, 41.7});
+}
+
+TEST(ReportHead, AFacilityWithoutANameHasAStandIn)
+{
+    for (const std::optional<std::string>& name : {std::optional<std::string>(), {""}}) {
+        ReportBench bench;
+        bench.site->facilityName = name;
+        expectText(bench.sheet(0), {"<Facility Name>", 6, 14, 392 - 106.61 / 2, 563.05});
+        EXPECT_EQ(bench.report.strFacilityName, "<Facility Name>");
+    }
+}
+
+TEST(ReportHead, NameAndPrecisionAreTakenAnewForEachReport)
+{
+    ReportBench bench;
+    bench.build();
+    EXPECT_EQ(bench.report.strPrecision, "0.0");
+    bench.site->facilityName = "Barrett";
+    bench.site->parameter(AnalyzerFacts().calibrationPID()).attributes[attribute::kDecimals] =
+        std::int32_t{2};
+    bench.build();
+    EXPECT_EQ(bench.report.strPrecision, "0.00");
+    EXPECT_EQ(bench.report.strFacilityName, "Barrett");
+}
+
+TEST(ReportRow, HasElevenTextsCentredOnTheColumns)
+{
+    CalRun run = failedRunAt(kMorning);
+    run->ZeroCal->MeasuredValue = 1.5F;
+    RowBench bench(run);
+    const ReportPage& page = bench.sheet(0);
+    const CentredText texts[] = {
+        {"3/10/2024 08:15", 86, 72.28},
+        {"200", 166, 16.68},
+        {"0.0", 226, 13.9},
+        {"1.5", 286, 13.9},
+        {"1.5", 346, 13.9},
+        {"5.0", 406, 13.9},
+        {"160.0", 466, 25.02},
+        {"166.0", 526, 25.02},
+        {"5.0", 646, 13.9},
+        {"On-Line", 716, 35.57},
+    };
+    for (const CentredText& text : texts)
+        expectCentred(page, text, 514.2 - 9.25 - 2);
+    expectCentred(page, {"6.0", 586, 13.9}, 502.95, 6);
+    EXPECT_EQ(countTexts(page), kHeadTexts + kRowTexts);
+}
+
+TEST(ReportRow, TellsAnOfflineRun)
+{
+    RowBench bench(offline(runAt(kMorning)));
+    expectCentred(bench.sheet(0), {"Off-Line", 716, 35.57}, 502.95);
+}
+
+TEST(ReportRow, LeavesTheColumnsOfAnAbsentInjectionEmpty)
+{
+    CalRun withoutZero = runAt(kMorning);
+    withoutZero->ZeroCal = nullptr;
+    EXPECT_EQ(RowBench(withoutZero).row(),
+              (Lines{"3/10/2024 08:15", "200", "160.0", "160.0", "0.0", "5.0", "On-Line"}));
+    CalRun withoutSpan = runAt(kMorning);
+    withoutSpan->SpanCal = nullptr;
+    EXPECT_EQ(RowBench(withoutSpan).row(),
+              (Lines{"3/10/2024 08:15", "200", "0.0", "0.0", "0.0", "5.0", "On-Line"}));
+}
+
+TEST(ReportRow, FiguresHaveTheDecimalsOfTheAnalyzerAndTheSpanNone)
+{
+    CalRun run = runAt(kMorning);
+    run->InstrumentSpan = 12.345F;
+    run->ZeroCal = injection(0.25F, 0.375F, 2.5F);
+    AnalyzerFacts facts;
+    facts.decimals = std::int32_t{2};
+    // 0.375 - 0.25 is 0.125, halves away from zero.
+    EXPECT_EQ(RowBench(run, facts).row(),
+              (Lines{"3/10/2024 08:15", "12.345", "0.25", "0.38", "0.13", "2.50", "160.00",
+                     "160.00", "0.00", "5.00", "On-Line"}));
+    facts.decimals = std::int32_t{0};
+    EXPECT_EQ(RowBench(run, facts).row()[6], "160.");
+}
+
+TEST(ReportRow, FiguresAndDatesAreWrittenAsTheRegionDoes)
+{
+    CalRun run = runAt(makeDate(2024, 3, 10, 20, 15));
+    run->InstrumentSpan = 12.5F;
+    const Lines row = RowBench(run, {}, "de-DE").row();
+    EXPECT_EQ(row[0], "10.03.2024 20:15");
+    EXPECT_EQ(row[1], "12,5");
+    EXPECT_EQ(row[6], "160,0");
+}
+
+TEST(ReportRow, ADriftKeepsItsSign)
+{
+    CalRun run = runAt(kMorning);
+    run->SpanCal->MeasuredValue = 157;
+    EXPECT_EQ(RowBench(run).row()[8], "-3.0");
+}
+
+struct DriftFontCase {
+    const char* what;
+    float measured; ///< Of a reference of 100 and a limit of 2.5.
+    const char* text;
+    int font;
+};
+
+TEST(ReportRow, OnlyADriftAboveItsLimitStandsOut)
+{
+    constexpr DriftFontCase kRows[] = {
+        {"below", 102.25F, "2.25", 5},
+        {"at the limit", 102.5F, "2.50", 5},
+        {"at the limit, below the reference", 97.5F, "-2.50", 5},
+        {"above", 102.75F, "2.75", 6},
+        {"above, below the reference", 97.25F, "-2.75", 6},
+    };
+    for (const DriftFontCase& row : kRows) {
+        AnalyzerFacts facts;
+        facts.decimals = std::int32_t{2};
+        CalRun zero = runAt(kMorning);
+        zero->ZeroCal = injection(100, row.measured, 2.5F);
+        RowBench zeroBench(zero, facts);
+        EXPECT_EQ(fontOf(zeroBench, row.text), row.font) << row.what;
+        CalRun span = runAt(kMorning);
+        span->SpanCal = injection(100, row.measured, 2.5F);
+        RowBench spanBench(span, facts);
+        EXPECT_EQ(fontOf(spanBench, row.text), row.font) << row.what;
+    }
+}
+
+TEST(ReportRow, ARunThatIsNotUsedHasABandAcrossTheWholeWidth)
+{
+    CalRun run = unused(runAt(kMorning));
+    run->ZeroCal = nullptr;
+    RowBench bench(run);
+    const auto& bands = bench.sheet(0).Rectangles();
+    ASSERT_EQ(bands.Count(), 1);
+    const ReportRectangle& band = *bands.begin();
+    EXPECT_EQ(band.X(), 36);
+    EXPECT_EQ(band.Width(), 720);
+    EXPECT_NEAR(band.Y(), 502.95 - 1, 0.001);
+    EXPECT_NEAR(band.Height(), 514.2 - 1 - 501.95 - 3, 0.001);
+    EXPECT_EQ(band.FillColor(), 0xF0F0F0);
+    EXPECT_EQ(band.LineColor(), 0xF0F0F0);
+}
+
+TEST(ReportRow, AUsedRunHasNoBand)
+{
+    EXPECT_EQ(RowBench(failedRunAt(kMorning)).sheet(0).Rectangles().Count(), 0);
+}
+
+} // namespace k7deval::test

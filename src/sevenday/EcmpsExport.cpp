@@ -76,7 +76,7 @@ float percentOf(float part, float whole)
 {
     if (whole == 0)
         throw Error(part == 0 ? errors::kOverflow : errors::kDivisionByZero);
-    return static_cast<float>(static_cast<double>(part) / static_cast<double>(whole) * 100);
+    return ToSingle(static_cast<double>(part) / static_cast<double>(whole) * 100);
 }
 
 float rounded(float value, std::int32_t digits)

@@ -300,6 +300,24 @@ TEST(Save, AFailingViewerBehindADeletionShowsTheBox)
     EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("53:File not found")}));
 }
 
+TEST(SaveExport, HoldsTheRunsOfTheTestThatTheDisplayShows)
+{
+    auto site = siteWithDailyCals(9);
+    addCal(*site, {.time = march(3, 20, 30), .manual = true});
+    SaveBench bench(kXml, site);
+    bench.save();
+    const std::string text = contentOf(bench.path);
+    for (const char* date : {"2024-03-01", "2024-03-02", "2024-03-03", "2024-03-04", "2024-03-05",
+                             "2024-03-06", "2024-03-07"})
+        EXPECT_NE(text.find("<ZeroInjectionDate>" + std::string(date) +
+                            "</ZeroInjectionDate><ZeroInjectionHour>8</ZeroInjectionHour>"),
+                  std::string::npos)
+            << text;
+    EXPECT_EQ(text.find("2024-03-08"), std::string::npos) << "behind the end of the test";
+    EXPECT_EQ(text.find("<ZeroInjectionHour>20"), std::string::npos) << "not counted";
+    EXPECT_NE(text.find("<TestResultCode>PASSED</TestResultCode>"), std::string::npos);
+}
+
 TEST(SaveExport, AsksAboutATestThatIsNotCompleted)
 {
     SaveBench bench(kXml, siteWithDailyCals(6));

@@ -1,0 +1,46 @@
+#include "sevenday/ExportBench.h"
+
+#include <gtest/gtest.h>
+#include <pugixml.hpp>
+
+namespace k7deval::test
+{
+
+ExportBench::ExportBench(const AnalyzerFacts& facts, const std::string& region)
+    : SetUpBench(siteOf(facts), region)
+{
+    setup();
+    test.irm = messages;
+    test.DIServer = serve(site);
+    test.lngAnalyzedPID = facts.measuredPID();
+    test.lngGoodCals = 7;
+}
+
+ExportBench& ExportBench::show(const std::vector<CalDay>& days)
+{
+    test.objDaysToDisplay = arrayOf(days);
+    return *this;
+}
+
+std::string ExportBench::text()
+{
+    EXPECT_EQ(write(), std::nullopt);
+    return testing::contentOf(path);
+}
+
+std::string ExportBench::valueOf(const std::string& element)
+{
+    pugi::xml_document document;
+    const std::string content = text();
+    EXPECT_TRUE(document.load_string(content.c_str())) << content;
+    const pugi::xml_node found =
+        document.find_node([&](const pugi::xml_node& node) { return node.name() == element; });
+    return found ? found.text().as_string() : "(absent)";
+}
+
+CalDay dayOf(const CalRun& run)
+{
+    return dayWith(dateOnly(run->CalTime), {run});
+}
+
+} // namespace k7deval::test

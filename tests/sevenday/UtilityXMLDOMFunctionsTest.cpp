@@ -1,0 +1,195 @@
+#include "sevenday/UtilityXMLDOMFunctions.h"
+
+#include <gtest/gtest.h>
+
+/// The small functions that the export builds its tree with.
+namespace k7deval::test
+{
+
+namespace
+{
+
+/// A document with the root "Root".
+struct Tree {
+    pugi::xml_document document = CreateXMLDocument();
+    pugi::xml_node root = AddChildElement(document, "Root", "");
+
+    [[nodiscard]] std::string text() const { return documentText(document); }
+};
+
+const RegionalSettings kSettings;
+
+} // namespace
+
+TEST(CreateXMLDocument, IsEmpty)
+{
+    EXPECT_EQ(documentText(CreateXMLDocument()), "");
+}
+
+TEST(AddChildElement, AppendsTheElementBehindTheOthersAndReturnsIt)
+{
+    Tree tree;
+    AddChildElement(tree.root, "First", "1");
+    const pugi::xml_node second = AddChildElement(tree.root, "Second", "2");
+    EXPECT_EQ(second, tree.root.last_child());
+    EXPECT_EQ(tree.text(), "<Root><First>1</First><Second>2</Second></Root>");
+}
+
+TEST(AddChildElement, AddsANamesakeToo)
+{
+    Tree tree;
+    AddChildElement(tree.root, "A", "1");
+    AddChildElement(tree.root, "A", "2");
+    EXPECT_EQ(tree.text(), "<Root><A>1</A><A>2</A></Root>");
+}
+
+TEST(AddChildElement, AnEmptyTextLeavesTheElementWithoutContent)
+{
+    Tree tree;
+    const pugi::xml_node element = AddChildElement(tree.root, "A", "");
+    EXPECT_FALSE(element.first_child());
+}
+
+TEST(AddChildElement, WithoutAParentGivesNothing)
+{
+    EXPECT_FALSE(AddChildElement(pugi::xml_node(), "A", "1"));
+}
+
+TEST(SetNodeText, ReplacesTheTextOfTheFirstChildOfThatNameInItsPlace)
+{
+    Tree tree;
+    const pugi::xml_node first = AddChildElement(tree.root, "A", "old");
+    AddChildElement(tree.root, "B", "");
+    AddChildElement(tree.root, "A", "second");
+    EXPECT_EQ(SetNodeText(tree.root, "A", "new"), first);
+    SetNodeText(tree.root, "B", "filled");
+    EXPECT_EQ(tree.text(), "<Root><A>new</A><B>filled</B><A>second</A></Root>");
+}
+
+TEST(SetNodeText, CanEmptyAnElement)
+{
+    Tree tree;
+    AddChildElement(tree.root, "A", "old");
+    SetNodeText(tree.root, "A", "");
+    EXPECT_FALSE(tree.root.child("A").first_child());
+}
+
+TEST(SetNodeText, AddsAnElementThatIsNotThere)
+{
+    Tree tree;
+    AddChildElement(tree.root, "A", "1");
+    const pugi::xml_node added = SetNodeText(tree.root, "B", "2");
+    EXPECT_EQ(added, tree.root.last_child());
+    EXPECT_EQ(tree.text(), "<Root><A>1</A><B>2</B></Root>");
+}
+
+TEST(SetNodeText, LooksAmongTheChildrenAlone)
+{
+    Tree tree;
+    const pugi::xml_node child = AddChildElement(tree.root, "Child", "");
+    AddChildElement(child, "A", "deep");
+    SetNodeText(tree.root, "A", "new");
+    EXPECT_EQ(tree.text(), "<Root><Child><A>deep</A></Child><A>new</A></Root>");
+}
+
+TEST(SetNodeText, WithoutAParentGivesNothing)
+{
+    EXPECT_FALSE(SetNodeText(pugi::xml_node(), "A", "1"));
+}
+
+struct DateCase {
+    const char* what;
+    Date value;
+    const char* format;
+    const char* text;
+};
+
+TEST(SetDateNode, WritesTheDateInItsFormatOrInTheOneThatFits)
+{
+    const Date midnight = makeDate(2024, 3, 5);
+    const Date morning = makeDate(2024, 3, 5, 8, 7);
+    const double second = 1.0 / 86400;
+    const DateCase rows[] = {
+        {"the zero date", {}, "yyyy-mm-dd", ""},
+        {"the zero date without a format", {}, "", ""},
+        {"months behind years", morning, "yyyy-mm-dd", "2024-03-05"},
+        {"minutes behind hours", morning, "yyyy-MM-dd HH:mm", "2024-03-05 08:07"},
+        {"minutes by their own letter", morning, "HH:nn", "08:07"},
+        {"a time alone", {0.5}, "", "12:00"},
+        {"a time of the zero date before the last minute", {1 - 90 * second}, "", "23:58"},
+        {"a midnight", midnight, "", "2024-03-05"},
+        {"a midnight within half a second", {midnight.days + 0.4 * second}, "", "2024-03-05"},
+        {"a second behind midnight", {midnight.days + second}, "", "2024-03-05 00:00"},
+        {"any other time", morning, "", "2024-03-05 08:07"},
+        {"an early year", makeDate(345, 1, 2), "", "0345-01-02"},
+    };
+    for (const DateCase& row : rows) {
+        Tree tree;
+        const pugi::xml_node element = SetDateNode(tree.root, "When", row.value, row.format);
+        EXPECT_EQ(std::string(element.text().as_string()), row.text) << row.what;
+        EXPECT_EQ(element.first_child().empty(), *row.text == '\0') << row.what;
+    }
+}
+
+TEST(SetDateNode, FillsAnElementThatIsThere)
+{
+    Tree tree;
+    AddChildElement(tree.root, "When", "");
+    AddChildElement(tree.root, "Behind", "");
+    SetDateNode(tree.root, "When", makeDate(2024, 3, 5), "yyyy-mm-dd");
+    EXPECT_EQ(tree.text(), "<Root><When>2024-03-05</When><Behind/></Root>");
+    SetDateNode(tree.root, "When", {}, "yyyy-mm-dd");
+    EXPECT_EQ(tree.text(), "<Root><When/><Behind/></Root>");
+}
+
+struct BooleanCase {
+    const char* what;
+    Variant value;
+    const char* text;
+};
+
+TEST(SetBooleanNode, WritesOneForTrueAndAnyNumberButZero)
+{
+    const BooleanCase rows[] = {
+        {"true", true, "1"},
+        {"false", false, "0"},
+        {"one", std::int32_t{1}, "1"},
+        {"minus one", std::int16_t{-1}, "1"},
+        {"zero", std::int32_t{0}, "0"},
+        {"a fraction", 0.25, "1"},
+        {"a single of zero", 0.0F, "0"},
+        {"an amount", Currency{1}, "1"},
+        {"a numeric text", std::string("5"), "1"},
+        {"a numeric text of zero", std::string("0.0"), "0"},
+        {"a text that is no number", std::string("yes"), ""},
+        {"a truth in words", std::string("True"), ""},
+        {"an empty text", std::string(), ""},
+        {"nothing given", Empty{}, ""},
+        {"Null", Null{}, ""},
+        {"a date", makeDate(2024, 3, 5), ""},
+        {"a number too large for any", std::string("1E999"), ""},
+    };
+    for (const BooleanCase& row : rows) {
+        Tree tree;
+        const pugi::xml_node element = SetBooleanNode(tree.root, "Is", row.value, kSettings);
+        EXPECT_EQ(std::string(element.text().as_string()), row.text) << row.what;
+        EXPECT_EQ(element.first_child().empty(), *row.text == '\0') << row.what;
+    }
+}
+
+TEST(SetBooleanNode, FillsAnElementThatIsThere)
+{
+    Tree tree;
+    AddChildElement(tree.root, "Is", "");
+    SetBooleanNode(tree.root, "Is", true, kSettings);
+    EXPECT_EQ(tree.text(), "<Root><Is>1</Is></Root>");
+}
+
+TEST(DocumentText, EscapesWhatXMLKeepsForItself)
+{
+    Tree tree;
+    AddChildElement(tree.root, "A", "<&>");
+    EXPECT_EQ(tree.text(), "<Root><A>&lt;&amp;&gt;</A></Root>");
+}
+
+} // namespace k7deval::test

@@ -12,12 +12,18 @@ namespace k7deval::cli
 namespace
 {
 
+/// What keeps a text from being one, or nothing. An option in its place would be taken for it.
+std::string faultOf(const std::string& text)
+{
+    if (text.empty())
+        return "the text is empty";
+    return text.starts_with("--") ? "a text is missing ahead of " + text : std::string();
+}
+
 CLI::Option* addText(CLI::App& command, const std::string& name, std::string& text,
                      const std::string& help)
 {
-    return command.add_option(name, text, help)->check([](const std::string& given) {
-        return given.empty() ? std::string("the text is empty") : std::string();
-    });
+    return command.add_option(name, text, help)->check(faultOf);
 }
 
 void addSite(CLI::App& command, std::string& site)

@@ -30,13 +30,19 @@ void DriftSession::evaluate()
     control_.cmdNext.Press();
 }
 
+// No entry but the one for nothing.
+bool DriftSession::hasCalibrations() const
+{
+    return control_.ctrl7DayResult1.tvwCalTimes.Find("NA") == nullptr;
+}
+
 std::string DriftSession::failure() const
 {
     const bool hasResult = control_.ctrl7DayResult1.Visible();
     if (hasResult && postedLines().size() == linesBefore_)
         return {};
     return std::string(hasResult ? "There is no sure result " : "There is no result ") +
-           asReason(postedLines().at(linesBefore_)) + ".";
+           asReason(postedLines().at(linesBefore_), "because a step failed") + ".";
 }
 
 void DriftSession::savePdf(const std::string& path)
@@ -58,7 +64,8 @@ void DriftSession::save(const std::string& path, std::int32_t filterIndex)
         control_.chkPreview.Press();
     control_.cmdSave.Press();
     if (postedLines().size() > linesBefore_)
-        throw UsageError(path + " could not be written (" + postedLines().at(linesBefore_) + ").");
+        throw UsageError(path + " could not be written " +
+                         asReason(postedLines().at(linesBefore_), "") + ".");
     if (!services_.failure.empty())
         throw UsageError(path + " could not be written (" + services_.failure + ").");
 }

@@ -37,6 +37,8 @@ public:
     /// Why there is no result to rely on, in a sentence: no results page came up, or a step failed
     /// on the way to it. Empty when there is one.
     [[nodiscard]] std::string failure() const;
+    /// Whether the results page shows any calibration.
+    [[nodiscard]] bool hasCalibrations() const;
     /// Presses Save with the entry of the filter for PDF or ECMPS. UsageError when the file could
     /// not be written.
     void savePdf(const std::string& path);

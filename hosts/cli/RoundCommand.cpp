@@ -101,7 +101,10 @@ std::string evaluate(DriftSession& session, const ReportedTest& test)
         return refusal.what();
     }
     session.evaluate();
-    return session.failure();
+    if (const std::string failure = session.failure(); !failure.empty())
+        return failure;
+    return session.hasCalibrations() ? std::string()
+                                     : session.control().ctrl7DayResult1.lblSummary.Caption();
 }
 
 void makeFolder(const std::string& path)

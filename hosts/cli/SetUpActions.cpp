@@ -54,7 +54,7 @@ void DriftSession::pickUnit(const std::string& unit)
     // A unit whose rule ended half-way has its analyzers listed, but none of them picked.
     if (page.cmbAnalyzer.List().empty())
         throw UsageError("The analyzers of unit " + page.cmbUnit.Text() + " could not be listed " +
-                         asReason(postedLines().at(linesBefore_)) + ".");
+                         asReason(postedLines().at(linesBefore_), "because a step failed") + ".");
 }
 
 void DriftSession::pickAnalyzer(const std::string& analyzer)
@@ -67,8 +67,8 @@ void DriftSession::pickAnalyzer(const std::string& analyzer)
     }
     if (postedLines().size() > linesBefore_)
         throw UsageError("The setup page of " + trimRight(page.AnalyzerInfoText()) +
-                         " could not be filled in " + asReason(postedLines().at(linesBefore_)) +
-                         ".");
+                         " could not be filled in " +
+                         asReason(postedLines().at(linesBefore_), "because a step failed") + ".");
     if (page.cmbAnalyzer.ItemData() == 0)
         throw UsageError("Unit " + page.cmbUnit.Text() + " has no analyzer.");
 }

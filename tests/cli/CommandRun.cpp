@@ -1,0 +1,43 @@
+#include "cli/CommandRun.h"
+
+#include "cli/Commands.h"
+#include "support/FakeSite.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace k7deval::cli::test
+{
+
+CommandRun run(const Arguments& arguments)
+{
+    std::vector<const char*> argv{"k7deval"};
+    for (const auto& argument : arguments)
+        argv.push_back(argument.c_str());
+    const k7deval::test::FixedClock clock(makeDate(2021, 5, 20, 12));
+    std::ostringstream out;
+    std::ostringstream notes;
+    CommandRun result;
+    result.status = static_cast<int>(
+        runProgram(static_cast<int>(argv.size()), argv.data(), {out, notes, clock}));
+    result.out = out.str();
+    result.notes = notes.str();
+    return result;
+}
+
+nlohmann::json driftAsJson(Arguments arguments)
+{
+    const CommandRun printed = run(Arguments{"drift", "--json"} + std::move(arguments));
+    auto document = nlohmann::json::parse(printed.out, nullptr, false);
+    EXPECT_FALSE(document.is_discarded()) << printed.out << printed.notes;
+    return document;
+}
+
+Arguments operator+(Arguments first, const Arguments& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+} // namespace k7deval::cli::test

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+namespace k7deval::cli::test
+{
+
+using Arguments = std::vector<std::string>;
+
+/// What a run of the program left behind.
+struct CommandRun {
+    int status = -1;
+    std::string out;   ///< Standard output.
+    std::string notes; ///< Standard error.
+};
+
+/// Runs the program in this process, at noon of 2021-05-20.
+CommandRun run(const Arguments& arguments);
+
+/// Runs a `drift` with --json and reads what it printed; fails the test when it is no JSON.
+nlohmann::json driftAsJson(Arguments arguments);
+
+/// The arguments of one behind the other.
+Arguments operator+(Arguments first, const Arguments& second);
+
+} // namespace k7deval::cli::test

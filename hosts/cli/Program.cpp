@@ -15,7 +15,7 @@ namespace
 /// nothing by itself.
 std::string sentenceOf(const Error& error)
 {
-    const std::string description = error.description();
+    std::string description = error.description();
     if (description != errorDescription(error.number()))
         return description;
     return "The site's data could not be worked with (error " + std::to_string(error.number()) +

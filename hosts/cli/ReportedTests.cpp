@@ -66,7 +66,7 @@ private:
     [[nodiscard]] std::string date(const sitedb::CsvRow& row, const char* column) const
     {
         const std::string& time = text(row, column);
-        const std::string day = time.substr(0, kDateLength);
+        std::string day = time.substr(0, kDateLength);
         const bool endsThere = time.size() == day.size() || time[kDateLength] == ' ';
         if (!endsThere || !sitedb::dayNumber(day))
             throw fault(row, column, time, "is no date such as 2024-05-31");

@@ -101,7 +101,7 @@ std::string evaluate(DriftSession& session, const ReportedTest& test)
         return refusal.what();
     }
     session.evaluate();
-    if (const std::string failure = session.failure(); !failure.empty())
+    if (std::string failure = session.failure(); !failure.empty())
         return failure;
     return session.hasCalibrations() ? std::string()
                                      : session.control().ctrl7DayResult1.lblSummary.Caption();

@@ -26,9 +26,9 @@ CommandRun run(const Arguments& arguments)
     return result;
 }
 
-nlohmann::json driftAsJson(Arguments arguments)
+nlohmann::json driftAsJson(const Arguments& arguments)
 {
-    const CommandRun printed = run(Arguments{"drift", "--json"} + std::move(arguments));
+    const CommandRun printed = run(Arguments{"drift", "--json"} + arguments);
     auto document = nlohmann::json::parse(printed.out, nullptr, false);
     EXPECT_FALSE(document.is_discarded()) << printed.out << printed.notes;
     return document;

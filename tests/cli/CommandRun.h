@@ -21,7 +21,7 @@ struct CommandRun {
 CommandRun run(const Arguments& arguments);
 
 /// Runs a `drift` with --json and reads what it printed; fails the test when it is no JSON.
-nlohmann::json driftAsJson(Arguments arguments);
+nlohmann::json driftAsJson(const Arguments& arguments);
 
 /// The arguments of one behind the other.
 Arguments operator+(Arguments first, const Arguments& second);

@@ -161,6 +161,33 @@ RC_GTEST_PROP(AnyPattern, IsEvaluatedAsTheModelDoes, ())
         RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
 }
 
+// Every kind of day, those in which a good run stands for a failure above all.
+RC_GTEST_PROP(AnyKindsOfDays, AreEvaluatedAsTheModelDoes, ())
+{
+    const auto kind = rc::gen::weightedElement<std::string>({{6, "P"},
+                                                             {2, "F"},
+                                                             {4, "A+A-"},
+                                                             {1, "A-M+"},
+                                                             {1, "M-"},
+                                                             {1, "M-A+A+"},
+                                                             {1, "M+A+M+"},
+                                                             {1, "A+a-"},
+                                                             {1, "?a+"},
+                                                             {1, "!a+"},
+                                                             {1, "N"},
+                                                             {1, "M"}});
+    const auto length = *rc::gen::inRange<std::size_t>(6, kMostDays + 1);
+    std::string text;
+    for (const std::string& word : *rc::gen::container<std::vector<std::string>>(length, kind))
+        text += word + ' ';
+    const auto days = daysOf(text);
+    for (const model::Options options : kAllOptions) {
+        DriftBench bench;
+        setDays(bench, days);
+        RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
+    }
+}
+
 RC_GTEST_PROP(AnyRuns, OfADayAreEvaluatedAsTheModelDoes, ())
 {
     const auto days = anyDays(kMostDays);

@@ -270,6 +270,16 @@ TEST(Day, IsUsedWhenOneOfItsRunsIs)
     EXPECT_TRUE(day.DayIsUsedIn7Day());
 }
 
+TEST(Day, IsNotOnlineByAUsedRunThatIsNot)
+{
+    clsDaySummary day;
+    addRun(day, 0, false);
+    day.CalsInDay().Item("2024/03/10 08:00")->IsUsedIn7Day = true;
+    EXPECT_TRUE(day.DayIsUsedIn7Day());
+    EXPECT_FALSE(day.HasOnlineCals());
+    EXPECT_FALSE(day.IsOpDay());
+}
+
 TEST(Day, KeepsItsRunsInTheOrderInWhichTheyCame)
 {
     clsDaySummary day;

@@ -3,6 +3,7 @@
 #include "cli/OpenSite.h"
 #include "cli/PostedLine.h"
 #include "cli/UsageError.h"
+#include "foundation/FileFunctions.h"
 
 namespace k7deval::cli
 {
@@ -63,8 +64,10 @@ void DriftSession::save(const std::string& path, std::int32_t filterIndex)
     if (control_.chkPreview.isChecked())
         control_.chkPreview.Press();
     control_.cmdSave.Press();
+    // A file can be saved in which a figure or a row is missing.
     if (postedLines().size() > linesBefore_)
-        throw UsageError(path + " could not be written " +
+        throw UsageError(path +
+                         (fileExists(path) ? " is not complete " : " could not be written ") +
                          asReason(postedLines().at(linesBefore_), "") + ".");
     if (!services_.failure.empty())
         throw UsageError(path + " could not be written (" + services_.failure + ").");

@@ -40,7 +40,7 @@ public:
     /// Whether the results page shows any calibration.
     [[nodiscard]] bool hasCalibrations() const;
     /// Presses Save with the entry of the filter for PDF or ECMPS. UsageError when the file could
-    /// not be written.
+    /// not be written, or not all of it.
     void savePdf(const std::string& path);
     void saveXml(const std::string& path);
 

@@ -144,6 +144,19 @@ TEST_F(Save, SaysWhatAnExportLacks)
     EXPECT_TRUE(folder_.names().empty());
 }
 
+TEST_F(Save, SaysThatAFileIsNotComplete)
+{
+    const TemporaryFolder siteFolder;
+    const std::string site =
+        alteredSite(siteOfTests(), siteFolder, {"UPDATE calibration_record SET span = 0"});
+    const CommandRun saved =
+        run({"drift", "--site", site, "--from", "2015-05-20", "--to", "2015-05-30",
+             "--specification", "other-absolute", "--limit", "5", "--xml", xml_});
+    EXPECT_EQ(saved.notes, xml_ + " is not complete (DEval-016: 11, Division by zero).\n");
+    EXPECT_EQ(saved.status, 2);
+    EXPECT_EQ(folder_.names(), (std::vector<std::string>{"test.xml"}));
+}
+
 TEST_F(Save, KeepsAWriteProtectedFile)
 {
     writeFile(pdf_, "kept");

@@ -61,6 +61,8 @@ Error errorInFlight()
         return error;
     } catch (const std::exception& failure) {
         return {errors::kAutomation, failure.what()};
+    } catch (...) {
+        return Error(errors::kAutomation);
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include "foundation/FileFunctions.h"
 
-#include <exception>
 #include <string>
 
 namespace k7deval::screen
@@ -16,7 +15,7 @@ bool showDialog(const SaveClick& click)
     try {
         click.dialog.ShowSave();
         return !click.dialog.FileName().empty();
-    } catch (const std::exception&) {
+    } catch (...) {
         const Error error = errorInFlight();
         if (error.number() != errors::kCancelled)
             click.passOver(error);
@@ -72,7 +71,7 @@ void runSaveClick(const SaveClick& click)
         } else if (!click.write().ended) {
             preview(click);
         }
-    } catch (const std::exception&) {
+    } catch (...) {
         if (replacing)
             showDeletionFailure(click, errorInFlight());
         else

@@ -3,7 +3,6 @@
 #include "foundation/DataInterface.h"
 #include "foundation/Error.h"
 
-#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
@@ -46,7 +45,7 @@ std::optional<Error> runPosting(const std::shared_ptr<MessageSink>& irm, Numbere
     try {
         procedure();
         return std::nullopt;
-    } catch (const std::exception&) {
+    } catch (...) {
         const Error error = errorInFlight();
         postLine(irm, line, error);
         return error;

@@ -46,4 +46,14 @@ TEST(Error, AFailureInFlightWithoutANumberIsTheHosts)
     }
 }
 
+TEST(Error, AFailureOfAnyOtherKindIsTheHostsToo)
+{
+    try {
+        throw 7;
+    } catch (...) {
+        EXPECT_EQ(errorInFlight().number(), errors::kAutomation);
+        EXPECT_EQ(errorInFlight().description(), "Automation error");
+    }
+}
+
 } // namespace k7deval

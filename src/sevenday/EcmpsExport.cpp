@@ -90,7 +90,7 @@ std::optional<Error> EcmpsExport::WriteEcmpsExport(const std::string& fileName) 
 {
     return runPosting(test_->irm, NumberedLine::WriteEcmpsExport, [&] {
         pugi::xml_document document = CreateXMLDocument();
-        const pugi::xml_node root = AddChildElement(document, "QualityAssuranceAndCert", "");
+        const pugi::xml_node root = AddChildElement(document.root(), "QualityAssuranceAndCert", "");
         const pugi::xml_node summary = addTestSummary(root);
         const TestSpan span = addRuns(summary);
         SetNodeText(summary, "TestResultCode", resultCode(span.usesAPS));

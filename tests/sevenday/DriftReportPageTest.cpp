@@ -229,19 +229,19 @@ TEST(ReportRow, ADriftKeepsItsSign)
 
 struct DriftFontCase {
     const char* what;
-    float measured; ///< Of a reference of 100 and a limit of 2.5.
     const char* text;
+    float measured; ///< Of a reference of 100 and a limit of 2.5.
     int font;
 };
 
 TEST(ReportRow, OnlyADriftAboveItsLimitStandsOut)
 {
     constexpr DriftFontCase kRows[] = {
-        {"below", 102.25F, "2.25", 5},
-        {"at the limit", 102.5F, "2.50", 5},
-        {"at the limit, below the reference", 97.5F, "-2.50", 5},
-        {"above", 102.75F, "2.75", 6},
-        {"above, below the reference", 97.25F, "-2.75", 6},
+        {"below", "2.25", 102.25F, 5},
+        {"at the limit", "2.50", 102.5F, 5},
+        {"at the limit, below the reference", "-2.50", 97.5F, 5},
+        {"above", "2.75", 102.75F, 6},
+        {"above, below the reference", "-2.75", 97.25F, 6},
     };
     for (const DriftFontCase& row : kRows) {
         AnalyzerFacts facts;

@@ -44,7 +44,10 @@ struct ReportBench : SetUpBench {
     ReportDocument& build();
     /// A page of it, from 0.
     ReportPage& sheet(std::size_t index);
-    std::size_t countPages() { return static_cast<std::size_t>(document->Pages().Count()); }
+    [[nodiscard]] std::size_t countPages() const
+    {
+        return static_cast<std::size_t>(document->Pages().Count());
+    }
 
     DriftTest test{regional};
     DriftReport report{test, page, {services, clock, regional}};

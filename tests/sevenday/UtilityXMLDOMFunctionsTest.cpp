@@ -12,7 +12,7 @@ namespace
 /// A document with the root "Root".
 struct Tree {
     pugi::xml_document document = CreateXMLDocument();
-    pugi::xml_node root = AddChildElement(document, "Root", "");
+    pugi::xml_node root = AddChildElement(document.root(), "Root", "");
 
     [[nodiscard]] std::string text() const { return documentText(document); }
 };

@@ -124,23 +124,22 @@ TEST(ResultDetails, APassedRunShowsItsFiguresInBlack)
     run->ZeroCal = injection(0.25F, 0.5F, 2.5F);
     run->SpanCal = injection(160, 158.75F, 5, true);
     const auto changes = bench.changesBy([&] { bench.show({dayWith(kDay, {run})}); });
-    EXPECT_EQ(changes, (Lines{"lblCalOnline.Caption: \"\" -> \"On-Line\"",
-                              "lblCalResultLabel.Caption: \"\" -> \"Passed\"",
-                              "lblCalTimeData.Caption: \"\" -> \"3/10/2024 08:15\"",
-                              "lblInstSpanData.Caption: \"\" -> \"200\"",
-                              "lblSpanAPSLabel.Caption: \"\" -> \"APS\"",
-                              "lblSpanDriftData.Caption: \"\" -> \"-1.25\"",
-                              "lblSpanLimitData.Caption: \"\" -> \"5\"",
-                              "lblSpanMeasData.Caption: \"\" -> \"158.75\"",
-                              "lblSpanRefData.Caption: \"\" -> \"160\"",
-                              "lblZeroDriftData.Caption: \"\" -> \"0.25\"",
-                              "lblZeroLimitData.Caption: \"\" -> \"2.5\"",
-                              "lblZeroMeasData.Caption: \"\" -> \"0.5\"",
-                              "lblZeroRefData.Caption: \"\" -> \"0.25\"",
-                              "tvwCalTimes.Nodes: [] -> [[Key=\"3/10/2024 08:15\", "
-                              "Text=\"3/10/2024 08:15\", Image=\"OnlinePass\", "
-                              "BackColor=\"0x00FFFFFF\", Children=[]]]",
-                              "tvwCalTimes.SelectedItem: \"\" -> \"3/10/2024 08:15\""}));
+    const std::string entry = R"([Key="3/10/2024 08:15", Text="3/10/2024 08:15", )"
+                              R"(Image="OnlinePass", BackColor="0x00FFFFFF", Children=[]])";
+    EXPECT_EQ(
+        changes,
+        (Lines{
+            "lblCalOnline.Caption: \"\" -> \"On-Line\"",
+            "lblCalResultLabel.Caption: \"\" -> \"Passed\"",
+            "lblCalTimeData.Caption: \"\" -> \"3/10/2024 08:15\"",
+            "lblInstSpanData.Caption: \"\" -> \"200\"", "lblSpanAPSLabel.Caption: \"\" -> \"APS\"",
+            "lblSpanDriftData.Caption: \"\" -> \"-1.25\"",
+            "lblSpanLimitData.Caption: \"\" -> \"5\"",
+            "lblSpanMeasData.Caption: \"\" -> \"158.75\"",
+            "lblSpanRefData.Caption: \"\" -> \"160\"", "lblZeroDriftData.Caption: \"\" -> \"0.25\"",
+            "lblZeroLimitData.Caption: \"\" -> \"2.5\"", "lblZeroMeasData.Caption: \"\" -> \"0.5\"",
+            "lblZeroRefData.Caption: \"\" -> \"0.25\"", "tvwCalTimes.Nodes: [] -> [" + entry + "]",
+            "tvwCalTimes.SelectedItem: \"\" -> \"3/10/2024 08:15\""}));
 }
 
 TEST(ResultDetails, AFailedRunIsRedAndBoldAndSoIsTheDriftThatFailedIt)

@@ -33,24 +33,24 @@ std::string selectedSpecification(const ctrl7DaySetUp& page)
 } // namespace
 
 struct CodeCase {
-    std::int32_t code;
     const char* option;
+    std::int32_t code;
     bool sixOfSeven;
     bool isPpm;
 };
 
 // By parameter code: the gases with a specification of their own, and the rest.
 constexpr CodeCase kCodes[] = {
-    {99, "optOtherSpan", false, false},    {100, "opt025Span", false, true},
-    {101, "optOtherSpan", false, false},   {110, "opt025Span", false, true},
-    {120, "opt025Span", false, true},      {121, "optOtherSpan", false, false},
-    {140, "opt05Span", true, false},       {145, "opt05Span", true, false},
-    {141, "optOtherSpan", false, false},   {150, "optOtherSpan", false, false},
-    {220, "opt005Absolute", false, false}, {240, "opt005Absolute", false, false},
-    {243, "opt005Absolute", false, false}, {230, "optOtherSpan", false, false},
-    {233, "optOtherSpan", false, false},   {241, "optOtherSpan", false, false},
-    {245, "optOtherSpan", false, false},   {260, "optOtherSpan", false, false},
-    {680, "optOtherSpan", false, false},
+    {"optOtherSpan", 99, false, false},    {"opt025Span", 100, false, true},
+    {"optOtherSpan", 101, false, false},   {"opt025Span", 110, false, true},
+    {"opt025Span", 120, false, true},      {"optOtherSpan", 121, false, false},
+    {"opt05Span", 140, true, false},       {"opt05Span", 145, true, false},
+    {"optOtherSpan", 141, false, false},   {"optOtherSpan", 150, false, false},
+    {"opt005Absolute", 220, false, false}, {"opt005Absolute", 240, false, false},
+    {"opt005Absolute", 243, false, false}, {"optOtherSpan", 230, false, false},
+    {"optOtherSpan", 233, false, false},   {"optOtherSpan", 241, false, false},
+    {"optOtherSpan", 245, false, false},   {"optOtherSpan", 260, false, false},
+    {"optOtherSpan", 680, false, false},
 };
 
 class SetUpAnalyzerOfCode : public ::testing::TestWithParam<CodeCase>

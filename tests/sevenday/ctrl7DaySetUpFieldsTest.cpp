@@ -140,10 +140,10 @@ TEST(SetUpFields, LimitsAreReadAndShownWithTheRegionsMark)
 }
 
 struct DateCase {
-    const char* what;
-    const char* typed;
+    const char* what = nullptr;
+    const char* typed = nullptr;
     DateParts date;
-    const char* shown;
+    const char* shown = nullptr;
 };
 
 // On 10 March 2024, in the region en-US; the field holds 2/10/2024 before.

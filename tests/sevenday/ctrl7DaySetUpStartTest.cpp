@@ -65,7 +65,7 @@ constexpr WidgetCase kWidgets[] = {
     {"txtComponentID", "TextBox", "Text", "\"\""},
     {"lblTestReason", "Label", "Caption", "\"Reason For Test:\""},
     {"cmbTestReason", "ComboBox", "List",
-     "[\"Initial Certification\", \"Recertification\", \"Diagnostic\"]"},
+     R"(["Initial Certification", "Recertification", "Diagnostic"])"},
     {"lblTestNumber", "Label", "Caption", "\"Test Number:\""},
     {"txtTestNumber", "TextBox", "Text", "\"\""},
 };

@@ -89,7 +89,7 @@ TEST(FontSet, SharesATextAmongFacesWhenNoneHasAllOfIt)
     std::string font = testing::contentOf(kSans.path);
     const std::size_t map = testing::tableStart(font, "cmap");
     std::string list;
-    for (const unsigned word :
+    for (const int word :
          {0, 1, 3, 10, 0, 12, 12, 0, 0, 28, 0, 0, 0, 1, 0, 0x5E02, 0, 0x5E02, 0, 36})
         appendWord(list, static_cast<std::uint16_t>(word));
     font.replace(map, list.size(), list);

@@ -139,6 +139,8 @@ std::string forbiddenFolder(const TemporaryFolder& folder)
 
 TEST(ReplaceFile, TellsAFolderThatItMayNotWriteInto)
 {
+    if (geteuid() == 0 && !fs::exists("/sys/kernel"))
+        GTEST_SKIP() << "nothing here that the administrator may not write into";
     const TemporaryFolder folder;
     EXPECT_EQ(failureOf(forbiddenFolder(folder) + "/report.pdf"), errors::kPermissionDenied);
     fs::permissions(folder.path(), fs::perms::owner_all);

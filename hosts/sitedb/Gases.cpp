@@ -10,11 +10,24 @@ namespace
 
 constexpr double kHighestPpm = 1'000'000;
 constexpr double kHighestPercent = 100;
+// More than saturated mercury vapour holds, in micrograms per standard cubic metre.
+constexpr double kHighestMercury = 100'000'000;
+// Several times what the largest stacks move.
+constexpr double kHighestFlow = 1'000'000'000;
 
+// The codes of HG, HCL, HF, H2O and FLOW are our own. They keep clear of the codes to which the
+// tools have rules of their own, such as those that go by an analyzer's unit text.
 constexpr std::array kGases{
-    Gas{"SO2", 100, "PPM", "ppm", kHighestPpm},   Gas{"NOX", 110, "PPM", "ppm", kHighestPpm},
-    Gas{"CO", 140, "PPM", "ppm", kHighestPpm},    Gas{"O2", 220, "PCT", "%", kHighestPercent},
+    Gas{"SO2", 100, "PPM", "ppm", kHighestPpm},
+    Gas{"NOX", 110, "PPM", "ppm", kHighestPpm},
+    Gas{"CO", 140, "PPM", "ppm", kHighestPpm},
+    Gas{"O2", 220, "PCT", "%", kHighestPercent},
     Gas{"CO2", 240, "PCT", "%", kHighestPercent},
+    Gas{"HG", 150, "UGSCM", "\xC2\xB5g/scm", kHighestMercury},
+    Gas{"HCL", 160, "PPM", "ppm", kHighestPpm},
+    Gas{"HF", 170, "PPM", "ppm", kHighestPpm},
+    Gas{"H2O", 250, "PCT", "%", kHighestPercent},
+    Gas{"FLOW", 300, "SCFH", "scfh", kHighestFlow},
 };
 
 } // namespace

@@ -7,18 +7,19 @@
 namespace k7deval::sitedb
 {
 
-/// What a site knows of a gas that EPA's component type names.
+/// What a site knows of a gas, or of the flow or moisture of stack gas, that EPA's component type
+/// names. These are the types for which hourly values are reported.
 struct Gas {
     std::string_view componentType; ///< As EPA writes it: "NOX".
     std::int32_t parameterCode;     ///< The code in a PID.
-    std::string_view unitsCode;     ///< EPA's code of the measuring unit: "PPM" or "PCT".
-    std::string_view unitsText;     ///< The same for people.
+    std::string_view unitsCode;     ///< EPA's code of the hourly values' unit: "PPM", "PCT", ...
+    std::string_view unitsText;     ///< The same for people, in UTF-8.
     double highestSpan;             ///< In the measuring unit.
 };
 
 /// The gas of a component type, or nothing.
 const Gas* findGas(std::string_view componentType);
-/// "SO2, NOX, CO, O2 or CO2".
+/// The component types for a sentence: "SO2, NOX, ... or FLOW".
 std::string gasNames();
 
 } // namespace k7deval::sitedb

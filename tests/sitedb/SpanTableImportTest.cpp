@@ -33,15 +33,19 @@ TEST(SpanTableImport, EveryGasHasItsParameterCodeAndUnits)
 {
     EmptySite held;
     importSpans(held, SPANS "U1,001,SO2,H,200,PPM\nU1,002,NOX,H,200,PPM\nU1,003,CO,H,200,PPM\n"
-                            "U1,004,O2,H,25,PCT\nU1,005,CO2,H,20,PCT\n");
+                            "U1,004,O2,H,25,PCT\nU1,005,CO2,H,20,PCT\n"
+                            "U1,006,HG,H,5,UGSCM\nU1,007,HCL,H,10,PPM\nU1,008,HF,H,10,PPM\n"
+                            "U1,009,H2O,,40,PCT\nU1,010,FLOW,,198000000,SCFH\n");
     EXPECT_THAT(parameterTexts(held.site, {kMeasuredType}),
                 ElementsAre("1-100-0-75-01 SO2 001", "1-110-0-75-01 NOX 002",
-                            "1-140-0-75-01 CO 003", "1-220-0-75-01 O2 004",
-                            "1-240-0-75-01 CO2 005"));
+                            "1-140-0-75-01 CO 003", "1-150-0-75-01 HG 006", "1-160-0-75-01 HCL 007",
+                            "1-170-0-75-01 HF 008", "1-220-0-75-01 O2 004", "1-240-0-75-01 CO2 005",
+                            "1-250-0-75-01 H2O 009", "1-300-0-75-01 FLOW 010"));
     std::vector<std::string> units;
     for (const auto& entry : held.site.server()->ParametersOfTypes({kMeasuredType}))
         units.push_back(entry->UnitsText());
-    EXPECT_THAT(units, ElementsAre("ppm", "ppm", "ppm", "%", "%"));
+    EXPECT_THAT(units, ElementsAre("ppm", "ppm", "ppm", "\xC2\xB5g/scm", "ppm", "ppm", "%", "%",
+                                   "%", "scfh"));
 }
 
 TEST(SpanTableImport, ComponentsOfAGasAreNumberedInTheirUnitAndScalesHaveTheirVariantDigit)

@@ -98,15 +98,6 @@ private:
     std::set<std::tuple<PID, std::string, bool>> inFile_;
 };
 
-void checkOrisCode(SiteWriter& writer, const SourceFile& file, std::int32_t code)
-{
-    const auto held = writer.orisCode();
-    if (held && *held != code)
-        throw file.error("orisCode", std::to_string(code) +
-                                         " is another facility than the site's, which is " +
-                                         std::to_string(*held));
-}
-
 ImportReport qaReport(const QaContent& content)
 {
     std::size_t zeros = 0;
@@ -135,7 +126,7 @@ ImportReport takeEcmpsQa(sql::Connection& connection, const SourceFile& file,
     sql::Transaction transaction(connection);
     SiteWriter writer(connection);
     writer.checkIsNew(file);
-    checkOrisCode(writer, file, content.orisCode);
+    writer.checkOrisCode(file, "orisCode", content.orisCode);
     // A file that holds nothing for the site leaves no trace in it, not even its ORIS code.
     if (content.tests.empty())
         return report;

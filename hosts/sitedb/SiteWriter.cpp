@@ -43,6 +43,12 @@ std::string scaleSuffix(Scale scale)
     return scale == Scale::Single ? "" : "/" + scaleText(scale).substr(0, 1);
 }
 
+std::string analyzerName(const Gas& gas, const std::string& component)
+{
+    const std::string type(gas.componentType);
+    return component == type ? type : type + " " + component;
+}
+
 std::string joined(const std::vector<std::string>& texts)
 {
     std::string all;
@@ -79,16 +85,17 @@ std::optional<std::int32_t> SiteWriter::addUnit(const std::string& identifier)
     return unit;
 }
 
+// The identifier stands at the measured parameter and at its calibrations, which have its number.
 std::optional<PID> SiteWriter::findMeasured(std::int32_t unit, const std::string& component)
 {
-    const auto row = connection_.prepare(
-        "SELECT measured.value FROM attribute component"
-        " JOIN attribute measured ON measured.pid = component.pid AND measured.id = $1"
-        " WHERE component.id = $2 AND component.value = $3"
-        " AND component.pid BETWEEN $4 AND $5");
-    row->with(std::int64_t{attribute::kMeasuredPID}, std::int64_t{attribute::kComponentId},
-              component, firstPID(unit), lastPID(unit));
-    return row->step() ? std::optional(wholeNumber(row->text(0))) : std::nullopt;
+    const auto row = connection_.prepare("SELECT MIN(pid) FROM attribute WHERE id = $1"
+                                         " AND value = $2 AND pid BETWEEN $3 AND $4");
+    row->with(std::int64_t{attribute::kComponentId}, component, firstPID(unit), lastPID(unit));
+    if (!row->step() || row->isNull(0))
+        return std::nullopt;
+    const PID found = row->int32(0);
+    return measuredPID(unit, PIDPart(found, pidpart::kParameterCode),
+                       PIDPart(found, pidpart::kSuffix));
 }
 
 std::optional<Analyzer> SiteWriter::findAnalyzer(std::int32_t unit, const std::string& component,
@@ -115,9 +122,10 @@ std::optional<PID> SiteWriter::addMeasured(std::int32_t unit, const Gas& gas,
     if (number > kHighestComponent)
         return std::nullopt;
     const PID pid = measuredPID(unit, gas.parameterCode, number);
-    addParameter(pid, std::string(gas.componentType) + " " + component, paramtype::kMeasuredSeries,
+    addParameter(pid, analyzerName(gas, component), paramtype::kMeasuredSeries,
                  std::string(gas.unitsText), "h");
     setAttribute(pid, attribute::kLeftOutOfLists, false);
+    setAttribute(pid, attribute::kComponentId, component);
     return pid;
 }
 
@@ -125,8 +133,7 @@ void SiteWriter::addCalibration(PID measured, const Gas& gas, const std::string&
                                 Scale scale, double span)
 {
     const PID pid = calibrationPID(measured, scale);
-    const std::string gasName(gas.componentType);
-    addParameter(pid, gasName + " " + component + scaleSuffix(scale) + " Calibration",
+    addParameter(pid, analyzerName(gas, component) + scaleSuffix(scale) + " Calibration",
                  kCalibrationType, std::string(gas.unitsText), "");
     setAttribute(pid, attribute::kDecimals, kFewestDecimals);
     setAttribute(pid, attribute::kMeasuredPID, measured);
@@ -135,7 +142,7 @@ void SiteWriter::addCalibration(PID measured, const Gas& gas, const std::string&
     setAttribute(pid, attribute::kRangeUse, 0);
     setAttribute(pid, attribute::kComponentId, component);
     setAttribute(pid, attribute::kRecordTable, std::string(kCalibrationTable));
-    setAttribute(pid, attribute::kTestNumberBase, gasName);
+    setAttribute(pid, attribute::kTestNumberBase, std::string(gas.componentType));
     addDefinition(pid, measured, scale, span);
 }
 
@@ -183,6 +190,15 @@ void SiteWriter::setCapacity(std::int32_t unit, double megawatts)
                         " ON CONFLICT (pid) DO UPDATE SET value = excluded.value",
                         std::int64_t{pid}, std::int64_t{kUnitConstants}, megawatts,
                         std::int64_t{status::kMeasured});
+}
+
+void SiteWriter::checkOrisCode(const SourceFile& file, const std::string& place, std::int32_t code)
+{
+    const auto held = orisCode();
+    if (held && *held != code)
+        throw file.error(place, std::to_string(code) +
+                                    " is another facility than the site's, which is " +
+                                    std::to_string(*held));
 }
 
 std::optional<std::int32_t> SiteWriter::orisCode()

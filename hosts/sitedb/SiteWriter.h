@@ -38,7 +38,8 @@ public:
     [[nodiscard]] std::optional<Analyzer> findAnalyzer(std::int32_t unit,
                                                        const std::string& component, Scale scale);
     /// Makes the measured parameter of a component; nothing when the unit has all the components
-    /// that PIDs allow for the gas.
+    /// that PIDs allow for the gas. A component whose identifier is not known is identified by the
+    /// gas itself.
     std::optional<PID> addMeasured(std::int32_t unit, const Gas& gas, const std::string& component);
     /// Makes the calibration of a measured parameter on a scale, with its definition.
     void addCalibration(PID measured, const Gas& gas, const std::string& component, Scale scale,
@@ -52,6 +53,8 @@ public:
 
     /// The ORIS code that the site's units carry, or nothing.
     [[nodiscard]] std::optional<std::int32_t> orisCode();
+    /// Raises ImportError when the site is another facility than the file's.
+    void checkOrisCode(const SourceFile& file, const std::string& place, std::int32_t code);
     /// Gives all units of the site their ORIS code.
     void setOrisCode(std::int32_t code);
 

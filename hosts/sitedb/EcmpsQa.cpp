@@ -134,10 +134,7 @@ private:
 
     static std::vector<JsonNode> rowsOf(const JsonNode& test)
     {
-        if (test.isObject() && !test.has("calibrationInjectionData"))
-            return {};
-        const JsonNode list = test.field("calibrationInjectionData");
-        return list.isNull() ? std::vector<JsonNode>() : list.elements();
+        return test.list({"calibrationInjectionData"});
     }
 
     static std::string testName(const JsonNode& test)
@@ -217,13 +214,9 @@ private:
 
     void stepOverList(const JsonNode& root, const char* name)
     {
-        if (!root.has(name) || root.field(name).isNull())
-            return;
-        const std::size_t count = root.field(name).elements().size();
+        const std::size_t count = root.list({name}).size();
         if (count > 0)
-            content_.steppedOver.push_back(
-                std::string(name) + ": " +
-                (count == 1 ? std::string("1 entry.") : std::to_string(count) + " entries."));
+            content_.steppedOver.push_back(std::string(name) + ": " + entries(count) + ".");
     }
 
     bool leavesOut_;

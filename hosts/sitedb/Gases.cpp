@@ -1,5 +1,6 @@
 #include "sitedb/Gases.h"
 
+#include <algorithm>
 #include <array>
 
 namespace k7deval::sitedb
@@ -30,6 +31,17 @@ constexpr std::array kGases{
     Gas{"FLOW", 300, "SCFH", "scfh", kHighestFlow},
 };
 
+// What flow monitors are calibrated in, by 40 CFR 75 a unit of the plant's choice.
+constexpr std::array<std::string_view, 18> kFlowUnits{
+    "ACFH",  "ACFM",  "AFPM",  "AFSEC", "AMSEC", "INH2O", "KACFH", "KACFM", "KAFPM",
+    "KSCFH", "KSCFM", "KSFPM", "MACFH", "MSCFH", "SCFH",  "SCFM",  "SFPM",  "SMSEC",
+};
+
+bool isFlow(const Gas& gas)
+{
+    return gas.componentType == "FLOW";
+}
+
 } // namespace
 
 const Gas* findGas(std::string_view componentType)
@@ -39,6 +51,25 @@ const Gas* findGas(std::string_view componentType)
             return &gas;
     }
     return nullptr;
+}
+
+bool isSpanUnit(const Gas& gas, std::string_view unitsCode)
+{
+    if (isFlow(gas))
+        return std::ranges::find(kFlowUnits, unitsCode) != kFlowUnits.end();
+    return unitsCode == gas.unitsCode;
+}
+
+std::string spanUnitsText(const Gas& gas, std::string_view unitsCode)
+{
+    return std::string(unitsCode == gas.unitsCode ? gas.unitsText : unitsCode);
+}
+
+std::string spanUnitNames(const Gas& gas)
+{
+    return std::string(gas.unitsCode) +
+           (isFlow(gas) ? ", KSCFM or another of EPA's units of " : ", the unit of ") +
+           std::string(gas.componentType);
 }
 
 std::string gasNames()

@@ -19,6 +19,14 @@ struct Gas {
 
 /// The gas of a component type, or nothing.
 const Gas* findGas(std::string_view componentType);
+/// Whether a span of the gas may be in a unit, by EPA's code. Flow monitors are calibrated in one
+/// of many units, all others in the unit of their hourly values.
+bool isSpanUnit(const Gas& gas, std::string_view unitsCode);
+/// The unit of a span for people.
+std::string spanUnitsText(const Gas& gas, std::string_view unitsCode);
+/// What the unit of a span should have been, for a sentence: "PPM, the unit of NOX".
+std::string spanUnitNames(const Gas& gas);
+
 /// The component types for a sentence: "SO2, NOX, ... or FLOW".
 std::string gasNames();
 

@@ -67,6 +67,11 @@ std::string counted(std::size_t count, const std::string& what)
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
+std::string entries(std::size_t count)
+{
+    return std::to_string(count) + (count == 1 ? " entry" : " entries");
+}
+
 std::string identifierFault(std::string_view text, std::size_t longest)
 {
     const bool isGood = !text.empty() && text.size() <= longest && text.front() != ' ' &&

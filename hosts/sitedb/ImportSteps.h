@@ -23,6 +23,9 @@ ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
 /// "1 unit", "2 units".
 std::string counted(std::size_t count, const std::string& what);
 
+/// "1 entry", "2 entries".
+std::string entries(std::size_t count);
+
 /// Why a text can't identify a unit or component, or nothing: identifiers are printable ASCII, of a
 /// limited length, without blanks at the ends.
 std::string identifierFault(std::string_view text, std::size_t longest);

@@ -94,6 +94,25 @@ std::vector<JsonNode> JsonNode::elements() const
     return nodes;
 }
 
+std::vector<JsonNode> JsonNode::list(std::initializer_list<std::string_view> names) const
+{
+    const bool isThere = std::ranges::any_of(names, [&](auto name) { return has(name); });
+    if (isObject() && !isThere)
+        return {};
+    const JsonNode node = field(names);
+    return node.isNull() ? std::vector<JsonNode>() : node.elements();
+}
+
+std::vector<std::string> JsonNode::fieldNames() const
+{
+    if (!isObject())
+        throw error(shown() + " is no object");
+    std::vector<std::string> names;
+    for (const auto& entry : value_->items())
+        names.push_back(entry.key());
+    return names;
+}
+
 std::string JsonNode::text() const
 {
     if (!isText())
@@ -108,13 +127,18 @@ std::string JsonNode::textOrNull() const
 
 std::optional<double> JsonNode::numberOrNull(double limit) const
 {
+    return numberOrNull(-limit, limit);
+}
+
+std::optional<double> JsonNode::numberOrNull(double lowest, double highest) const
+{
     if (isNull())
         return std::nullopt;
     if (!value_->is_number())
         throw error(shown() + " is no number");
     const auto number = value_->get<double>();
-    if (std::abs(number) > limit)
-        throw error(shown() + " lies outside " + numberText(-limit) + " to " + numberText(limit));
+    if (number < lowest || number > highest)
+        throw error(shown() + " lies outside " + numberText(lowest) + " to " + numberText(highest));
     return number;
 }
 

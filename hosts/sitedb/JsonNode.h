@@ -36,11 +36,19 @@ public:
     /// The elements of a list.
     [[nodiscard]] std::vector<JsonNode> elements() const;
 
+    /// The elements of the first of the named lists; none where the object has none of them or
+    /// null.
+    [[nodiscard]] std::vector<JsonNode> list(std::initializer_list<std::string_view> names) const;
+    /// The names of an object's fields.
+    [[nodiscard]] std::vector<std::string> fieldNames() const;
+
     [[nodiscard]] std::string text() const;
     /// Empty for null.
     [[nodiscard]] std::string textOrNull() const;
     /// A number of either sign up to limit, or nothing for null.
     [[nodiscard]] std::optional<double> numberOrNull(double limit) const;
+    /// A number from lowest to highest, or nothing for null.
+    [[nodiscard]] std::optional<double> numberOrNull(double lowest, double highest) const;
     /// A whole number from lowest to highest; what names it in the sentence: "hour".
     [[nodiscard]] int whole(int lowest, int highest, std::string_view what) const;
 

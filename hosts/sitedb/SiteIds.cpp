@@ -8,6 +8,8 @@ namespace
 
 constexpr std::int32_t kOperatingTimeCode = 601;
 constexpr std::int32_t kLoadCode = 602;
+constexpr std::int32_t kLowerBoundaryCode = 603;
+constexpr std::int32_t kUpperBoundaryCode = 604;
 
 std::int32_t variantDigit(Scale scale)
 {
@@ -63,6 +65,21 @@ PID operatingTimePID(std::int32_t unit)
 PID capacityPID(std::int32_t unit)
 {
     return MakePID(unit, kLoadCode, 0, 0, 0);
+}
+
+PID maximumLoadPID(std::int32_t unit)
+{
+    return MakePID(unit, kLoadCode, 0, kProgram40CFR75, 0);
+}
+
+PID lowerBoundaryPID(std::int32_t unit)
+{
+    return MakePID(unit, kLowerBoundaryCode, 0, kProgram40CFR75, 0);
+}
+
+PID upperBoundaryPID(std::int32_t unit)
+{
+    return MakePID(unit, kUpperBoundaryCode, 0, kProgram40CFR75, 0);
 }
 
 PID measuredPID(std::int32_t unit, std::int32_t parameterCode, std::int32_t component)

@@ -33,6 +33,18 @@ inline constexpr std::int32_t kMeasuredSeries = 8;
 inline constexpr std::int32_t kOperationSeries = 11;
 } // namespace paramtype
 
+/// Configuration attributes of our own, of a calibration: what a monitoring plan says of its span.
+/// No tool asks for them. Their values are texts, numbers without needless zeros.
+namespace planattribute
+{
+inline constexpr std::int32_t kFullScaleRange = -1001;   ///< In the units of the span.
+inline constexpr std::int32_t kMaximumPotential = -1002; ///< MPC; of flow MPF, in scfh.
+inline constexpr std::int32_t kMaximumExpected = -1003;  ///< MEC
+inline constexpr std::int32_t kFlowSpan = -1004;         ///< Of flow, in scfh.
+inline constexpr std::int32_t kFlowFullScale = -1005;    ///< Of flow, in scfh.
+inline constexpr std::int32_t kSpanBegin = -1006; ///< 'YYYY-MM-DD HH:MM': in force from then.
+} // namespace planattribute
+
 /// The subset of constants that belongs to a unit itself.
 inline constexpr std::int32_t kUnitConstants = 0;
 
@@ -56,7 +68,12 @@ std::optional<Scale> scaleOfCode(std::string_view code);
 
 PID loadPID(std::int32_t unit);
 PID operatingTimePID(std::int32_t unit);
+/// The capacity that was set for a unit; load evaluation prefers it to the maximum load of a plan.
 PID capacityPID(std::int32_t unit);
+PID maximumLoadPID(std::int32_t unit);
+/// The bounds of the range of operation by a plan.
+PID lowerBoundaryPID(std::int32_t unit);
+PID upperBoundaryPID(std::int32_t unit);
 /// component: the running number of the component among the unit's components for the gas, from 1.
 PID measuredPID(std::int32_t unit, std::int32_t parameterCode, std::int32_t component);
 /// The calibration of a measured parameter on one scale.

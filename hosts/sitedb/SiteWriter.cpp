@@ -13,6 +13,8 @@ namespace
 
 constexpr std::int64_t kPIDsOfUnit = 100'000'000;
 constexpr std::int32_t kFewestDecimals = 1;
+constexpr std::int32_t kOfUseForRange = 0;
+constexpr std::int32_t kOfNoUseForRange = 1;
 
 std::int64_t firstPID(std::int32_t unit)
 {
@@ -130,20 +132,21 @@ std::optional<PID> SiteWriter::addMeasured(std::int32_t unit, const Gas& gas,
 }
 
 void SiteWriter::addCalibration(PID measured, const Gas& gas, const std::string& component,
-                                Scale scale, double span)
+                                const AnalyzerSpan& span)
 {
-    const PID pid = calibrationPID(measured, scale);
-    addParameter(pid, analyzerName(gas, component) + scaleSuffix(scale) + " Calibration",
-                 kCalibrationType, std::string(gas.unitsText), "");
+    const PID pid = calibrationPID(measured, span.scale);
+    addParameter(pid, analyzerName(gas, component) + scaleSuffix(span.scale) + " Calibration",
+                 kCalibrationType, spanUnitsText(gas, span.unitsCode), "");
     setAttribute(pid, attribute::kDecimals, kFewestDecimals);
     setAttribute(pid, attribute::kMeasuredPID, measured);
     setAttribute(pid, attribute::kLeftOutOfLists, false);
-    setAttribute(pid, attribute::kScale, scaleText(scale));
-    setAttribute(pid, attribute::kRangeUse, 0);
+    setAttribute(pid, attribute::kScale, scaleText(span.scale));
+    setAttribute(pid, attribute::kRangeUse,
+                 span.unitsCode == gas.unitsCode ? kOfUseForRange : kOfNoUseForRange);
     setAttribute(pid, attribute::kComponentId, component);
     setAttribute(pid, attribute::kRecordTable, std::string(kCalibrationTable));
     setAttribute(pid, attribute::kTestNumberBase, std::string(gas.componentType));
-    addDefinition(pid, measured, scale, span);
+    addDefinition(pid, measured, span.scale, span.value);
 }
 
 void SiteWriter::addDefinition(PID calibration, PID measured, Scale scale, double span)
@@ -157,9 +160,8 @@ void SiteWriter::addDefinition(PID calibration, PID measured, Scale scale, doubl
 
 void SiteWriter::raiseDecimals(PID calibration, std::int32_t decimals)
 {
-    const auto row = connection_.prepare("SELECT value FROM attribute WHERE pid = $1 AND id = $2");
-    row->with(std::int64_t{calibration}, std::int64_t{attribute::kDecimals});
-    if (row->step() && wholeNumber(row->text(0)) < decimals)
+    const auto held = attributeText(calibration, attribute::kDecimals);
+    if (held && wholeNumber(*held) < decimals)
         setAttribute(calibration, attribute::kDecimals, decimals);
 }
 
@@ -180,9 +182,20 @@ void SiteWriter::addLoadParameters(std::int32_t unit)
 
 void SiteWriter::setCapacity(std::int32_t unit, double megawatts)
 {
-    const PID pid = capacityPID(unit);
+    setConstant(capacityPID(unit), "Capacity", megawatts);
+}
+
+std::optional<double> SiteWriter::constant(PID pid)
+{
+    const auto row = connection_.prepare("SELECT value FROM constant WHERE pid = $1");
+    row->with(std::int64_t{pid});
+    return row->step() && !row->isNull(0) ? std::optional(row->real(0)) : std::nullopt;
+}
+
+void SiteWriter::setConstant(PID pid, const std::string& name, double megawatts)
+{
     if (!exists(pid)) {
-        addParameter(pid, "Capacity", paramtype::kConstant, "MW", "");
+        addParameter(pid, name, paramtype::kConstant, "MW", "");
         setAttribute(pid, attribute::kLeftOutOfLists, false);
     }
     connection_.execute("INSERT INTO constant (pid, subset, value, status)"
@@ -216,6 +229,14 @@ void SiteWriter::setOrisCode(std::int32_t code)
     units->with(std::int64_t{kUnitType});
     while (units->step())
         setAttribute(units->int32(0), attribute::kOrisCode, code);
+}
+
+std::optional<std::string> SiteWriter::facilityName()
+{
+    const auto row = connection_.prepare("SELECT value FROM lookup"
+                                         " WHERE lookup_table = $1 AND lookup_key = $2");
+    row->with(std::string(kLookupTable), std::string(kFacilityNameEntry));
+    return row->step() ? std::optional(row->text(0)) : std::nullopt;
 }
 
 void SiteWriter::setLookup(const std::string& table, const std::string& key,
@@ -253,6 +274,13 @@ void SiteWriter::addParameter(PID pid, const std::string& name, std::int32_t typ
                         " VALUES ($1, $2, $3, $4, $5, $6, $7)",
                         std::int64_t{pid}, name, std::int64_t{type}, unitsText, intervalLetter,
                         interval, interval);
+}
+
+std::optional<std::string> SiteWriter::attributeText(PID pid, std::int32_t id)
+{
+    const auto row = connection_.prepare("SELECT value FROM attribute WHERE pid = $1 AND id = $2");
+    row->with(std::int64_t{pid}, std::int64_t{id});
+    return row->step() ? std::optional(row->text(0)) : std::nullopt;
 }
 
 void SiteWriter::setAttribute(PID pid, std::int32_t id, std::int32_t value)

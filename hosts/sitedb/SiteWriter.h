@@ -21,6 +21,13 @@ struct Analyzer {
     double span = 0;   ///< In the analyzer's units.
 };
 
+/// The span of an analyzer on a scale, in the unit of EPA's code.
+struct AnalyzerSpan {
+    Scale scale = Scale::High;
+    double value = 0;
+    std::string unitsCode;
+};
+
 /// What the importers and the site itself put into the tables. The caller holds the transaction.
 class SiteWriter
 {
@@ -41,15 +48,28 @@ public:
     /// that PIDs allow for the gas. A component whose identifier is not known is identified by the
     /// gas itself.
     std::optional<PID> addMeasured(std::int32_t unit, const Gas& gas, const std::string& component);
-    /// Makes the calibration of a measured parameter on a scale, with its definition.
-    void addCalibration(PID measured, const Gas& gas, const std::string& component, Scale scale,
-                        double span);
+    /// Makes the calibration of a measured parameter on a scale, with its definition. Range
+    /// evaluation is not offered the span when it is in another unit than the hourly values.
+    void addCalibration(PID measured, const Gas& gas, const std::string& component,
+                        const AnalyzerSpan& span);
     /// Makes sure that a calibration shows at least so many decimals.
     void raiseDecimals(PID calibration, std::int32_t decimals);
 
     /// Makes the load and operating-time parameters of a unit where they are missing.
     void addLoadParameters(std::int32_t unit);
     void setCapacity(std::int32_t unit, double megawatts);
+
+    /// The value of a constant of a unit, or nothing.
+    [[nodiscard]] std::optional<double> constant(PID pid);
+    /// Makes or changes a constant of a unit, in MW.
+    void setConstant(PID pid, const std::string& name, double megawatts);
+
+    /// A configuration attribute that is a text, or nothing.
+    [[nodiscard]] std::optional<std::string> attributeText(PID pid, std::int32_t id);
+    void setAttribute(PID pid, std::int32_t id, const std::string& value);
+
+    /// The name that stands on reports, or nothing.
+    [[nodiscard]] std::optional<std::string> facilityName();
 
     /// The ORIS code that the site's units carry, or nothing.
     [[nodiscard]] std::optional<std::int32_t> orisCode();
@@ -70,7 +90,6 @@ private:
                       const std::string& unitsText, const std::string& intervalLetter);
     void setAttribute(PID pid, std::int32_t id, std::int32_t value);
     void setAttribute(PID pid, std::int32_t id, bool value);
-    void setAttribute(PID pid, std::int32_t id, const std::string& value);
     void setAttributeText(PID pid, std::int32_t id, const char* kind, const std::string& value);
     void addDefinition(PID calibration, PID measured, Scale scale, double span);
     [[nodiscard]] bool exists(PID pid);

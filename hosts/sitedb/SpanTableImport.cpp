@@ -48,7 +48,7 @@ public:
             throw table_.error(row, columns_.scale,
                                "the site already has the span of " + row.fields[columns_.unit] +
                                    " " + component + " on this scale");
-        writer_.addCalibration(measured, gas, component, scale, span);
+        writer_.addCalibration(measured, gas, component, {scale, span, row.fields[columns_.units]});
     }
 
     [[nodiscard]] std::vector<std::string> counts() const
@@ -65,10 +65,9 @@ private:
         if (gas == nullptr)
             throw table_.error(row, columns_.type, inQuotes(type) + " is not " + gasNames());
         const std::string& units = table_.field(row, columns_.units);
-        if (units != gas->unitsCode)
+        if (!isSpanUnit(*gas, units))
             throw table_.error(row, columns_.units,
-                               inQuotes(units) + " is not " + std::string(gas->unitsCode) +
-                                   ", the unit of " + type);
+                               inQuotes(units) + " is not " + spanUnitNames(*gas));
         return *gas;
     }
 

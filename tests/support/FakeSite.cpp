@@ -57,23 +57,24 @@ public:
     void ReadData(DIDataSet& set) override
     {
         site_->noteCall("DIParameter.ReadData");
+        site_->reads.push_back({pid_, set.StartTime(), set.Count()});
+        site_->readSets.push_back(&set);
         const HourlyValues& hours = data().hours;
         const auto offset = hourBoundariesBetween(hours.start, set.StartTime());
         for (std::int32_t i = 1; i <= set.Count(); ++i) {
             const auto at = offset + i - 1;
-            if (at < 0 || at >= static_cast<std::int64_t>(hours.values.size()))
-                continue;
-            if (const auto value = hours.values[static_cast<std::size_t>(at)])
-                set.ItemByIndex(i).SetValue(*value);
+            if (at >= 0 && at < static_cast<std::int64_t>(hours.values.size()))
+                fill(set.ItemByIndex(i), hours, static_cast<std::size_t>(at));
         }
     }
-    DIDataSet CurrentPoint(std::int32_t /*a*/, std::int32_t /*b*/, std::int32_t /*c*/) override
+    DIDataSet CurrentPoint(std::int32_t a, std::int32_t b, std::int32_t c) override
     {
+        insistOn(a == 0 && b == 0 && c == 0, "CurrentPoint is called with 0, 0, 0");
         site_->noteCall("DIParameter.CurrentPoint");
         DIDataSet set;
-        set.Init(data().hours.start, 1, "h", 1, 0);
-        if (!data().hours.values.empty() && data().hours.values.front())
-            set.ItemByIndex(1).SetValue(*data().hours.values.front());
+        set.Init({}, 1, "h", 1, 0);
+        if (const auto& constant = data().constant; constant && constant->value)
+            set.ItemByIndex(1).SetValue(*constant->value);
         return set;
     }
     Variant GetAttribute(std::int32_t id) override
@@ -90,6 +91,13 @@ public:
     }
 
 private:
+    static void fill(DIDataPoint slot, const HourlyValues& hours, std::size_t at)
+    {
+        if (hours.values[at])
+            slot.SetValue(*hours.values[at]);
+        if (at < hours.statuses.size())
+            slot.SetStatus(hours.statuses[at]);
+    }
     ParameterData& data() { return site_->parameter(pid_); }
 
     Site site_;
@@ -183,6 +191,7 @@ public:
     DIRecordList ReadRecords(const RecordQuery& query) override
     {
         site_->noteCall("DIRecordStore.ReadRecords");
+        site_->recordQueries.push_back(query);
         return recordsWhere([&](const RecordData& record) {
             return record.pid == query.pid && record.table == query.table;
         });
@@ -258,14 +267,13 @@ private:
     Site site_;
 };
 
-/// Status word 1 excludes an hour, 2 marks it off-line; any other is valid.
 class FakeStatusCodes final : public DIStatusCodes
 {
 public:
     explicit FakeStatusCodes(Site site) : site_(std::move(site)) {}
-    bool IsValid(std::int32_t status) override { return status != 1 && status != 2; }
-    bool IsExcluded(std::int32_t status) override { return status == 1; }
-    bool IsUnitOffline(std::int32_t status) override { return status == 2; }
+    bool IsValid(std::int32_t status) override { return site_->meaningOf(status).valid; }
+    bool IsExcluded(std::int32_t status) override { return site_->meaningOf(status).excluded; }
+    bool IsUnitOffline(std::int32_t status) override { return site_->meaningOf(status).offline; }
     std::string UnitName(PID pid) override { return site_->parameter(UnitPID(pid)).name; }
 
 private:
@@ -298,26 +306,32 @@ public:
             return PIDPart(p.pid, pidpart::kUnit) == unit && isOneOf(p.type, types);
         });
     }
-    DIParameterList ParametersOfInterval(const std::string& /*interval*/) override
+    DIParameterList ParametersOfInterval(const std::string& interval) override
     {
         site_->noteCall("DIServer.ParametersOfInterval");
-        return parametersWhere(site_, [](const auto& p) { return !p.hours.values.empty(); });
+        return parametersWhere(site_, [&](const auto& p) {
+            return !p.intervalLetter.empty() && p.intervalLetter == interval;
+        });
     }
     DIParameterList ParametersOfUnitTypes(const ParamTypes& types, std::int32_t unit,
-                                          std::int32_t /*form*/,
-                                          const std::string& /*interval*/) override
+                                          std::int32_t form, const std::string& interval) override
     {
+        insistOn(form == 3, "ParametersOfUnitTypes is called with 3");
         site_->noteCall("DIServer.ParametersOfUnitTypes");
+        site_->parameterQueries.push_back({types, unit, interval, {}});
         return parametersWhere(site_, [&](const auto& p) {
-            return PIDPart(p.pid, pidpart::kUnit) == unit && isOneOf(p.type, types);
+            return PIDPart(p.pid, pidpart::kUnit) == unit && isOneOf(p.type, types) &&
+                   !p.intervalLetter.empty() && p.intervalLetter == interval;
         });
     }
     DIParameterList ConstantsOfUnitTypes(const ParamTypes& types, std::int32_t unit,
-                                         const ParamTypes& /*subset*/) override
+                                         const ParamTypes& subset) override
     {
         site_->noteCall("DIServer.ConstantsOfUnitTypes");
+        site_->constantQueries.push_back({types, unit, {}, subset});
         return parametersWhere(site_, [&](const auto& p) {
-            return PIDPart(p.pid, pidpart::kUnit) == unit && isOneOf(p.type, types);
+            return p.constant && PIDPart(p.pid, pidpart::kUnit) == unit && isOneOf(p.type, types) &&
+                   isOneOf(p.constant->subset, subset);
         });
     }
     std::shared_ptr<DIStatusCodes> StatusCodes() override
@@ -351,6 +365,42 @@ private:
 
 } // namespace
 
+std::size_t HourlyValues::reach(Date hour)
+{
+    if (values.empty())
+        start = hour;
+    statuses.resize(values.size());
+    const std::int64_t at = hourBoundariesBetween(start, hour);
+    if (at < 0) {
+        values.insert(values.begin(), static_cast<std::size_t>(-at), std::nullopt);
+        statuses.insert(statuses.begin(), static_cast<std::size_t>(-at), 0);
+        start = hour;
+        return 0;
+    }
+    const auto index = static_cast<std::size_t>(at);
+    values.resize(std::max(values.size(), index + 1));
+    statuses.resize(values.size());
+    return index;
+}
+
+void HourlyValues::set(Date hour, std::optional<double> value, std::int32_t status)
+{
+    const std::size_t index = reach(hour);
+    values[index] = value;
+    statuses[index] = status;
+}
+
+void HourlyValues::fill(Date first, Date last, std::optional<double> value, std::int32_t status)
+{
+    reach(last);
+    const std::size_t begin = reach(first);
+    const auto hours = static_cast<std::size_t>(hourBoundariesBetween(first, last)) + 1;
+    for (std::size_t i = begin; i < begin + hours; ++i) {
+        values[i] = value;
+        statuses[i] = status;
+    }
+}
+
 ParameterData& SiteData::parameter(PID pid)
 {
     const auto found = std::find_if(parameters.begin(), parameters.end(),
@@ -364,6 +414,12 @@ bool SiteData::has(PID pid) const
 {
     return std::any_of(parameters.begin(), parameters.end(),
                        [&](const auto& p) { return p.pid == pid; });
+}
+
+StatusMeaning SiteData::meaningOf(std::int32_t status) const
+{
+    const auto found = statusMeanings.find(status);
+    return found == statusMeanings.end() ? StatusMeaning{} : found->second;
 }
 
 void SiteData::noteCall(const std::string& call)

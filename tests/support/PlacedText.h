@@ -1,0 +1,34 @@
+#pragma once
+
+#include "report/ReportPage.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+/// The texts that stand on a page of a report.
+namespace k7deval::test
+{
+
+/// A text as it stands on a page: font code, size, and its lower left corner in points.
+struct PlacedText {
+    std::string text;
+    int font = 5;
+    float size = 10;
+    double x = 0;
+    double y = 0;
+};
+
+/// The texts that stand on a page, one a line as "text (font, size) at x, y".
+std::string listingOf(const ReportPage& page);
+
+/// Fails with the listing of the page unless the text stands there, to a fiftieth of a point.
+void expectText(const ReportPage& page, const PlacedText& expected);
+
+/// The texts whose lower edge is at that y, from left to right.
+std::vector<std::string> textsAt(const ReportPage& page, double y);
+
+/// How many texts a page has.
+std::size_t countTexts(const ReportPage& page);
+
+} // namespace k7deval::test

@@ -11,10 +11,10 @@
 namespace k7deval::sitedb
 {
 
-/// A file to import: its content, unpacked if it is gzip, and what identifies it.
+/// A file to import: what identifies it and, where it was asked for, its content.
 struct SourceFile {
     std::string name;      ///< Without directories, for sentences.
-    std::string content;   ///< Text, without a byte order mark.
+    std::string content;   ///< Text, unpacked if the file is gzip, without a byte order mark.
     std::int64_t size = 0; ///< Of the file as it lies on the disk.
     std::int64_t crc = 0;  ///< CRC-32 of the same.
 
@@ -24,8 +24,16 @@ struct SourceFile {
                                     int number = errors::kInvalidCall) const;
 };
 
-/// Reads and, where it is gzip, unpacks a file. Raises ImportError for a file that is not there, is
-/// empty, can't be read, or is a damaged or cut-off gzip file.
+/// What identifies a file of any size; its content is left empty. Raises ImportError for a file
+/// that is not there, is empty or can't be read.
+SourceFile identifySourceFile(const std::filesystem::path& path);
+
+/// Reads and, where it is gzip, unpacks the content of an identified file. Raises ImportError for a
+/// file without content or with more than is held in memory, and for a damaged or cut-off gzip
+/// file.
+void readContent(const std::filesystem::path& path, SourceFile& file);
+
+/// Both steps at once.
 SourceFile readSourceFile(const std::filesystem::path& path);
 
 } // namespace k7deval::sitedb

@@ -13,7 +13,6 @@ namespace k7deval::sitedb
 namespace
 {
 
-constexpr int kHighestOrisCode = 999'999;
 // The tools hold values as singles and show at most six decimals.
 constexpr std::int32_t kMostDecimals = 6;
 // No gas is more than pure: a million ppm.

@@ -13,8 +13,6 @@ namespace k7deval::sitedb
 namespace
 {
 
-// No unit reports more than six digits.
-constexpr double kHighestLoad = 999'999;
 constexpr int kLastHour = 23;
 
 using HourKey = std::pair<std::string, int>;

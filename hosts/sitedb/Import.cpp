@@ -23,17 +23,27 @@ bool isJson(std::string_view content)
     return first != std::string_view::npos && content[first] == '{';
 }
 
+// The lists of locations in the two layouts of a plan.
+bool isMonitoringPlan(std::string_view content)
+{
+    return content.find(R"("monitoringLocationData")") != std::string_view::npos ||
+           content.find(R"("locations")") != std::string_view::npos;
+}
+
 ImportReport takeFile(sql::Connection& connection, const SourceFile& file,
                       const ImportOptions& options)
 {
     if (isJson(file.content))
-        return takeEcmpsQa(connection, file, options);
+        return isMonitoringPlan(file.content) ? takeMonitoringPlan(connection, file, options)
+                                              : takeEcmpsQa(connection, file, options);
     const auto header = CsvTable::headerOf(file);
     if (hasColumns(header, {"unit_id", "component_id", "span_value"}))
         return takeSpanTable(connection, file, options);
+    if (hasColumns(header, {"oris", "location", "component_type_cd", "span_value"}))
+        return takeLocationSpans(connection, file, options);
     if (hasColumns(header, {"date", "hour", "gross_load_mw"}))
         return takeHourlyLoad(connection, file, options);
-    throw file.error("", "this is no ECMPS QA file, no span table and no hourly load");
+    throw file.error("", "this is none of the files that can be imported");
 }
 
 } // namespace
@@ -56,6 +66,18 @@ ImportReport importSpanTable(SiteDatabase& site, const std::filesystem::path& pa
     return takeSpanTable(site.connection(), readSourceFile(path), options);
 }
 
+ImportReport importMonitoringPlan(SiteDatabase& site, const std::filesystem::path& path,
+                                  const ImportOptions& options)
+{
+    return takeMonitoringPlan(site.connection(), readSourceFile(path), options);
+}
+
+ImportReport importLocationSpans(SiteDatabase& site, const std::filesystem::path& path,
+                                 const ImportOptions& options)
+{
+    return takeLocationSpans(site.connection(), readSourceFile(path), options);
+}
+
 ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& path,
                               const ImportOptions& options)
 {
@@ -65,6 +87,14 @@ ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& p
 std::string counted(std::size_t count, const std::string& what)
 {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+std::string listed(const std::set<std::string>& names)
+{
+    std::string all;
+    for (const auto& name : names)
+        all += (all.empty() ? "" : ", ") + name;
+    return all;
 }
 
 std::string entries(std::size_t count)
@@ -95,6 +125,11 @@ std::string noMoreUnits(const std::string& identifier)
 {
     return identifier + " would be one unit too many, since a site holds at most " +
            std::to_string(kHighestUnit);
+}
+
+std::string noMoreComponents()
+{
+    return "a unit has at most " + std::to_string(kHighestComponent) + " components for one gas";
 }
 
 } // namespace k7deval::sitedb

@@ -25,7 +25,8 @@ public:
 };
 
 struct ImportOptions {
-    /// The unit that hourly load belongs to; made when the site doesn't have it.
+    /// The unit that hourly load belongs to, made when the site doesn't have it; the one location
+    /// to take from a table of the spans of locations, empty: all.
     std::string unit;
     /// Leaves out the single injections of a QA file that can't be read, and takes all else.
     bool leaveOutUnreadable = false;
@@ -45,7 +46,8 @@ ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
                         const ImportOptions& options);
 
 /// Calibration injections of an ECMPS 2.0 QA file (JSON). The analyzers have to be in the site,
-/// from the span table.
+/// from a monitoring plan or
+/// span table.
 ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
                            const ImportOptions& options);
 
@@ -53,6 +55,16 @@ ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path
 /// component_type, span_scale, span_value and units.
 ImportReport importSpanTable(SiteDatabase& site, const std::filesystem::path& path,
                              const ImportOptions& options);
+
+/// Units, analyzers, spans and maximum loads from a monitoring plan (JSON), in the layout of the
+/// ECMPS import or of EPA's API.
+ImportReport importMonitoringPlan(SiteDatabase& site, const std::filesystem::path& path,
+                                  const ImportOptions& options);
+
+/// Units, analyzers and spans from a CSV table with the columns oris, location, component_type_cd,
+/// span_value and the other fields of a plan's span. The table names no components.
+ImportReport importLocationSpans(SiteDatabase& site, const std::filesystem::path& path,
+                                 const ImportOptions& options);
 
 /// Hourly load of a unit from a CSV table with the columns date, hour and gross_load_mw.
 ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& path,

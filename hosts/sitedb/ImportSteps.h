@@ -6,6 +6,7 @@
 #include "sitedb/sql/Connection.h"
 
 #include <cstddef>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -17,12 +18,18 @@ ImportReport takeEcmpsQa(sql::Connection& connection, const SourceFile& file,
                          const ImportOptions& options);
 ImportReport takeSpanTable(sql::Connection& connection, const SourceFile& file,
                            const ImportOptions& options);
+ImportReport takeMonitoringPlan(sql::Connection& connection, const SourceFile& file,
+                                const ImportOptions& options);
+ImportReport takeLocationSpans(sql::Connection& connection, const SourceFile& file,
+                               const ImportOptions& options);
 ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
                             const ImportOptions& options);
 
 /// "1 unit", "2 units".
 std::string counted(std::size_t count, const std::string& what);
 
+/// Names of things, separated by commas.
+std::string listed(const std::set<std::string>& names);
 /// "1 entry", "2 entries".
 std::string entries(std::size_t count);
 
@@ -33,7 +40,8 @@ std::string identifierFault(std::string_view text, std::size_t longest);
 const std::string& identifier(const CsvTable& table, const CsvRow& row, std::size_t column,
                               std::size_t longest);
 
-/// Why one more unit can't be had.
+/// Why one more unit, or component of a unit, can't be had.
 std::string noMoreUnits(const std::string& identifier);
+std::string noMoreComponents();
 
 } // namespace k7deval::sitedb

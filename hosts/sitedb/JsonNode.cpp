@@ -61,6 +61,11 @@ bool JsonNode::isObject() const
     return value_->is_object();
 }
 
+bool JsonNode::isList() const
+{
+    return value_->is_array();
+}
+
 bool JsonNode::isText() const
 {
     return value_->is_string();

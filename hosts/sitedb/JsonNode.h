@@ -26,6 +26,7 @@ public:
     [[nodiscard]] const std::string& path() const { return path_; }
     [[nodiscard]] bool isNull() const;
     [[nodiscard]] bool isObject() const;
+    [[nodiscard]] bool isList() const;
     [[nodiscard]] bool isText() const;
     [[nodiscard]] bool has(std::string_view name) const;
 

@@ -49,6 +49,9 @@ inline constexpr std::int32_t kSpanBegin = -1006; ///< 'YYYY-MM-DD HH:MM': in fo
 inline constexpr std::int32_t kUnitConstants = 0;
 
 inline constexpr std::int32_t kHighestUnit = 19;
+inline constexpr int kHighestOrisCode = 999'999;
+/// In MW: no unit reports more than six digits.
+inline constexpr double kHighestLoad = 999'999;
 inline constexpr std::int32_t kHighestComponent = 99;
 /// EPA's own identifiers are no longer than this.
 inline constexpr std::size_t kUnitIdentifierLength = 6;

@@ -100,6 +100,41 @@ std::optional<PID> SiteWriter::findMeasured(std::int32_t unit, const std::string
                        PIDPart(found, pidpart::kSuffix));
 }
 
+std::vector<std::string> SiteWriter::components(std::int32_t unit, const Gas& gas)
+{
+    const auto rows = connection_.prepare(
+        "SELECT attribute.value FROM attribute JOIN parameter ON parameter.pid = attribute.pid"
+        " WHERE attribute.id = $1 AND parameter.param_type = $2"
+        " AND parameter.pid BETWEEN $3 AND $4 ORDER BY parameter.pid");
+    rows->with(std::int64_t{attribute::kComponentId}, std::int64_t{paramtype::kMeasuredSeries},
+               std::int64_t{measuredPID(unit, gas.parameterCode, 1)},
+               std::int64_t{measuredPID(unit, gas.parameterCode, kHighestComponent)});
+    std::vector<std::string> components;
+    while (rows->step())
+        components.push_back(rows->text(0));
+    return components;
+}
+
+// The name stands at the head of the names of the measured parameter and of its calibrations.
+void SiteWriter::renameComponent(std::int32_t unit, const Gas& gas, const std::string& component)
+{
+    const std::string old(gas.componentType);
+    const auto measured = findMeasured(unit, old);
+    if (!measured)
+        return;
+    std::vector<PID> pids{*measured};
+    for (const Scale scale : {Scale::Single, Scale::Low, Scale::Mid, Scale::High})
+        pids.push_back(calibrationPID(*measured, scale));
+    for (const PID pid : pids) {
+        if (!exists(pid))
+            continue;
+        connection_.execute("UPDATE parameter SET name = $1 || SUBSTR(name, $2) WHERE pid = $3",
+                            analyzerName(gas, component), static_cast<std::int64_t>(old.size()) + 1,
+                            std::int64_t{pid});
+        setAttribute(pid, attribute::kComponentId, component);
+    }
+}
+
 std::optional<Analyzer> SiteWriter::findAnalyzer(std::int32_t unit, const std::string& component,
                                                  Scale scale)
 {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace k7deval::sitedb
 {
@@ -48,6 +49,11 @@ public:
     /// that PIDs allow for the gas. A component whose identifier is not known is identified by the
     /// gas itself.
     std::optional<PID> addMeasured(std::int32_t unit, const Gas& gas, const std::string& component);
+    /// The identifiers of the components of a unit that measure a gas, in the order of their
+    /// numbers.
+    [[nodiscard]] std::vector<std::string> components(std::int32_t unit, const Gas& gas);
+    /// Gives the unit's component that is identified by its gas the identifier that it has.
+    void renameComponent(std::int32_t unit, const Gas& gas, const std::string& component);
     /// Makes the calibration of a measured parameter on a scale, with its definition. Range
     /// evaluation is not offered the span when it is in another unit than the hourly values.
     void addCalibration(PID measured, const Gas& gas, const std::string& component,

@@ -104,9 +104,7 @@ private:
         }
         const auto added = writer_.addMeasured(unit, gas, component);
         if (!added)
-            throw table_.error(row, columns_.component,
-                               "a unit has at most " + std::to_string(kHighestComponent) +
-                                   " components for one gas");
+            throw table_.error(row, columns_.component, noMoreComponents());
         ++newAnalyzers_;
         return *added;
     }

@@ -80,8 +80,7 @@ TEST(ImportCommand, KeepsTheFilesTakenBeforeTheOneThatFailed)
     const CommandRun import = run({"import", "--site", site, "--facility", "Bethpage",
                                    sampleFile("spans.csv"), sampleFile("tests.csv")});
     EXPECT_EQ(import.out, "spans.csv (span table): 4 units, 16 analyzers, 17 spans\n");
-    EXPECT_EQ(import.notes,
-              "tests.csv: this is no ECMPS QA file, no span table and no hourly load.\n");
+    EXPECT_EQ(import.notes, "tests.csv: this is none of the files that can be imported.\n");
     EXPECT_EQ(import.status, 2);
     EXPECT_EQ(run({"units", "--site", site}).out, "GT1\nGT2\nGT3\nGT4\n");
     EXPECT_EQ(facilityOf(site), "nothing");

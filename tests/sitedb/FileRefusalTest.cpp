@@ -39,7 +39,7 @@ struct ContentCase {
 
 TEST(FileRefusal, AContentOfNoKnownFormat)
 {
-    const char* unknown = "this is no ECMPS QA file, no span table and no hourly load.";
+    const char* unknown = "this is none of the files that can be imported.";
     const ContentCase cases[] = {
         {"nothing", "", "the file is empty."},
         {"nothing, packed", gzip(""), "the file is empty."},

@@ -213,12 +213,17 @@ std::string GeneralNumber(double value, const RegionalSettings& settings)
     return general(value, settings);
 }
 
-float roundTrip(float value, int places)
+double roundTripToDouble(float value, int places)
 {
     assert(places >= 0 && places <= 9);
     const Decimal rounded = roundToPlaces(toDecimal(value), places);
-    const float magnitude = nearestSingle(nearestDouble(rounded));
+    const double magnitude = nearestDouble(rounded);
     return rounded.negative ? -magnitude : magnitude;
+}
+
+float roundTrip(float value, int places)
+{
+    return nearestSingle(roundTripToDouble(value, places));
 }
 
 double ToDouble(std::string_view text, const RegionalSettings& settings)

@@ -35,6 +35,8 @@ std::string GeneralNumber(double value, const RegionalSettings& settings);
 /// limits and bins are defined by. Equal to ToSingle(FormatNumber(...)) for every single, whatever
 /// the region; no allocation. places: 0 to 9. Error 6 for a value that is not finite.
 float roundTrip(float value, int places);
+/// The same, read back as a double.
+double roundTripToDouble(float value, int places);
 
 /// Whether the text is a number as the region writes it; see ToDouble.
 bool IsNumeric(std::string_view text, const RegionalSettings& settings);

@@ -28,6 +28,16 @@ void ComboBox::AddItem(std::string text, std::int32_t itemData)
     Changed.raise();
 }
 
+void ComboBox::SetItemText(std::int32_t index, std::string text)
+{
+    if (!isInList(index))
+        throw Error(errors::kInvalidArrayIndex);
+    if (index == listIndex_)
+        text_ = text;
+    list_[static_cast<std::size_t>(index)] = std::move(text);
+    Changed.raise();
+}
+
 void ComboBox::SetListIndex(std::int32_t index)
 {
     if (index != -1 && !isInList(index))

@@ -23,6 +23,9 @@ public:
     /// Empties the list: no entry selected, empty text. Runs nothing.
     void Clear();
     void AddItem(std::string text, std::int32_t itemData = 0);
+    /// Rewrites an entry in place, which runs nothing; the selection stays, and its text follows.
+    /// Error 381 outside the list.
+    void SetItemText(std::int32_t index, std::string text);
     [[nodiscard]] std::int32_t ListCount() const { return static_cast<std::int32_t>(list_.size()); }
     [[nodiscard]] const std::vector<std::string>& List() const { return list_; }
     [[nodiscard]] const std::vector<std::int32_t>& ItemDataList() const { return itemData_; }

@@ -20,9 +20,34 @@ std::string colorText(Color value)
     return "0x" + std::string(digits.size() - hex.size(), '0') + hex;
 }
 
+namespace
+{
+
+std::string alignmentText(Alignment alignment)
+{
+    switch (alignment) {
+    case Alignment::Right:
+        return "Right";
+    case Alignment::Centre:
+        return "Centre";
+    case Alignment::Left:
+        break;
+    }
+    return "Left";
+}
+
+} // namespace
+
 Label::Label(Container& parent, std::string name, std::string caption)
     : Widget(&parent, std::move(name)), caption_(std::move(caption))
 {
+}
+
+Label::Label(Container& parent, std::string name, std::string caption, const Geometry& place,
+             screen::Alignment alignment)
+    : Widget(&parent, std::move(name)), caption_(std::move(caption)), alignment_(alignment)
+{
+    SetPlace(place);
 }
 
 void Label::SetCaption(std::string caption)
@@ -43,6 +68,7 @@ PropertyList Label::Properties() const
     properties.push_back({"BackColor", {colorText(backColor_)}});
     properties.push_back({"Bold", {bold_}});
     properties.push_back({"ToolTipText", {toolTipText_}});
+    properties.push_back({"Alignment", {alignmentText(alignment_)}});
     return properties;
 }
 

@@ -16,6 +16,7 @@ namespace color
 inline constexpr Color kBlack = 0x000000;
 inline constexpr Color kRed = 0x0000FF;
 inline constexpr Color kWhite = 0xFFFFFF;
+inline constexpr Color kDesktop = 0x80000001;
 inline constexpr Color kWindow = 0x80000005;
 inline constexpr Color kButtonFace = 0x8000000F;
 inline constexpr Color kLight3D = 0x80000016;
@@ -24,10 +25,15 @@ inline constexpr Color kLight3D = 0x80000016;
 /// The colour as property lists show it, "0x00BBGGRR".
 std::string colorText(Color value);
 
+enum class Alignment { Left, Right, Centre };
+
 class Label final : public Widget
 {
 public:
     Label(Container& parent, std::string name, std::string caption = {});
+    /// A label that the control places itself.
+    Label(Container& parent, std::string name, std::string caption, const Geometry& place,
+          screen::Alignment alignment = screen::Alignment::Left);
 
     [[nodiscard]] const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
@@ -39,6 +45,8 @@ public:
     void SetBold(bool bold) { update(bold_, bold); }
     [[nodiscard]] const std::string& ToolTipText() const { return toolTipText_; }
     void SetToolTipText(std::string text);
+    /// How the caption stands in the label's place.
+    [[nodiscard]] screen::Alignment Alignment() const { return alignment_; }
 
     [[nodiscard]] std::string_view Kind() const override { return "Label"; }
     [[nodiscard]] PropertyList Properties() const override;
@@ -49,6 +57,7 @@ private:
     Color backColor_ = color::kButtonFace;
     bool bold_ = false;
     std::string toolTipText_;
+    screen::Alignment alignment_ = screen::Alignment::Left;
 };
 
 /// The pictures of a tree and of legends, by key. The background is what a picture is blended with

@@ -57,6 +57,16 @@ void showDeletionFailure(const SaveClick& click, const Error& error)
 
 } // namespace
 
+WriteOutcome outcomeOf(const std::function<void()>& writer)
+{
+    try {
+        writer();
+        return {};
+    } catch (...) {
+        return {false, errorInFlight()};
+    }
+}
+
 void runSaveClick(const SaveClick& click)
 {
     if (!showDialog(click))

@@ -17,6 +17,9 @@ struct WriteOutcome {
     std::optional<Error> failure; ///< What ended the writer, which has dealt with it already.
 };
 
+/// Runs a writer that leaves its failures to the click.
+WriteOutcome outcomeOf(const std::function<void()>& writer);
+
 /// What a tool puts into the click of its save button.
 struct SaveClick {
     std::string title; ///< Of message boxes without a title of their own: the tool's name.

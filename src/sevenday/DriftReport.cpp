@@ -1,6 +1,7 @@
 #include "sevenday/DriftReport.h"
 
 #include "foundation/DataInterface.h"
+#include "report/PageLayout.h"
 #include "sevenday/NumberedLine.h"
 
 namespace k7deval
@@ -9,8 +10,6 @@ namespace k7deval
 namespace
 {
 
-constexpr float kPageHeight = 612;
-constexpr float kPageWidth = 792;
 /// Rows end above this y, on top of what the summary needs.
 constexpr float kLowestRow = 48;
 /// The summary is given the height of so many rows.
@@ -49,9 +48,7 @@ std::unique_ptr<ReportDocument> DriftReport::build()
 
 DriftReport::Position DriftReport::newPage(ReportDocument& document)
 {
-    ReportPage& page = document.Pages().Add();
-    page.SetHeight(kPageHeight);
-    page.SetWidth(kPageWidth);
+    ReportPage& page = layout::addPage(document);
     return {&page, DrawPageHeader(page), 0};
 }
 

@@ -1,6 +1,7 @@
 #include "foundation/DateText.h"
 #include "foundation/NumberText.h"
 #include "foundation/UtilityFunctions.h"
+#include "report/PageLayout.h"
 #include "sevenday/DriftReport.h"
 #include "sevenday/NumberedLine.h"
 
@@ -14,17 +15,8 @@ namespace k7deval
 namespace
 {
 
-constexpr int kBody = 5;
-constexpr int kEmphasis = 6;
-constexpr int kFooter = 7;
-constexpr float kBodySize = 10;
-constexpr float kFooterSize = 8;
-constexpr float kLeft = 36;
-constexpr float kRight = 756;
-constexpr float kCentre = 392;
-constexpr float kTop = 563.05F;
-constexpr float kFooterRule = 49.1F;
-constexpr float kGap = 2;
+using namespace layout;
+
 constexpr std::uint32_t kBandColor = 0xF0F0F0;
 constexpr const char* kLineBreak = "\r\n";
 
@@ -53,28 +45,6 @@ constexpr std::size_t kZeroColumns = 2;
 constexpr std::size_t kUpscaleColumns = 6;
 constexpr std::size_t kStatusColumn = 10;
 
-ReportTextItem& addText(ReportPage& page, const std::string& text, int font, float size)
-{
-    ReportTextItem& item = page.TextItems().Add("");
-    item.SetText(text);
-    item.SetFont(font);
-    item.SetSize(size);
-    return item;
-}
-
-void centre(ReportTextItem& item, float x, float y)
-{
-    item.SetX(x - item.Width() / 2);
-    item.SetY(y);
-}
-
-/// A centred text whose row hangs below a y. Returns the row's y.
-float centreBelow(ReportTextItem& item, float x, float above)
-{
-    centre(item, x, above - item.Height() - kGap);
-    return item.Y();
-}
-
 /// One line of the column heads: the first head of it sets the y for the others.
 float drawHeadLine(ReportPage& page, const char* Column::*head, float above)
 {
@@ -82,22 +52,13 @@ float drawHeadLine(ReportPage& page, const char* Column::*head, float above)
     for (const Column& column : kColumns) {
         if (*(column.*head) == '\0')
             continue;
-        ReportTextItem& item = addText(page, column.*head, kBody, kBodySize);
+        ReportTextItem& item = addText(page, column.*head, kBodyFont, kBodySize);
         if (y)
             centre(item, column.centre, *y);
         else
             y = centreBelow(item, column.centre, above);
     }
     return *y;
-}
-
-void drawRule(ReportPage& page, float y)
-{
-    ReportLine& rule = page.Lines().Add();
-    rule.SetX1(kLeft);
-    rule.SetX2(kRight);
-    rule.SetY1(y);
-    rule.SetY2(y);
 }
 
 void drawBand(ReportPage& page, float above, float y)
@@ -115,9 +76,9 @@ void drawBand(ReportPage& page, float above, float y)
 
 void DriftReport::drawPageNumber(ReportPage& page, std::int32_t number)
 {
-    ReportTextItem& item = addText(page, "Page " + std::to_string(number), kFooter, kFooterSize);
-    item.SetX(kRight - item.Width());
-    item.SetY(kFooterRule - item.Height());
+    ReportTextItem& item =
+        addText(page, "Page " + std::to_string(number), kFooterFont, kFooterSize);
+    alignRight(item, kRight, kFooterRule - item.Height());
 }
 
 float DriftReport::DrawPageHeader(ReportPage& page)
@@ -126,15 +87,11 @@ float DriftReport::DrawPageHeader(ReportPage& page)
     runPosting(test_->irm, NumberedLine::DrawPageHeader, [&] {
         drawRule(page, kFooterRule);
         const Date now = CurrentDateTime(surroundings_.clock);
-        ReportTextItem& footer =
-            addText(page, "7-Day Drift Summary " + FormatTimeStamp(now, 10, surroundings_.regional),
-                    kFooter, kFooterSize);
-        footer.SetX(kLeft);
-        footer.SetY(kFooterRule - footer.Height());
-
-        centre(addText(page, strFacilityName, kEmphasis, 14), kCentre, y);
-        y = centreBelow(addText(page, "7-Day Drift Test", kEmphasis, 12), kCentre, y);
-        y = centreBelow(addText(page, setUp_->AnalyzerInfoText(), kBody, kBodySize), kCentre, y);
+        drawFooterText(page,
+                       "7-Day Drift Summary " + FormatTimeStamp(now, 10, surroundings_.regional));
+        y = drawTitle(page, strFacilityName, "7-Day Drift Test");
+        y = centreBelow(addText(page, setUp_->AnalyzerInfoText(), kBodyFont, kBodySize), kCentre,
+                        y);
         y = drawHeadLine(page, &Column::upper, y);
         y = drawHeadLine(page, &Column::lower, y) - kGap;
         drawRule(page, y);
@@ -148,11 +105,12 @@ float DriftReport::DrawCalRow(ReportPage& page, const cls7DayAnalyzerCal& cal, f
     runPosting(test_->irm, NumberedLine::DrawCalRow, [&] {
         const RegionalSettings& regional = surroundings_.regional;
         const auto draw = [&](std::size_t column, const std::string& text) {
-            centre(addText(page, text, kBody, kBodySize), kColumns[column].centre, row);
+            centre(addText(page, text, kBodyFont, kBodySize), kColumns[column].centre, row);
         };
         const std::string time =
             ShortDate(cal.CalTime, regional) + " " + ShortTime(cal.CalTime, regional);
-        row = centreBelow(addText(page, time, kBody, kBodySize), kColumns[kTimeColumn].centre, y);
+        row =
+            centreBelow(addText(page, time, kBodyFont, kBodySize), kColumns[kTimeColumn].centre, y);
         draw(kSpanColumn, GeneralNumber(cal.InstrumentSpan, regional));
         if (cal.ZeroCal)
             drawFigures(page, *cal.ZeroCal, kZeroColumns, row);
@@ -173,10 +131,10 @@ void DriftReport::drawFigures(ReportPage& page, const clsStrippedCal& injection,
                        kBodySize),
                kColumns[firstColumn + column].centre, y);
     };
-    draw(0, injection.ReferenceValue, kBody);
-    draw(1, injection.MeasuredValue, kBody);
-    draw(2, injection.Drift(), injection.isWithinLimit() ? kBody : kEmphasis);
-    draw(3, injection.DriftLimit, kBody);
+    draw(0, injection.ReferenceValue, kBodyFont);
+    draw(1, injection.MeasuredValue, kBodyFont);
+    draw(2, injection.Drift(), injection.isWithinLimit() ? kBodyFont : kHeadingFont);
+    draw(3, injection.DriftLimit, kBodyFont);
 }
 
 float DriftReport::DrawSummaryText(ReportPage& page, float y)
@@ -184,16 +142,14 @@ float DriftReport::DrawSummaryText(ReportPage& page, float y)
     runPosting(test_->irm, NumberedLine::DrawSummaryText, [&] {
         const std::string& text = test_->strSummary;
         const auto lineBreak = text.find(kLineBreak);
-        ReportTextItem& first = addText(page, text.substr(0, lineBreak), kBody, kBodySize);
-        first.SetX(kLeft);
-        first.SetY(y - first.Height() - kGap);
+        ReportTextItem& first = addText(page, text.substr(0, lineBreak), kBodyFont, kBodySize);
+        alignLeft(first, kLeft, y - first.Height() - kGap);
         y = first.Y();
         if (lineBreak == std::string::npos)
             return;
         // Only the first line break splits the text; an empty line parts the two.
-        ReportTextItem& second = addText(page, text.substr(lineBreak + 2), kBody, kBodySize);
-        second.SetX(kLeft);
-        second.SetY(y - 2 * (second.Height() + kGap));
+        ReportTextItem& second = addText(page, text.substr(lineBreak + 2), kBodyFont, kBodySize);
+        alignLeft(second, kLeft, y - 2 * (second.Height() + kGap));
         y = second.Y();
     });
     return y;

@@ -4,6 +4,7 @@
 #include "foundation/NumberText.h"
 #include "foundation/TextFunctions.h"
 #include "foundation/UtilityFunctions.h"
+#include "screen/UnitList.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,11 +62,7 @@ void ctrl7DaySetUp::Setup(std::shared_ptr<MessageSink> irm, std::shared_ptr<DISe
     irm_ = std::move(irm);
     server_ = std::move(objDI);
     cmbUnit.Clear();
-    for (const auto& unit : present(server_).Units()) {
-        const std::string name = present(unit).Name(0);
-        cmbUnit.AddItem(name, unit->PID());
-    }
-    cmbUnit.SetListIndex(0);
+    screen::offerUnits(cmbUnit, present(server_));
 }
 
 void ctrl7DaySetUp::Terminate()

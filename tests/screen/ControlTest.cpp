@@ -78,7 +78,7 @@ TEST(Control, EachKindOfWidgetListsAllThatStandsInIt)
     EXPECT_EQ(ownOf(page.combo), (Names{"List", "ItemData", "ListIndex", "Text"}));
     EXPECT_EQ(ownOf(page.tree), (Names{"BackColor", "Nodes", "SelectedItem"}));
     EXPECT_EQ(ownOf(screen.label),
-              (Names{"Caption", "ForeColor", "BackColor", "Bold", "ToolTipText"}));
+              (Names{"Caption", "ForeColor", "BackColor", "Bold", "ToolTipText", "Alignment"}));
     EXPECT_EQ(ownOf(screen), (Names{"MousePointer", "Widgets"}));
 }
 

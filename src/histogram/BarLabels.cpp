@@ -1,0 +1,106 @@
+#include "histogram/BarLabels.h"
+
+#include "foundation/Error.h"
+#include "foundation/NumberText.h"
+
+#include <cmath>
+#include <cstddef>
+#include <string>
+
+namespace k7deval::histogram
+{
+
+namespace
+{
+
+constexpr int kGrid = 15;
+constexpr screen::Geometry kPatternPlace{315, 1725, 255, 405};
+
+/// A place rounded, halves to even, and moved back onto the grid.
+float onGrid(float twips)
+{
+    const auto whole = static_cast<int>(std::nearbyint(twips));
+    return static_cast<float>(whole - whole % kGrid);
+}
+
+} // namespace
+
+BarLabels::BarLabels(screen::Frame& frame, const screen::Line& linMin, const screen::Line& linBase)
+    : linMin_(&linMin), linBase_(&linBase)
+{
+    for (int bar = 0; bar <= kBinCount; ++bar) {
+        auto& label = labels_[static_cast<std::size_t>(bar)];
+        label = std::make_unique<screen::Label>(frame, "lblBar(" + std::to_string(bar) + ")", "",
+                                                kPatternPlace);
+        label->SetBackColor(screen::color::kDesktop);
+        if (bar > 0)
+            place(bar);
+    }
+    labels_[0]->SetVisible(false);
+}
+
+/// Bars go from the twentieth to the first, the pattern last.
+BarLabels::~BarLabels()
+{
+    for (auto label = labels_.rbegin(); label != labels_.rend(); ++label)
+        label->reset();
+}
+
+screen::Label& BarLabels::operator[](int index) const
+{
+    if (index < 0 || index > kBinCount)
+        throw Error(errors::kSubscript);
+    return *labels_[static_cast<std::size_t>(index)];
+}
+
+void BarLabels::place(int bar)
+{
+    const double begin = linBase_->X1();
+    const double width = linBase_->X2() - begin - kGrid;
+    const auto edge = [&](int bars) {
+        return onGrid(static_cast<float>(static_cast<double>(bars) / kBinCount * width + begin));
+    };
+    screen::Geometry place = (*this)[bar].Place();
+    place.Left = edge(bar - 1);
+    // Neighbouring bars share one pixel of border.
+    place.Width = edge(bar) - place.Left + kGrid;
+    (*this)[bar].SetPlace(place);
+}
+
+void BarLabels::ResetBars()
+{
+    for (int bar = 1; bar <= kBinCount; ++bar) {
+        screen::Label& label = (*this)[bar];
+        label.SetPlace({label.Place().Left, linBase_->Y1(), label.Place().Width, kGrid});
+        label.SetToolTipText("");
+    }
+}
+
+void BarLabels::DrawChart(const HourBins& bins, float low, float range,
+                          const RegionalSettings& regional)
+{
+    const std::int32_t peak = peakOf(bins);
+    if (peak == 0)
+        return ResetBars();
+    for (int bar = 1; bar <= kBinCount; ++bar) {
+        const std::int32_t hours = bins[static_cast<std::size_t>(bar)];
+        draw(bar, hours, peak);
+        (*this)[bar].SetToolTipText(GeneralNumber(binEdge(bar - 1, low, range), regional) + " - " +
+                                    GeneralNumber(binEdge(bar, low, range), regional) +
+                                    "   Op Hours: " + std::to_string(hours));
+    }
+}
+
+void BarLabels::draw(int bar, std::int32_t hours, std::int32_t peak)
+{
+    const double scale = linMin_->Y2() - linMin_->Y1() - kGrid;
+    const float base = linBase_->Y1();
+    const double share = static_cast<double>(static_cast<float>(hours)) / static_cast<float>(peak);
+    float top = onGrid(static_cast<float>(base - share * scale));
+    if (hours > 0 && top == base)
+        top = base - kGrid;
+    screen::Label& label = (*this)[bar];
+    label.SetPlace({label.Place().Left, top, label.Place().Width, base - top});
+}
+
+} // namespace k7deval::histogram

@@ -1,0 +1,138 @@
+#include "histogram/HistogramTool.h"
+
+#include "foundation/NumberText.h"
+#include "foundation/PIDFunctions.h"
+#include "foundation/UtilityFunctions.h"
+#include "screen/SaveClick.h"
+
+namespace k7deval::histogram
+{
+
+namespace
+{
+
+using screen::Alignment;
+using screen::LineEnds;
+
+constexpr float kMarkTop = 630;
+constexpr float kBase = 2700;
+constexpr float kFirstMark = 120;
+constexpr float kLastMark = 5880;
+constexpr float kBaseEnd = 5895;
+
+LineEnds mark(float x)
+{
+    return {x, kMarkTop, x, kBase};
+}
+
+} // namespace
+
+HistogramTool::HistogramTool(const ToolLook& look, const screen::Surroundings& surroundings)
+    : Control(look.name), CommonDialog1(*this, "CommonDialog1", surroundings.services),
+      lblHeader(fraResults, "lblHeader", "lblHeader", {750, 75, 4500, 0}, Alignment::Centre),
+      lblLowOpPercent(fraResults, "lblLowOpPercent", "lblLowOpPercent", {60, 360, 1800, 0},
+                      Alignment::Centre),
+      lblMidOpPercent(fraResults, "lblMidOpPercent", "lblMidOpPercent", look.lblMidOpPercent,
+                      Alignment::Centre),
+      lblHighOpPercent(fraResults, "lblHighOpPercent", "lblHighOpPercent", look.lblHighOpPercent,
+                       Alignment::Centre),
+      linMin(fraResults, "linMin", mark(kFirstMark), look.markStyle),
+      linLow(fraResults, "linLow", mark(look.linLowX), look.markStyle),
+      linMid(fraResults, "linMid", mark(look.linMidX), look.markStyle),
+      linMax(fraResults, "linMax", mark(kLastMark), look.markStyle),
+      linBase(fraResults, "linBase", {kFirstMark, kBase, kBaseEnd, kBase}),
+      lblBar(fraResults, linMin, linBase),
+      lblMinSafe(fraResults, "lblMinSafe", "lblMinSafe", look.lblMinSafe),
+      lblLow(fraResults, "lblLow", "lblLow", look.lblLow, look.lblLowAlignment),
+      lblMid(fraResults, "lblMid", "lblMid", look.lblMid, look.lblMidAlignment),
+      lblMax(fraResults, "lblMax", "lblMax", {4530, 2760, 1350, 0}, Alignment::Right),
+      lbl000(fraResults, "lbl000", "Minimum", look.lbl000),
+      lbl100(fraResults, "lbl100", "Maximum", {4530, 3000, 1350, 0}, Alignment::Right),
+      surroundings_(surroundings), title_(look.title)
+{
+    SetPlace(look.control);
+    fraResults.SetPlace(look.fraResults);
+    cmdSave.SetEnabled(false);
+    cmdClose.Clicked.Connect([this] { CloseClicked.raise(); });
+    cmdSave.Clicked.Connect([this] { saveClick(); });
+}
+
+void HistogramTool::ClearResults()
+{
+    for (screen::Label* label : {&lblHeader, &lblMinSafe, &lblLow, &lblMid, &lblMax,
+                                 &lblLowOpPercent, &lblMidOpPercent, &lblHighOpPercent})
+        label->SetCaption("");
+}
+
+void HistogramTool::clearStaleResults()
+{
+    needsEvaluation_ = true;
+    ClearResults();
+    lblBar.ResetBars();
+}
+
+void HistogramTool::markStale()
+{
+    clearStaleResults();
+    cmdSave.SetEnabled(false);
+}
+
+std::string HistogramTool::parameterEntry(DIParameter& parameter) const
+{
+    if (!chkShowPID.isChecked())
+        return parameter.Name(0);
+    return "[" + PIDToText(parameter.PID()) + "] " + parameter.Name(0);
+}
+
+void HistogramTool::showHeader()
+{
+    const PID pid = cmbParam.ItemData();
+    const auto parameters = data().Parameters();
+    if (present(parameters).Exists(pid))
+        lblHeader.SetCaption(cmbUnit.Text() + " " + present(parameters->Item(pid, -1)).Name(0));
+}
+
+void HistogramTool::showLevels(const Levels& levels)
+{
+    // Hours outside the range are left out, so that the three percents add up to 100.
+    const std::int32_t total = levels.low.hours + levels.mid.hours + levels.high.hours;
+    const auto show = [&](screen::Label& label, const Level& level) {
+        label.SetCaption(percentText(level.hours, total, level.tail, surroundings_.regional));
+    };
+    show(lblLowOpPercent, levels.low);
+    show(lblMidOpPercent, levels.mid);
+    show(lblHighOpPercent, levels.high);
+}
+
+void HistogramTool::showScale(const std::string& minimum, float low, float mid, float maximum)
+{
+    lblMinSafe.SetCaption(minimum);
+    lblLow.SetCaption(GeneralNumber(low, surroundings_.regional));
+    lblMid.SetCaption(GeneralNumber(mid, surroundings_.regional));
+    lblMax.SetCaption(GeneralNumber(maximum, surroundings_.regional));
+}
+
+std::string HistogramTool::printTime() const
+{
+    return FormatTimeStamp(CurrentDateTime(surroundings_.clock), 10, surroundings_.regional);
+}
+
+void HistogramTool::saveClick()
+{
+    CommonDialog1.SetFilter("PDF File (*.pdf)|*.pdf");
+    CommonDialog1.SetDefaultExt(".pdf");
+    screen::runSaveClick({
+        .title = title_,
+        .dialog = CommonDialog1,
+        .services = surroundings_.services,
+        .write =
+            [this] {
+                return screen::outcomeOf(
+                    [this] { buildReport()->SaveToFile(CommonDialog1.FileName()); });
+            },
+        .passOver = [](const Error&) {},
+        .preview = chkPreview.isChecked(),
+    });
+}
+
+} // namespace k7deval::histogram

@@ -1,0 +1,96 @@
+#include "load/LoadEvaluation.h"
+
+#include "foundation/NumberText.h"
+#include "histogram/Quarters.h"
+
+#include <cmath>
+
+namespace k7deval
+{
+
+namespace
+{
+
+constexpr double kHighShare = 0.6;
+constexpr double kLowShare = 0.3;
+constexpr int kWantedQuarters = 4;
+
+} // namespace
+
+float LoadEvaluation::Range() const
+{
+    return ToSingle(static_cast<double>(CapacityValue) - MinSafeValue);
+}
+
+void LoadEvaluation::SetThresholds(const RegionalSettings& regional)
+{
+    const double range = Range();
+    HighThreshold = histogram::sixDecimals(range * kHighShare + MinSafeValue, regional);
+    LowThreshold = histogram::sixDecimals(range * kLowShare + MinSafeValue, regional);
+}
+
+void LoadEvaluation::Reset()
+{
+    Bins.fill(0);
+    OverHours = 0;
+    HighHours = 0;
+    MidHours = 0;
+    LowHours = 0;
+    UnderHours = 0;
+}
+
+void LoadEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes,
+                         const LoadPeriod& period)
+{
+    const histogram::BinScale scale(MinSafeValue, CapacityValue);
+    histogram::QuarterCount quarters;
+    histogram::walkQuarters(
+        parameter, period.lastHour, period.firstDay, [&](const DIDataSet& hours) {
+            quarters.count(takeHours(hours, statusCodes, scale));
+            // Specified dates are walked to their end, with data or without.
+            return period.firstDay.has_value() ||
+                   (quarters.withData < kWantedQuarters && !quarters.isAtLimit());
+        });
+}
+
+std::int32_t LoadEvaluation::takeHours(const DIDataSet& hours, DIStatusCodes& statusCodes,
+                                       const histogram::BinScale& scale)
+{
+    const auto values = hours.Values();
+    const auto statuses = hours.Statuses();
+    std::int32_t validHours = 0;
+    for (std::size_t hour = 0; hour < values.size(); ++hour) {
+        const bool isNumeric = !std::isnan(values[hour]);
+        const bool isValid = statusCodes.IsValid(statuses[hour]);
+        const bool isExcluded = statusCodes.IsExcluded(statuses[hour]);
+        if (!isNumeric || !isValid || isExcluded)
+            continue;
+        const float value = ToSingle(values[hour]);
+        ++validHours;
+        takeHour(value, scale);
+    }
+    return validHours;
+}
+
+void LoadEvaluation::takeHour(float value, const histogram::BinScale& scale)
+{
+    if (value < MinSafeValue) {
+        ++UnderHours;
+        return;
+    }
+    if (value > CapacityValue) {
+        ++OverHours;
+        if (value > MaxObserved)
+            MaxObserved = value;
+        return;
+    }
+    ++Bins[static_cast<std::size_t>(scale.binOf(value))];
+    if (value > HighThreshold)
+        ++HighHours;
+    else if (value > LowThreshold)
+        ++MidHours;
+    else
+        ++LowHours;
+}
+
+} // namespace k7deval

@@ -1,0 +1,100 @@
+#include "range/RangeEvaluation.h"
+
+#include "foundation/NumberText.h"
+#include "histogram/Quarters.h"
+
+#include <cmath>
+
+namespace k7deval
+{
+
+namespace
+{
+
+constexpr double kHighShare = 0.8;
+constexpr double kLowShare = 0.2;
+constexpr std::int32_t kWantedHours = 720;
+constexpr int kWantedQuarters = 4;
+/// Status words of hours that were replaced by 200% of the limit or of the range.
+constexpr std::int32_t kReplacedByTwiceLimit = 35;
+constexpr std::int32_t kReplacedByTwiceRange = 36;
+
+} // namespace
+
+void RangeEvaluation::SetThresholds(const RegionalSettings& regional)
+{
+    HighThreshold = histogram::sixDecimals(RangeValue * kHighShare, regional);
+    LowThreshold = histogram::sixDecimals(RangeValue * kLowShare, regional);
+}
+
+void RangeEvaluation::Reset()
+{
+    Bins.fill(0);
+    InvalidHours = 0;
+    LowHours = 0;
+    MidHours = 0;
+    HighHours = 0;
+    OverRangeHours = 0;
+    AboveMECHours = 0;
+    AboveMPCHours = 0;
+    ReplacedHours = 0;
+}
+
+void RangeEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes, Date lastHour,
+                          const Limits& limits)
+{
+    const histogram::BinScale scale(0, RangeValue);
+    histogram::QuarterCount quarters;
+    histogram::walkQuarters(parameter, lastHour, std::nullopt, [&](const DIDataSet& hours) {
+        quarters.count(takeHours(hours, statusCodes, scale, limits));
+        const std::int32_t total = LowHours + MidHours + HighHours + OverRangeHours;
+        const bool isEnough = total > kWantedHours && quarters.withData >= kWantedQuarters;
+        return !isEnough && !quarters.isAtLimit();
+    });
+}
+
+std::int32_t RangeEvaluation::takeHours(const DIDataSet& hours, DIStatusCodes& statusCodes,
+                                        const histogram::BinScale& scale, const Limits& limits)
+{
+    const auto values = hours.Values();
+    const auto statuses = hours.Statuses();
+    std::int32_t validHours = 0;
+    for (std::size_t hour = 0; hour < values.size(); ++hour) {
+        const bool isNumeric = !std::isnan(values[hour]);
+        const bool isExcluded = statusCodes.IsExcluded(statuses[hour]);
+        const bool isValid = statusCodes.IsValid(statuses[hour]);
+        if (isNumeric && !isExcluded && isValid) {
+            const float value = ToSingle(values[hour]);
+            ++validHours;
+            takeHour(value, statuses[hour], scale, limits);
+        } else if (!statusCodes.IsUnitOffline(statuses[hour])) {
+            ++InvalidHours;
+        }
+    }
+    return validHours;
+}
+
+/// An hour over the range counts as nothing else, though it is above the limits as well.
+void RangeEvaluation::takeHour(float value, std::int32_t status, const histogram::BinScale& scale,
+                               const Limits& limits)
+{
+    if (value > RangeValue) {
+        ++OverRangeHours;
+        return;
+    }
+    ++Bins[static_cast<std::size_t>(scale.binOf(value))];
+    if (value > HighThreshold)
+        ++HighHours;
+    else if (value > LowThreshold)
+        ++MidHours;
+    else
+        ++LowHours;
+    if (limits.mec && value > MECValue)
+        ++AboveMECHours;
+    if (limits.mpc && value > MPCValue)
+        ++AboveMPCHours;
+    if (status == kReplacedByTwiceLimit || status == kReplacedByTwiceRange)
+        ++ReplacedHours;
+}
+
+} // namespace k7deval

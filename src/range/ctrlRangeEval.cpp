@@ -1,0 +1,225 @@
+#include "range/ctrlRangeEval.h"
+
+#include "foundation/NumberText.h"
+#include "foundation/PIDFunctions.h"
+#include "foundation/UtilityFunctions.h"
+#include "histogram/Quarters.h"
+
+#include <utility>
+
+namespace k7deval
+{
+
+namespace
+{
+
+constexpr double kExpectedShare = 0.2;
+constexpr std::int32_t kHighestLowScale = 1; ///< "SINGLE" and "LOW".
+constexpr const char* kNoLimit = "N/A";
+
+const histogram::ToolLook kLook{
+    .name = "ctrlRangeEval",
+    .title = "Range Evaluation",
+    .control = {0, 0, 12540, 5295},
+    .fraResults = {6480, 120, 6000, 4500},
+    .markStyle = screen::LineStyle::Solid,
+    .linLowX = 1260,
+    .linMidX = 4725,
+    .lblMidOpPercent = {2040, 360, 1800, 0},
+    .lblHighOpPercent = {4080, 360, 1800, 0},
+    .lblMinSafe = {120, 2760, 0, 0},
+    .lblLow = {1320, 2760, 0, 0},
+    .lblLowAlignment = screen::Alignment::Left,
+    .lblMid = {3360, 2760, 1350, 0},
+    .lblMidAlignment = screen::Alignment::Right,
+    .lbl000 = {120, 3000, 0, 0},
+};
+
+} // namespace
+
+ctrlRangeEval::ctrlRangeEval(const screen::Surroundings& surroundings)
+    : HistogramTool(kLook, surroundings)
+{
+    txtRange.SetText("Text1");
+    txtMEC.SetText("Text3");
+    txtMPC.SetText("Text4");
+    cmbYear.SetText("Combo2");
+    connectRules();
+    startUp();
+}
+
+void ctrlRangeEval::startUp()
+{
+    histogram::offerQuarters(cmbQTR, cmbYear, CurrentDateTime(surroundings_.clock));
+    ClearResults();
+    lblBar.ResetBars();
+}
+
+void ctrlRangeEval::connectRules()
+{
+    cmbUnit.Picked.Connect([this] { unitRule(); });
+    cmbParam.Picked.Connect([this] { parameterRule(); });
+    cmbScale.Picked.Connect([this] { scaleRule(); });
+    chkShowPID.Clicked.Connect([this] { showPIDRule(); });
+    txtRange.Validate.Connect([this] { validateRange(); });
+    txtMEC.TextChanged.Connect([this] { markStale(); });
+    txtMPC.TextChanged.Connect([this] { markStale(); });
+    // Only a change of the text counts; a pick from the open list leaves the results as they are.
+    cmbYear.TextChanged.Connect([this] { markStale(); });
+    cmbQTR.TextChanged.Connect([this] { markStale(); });
+    cmdCalculate.Clicked.Connect([this] { calculate(); });
+}
+
+/// The catalogue is not emptied: what another site brought in stays.
+void ctrlRangeEval::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
+{
+    setServer(std::move(server));
+    if (DIServer() != nullptr)
+        addToCatalogue(catalogue_, data(), surroundings_.regional);
+    cmbUnit.Clear();
+    cmbParam.Clear();
+    cmbScale.Clear();
+    if (DIServer() != nullptr)
+        listUnits();
+    ClearResults();
+    lblBar.ResetBars();
+    cmdSave.SetEnabled(false);
+}
+
+void ctrlRangeEval::Terminate()
+{
+    catalogue_ = {};
+    HistogramTool::Terminate();
+}
+
+void ctrlRangeEval::listUnits()
+{
+    const auto parameters = data().Parameters();
+    for (const PID unit : catalogue_.Keys())
+        cmbUnit.AddItem(present(present(parameters).Item(unit, -1)).Name(0), unit);
+    if (cmbUnit.ListCount() > 0)
+        cmbUnit.SetListIndex(0);
+}
+
+const ParameterScales& ctrlRangeEval::pickedUnit() const
+{
+    return catalogue_.Item(cmbUnit.ItemData());
+}
+
+const ScaleSpans& ctrlRangeEval::pickedParameter() const
+{
+    return pickedUnit().Item(cmbParam.ItemData());
+}
+
+void ctrlRangeEval::unitRule()
+{
+    cmbParam.Clear();
+    cmbScale.Clear();
+    const auto parameters = data().Parameters();
+    for (const PID pid : pickedUnit().Keys())
+        cmbParam.AddItem(parameterEntry(present(present(parameters).Item(pid, -1))), pid);
+    if (cmbParam.ListCount() > 0)
+        cmbParam.SetListIndex(0);
+    markStale();
+}
+
+void ctrlRangeEval::parameterRule()
+{
+    cmbScale.Clear();
+    for (const std::int32_t scale : pickedParameter().Keys())
+        cmbScale.AddItem(scaleName(scale), scale);
+    if (cmbScale.ListCount() > 0)
+        cmbScale.SetListIndex(0);
+    markStale();
+}
+
+void ctrlRangeEval::scaleRule()
+{
+    const std::int32_t scale = cmbScale.ItemData();
+    evaluation_.RangeValue = pickedParameter().Item(scale);
+    txtRange.SetText(GeneralNumber(evaluation_.RangeValue, surroundings_.regional));
+    proposeLimits(scale);
+    markStale();
+}
+
+/// An expected concentration of 20% of the span and a potential one of the span itself, for the
+/// operator to overwrite. Percent gases have none, and the upper scales no expected one.
+void ctrlRangeEval::proposeLimits(std::int32_t scale)
+{
+    const RegionalSettings& regional = surroundings_.regional;
+    const bool hasPotential = !IsPercentGasPID(cmbParam.ItemData());
+    const bool hasExpected = hasPotential && scale <= kHighestLowScale;
+    txtMEC.SetText(hasExpected ? GeneralNumber(evaluation_.RangeValue * kExpectedShare, regional)
+                               : kNoLimit);
+    txtMPC.SetText(hasPotential ? GeneralNumber(evaluation_.RangeValue, regional) : kNoLimit);
+    chkMEC.SetChecked(hasExpected);
+    chkMPC.SetChecked(hasPotential);
+}
+
+void ctrlRangeEval::showPIDRule()
+{
+    if (DIServer() == nullptr)
+        return;
+    const auto parameters = data().Parameters();
+    for (std::int32_t row = 0; row < cmbParam.ListCount(); ++row) {
+        const PID pid = cmbParam.ItemDataList()[static_cast<std::size_t>(row)];
+        const auto parameter = present(parameters).Item(pid, -1);
+        cmbParam.SetItemText(row, parameterEntry(present(parameter)));
+    }
+}
+
+/// The results go also when the text did not change.
+void ctrlRangeEval::validateRange()
+{
+    if (IsNumeric(txtRange.Text(), surroundings_.regional)) {
+        evaluation_.RangeValue = ToSingle(txtRange.Text(), surroundings_.regional);
+        markStale();
+    } else {
+        txtRange.SetText(GeneralNumber(evaluation_.RangeValue, surroundings_.regional));
+    }
+}
+
+void ctrlRangeEval::calculate()
+{
+    SetMousePointer(screen::MousePointer::Hourglass);
+    if (NeedsEvaluation())
+        EvaluateRange(cmbParam.ItemData());
+    DrawChart();
+    ShowResults();
+    cmdSave.SetEnabled(true);
+    SetMousePointer(screen::MousePointer::Default);
+}
+
+/// A parameter that is gone ends it quietly, with nothing counted and the evaluation still due.
+void ctrlRangeEval::EvaluateRange(PID pid)
+{
+    evaluation_.RangeValue = ToSingle(txtRange.Text(), surroundings_.regional);
+    evaluation_.SetThresholds(surroundings_.regional);
+    evaluation_.Reset();
+    const RangeEvaluation::Limits limits = readLimits();
+    const Date lastHour = histogram::GetSelectedQuarterEnd(cmbQTR, cmbYear, surroundings_);
+    const auto parameters = data().Parameters();
+    if (!present(parameters).Exists(pid))
+        return;
+    const auto parameter = parameters->Item(pid, -1);
+    const auto statusCodes = data().StatusCodes();
+    evaluation_.Run(present(parameter), present(statusCodes), lastHour, limits);
+    setEvaluated();
+}
+
+RangeEvaluation::Limits ctrlRangeEval::readLimits()
+{
+    const RangeEvaluation::Limits limits{takesPart(chkMEC, txtMEC), takesPart(chkMPC, txtMPC)};
+    if (limits.mec)
+        evaluation_.MECValue = ToSingle(txtMEC.Text(), surroundings_.regional);
+    if (limits.mpc)
+        evaluation_.MPCValue = ToSingle(txtMPC.Text(), surroundings_.regional);
+    return limits;
+}
+
+bool ctrlRangeEval::takesPart(const screen::CheckBox& box, const screen::TextBox& field) const
+{
+    return box.isChecked() && IsNumeric(field.Text(), surroundings_.regional);
+}
+
+} // namespace k7deval

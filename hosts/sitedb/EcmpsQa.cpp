@@ -1,9 +1,8 @@
 #include "sitedb/EcmpsQa.h"
 
-#include "sitedb/CsvTable.h"
+#include "sitedb/CalibrationRow.h"
 #include "sitedb/ImportSteps.h"
 #include "sitedb/JsonNode.h"
-#include "sitedb/TimeText.h"
 
 #include <algorithm>
 
@@ -12,90 +11,6 @@ namespace k7deval::sitedb
 
 namespace
 {
-
-// The tools hold values as singles and show at most six decimals.
-constexpr std::int32_t kMostDecimals = 6;
-// No gas is more than pure: a million ppm.
-constexpr double kLargestValue = 1'000'000;
-
-struct GasLevel {
-    std::int32_t code;
-    std::string text;
-};
-
-GasLevel upscaleLevel(const JsonNode& node)
-{
-    const std::string text = node.textOrNull();
-    if (text.empty() && node.isNull())
-        return {2, ""};
-    if (text == "LOW" || text == "MID")
-        return {1, text};
-    if (text == "HIGH")
-        return {2, text};
-    throw node.error(node.shown() + " is not LOW, MID or HIGH");
-}
-
-std::int32_t decimalsOf(const std::optional<double>& value)
-{
-    if (!value)
-        return 0;
-    const std::string text = numberText(*value);
-    const auto point = text.find('.');
-    const std::size_t decimals = point == std::string::npos ? 0 : text.size() - point - 1;
-    return std::min(static_cast<std::int32_t>(decimals), kMostDecimals);
-}
-
-/// Reads one row of calibrationInjectionData: a zero and an upscale injection.
-class RowReader
-{
-public:
-    explicit RowReader(const JsonNode& row) : row_(row) {}
-
-    /// The time stamp of the row, which both injections bear: the zero injection's.
-    [[nodiscard]] std::string runTime() const { return time("zero"); }
-
-    [[nodiscard]] QaInjection zero(const std::string& runTime) const
-    {
-        return injection("zero", {0, "ZERO"}, runTime);
-    }
-    [[nodiscard]] QaInjection upscale(const std::string& runTime) const
-    {
-        return injection("upscale", upscaleLevel(row_.field("upscaleGasLevelCode")), runTime);
-    }
-    [[nodiscard]] std::string upscaleTime() const { return time("upscale"); }
-
-private:
-    [[nodiscard]] JsonNode part(const std::string& gas, const char* name) const
-    {
-        return row_.field(gas + name);
-    }
-
-    [[nodiscard]] std::string time(const std::string& gas) const
-    {
-        const JsonNode date = part(gas, "InjectionDate");
-        if (!date.isText() || !dayNumber(date.text()))
-            throw date.error(date.shown() + " is no date");
-        return minuteText(date.text(), part(gas, "InjectionHour").whole(0, 23, "hour"),
-                          part(gas, "InjectionMinute").whole(0, 59, "minute"));
-    }
-
-    [[nodiscard]] QaInjection injection(const std::string& gas, GasLevel level,
-                                        const std::string& runTime) const
-    {
-        QaInjection injection;
-        injection.path = row_.path() + ", " + gas + " injection";
-        injection.runTime = runTime;
-        injection.injectionEnd = time(gas);
-        injection.gasLevelCode = level.code;
-        injection.gasLevelText = std::move(level.text);
-        injection.reference = part(gas, "ReferenceValue").numberOrNull(kLargestValue);
-        injection.measured = part(gas, "MeasuredValue").numberOrNull(kLargestValue);
-        injection.isOnline = row_.field("onlineOfflineIndicator").whole(0, 1, "indicator") == 1;
-        return injection;
-    }
-
-    const JsonNode& row_;
-};
 
 /// Reads a whole file.
 class QaReader
@@ -126,8 +41,7 @@ private:
         for (const auto& row : rows)
             readRow(test, row);
         for (const auto& injection : test.injections)
-            test.decimals = std::max(
-                {test.decimals, decimalsOf(injection.reference), decimalsOf(injection.measured)});
+            test.decimals = std::max(test.decimals, decimalsOf(injection));
         content_.tests.push_back(std::move(test));
     }
 
@@ -173,14 +87,14 @@ private:
 
     void readRow(QaTest& test, const JsonNode& row)
     {
-        const RowReader reader(row);
+        const CalibrationRow reader(row);
         attempt(test, [&] { return reader.zero(reader.runTime()); });
         attempt(test, [&] { return reader.upscale(runTimeOfUpscale(reader)); });
     }
 
     // The zero injection's time stands for the row. Where that one is left out because its time
     // can't be read, the upscale injection has only its own.
-    [[nodiscard]] std::string runTimeOfUpscale(const RowReader& reader) const
+    [[nodiscard]] std::string runTimeOfUpscale(const CalibrationRow& reader) const
     {
         if (!leavesOut_)
             return reader.runTime();

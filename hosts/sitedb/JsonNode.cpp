@@ -46,6 +46,13 @@ JsonNode JsonNode::parse(const SourceFile& file)
     }
 }
 
+JsonNode JsonNode::of(const SourceFile& file, nlohmann::json value, std::string path)
+{
+    auto root = std::make_shared<const nlohmann::json>(std::move(value));
+    const nlohmann::json& held = *root;
+    return {file, std::move(root), held, std::move(path)};
+}
+
 JsonNode JsonNode::child(const nlohmann::json& value, std::string path) const
 {
     return {*file_, root_, value, std::move(path)};
@@ -87,6 +94,14 @@ JsonNode JsonNode::field(std::initializer_list<std::string_view> names) const
             return child(*found, prefix + std::string(name));
     }
     throw file_->error(prefix + std::string(*names.begin()), "the field is missing");
+}
+
+JsonNode JsonNode::fieldOrNull(std::string_view name) const
+{
+    if (has(name) || !isObject())
+        return field(name);
+    static const nlohmann::json kNull;
+    return child(kNull, (path_.empty() ? "" : path_ + ".") + std::string(name));
 }
 
 std::vector<JsonNode> JsonNode::elements() const

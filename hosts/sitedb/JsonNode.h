@@ -22,6 +22,8 @@ class JsonNode
 public:
     /// The root of a file's JSON.
     static JsonNode parse(const SourceFile& file);
+    /// A value that was read from a file by itself, and its path there.
+    static JsonNode of(const SourceFile& file, nlohmann::json value, std::string path);
 
     [[nodiscard]] const std::string& path() const { return path_; }
     [[nodiscard]] bool isNull() const;
@@ -34,6 +36,8 @@ public:
     /// differently.
     [[nodiscard]] JsonNode field(std::initializer_list<std::string_view> names) const;
     [[nodiscard]] JsonNode field(std::string_view name) const { return field({name}); }
+    /// The named field, or null where the object does not have it.
+    [[nodiscard]] JsonNode fieldOrNull(std::string_view name) const;
     /// The elements of a list.
     [[nodiscard]] std::vector<JsonNode> elements() const;
 

@@ -2,8 +2,8 @@
 
 #include "foundation/Error.h"
 #include "sitedb/SiteIds.h"
+#include "sitedb/StatusWords.h"
 
-#include <array>
 #include <vector>
 
 namespace k7deval::sitedb
@@ -118,39 +118,6 @@ std::vector<std::string> otherTables(const sql::Dialect& dialect)
     };
 }
 
-struct StatusWord {
-    std::int64_t word;
-    const char* meaning;
-    bool valid;
-    bool excluded;
-    bool offline;
-};
-
-// 35 and 36 are the words that range evaluation counts as 200 % replacement. They are valid, since
-// it counts them among the hours of the range.
-constexpr std::array kStatusWords{
-    StatusWord{status::kNoData, "no data", false, false, false},
-    StatusWord{status::kMeasured, "measured", true, false, false},
-    StatusWord{status::kUnitOffline, "unit off line", false, false, true},
-    StatusWord{status::kExcluded, "left out of evaluations", true, true, false},
-    StatusWord{status::kOnlineCalibration, "calibration with the unit on line", true, false, false},
-    StatusWord{status::kOfflineCalibration, "calibration with the unit off line", true, false,
-               true},
-    StatusWord{status::kReplacedByTwiceMpc, "200 % of the maximum potential concentration", true,
-               false, false},
-    StatusWord{status::kReplacedByTwiceRange, "200 % of the full scale", true, false, false},
-};
-
-void fillStatusWords(sql::Connection& connection)
-{
-    const auto insert =
-        connection.prepare("INSERT INTO status_word (word, meaning, valid, excluded, offline)"
-                           " VALUES ($1, $2, $3, $4, $5)");
-    for (const auto& entry : kStatusWords)
-        insert->run(entry.word, std::string(entry.meaning), std::int64_t{entry.valid},
-                    std::int64_t{entry.excluded}, std::int64_t{entry.offline});
-}
-
 } // namespace
 
 void createSchema(sql::Connection& connection, const std::string& siteKey)
@@ -162,7 +129,7 @@ void createSchema(sql::Connection& connection, const std::string& siteKey)
         for (const auto& command : tables)
             connection.execute(command);
     }
-    fillStatusWords(connection);
+    addStatusWords(connection);
     connection.execute("INSERT INTO lookup (lookup_table, lookup_key, value) VALUES ($1, $2, $3)",
                        std::string(kSiteTable), std::string(kSiteKeyEntry), siteKey);
     connection.stamp(kSiteMark, kSchemaVersion);

@@ -5,6 +5,7 @@
 #include "sitedb/SiteIds.h"
 #include "sitedb/SiteServer.h"
 #include "sitedb/SiteWriter.h"
+#include "sitedb/StatusWords.h"
 #include "sitedb/sql/SqliteConnection.h"
 
 #include <cmath>
@@ -25,6 +26,11 @@ SiteDatabase SiteDatabase::open(const std::filesystem::path& path, OpenMode mode
     if (mode == OpenMode::ReadWrite && !connection->holdsTables())
         createSchema(*connection, utf8Text(path.stem()));
     checkSchema(*connection);
+    if (mode == OpenMode::ReadWrite && lacksStatusWords(*connection)) {
+        sql::Transaction transaction(*connection);
+        addStatusWords(*connection);
+        transaction.commit();
+    }
     return SiteDatabase(std::move(connection));
 }
 

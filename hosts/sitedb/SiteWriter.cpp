@@ -143,7 +143,8 @@ std::optional<Analyzer> SiteWriter::findAnalyzer(std::int32_t unit, const std::s
         return std::nullopt;
     const PID calibration = calibrationPID(*measured, scale);
     const auto row = connection_.prepare("SELECT scale, span FROM calibration_record"
-                                         " WHERE pid = $1 AND record_table = $2");
+                                         " WHERE pid = $1 AND record_table = $2"
+                                         " AND span IS NOT NULL");
     row->with(std::int64_t{calibration}, std::string(kCalibrationTable));
     if (!row->step())
         return std::nullopt;
@@ -169,28 +170,49 @@ std::optional<PID> SiteWriter::addMeasured(std::int32_t unit, const Gas& gas,
 void SiteWriter::addCalibration(PID measured, const Gas& gas, const std::string& component,
                                 const AnalyzerSpan& span)
 {
+    addCalibrationWithoutSpan(measured, gas, component, span.scale);
     const PID pid = calibrationPID(measured, span.scale);
-    addParameter(pid, analyzerName(gas, component) + scaleSuffix(span.scale) + " Calibration",
-                 kCalibrationType, spanUnitsText(gas, span.unitsCode), "");
+    connection_.execute("UPDATE parameter SET units_text = $1 WHERE pid = $2",
+                        spanUnitsText(gas, span.unitsCode), std::int64_t{pid});
+    setAttribute(pid, attribute::kRangeUse,
+                 span.unitsCode == gas.unitsCode ? kOfUseForRange : kOfNoUseForRange);
+    setSpan(pid, measured, span.scale, span.value);
+}
+
+void SiteWriter::addCalibrationWithoutSpan(PID measured, const Gas& gas,
+                                           const std::string& component, Scale scale)
+{
+    const PID pid = calibrationPID(measured, scale);
+    if (exists(pid))
+        return;
+    addParameter(pid, analyzerName(gas, component) + scaleSuffix(scale) + " Calibration",
+                 kCalibrationType, std::string(gas.unitsText), "");
     setAttribute(pid, attribute::kDecimals, kFewestDecimals);
     setAttribute(pid, attribute::kMeasuredPID, measured);
     setAttribute(pid, attribute::kLeftOutOfLists, false);
-    setAttribute(pid, attribute::kScale, scaleText(span.scale));
-    setAttribute(pid, attribute::kRangeUse,
-                 span.unitsCode == gas.unitsCode ? kOfUseForRange : kOfNoUseForRange);
+    setAttribute(pid, attribute::kScale, scaleText(scale));
+    setAttribute(pid, attribute::kRangeUse, kOfUseForRange);
     setAttribute(pid, attribute::kComponentId, component);
     setAttribute(pid, attribute::kRecordTable, std::string(kCalibrationTable));
     setAttribute(pid, attribute::kTestNumberBase, std::string(gas.componentType));
-    addDefinition(pid, measured, span.scale, span.value);
+    addDefinition(pid, measured, scale);
 }
 
-void SiteWriter::addDefinition(PID calibration, PID measured, Scale scale, double span)
+void SiteWriter::addDefinition(PID calibration, PID measured, Scale scale)
 {
     connection_.execute("INSERT INTO calibration_record (record_table, pid, scale, gas_level_code,"
-                        " gas_level_text, cal_status, span, source_tag_pid)"
-                        " VALUES ($1, $2, $3, 0, '', 0, $4, $5)",
+                        " gas_level_text, cal_status, source_tag_pid)"
+                        " VALUES ($1, $2, $3, 0, '', 0, $4)",
                         std::string(kCalibrationTable), std::int64_t{calibration}, scaleText(scale),
-                        span, std::int64_t{measured});
+                        std::int64_t{measured});
+}
+
+// The injections that came before the span bear none either.
+void SiteWriter::setSpan(PID calibration, PID measured, Scale scale, double span)
+{
+    connection_.execute("UPDATE calibration_record SET span = $1 WHERE scale = $2"
+                        " AND pid IN ($3, $4) AND span IS NULL",
+                        span, scaleText(scale), std::int64_t{calibration}, std::int64_t{measured});
 }
 
 void SiteWriter::raiseDecimals(PID calibration, std::int32_t decimals)

@@ -42,7 +42,8 @@ public:
 
     /// The measured parameter of a component, or nothing.
     [[nodiscard]] std::optional<PID> findMeasured(std::int32_t unit, const std::string& component);
-    /// The calibration of a component on a scale, or nothing.
+    /// The calibration of a component on a scale, or nothing where there is none or its span is not
+    /// known.
     [[nodiscard]] std::optional<Analyzer> findAnalyzer(std::int32_t unit,
                                                        const std::string& component, Scale scale);
     /// Makes the measured parameter of a component; nothing when the unit has all the components
@@ -58,6 +59,10 @@ public:
     /// evaluation is not offered the span when it is in another unit than the hourly values.
     void addCalibration(PID measured, const Gas& gas, const std::string& component,
                         const AnalyzerSpan& span);
+    /// Makes a calibration whose span is not known, where there is none yet. addCalibration gives
+    /// it its span.
+    void addCalibrationWithoutSpan(PID measured, const Gas& gas, const std::string& component,
+                                   Scale scale);
     /// Makes sure that a calibration shows at least so many decimals.
     void raiseDecimals(PID calibration, std::int32_t decimals);
 
@@ -97,7 +102,8 @@ private:
     void setAttribute(PID pid, std::int32_t id, std::int32_t value);
     void setAttribute(PID pid, std::int32_t id, bool value);
     void setAttributeText(PID pid, std::int32_t id, const char* kind, const std::string& value);
-    void addDefinition(PID calibration, PID measured, Scale scale, double span);
+    void addDefinition(PID calibration, PID measured, Scale scale);
+    void setSpan(PID calibration, PID measured, Scale scale, double span);
     [[nodiscard]] bool exists(PID pid);
 
     sql::Connection& connection_;

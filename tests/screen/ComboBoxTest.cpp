@@ -200,4 +200,46 @@ TEST_F(ComboBox, APickRuleMayRefillTheList)
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
+TEST_F(ComboBox, RewritingAnEntryKeepsListSelectionAndItemDataAndRunsNothing)
+{
+    combo.Pick(0);
+    const Raised picked(combo.Picked);
+    const Raised textChanged(combo.TextChanged);
+    const Raised changed(combo.Changed);
+    combo.SetItemText(1, "[2] Unit 2");
+    EXPECT_EQ(combo.List(), (std::vector<std::string>{"Unit 1", "[2] Unit 2"}));
+    EXPECT_EQ(combo.ItemDataList(), (std::vector<std::int32_t>{101, 102}));
+    EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(combo.Text(), "Unit 1");
+    EXPECT_EQ(changed.count, 1) << "a view shows the new entry";
+    EXPECT_EQ(picked.count + textChanged.count, 0);
+}
+
+TEST_F(ComboBox, TheTextFollowsTheSelectedEntryThatIsRewritten)
+{
+    combo.Pick(1);
+    const Raised picked(combo.Picked);
+    const Raised textChanged(combo.TextChanged);
+    combo.SetItemText(1, "Second");
+    EXPECT_EQ(combo.Text(), "Second");
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(combo.ItemData(), 102);
+    EXPECT_EQ(picked.count + textChanged.count, 0);
+}
+
+TEST_F(ComboBox, ATypedTextStaysWhenEntriesAreRewritten)
+{
+    combo.Type("Unit 1");
+    combo.SetItemText(0, "First");
+    EXPECT_EQ(combo.Text(), "Unit 1");
+    EXPECT_EQ(combo.ListIndex(), -1);
+}
+
+TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRewritten)
+{
+    for (const int index : {-1, 2})
+        EXPECT_EQ(errorOf([&] { return list.SetItemText(index, "x"), 0; }), 381) << index;
+    EXPECT_EQ(list.List(), (std::vector<std::string>{"Unit 1", "Unit 2"}));
+}
+
 } // namespace k7deval::test

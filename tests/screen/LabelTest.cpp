@@ -2,6 +2,7 @@
 
 #include "foundation/ExpectError.h"
 #include "screen/TestScreen.h"
+#include "support/ScreenSnapshot.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,38 @@ TEST(Label, TellsEachChangeOfItsLook)
     EXPECT_EQ(label.BackColor(), 0xFFFFFFU);
     EXPECT_TRUE(label.Bold());
     EXPECT_EQ(label.ToolTipText(), "why");
+}
+
+TEST(Label, StandsOnTheLeftAndIsPlacedByItsViewUnlessTheControlSaysOtherwise)
+{
+    TestScreen screen;
+    EXPECT_EQ(screen.label.Alignment(), screen::Alignment::Left);
+    EXPECT_EQ(screen.label.Place(), screen::Geometry());
+}
+
+TEST(Label, PlacedByItsControlItKeepsPlaceAndAlignment)
+{
+    TestScreen screen;
+    const screen::Geometry place{3360, 2760, 1350, 195};
+    const screen::Label left(screen, "left", "20%", place);
+    const screen::Label right(screen, "right", "80%", place, screen::Alignment::Right);
+    const screen::Label centre(screen, "centre", "50%", place, screen::Alignment::Centre);
+    EXPECT_EQ(left.Alignment(), screen::Alignment::Left);
+    EXPECT_EQ(right.Alignment(), screen::Alignment::Right);
+    EXPECT_EQ(centre.Alignment(), screen::Alignment::Centre);
+    EXPECT_EQ(right.Place(), place);
+    EXPECT_EQ(right.Caption(), "80%");
+}
+
+TEST(Label, ListsItsAlignmentByName)
+{
+    TestScreen screen;
+    const screen::Label right(screen, "right", "", {}, screen::Alignment::Right);
+    const screen::Label centre(screen, "centre", "", {}, screen::Alignment::Centre);
+    const Snapshot texts = snapshotOf(screen);
+    EXPECT_EQ(texts.at("label.Alignment"), "\"Left\"");
+    EXPECT_EQ(texts.at("right.Alignment"), "\"Right\"");
+    EXPECT_EQ(texts.at("centre.Alignment"), "\"Centre\"");
 }
 
 TEST(Image, IsBlendedWithTheBackgroundThatTheListHadWhenItWasTaken)

@@ -28,6 +28,21 @@ void ComboBox::AddItem(std::string text, std::int32_t itemData)
     Changed.raise();
 }
 
+void ComboBox::RemoveItem(std::int32_t index)
+{
+    if (!isInList(index))
+        throw Error(errors::kInvalidArrayIndex);
+    list_.erase(list_.begin() + index);
+    itemData_.erase(itemData_.begin() + index);
+    if (index == listIndex_) {
+        listIndex_ = -1;
+        text_.clear();
+    } else if (index < listIndex_) {
+        --listIndex_;
+    }
+    Changed.raise();
+}
+
 void ComboBox::SetItemText(std::int32_t index, std::string text)
 {
     if (!isInList(index))

@@ -23,6 +23,9 @@ public:
     /// Empties the list: no entry selected, empty text. Runs nothing.
     void Clear();
     void AddItem(std::string text, std::int32_t itemData = 0);
+    /// Removes an entry, which runs nothing. The selection stays with its entry, or goes with it.
+    /// Error 381 outside the list.
+    void RemoveItem(std::int32_t index);
     /// Rewrites an entry in place, which runs nothing; the selection stays, and its text follows.
     /// Error 381 outside the list.
     void SetItemText(std::int32_t index, std::string text);

@@ -1,0 +1,269 @@
+#include "selection/ParamSelect.h"
+
+#include "foundation/Error.h"
+#include "foundation/PIDFunctions.h"
+
+#include <cmath>
+#include <utility>
+
+namespace k7deval
+{
+
+namespace
+{
+
+constexpr float kDesignWidth = 3855;
+constexpr float kDesignHeight = 3495;
+constexpr float kComboHeight = 315;
+constexpr float kGapBelowCombo = 45;
+constexpr float kGridBorder = 60;
+constexpr std::int32_t kCheckColumn = 1;
+
+} // namespace
+
+ParamSelect::ParamSelect() : Control("ParamSelect")
+{
+    cmbUnit.SetVisible(false);
+    cmbUnit.SetPlace({0, 0, kDesignWidth, kComboHeight});
+    connectRules();
+    Resize(kDesignWidth, kDesignHeight);
+}
+
+void ParamSelect::connectRules()
+{
+    cmbUnit.Picked.Connect([this] { unitRule(); });
+    jgexGrid.ReadRow = [this](std::int32_t row) { return readRow(row); };
+    jgexGrid.WriteRow = [this](std::int32_t row, bool value) {
+        rows_.Select(visibleRows_.Item(row), value);
+    };
+    jgexGrid.Edited.Connect([this] { readGridKeepingRow(); });
+    jgexGrid.CurrentCellChanged.Connect([this] {
+        if (jgexGrid.Col() <= 0)
+            jgexGrid.SetCol(kCheckColumn);
+    });
+    jgexGrid.MousePressed.Connect([this](std::int32_t row, std::int32_t column) {
+        pressedRow_ = row;
+        pressedColumn_ = column;
+    });
+    jgexGrid.DoubleClicked.Connect([this] { toggle(); });
+}
+
+void ParamSelect::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
+{
+    if (server)
+        server_ = std::move(server);
+}
+
+void ParamSelect::Terminate()
+{
+    visibleRows_ = {};
+    server_.reset();
+}
+
+void ParamSelect::SetParamList(const ParamList& varParamList, bool blnUnitNamesInList)
+{
+    rows_.Load(server_, varParamList, blnUnitNamesInList);
+    fillUnits();
+    rebuildVisibleRows();
+    readGrid();
+}
+
+void ParamSelect::fillUnits()
+{
+    if (!showUnitCombo_)
+        return;
+    rows_.fillUnits(cmbUnit, {allUnitsInCombo_, showUnpopulatedUnits_});
+    // A filter of one unit has no use.
+    const bool isOneUnit = cmbUnit.ListCount() == (allUnitsInCombo_ ? 2 : 1);
+    if (allUnitsInCombo_ || !isOneUnit)
+        cmbUnit.SetListIndex(0);
+    if (isOneUnit)
+        SetShowUnitCombo(false);
+}
+
+void ParamSelect::unitRule()
+{
+    SetOffsetUnits(cmbUnit.ItemData() == kAllUnits);
+    rebuildVisibleRows();
+    readGrid();
+}
+
+/// Without rows the old map stays, and with it what is on view.
+void ParamSelect::rebuildVisibleRows()
+{
+    if (rows_.Count() == 0)
+        return;
+    visibleRows_ = {};
+    const bool isUnitPicked =
+        showUnitCombo_ && cmbUnit.ListIndex() != -1 && cmbUnit.ItemData() != kAllUnits;
+    if (!showUnitCombo_) {
+        for (std::int32_t index = 0; index < rows_.Count(); ++index)
+            show(index);
+    } else if (isUnitPicked) {
+        showRowsOf(cmbUnit.ItemData());
+    } else {
+        const auto& units = cmbUnit.ItemDataList();
+        for (std::size_t entry = 1; entry < units.size(); ++entry)
+            showRowsOf(units[entry]);
+    }
+}
+
+/// Units are on view only as header rows.
+void ParamSelect::show(std::int32_t index)
+{
+    if (!rows_[index].isUnit || offsetUnits_)
+        visibleRows_.Add(static_cast<std::int32_t>(visibleRows_.Count()) + 1, index);
+}
+
+void ParamSelect::showRowsOf(PID unit)
+{
+    for (std::int32_t index = 0; index < rows_.Count(); ++index) {
+        if (PIDPart(rows_[index].pid, pidpart::kUnit) == PIDPart(unit, pidpart::kUnit))
+            show(index);
+    }
+}
+
+void ParamSelect::SetOffsetUnits(bool value)
+{
+    offsetUnits_ = value;
+    if (rows_.Count() == 0)
+        return;
+    if (value) {
+        rebuildVisibleRows();
+    } else {
+        const auto before = std::exchange(visibleRows_, {});
+        for (const auto& entry : before)
+            show(entry.second);
+    }
+    readGrid();
+}
+
+void ParamSelect::SetShowPIDNumber(bool value)
+{
+    showPIDNumber_ = value;
+    if (rows_.Count() > 0)
+        jgexGrid.ReadAgain();
+}
+
+void ParamSelect::SetMultiSelect(bool value)
+{
+    jgexGrid.SetMultiSelect(value);
+    multiSelect_ = value;
+}
+
+void ParamSelect::SetShowUnpopulatedUnits(bool value)
+{
+    showUnpopulatedUnits_ = value;
+    fillUnits();
+    rebuildVisibleRows();
+    readGrid();
+}
+
+void ParamSelect::SetShowUnitCombo(bool value)
+{
+    showUnitCombo_ = value;
+    cmbUnit.SetVisible(value);
+    placeGrid();
+}
+
+/// The grid takes what the filter leaves of the control's height.
+void ParamSelect::placeGrid()
+{
+    screen::Geometry place = jgexGrid.Place();
+    const screen::Geometry& combo = cmbUnit.Place();
+    place.Top = cmbUnit.Visible() ? combo.Top + combo.Height + kGapBelowCombo : 0;
+    place.Height = Place().Height - place.Top;
+    jgexGrid.SetPlace(place);
+}
+
+void ParamSelect::Resize(float width, float height)
+{
+    SetPlace({Place().Left, Place().Top, width, height});
+    cmbUnit.SetPlace({0, 0, width, cmbUnit.Place().Height});
+    jgexGrid.SetPlace({0, jgexGrid.Place().Top, width, jgexGrid.Place().Height});
+    placeGrid();
+    jgexGrid.SetSecondColumnWidth(std::nearbyint(width - jgexGrid.ColumnWidth(kCheckColumn) -
+                                                 kGridBorder - jgexGrid.ScrollBarWidth));
+    jgexGrid.ReadAgain();
+}
+
+void ParamSelect::readGrid()
+{
+    jgexGrid.SetRowCount(static_cast<std::int32_t>(visibleRows_.Count()));
+    jgexGrid.ReadAgain();
+}
+
+void ParamSelect::readGridKeepingRow()
+{
+    const std::int32_t row = jgexGrid.Row();
+    jgexGrid.ReadAgain();
+    jgexGrid.SetRow(row);
+}
+
+std::string ParamSelect::GetUnitName() const
+{
+    return showUnitCombo_ && cmbUnit.ListIndex() != 0 ? cmbUnit.Text() : std::string();
+}
+
+void ParamSelect::selectVisible(bool selected)
+{
+    for (const auto& entry : visibleRows_)
+        rows_.Select(entry.second, selected);
+    jgexGrid.ReadAgain();
+}
+
+std::optional<std::vector<PID>> ParamSelect::GetSelection() const
+{
+    std::vector<PID> selected;
+    for (const auto& entry : visibleRows_) {
+        const ParamRow& row = rows_[entry.second];
+        if (row.isSelected)
+            selected.push_back(row.pid);
+    }
+    if (selected.empty())
+        return std::nullopt;
+    return selected;
+}
+
+/// The check box deals with a click on itself.
+void ParamSelect::toggle()
+{
+    if (pressedColumn_ == kCheckColumn)
+        return;
+    const std::int32_t index = visibleRows_.Item(pressedRow_);
+    if (!rows_[index].isUnit)
+        rows_.Select(index, !rows_[index].isSelected);
+    readGridKeepingRow();
+}
+
+screen::GridCells ParamSelect::readRow(std::int32_t gridRow) const
+{
+    if (!server_)
+        return {};
+    const ParamRow& row = rows_[visibleRows_.Item(gridRow)];
+    if (!row.isUnit) {
+        const std::string pid = showPIDNumber_ ? "[" + PIDToText(row.pid) + "] " : "";
+        return {row.isSelected, pid + row.name};
+    }
+    if (!offsetUnits_)
+        return {};
+    return {Empty{}, headerText(row.name)};
+}
+
+/// The unit's name centred in a line of dashes, as wide as the column takes.
+std::string ParamSelect::headerText(const std::string& unit) const
+{
+    const float width = jgexGrid.ColumnWidth(2);
+    std::string text = "-- " + unit + " --";
+    float last = -1;
+    for (;;) {
+        const float next = jgexGrid.TextWidth(" --" + text + "-- ");
+        // A measure that does not grow with the text would never end it.
+        if (!(next < width) || !(next > last))
+            return text;
+        text = "--" + text + "--";
+        last = next;
+    }
+}
+
+} // namespace k7deval

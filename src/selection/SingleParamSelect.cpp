@@ -1,0 +1,138 @@
+#include "selection/SingleParamSelect.h"
+
+#include "foundation/PIDFunctions.h"
+
+#include <optional>
+#include <utility>
+
+namespace k7deval
+{
+
+namespace
+{
+
+constexpr float kDesignWidth = 4590;
+constexpr float kDesignHeight = 825;
+constexpr float kComboHeight = 315;
+constexpr float kDesignTop = 420;
+constexpr float kGapBelowCombo = 45;
+
+} // namespace
+
+SingleParamSelect::SingleParamSelect() : Control("SingleParamSelect")
+{
+    SetPlace({0, 0, kDesignWidth, kDesignHeight});
+    cmbUnit.SetPlace({0, 0, kDesignWidth, kComboHeight});
+    cmbPID.SetPlace({0, kDesignTop, kDesignWidth, kComboHeight});
+    cmbUnit.Picked.Connect([this] { fillParameters(); });
+}
+
+void SingleParamSelect::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
+{
+    if (server)
+        server_ = std::move(server);
+}
+
+void SingleParamSelect::SetParamList(const ParamList& varParamList, bool blnUnitNamesInList)
+{
+    rows_.Load(server_, varParamList, blnUnitNamesInList);
+    fillBoth();
+}
+
+void SingleParamSelect::SetAllUnitsInCombo(bool value)
+{
+    allUnitsInCombo_ = value;
+    fillBoth();
+}
+
+void SingleParamSelect::SetShowPIDNumber(bool value)
+{
+    showPIDNumber_ = value;
+    fillParameters();
+}
+
+void SingleParamSelect::SetShowUnpopulatedUnits(bool value)
+{
+    showUnpopulatedUnits_ = value;
+    fillBoth();
+}
+
+void SingleParamSelect::SetShowUnitCombo(bool value)
+{
+    showUnitCombo_ = value;
+    fillBoth();
+    cmbUnit.SetVisible(value);
+    Resize(Place().Width, Place().Height);
+}
+
+void SingleParamSelect::Resize(float width, float height)
+{
+    SetPlace({Place().Left, Place().Top, width, height});
+    screen::Geometry unit = cmbUnit.Place();
+    unit.Width = width;
+    if (cmbUnit.Visible())
+        unit.Top = 0;
+    cmbUnit.SetPlace(unit);
+    const float below = unit.Top + unit.Height + kGapBelowCombo;
+    cmbPID.SetPlace({0, cmbUnit.Visible() ? below : 0, width, cmbPID.Place().Height});
+}
+
+void SingleParamSelect::fillBoth()
+{
+    fillUnits();
+    fillParameters();
+}
+
+void SingleParamSelect::fillUnits()
+{
+    if (rows_.Count() == 0)
+        return;
+    if (!showUnitCombo_) {
+        if (cmbUnit.ListCount() == 1)
+            hideUnits();
+        return;
+    }
+    rows_.fillUnits(cmbUnit, {allUnitsInCombo_, showUnpopulatedUnits_});
+    if (!allUnitsInCombo_)
+        return;
+    cmbUnit.SetListIndex(0);
+    if (cmbUnit.ListCount() == 2) {
+        showUnitCombo_ = false;
+        hideUnits();
+    }
+}
+
+void SingleParamSelect::hideUnits()
+{
+    cmbUnit.SetVisible(false);
+    cmbPID.Move(cmbPID.Place().Left, 0);
+}
+
+/// The item data of a picked unit is compared as a whole with the unit number of each row, which
+/// it does not equal: the box comes up empty. Hosts know the control so.
+void SingleParamSelect::fillParameters()
+{
+    if (rows_.Count() == 0)
+        return;
+    cmbPID.Clear();
+    const bool isFiltered = cmbUnit.Visible();
+    const std::int32_t unit = isFiltered ? cmbUnit.ItemData() : kAllUnits;
+    for (std::int32_t index = 0; index < rows_.Count(); ++index) {
+        const ParamRow& row = rows_[index];
+        const bool isWanted = unit == kAllUnits || PIDPart(row.pid, pidpart::kUnit) == unit;
+        if (!row.isUnit && isWanted)
+            cmbPID.AddItem(entryOf(row, isFiltered && unit == kAllUnits), row.pid);
+    }
+}
+
+std::string SingleParamSelect::entryOf(const ParamRow& row, bool withUnit) const
+{
+    std::string text = row.name;
+    if (withUnit) {
+        const auto statusCodes = present(server_).StatusCodes();
+        text = present(statusCodes).UnitName(row.pid) + " " + text;
+    }
+    return showPIDNumber_ ? text + " " + PIDToText(row.pid) : text;
+}
+
+} // namespace k7deval

@@ -1,0 +1,176 @@
+#include "load/LoadBench.h"
+
+#include <gtest/gtest.h>
+
+/// The load tool before it has data.
+namespace k7deval::test
+{
+
+namespace
+{
+
+struct QuarterCase {
+    int month;
+    const char* quarter;
+    int quarterRow;
+    const char* year;
+    int yearRow;
+    const char* from;
+    const char* to;
+};
+
+// In 2024: the newest quarter that is over.
+constexpr QuarterCase kQuarters[] = {
+    {1, "Q4", 3, "2023", 1, "10/1/2023", "12/31/2023"},
+    {2, "Q4", 3, "2023", 1, "10/1/2023", "12/31/2023"},
+    {3, "Q4", 3, "2023", 1, "10/1/2023", "12/31/2023"},
+    {4, "Q1", 0, "2024", 0, "1/1/2024", "3/31/2024"},
+    {5, "Q1", 0, "2024", 0, "1/1/2024", "3/31/2024"},
+    {6, "Q1", 0, "2024", 0, "1/1/2024", "3/31/2024"},
+    {7, "Q2", 1, "2024", 0, "4/1/2024", "6/30/2024"},
+    {8, "Q2", 1, "2024", 0, "4/1/2024", "6/30/2024"},
+    {9, "Q2", 1, "2024", 0, "4/1/2024", "6/30/2024"},
+    {10, "Q3", 2, "2024", 0, "7/1/2024", "9/30/2024"},
+    {11, "Q3", 2, "2024", 0, "7/1/2024", "9/30/2024"},
+    {12, "Q3", 2, "2024", 0, "7/1/2024", "9/30/2024"},
+};
+
+void expectPreselected(const ctrlMaxMW& tool, const QuarterCase& expected, const std::string& when)
+{
+    EXPECT_EQ(tool.cmbQTR.Text(), expected.quarter) << when;
+    EXPECT_EQ(tool.cmbQTR.ListIndex(), expected.quarterRow) << when;
+    EXPECT_EQ(tool.cmbYear.Text(), expected.year) << when;
+    EXPECT_EQ(tool.cmbYear.ListIndex(), expected.yearRow) << when;
+    EXPECT_EQ(tool.txtFrom.Text(), expected.from) << when;
+    EXPECT_EQ(tool.txtTo.Text(), expected.to) << when;
+}
+
+/// The last moment of a month of 2024.
+Date endOf(int month)
+{
+    return makeDate(2024, month + 1, 1, 0, 0, -1);
+}
+
+} // namespace
+
+TEST(LoadToolStart, PreselectsTheNewestFinishedQuarterOfAnyMonth)
+{
+    for (const QuarterCase& expected : kQuarters) {
+        for (const Date now : {makeDate(2024, expected.month, 1), endOf(expected.month)}) {
+            const LoadTool bench(now);
+            expectPreselected(bench.tool, expected, "month " + std::to_string(expected.month));
+        }
+    }
+}
+
+TEST(LoadToolStart, InJanuaryTheYearIsTheLastOneButTheListBeginsWithThePresentOne)
+{
+    const LoadTool bench(makeDate(2025, 1, 15, 9));
+    EXPECT_EQ(bench.tool.cmbYear.List(), (Lines{"2025", "2024", "2023"}));
+    EXPECT_EQ(bench.tool.cmbYear.Text(), "2024");
+    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q4");
+    EXPECT_EQ(bench.tool.txtFrom.Text(), "10/1/2024");
+    EXPECT_EQ(bench.tool.txtTo.Text(), "12/31/2024");
+}
+
+TEST(LoadToolStart, OffersFourQuartersAndThreeYears)
+{
+    const LoadTool bench;
+    EXPECT_EQ(bench.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
+    EXPECT_EQ(bench.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
+}
+
+TEST(LoadToolStart, WritesTheDatesAsTheRegionDoes)
+{
+    const LoadTool bench(makeDate(2024, 8, 3), "de-DE");
+    EXPECT_EQ(bench.tool.txtFrom.Text(), "01.04.2024");
+    EXPECT_EQ(bench.tool.txtTo.Text(), "30.06.2024");
+    EXPECT_EQ(bench.tool.cmbYear.Text(), "2024");
+}
+
+TEST(LoadToolStart, TakesTheSpecifiedDatesFromTheirBoxes)
+{
+    for (const char* region : {"en-US", "en-GB", "de-DE", "fr-FR"}) {
+        const LoadTool bench(makeDate(2024, 8, 3, 17, 5), region);
+        EXPECT_EQ(bench.tool.StartDate(), makeDate(2024, 4, 1)) << region;
+        EXPECT_EQ(bench.tool.EndDate(), makeDate(2024, 6, 30)) << region;
+    }
+}
+
+TEST(LoadToolStart, HasNoUnitAndNoParameter)
+{
+    const LoadTool bench;
+    EXPECT_EQ(bench.tool.DIServer(), nullptr);
+    for (const auto* list : {&bench.tool.cmbUnit, &bench.tool.cmbParam}) {
+        EXPECT_EQ(list->ListCount(), 0);
+        EXPECT_EQ(list->ListIndex(), -1);
+        EXPECT_EQ(list->Text(), "");
+        EXPECT_TRUE(list->Enabled());
+    }
+}
+
+TEST(LoadToolStart, MinimumAndCapacityAreZero)
+{
+    const LoadTool bench;
+    EXPECT_EQ(bench.tool.txtMinSafe.Text(), "0");
+    EXPECT_EQ(bench.tool.txtCapacity.Text(), "0");
+    EXPECT_EQ(bench.tool.Evaluation().MinSafeValue, 0);
+    EXPECT_EQ(bench.tool.Evaluation().CapacityValue, 0);
+    EXPECT_TRUE(bench.tool.txtMinSafe.Enabled());
+    EXPECT_TRUE(bench.tool.txtCapacity.Enabled());
+    EXPECT_TRUE(bench.tool.lblCapacity.Enabled());
+}
+
+TEST(LoadToolStart, LooksForFourQuartersAndNotForDates)
+{
+    const LoadTool bench;
+    EXPECT_TRUE(bench.tool.optTimeEnd.isSelected());
+    EXPECT_FALSE(bench.tool.optTimeSelect.isSelected());
+    EXPECT_TRUE(bench.tool.cmbYear.Enabled());
+    EXPECT_TRUE(bench.tool.cmbQTR.Enabled());
+    EXPECT_FALSE(bench.tool.txtFrom.Enabled());
+    EXPECT_FALSE(bench.tool.cmdFrom.Enabled());
+    EXPECT_FALSE(bench.tool.txtTo.Enabled());
+    EXPECT_FALSE(bench.tool.cmdTo.Enabled());
+}
+
+TEST(LoadToolStart, HasNothingToSaveAndEverythingToEvaluate)
+{
+    const LoadTool bench;
+    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    EXPECT_TRUE(bench.tool.NeedsEvaluation());
+    EXPECT_FALSE(bench.tool.chkShowPID.isChecked());
+    EXPECT_FALSE(bench.tool.chkPreview.isChecked());
+    EXPECT_TRUE(bench.tool.cmdCalculate.Enabled());
+    EXPECT_TRUE(bench.tool.cmdClose.Enabled());
+    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+}
+
+TEST(LoadToolStart, ShowsNoResults)
+{
+    const LoadTool bench;
+    EXPECT_TRUE(isCleared(bench.tool));
+    EXPECT_EQ(countsOf(bench.tool.Evaluation()), HourCounts());
+    EXPECT_EQ(bench.tool.Evaluation().Bins, histogram::HourBins());
+    EXPECT_EQ(bench.tool.Evaluation().MaxObserved, 0);
+}
+
+TEST(LoadToolStart, AsksForNothing)
+{
+    const LoadTool bench;
+    EXPECT_TRUE(bench.services.boxes.empty());
+    EXPECT_TRUE(bench.services.filters.empty());
+    EXPECT_TRUE(bench.services.dateRequests.empty());
+}
+
+TEST(LoadToolStart, ClosingIsLeftToTheHost)
+{
+    LoadBench bench;
+    int closed = 0;
+    bench.tool.CloseClicked.Connect([&] { ++closed; });
+    EXPECT_EQ(bench.changesBy([&] { bench.tool.cmdClose.Press(); }), Lines());
+    EXPECT_EQ(closed, 1);
+    EXPECT_NE(bench.tool.DIServer(), nullptr);
+}
+
+} // namespace k7deval::test

@@ -70,12 +70,21 @@ CommandLine::CommandLine()
 
 void CommandLine::addImport()
 {
-    CLI::App& command =
-        *app_.add_subcommand("import", "Take EPA files into a site: QA files (JSON), span tables "
-                                       "and hourly load (CSV, plain or gzip)");
+    CLI::App& command = *app_.add_subcommand(
+        "import", "Take EPA files into a site: monitoring plans and QA files (JSON), tables of "
+                  "spans and hourly load (CSV), plain or gzip");
     addSite(command, import_.site);
-    addText(command, "--unit", import_.unit, "The unit that hourly load belongs to");
+    addText(command, "--unit", import_.unit,
+            "The unit that hourly load belongs to, or the one location to take from a table "
+            "of spans of locations");
     addText(command, "--facility", import_.facility, "Name of the facility, for the reports");
+    command
+        .add_option(
+            "--capacity", import_.capacities,
+            "Capacity of a unit in MW, written UNIT=MW, in place of the one of its plan; can "
+            "be given for several units")
+        ->allow_extra_args(false)
+        ->check(faultOf);
     command.add_flag("--leave-out", import_.leaveOutUnreadable,
                      "Leave out single injections that can't be read, and list them");
     command.add_option("files", import_.files, "The files");

@@ -23,8 +23,9 @@ struct Console {
 struct ImportRequest {
     std::string site;
     std::vector<std::string> files;
-    std::string unit;     ///< Of hourly load.
+    std::string unit;     ///< Of hourly values, or the one location of a table of spans.
     std::string facility; ///< Name of the facility for the reports.
+    std::vector<std::string> capacities; ///< "UNIT=MW"
     bool leaveOutUnreadable = false;
 };
 

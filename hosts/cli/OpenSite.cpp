@@ -25,7 +25,7 @@ void requireUnits(DIServer& server)
 {
     if (server.Units().empty())
         throw UsageError("The site " + server.SiteKey() +
-                         " has no unit yet; import a span table or hourly load first.");
+                         " has no unit yet; import a monitoring plan, a span table or hourly data first.");
 }
 
 } // namespace k7deval::cli

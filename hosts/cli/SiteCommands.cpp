@@ -2,8 +2,10 @@
 #include "cli/ConsoleHost.h"
 #include "cli/OpenSite.h"
 #include "cli/OperatorActions.h"
+#include "cli/UsageError.h"
 #include "foundation/FileFunctions.h"
 #include "sevenday/ctrl7Day.h"
+#include "sitedb/CsvTable.h"
 #include "sitedb/Import.h"
 #include "sitedb/SourceFile.h"
 
@@ -55,6 +57,31 @@ private:
     bool keep_ = false;
 };
 
+struct Capacity {
+    std::string unit;
+    double megawatts = 0;
+};
+
+/// The capacity that "UNIT=MW" stands for.
+Capacity capacityOf(const std::string& text)
+{
+    const auto mark = text.rfind('=');
+    if (mark != std::string::npos && mark > 0) {
+        const auto megawatts = sitedb::plainNumber(text.substr(mark + 1));
+        if (megawatts)
+            return {text.substr(0, mark), *megawatts};
+    }
+    throw UsageError(inQuotes(text) + " is no capacity; write UNIT=MW, such as GT4=84.");
+}
+
+std::vector<Capacity> capacitiesOf(const std::vector<std::string>& texts)
+{
+    std::vector<Capacity> capacities;
+    for (const auto& text : texts)
+        capacities.push_back(capacityOf(text));
+    return capacities;
+}
+
 void printAnalyzers(const ctrl7DaySetUp& page, std::ostream& out)
 {
     for (const auto& analyzer : page.cmbAnalyzer.List())
@@ -65,8 +92,10 @@ void printAnalyzers(const ctrl7DaySetUp& page, std::ostream& out)
 
 Status runImport(const ImportRequest& request, const Console& console)
 {
-    if (request.files.empty() && request.facility.empty())
-        throw UsageError("There is nothing to import; name a file, or the facility by --facility.");
+    if (request.files.empty() && request.facility.empty() && request.capacities.empty())
+        throw UsageError("There is nothing to import; name a file, the facility by --facility or a "
+                         "capacity by --capacity.");
+    const auto capacities = capacitiesOf(request.capacities);
     NewSite newSite(request.site);
     auto site = openSite(request.site, sitedb::OpenMode::ReadWrite);
     sitedb::ImportOptions options;
@@ -77,6 +106,8 @@ Status runImport(const ImportRequest& request, const Console& console)
         printReport(file, sitedb::importFile(site, filePath(file), options), console.out);
         newSite.keep();
     }
+    for (const auto& capacity : capacities)
+        site.setCapacity(capacity.unit, capacity.megawatts);
     if (!request.facility.empty())
         site.setFacilityName(request.facility);
     newSite.keep();

@@ -68,6 +68,33 @@ TEST(ImportCommand, NamesTheFacility)
     EXPECT_EQ(facilityOf(site), "Centrale d'Orléans");
 }
 
+TEST(ImportCommand, SetsCapacitiesOfUnitsByHand)
+{
+    const TemporaryFolder folder;
+    const std::string site = alteredSite(siteOfSpans(), folder, {});
+    const CommandRun set =
+        run({"import", "--site", site, "--capacity", "GT4=84", "--capacity", "GT3=84.5"});
+    EXPECT_EQ(set.out, "");
+    EXPECT_EQ(set.notes, "");
+    EXPECT_EQ(set.status, 0);
+    EXPECT_EQ(textIn(site, "SELECT GROUP_CONCAT(pid || ' ' || value, ', ') FROM constant"),
+              "360200000 84.5, 460200000 84.0");
+    EXPECT_EQ(run({"import", "--site", site, "--capacity", "GT4=90"}).status, 0);
+    EXPECT_EQ(textIn(site, "SELECT CAST(value AS TEXT) FROM constant WHERE pid = 460200000"),
+              "90.0");
+}
+
+TEST(ImportCommand, LeavesTheFileBehindACapacityAFile)
+{
+    const TemporaryFolder folder;
+    const std::string site = folder.file("a.site");
+    const CommandRun import =
+        run({"import", "--site", site, "--capacity", "GT1=50", sampleFile("spans.csv")});
+    EXPECT_EQ(import.out, "spans.csv (span table): 4 units, 16 analyzers, 17 spans\n");
+    EXPECT_EQ(textIn(site, "SELECT CAST(value AS TEXT) FROM constant WHERE pid = 160200000"),
+              "50.0");
+}
+
 TEST(ImportCommand, LogsTheTimeOfTheImport)
 {
     EXPECT_EQ(textIn(siteOfSpans(), "SELECT imported_at FROM import_log"), "2021-05-20 12:00");

@@ -116,7 +116,8 @@ TEST_F(Usage, NeedsASiteThatCanBeRead)
         {"{folder}", "{folder} is a folder; a site is one file."},
         {"{folder}/nothing.site", "nothing.site: the file is no site database."},
         {"{folder}/letter.txt", "letter.txt: the file is no site database."},
-        {"{empty}", "The site empty has no unit yet; import a span table or hourly load first."},
+        {"{empty}", "The site empty has no unit yet; import a monitoring plan, a span table or "
+                    "hourly data first."},
     };
     for (const auto& [site, sentence] : faults) {
         expectRefusals({
@@ -143,7 +144,23 @@ TEST_F(Usage, ImportsOnlyWhatItKnows)
     expectRefusals({
         {"nothing to import",
          {"import", "--site", site},
-         "There is nothing to import; name a file, or the facility by --facility."},
+         "There is nothing to import; name a file, the facility by --facility or a capacity by "
+         "--capacity."},
+        {"a capacity without its unit",
+         {"import", "--site", "{folder}/new.site", "--capacity", "84"},
+         "\"84\" is no capacity; write UNIT=MW, such as GT4=84."},
+        {"a capacity of a unit without a name",
+         {"import", "--site", "{folder}/new.site", "--capacity", "=84"},
+         "\"=84\" is no capacity; write UNIT=MW, such as GT4=84."},
+        {"a capacity that is no number",
+         {"import", "--site", "{folder}/new.site", "--capacity", "GT4=84MW"},
+         "\"GT4=84MW\" is no capacity; write UNIT=MW, such as GT4=84."},
+        {"a capacity of a unit that the site has not",
+         {"import", "--site", "{tests}", "--capacity", "GT9=84"},
+         "The site has no unit GT9."},
+        {"a capacity of nothing",
+         {"import", "--site", "{tests}", "--capacity", "GT4=0"},
+         "A capacity is a number of MW above 0."},
         {"a file that is not there",
          {"import", "--site", site, "{folder}/none.csv"},
          "none.csv: there is no such file."},

@@ -98,9 +98,51 @@ QaInjection CalibrationRow::injection(const std::string& gas, std::int32_t level
     return injection;
 }
 
-std::int32_t decimalsOf(const QaInjection& injection)
+void CalibrationRows::read(QaTest& test, const JsonNode& node)
 {
-    return std::max(decimalsOf(injection.reference), decimalsOf(injection.measured));
+    const CalibrationRow row(node);
+    const bool hasZero = !mayLack_ || !row.lacksZero();
+    if (hasZero)
+        attempt(test, [&] { return row.zero(row.runTime()); });
+    if (!mayLack_ || !row.lacksUpscale())
+        attempt(test, [&] { return row.upscale(runTimeOfUpscale(row, hasZero)); });
+}
+
+// The zero injection's time stands for the row. Where there is none, or it is left out because its
+// time can't be read, the upscale injection has only its own.
+std::string CalibrationRows::runTimeOfUpscale(const CalibrationRow& row, bool hasZero) const
+{
+    if (!hasZero)
+        return row.upscaleTime();
+    if (!leavesOut_)
+        return row.runTime();
+    try {
+        return row.runTime();
+    } catch (const ImportError&) {
+        return row.upscaleTime();
+    }
+}
+
+template <class Read> void CalibrationRows::attempt(QaTest& test, const Read& read)
+{
+    try {
+        const QaInjection injection = read();
+        test.decimals = std::max(
+            {test.decimals, decimalsOf(injection.reference), decimalsOf(injection.measured)});
+        test.injections.push_back(injection);
+    } catch (const ImportError& fault) {
+        if (!leavesOut_)
+            throw;
+        leaveOut(fault);
+    }
+}
+
+// A fault of a whole row keeps both its injections out; its sentence is listed once.
+void CalibrationRows::leaveOut(const ImportError& fault)
+{
+    ++leftOutCount_;
+    if (leftOut_.empty() || leftOut_.back() != fault.description())
+        leftOut_.push_back(fault.description());
 }
 
 } // namespace k7deval::sitedb

@@ -3,8 +3,9 @@
 #include "sitedb/EcmpsQa.h"
 #include "sitedb/JsonNode.h"
 
-#include <optional>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace k7deval::sitedb
 {
@@ -37,7 +38,29 @@ private:
     const JsonNode& row_;
 };
 
-/// The decimals that the values of an injection carry, as far as the tools show them.
-std::int32_t decimalsOf(const QaInjection& injection);
+/// Reads the rows of tests, and keeps the sentences of the injections that are left out.
+class CalibrationRows
+{
+public:
+    /// leavesOut: an injection that can't be read is left out instead of raising ImportError.
+    /// mayLack: a row may tell of one of its injections only.
+    CalibrationRows(bool leavesOut, bool mayLack) : leavesOut_(leavesOut), mayLack_(mayLack) {}
+
+    /// Puts the injections of a row into its test.
+    void read(QaTest& test, const JsonNode& row);
+    void leaveOut(const ImportError& fault);
+
+    [[nodiscard]] std::size_t leftOutCount() const { return leftOutCount_; }
+    [[nodiscard]] const std::vector<std::string>& leftOut() const { return leftOut_; }
+
+private:
+    [[nodiscard]] std::string runTimeOfUpscale(const CalibrationRow& row, bool hasZero) const;
+    template <class Read> void attempt(QaTest& test, const Read& read);
+
+    bool leavesOut_;
+    bool mayLack_;
+    std::size_t leftOutCount_ = 0;
+    std::vector<std::string> leftOut_;
+};
 
 } // namespace k7deval::sitedb

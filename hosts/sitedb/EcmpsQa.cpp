@@ -4,8 +4,6 @@
 #include "sitedb/ImportSteps.h"
 #include "sitedb/JsonNode.h"
 
-#include <algorithm>
-
 namespace k7deval::sitedb
 {
 
@@ -16,7 +14,7 @@ namespace
 class QaReader
 {
 public:
-    explicit QaReader(bool leaveOutUnreadable) : leavesOut_(leaveOutUnreadable) {}
+    explicit QaReader(bool leaveOutUnreadable) : rows_(leaveOutUnreadable, false) {}
 
     QaContent read(const JsonNode& root)
     {
@@ -25,6 +23,8 @@ public:
             readTest(test);
         stepOverList(root, "certificationEventData");
         stepOverList(root, "testExtensionExemptionData");
+        content_.leftOutCount = rows_.leftOutCount();
+        content_.leftOut = rows_.leftOut();
         return std::move(content_);
     }
 
@@ -39,9 +39,7 @@ private:
         }
         QaTest test = testHeader(node);
         for (const auto& row : rows)
-            readRow(test, row);
-        for (const auto& injection : test.injections)
-            test.decimals = std::max(test.decimals, decimalsOf(injection));
+            rows_.read(test, row);
         content_.tests.push_back(std::move(test));
     }
 
@@ -85,46 +83,6 @@ private:
                                               " calibrations of units");
     }
 
-    void readRow(QaTest& test, const JsonNode& row)
-    {
-        const CalibrationRow reader(row);
-        attempt(test, [&] { return reader.zero(reader.runTime()); });
-        attempt(test, [&] { return reader.upscale(runTimeOfUpscale(reader)); });
-    }
-
-    // The zero injection's time stands for the row. Where that one is left out because its time
-    // can't be read, the upscale injection has only its own.
-    [[nodiscard]] std::string runTimeOfUpscale(const CalibrationRow& reader) const
-    {
-        if (!leavesOut_)
-            return reader.runTime();
-        try {
-            return reader.runTime();
-        } catch (const ImportError&) {
-            return reader.upscaleTime();
-        }
-    }
-
-    template <class Read> void attempt(QaTest& test, const Read& read)
-    {
-        try {
-            test.injections.push_back(read());
-        } catch (const ImportError& failure) {
-            if (!leavesOut_)
-                throw;
-            ++content_.leftOutCount;
-            listLeftOut(failure.description());
-        }
-    }
-
-    // A fault of a whole row keeps both its injections out; its sentence is listed once.
-    void listLeftOut(const std::string& sentence)
-    {
-        auto& list = content_.leftOut;
-        if (list.empty() || list.back() != sentence)
-            list.push_back(sentence);
-    }
-
     void stepOverList(const JsonNode& root, const char* name)
     {
         const std::size_t count = root.list({name}).size();
@@ -132,7 +90,7 @@ private:
             content_.steppedOver.push_back(std::string(name) + ": " + entries(count) + ".");
     }
 
-    bool leavesOut_;
+    CalibrationRows rows_;
     QaContent content_;
 };
 

@@ -46,11 +46,14 @@ bool isFlow(const Gas& gas)
 
 const Gas* findGas(std::string_view componentType)
 {
-    for (const auto& gas : kGases) {
-        if (gas.componentType == componentType)
-            return &gas;
-    }
-    return nullptr;
+    const auto found = std::ranges::find(kGases, componentType, &Gas::componentType);
+    return found == kGases.end() ? nullptr : &*found;
+}
+
+const Gas* findGas(std::int32_t parameterCode)
+{
+    const auto found = std::ranges::find(kGases, parameterCode, &Gas::parameterCode);
+    return found == kGases.end() ? nullptr : &*found;
 }
 
 bool isSpanUnit(const Gas& gas, std::string_view unitsCode)

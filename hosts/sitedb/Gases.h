@@ -19,6 +19,8 @@ struct Gas {
 
 /// The gas of a component type, or nothing.
 const Gas* findGas(std::string_view componentType);
+/// The gas of a code in a PID, or nothing.
+const Gas* findGas(std::int32_t parameterCode);
 /// Whether a span of the gas may be in a unit, by EPA's code. Flow monitors are calibrated in one
 /// of many units, all others in the unit of their hourly values.
 bool isSpanUnit(const Gas& gas, std::string_view unitsCode);

@@ -43,6 +43,8 @@ ImportReport takeFile(sql::Connection& connection, const SourceFile& file,
         return takeLocationSpans(connection, file, options);
     if (hasColumns(header, {"date", "hour", "gross_load_mw"}))
         return takeHourlyLoad(connection, file, options);
+    if (hasColumns(header, {"date", "hour", "parameter", "modc"}))
+        return takeMonitorHourly(connection, file, options);
     throw file.error("", "this is none of the files that can be imported");
 }
 
@@ -51,7 +53,11 @@ ImportReport takeFile(sql::Connection& connection, const SourceFile& file,
 ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
                         const ImportOptions& options)
 {
-    return takeFile(site.connection(), readSourceFile(path), options);
+    SourceFile file = identifySourceFile(path);
+    if (isEcmpsEmissions(path, file))
+        return takeEcmpsEmissions(site.connection(), path, file, options);
+    readContent(path, file);
+    return takeFile(site.connection(), file, options);
 }
 
 ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
@@ -82,6 +88,18 @@ ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& p
                               const ImportOptions& options)
 {
     return takeHourlyLoad(site.connection(), readSourceFile(path), options);
+}
+
+ImportReport importMonitorHourly(SiteDatabase& site, const std::filesystem::path& path,
+                                 const ImportOptions& options)
+{
+    return takeMonitorHourly(site.connection(), readSourceFile(path), options);
+}
+
+ImportReport importEcmpsEmissions(SiteDatabase& site, const std::filesystem::path& path,
+                                  const ImportOptions& options)
+{
+    return takeEcmpsEmissions(site.connection(), path, identifySourceFile(path), options);
 }
 
 std::string counted(std::size_t count, const std::string& what)

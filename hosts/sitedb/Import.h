@@ -4,7 +4,10 @@
 #include "foundation/Error.h"
 #include "sitedb/SiteDatabase.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,14 +27,34 @@ public:
     }
 };
 
+/// The operator ended an import before it was done.
+class ImportCancelled : public ImportError
+{
+public:
+    using ImportError::ImportError;
+};
+
+/// How far the import of a large file is.
+struct ImportProgress {
+    std::int64_t bytesRead = 0; ///< Of the file as it lies on the disk.
+    std::int64_t bytesTotal = 0;
+    std::size_t hours = 0; ///< Taken so far.
+};
+
 struct ImportOptions {
-    /// The unit that hourly load belongs to, made when the site doesn't have it; the one location
-    /// to take from a table of the spans of locations, empty: all.
+    /// The unit that hours of a table belong to, made when the site doesn't have it; the one
+    /// location to take from a table of the spans of locations, empty: all.
     std::string unit;
-    /// Leaves out the single injections of a QA file that can't be read, and takes all else.
+    /// The component that measured the hours of a table, where the unit has several for the gas.
+    std::string component;
+    /// Leaves out the single injections of a QA or emissions file that can't be read, and of an
+    /// emissions file also those that the site holds already, and takes all else.
     bool leaveOutUnreadable = false;
     /// The time of the import for the log; the zero date: not recorded.
     Date time;
+    /// Is told now and then how far the import of an emissions file is. False ends it with
+    /// ImportCancelled, and nothing is taken.
+    std::function<bool(const ImportProgress&)> progress;
 };
 
 struct ImportReport {
@@ -46,8 +69,7 @@ ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
                         const ImportOptions& options);
 
 /// Calibration injections of an ECMPS 2.0 QA file (JSON). The analyzers have to be in the site,
-/// from a monitoring plan or
-/// span table.
+/// from a monitoring plan or span table.
 ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
                            const ImportOptions& options);
 
@@ -69,5 +91,15 @@ ImportReport importLocationSpans(SiteDatabase& site, const std::filesystem::path
 /// Hourly load of a unit from a CSV table with the columns date, hour and gross_load_mw.
 ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& path,
                               const ImportOptions& options);
+
+/// Hours of a unit's monitors from a CSV table with the columns date, hour, parameter, modc and
+/// unadjusted_hourly_value, or unadjusted_hourly_value_ugscm for mercury.
+ImportReport importMonitorHourly(SiteDatabase& site, const std::filesystem::path& path,
+                                 const ImportOptions& options);
+
+/// Operating time, load, hours of monitors and daily calibrations of an ECMPS 2.0 emissions file
+/// (JSON) of any size.
+ImportReport importEcmpsEmissions(SiteDatabase& site, const std::filesystem::path& path,
+                                  const ImportOptions& options);
 
 } // namespace k7deval::sitedb

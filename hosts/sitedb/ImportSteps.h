@@ -6,6 +6,7 @@
 #include "sitedb/sql/Connection.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <set>
 #include <string>
 #include <string_view>
@@ -24,6 +25,13 @@ ImportReport takeLocationSpans(sql::Connection& connection, const SourceFile& fi
                                const ImportOptions& options);
 ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
                             const ImportOptions& options);
+ImportReport takeMonitorHourly(sql::Connection& connection, const SourceFile& file,
+                               const ImportOptions& options);
+/// On a file that was identified; its content is read as a stream.
+ImportReport takeEcmpsEmissions(sql::Connection& connection, const std::filesystem::path& path,
+                                const SourceFile& file, const ImportOptions& options);
+/// Whether a file of any size is an ECMPS emissions file.
+bool isEcmpsEmissions(const std::filesystem::path& path, const SourceFile& file);
 
 /// "1 unit", "2 units".
 std::string counted(std::size_t count, const std::string& what);

@@ -222,15 +222,21 @@ void SiteWriter::raiseDecimals(PID calibration, std::int32_t decimals)
         setAttribute(calibration, attribute::kDecimals, decimals);
 }
 
-void SiteWriter::addLoadParameters(std::int32_t unit)
+void SiteWriter::addLoad(std::int32_t unit)
 {
     const PID load = loadPID(unit);
-    const PID operatingTime = operatingTimePID(unit);
     if (exists(load))
         return;
     addParameter(load, "Load", paramtype::kOperationSeries, "MW", "h");
-    addParameter(operatingTime, "Operating Time", paramtype::kOperationSeries, "h", "h");
     setAttribute(load, attribute::kLeftOutOfLists, false);
+}
+
+void SiteWriter::addOperatingTime(std::int32_t unit)
+{
+    const PID operatingTime = operatingTimePID(unit);
+    if (exists(operatingTime))
+        return;
+    addParameter(operatingTime, "Operating Time", paramtype::kOperationSeries, "h", "h");
     setAttribute(operatingTime, attribute::kLeftOutOfLists, false);
     connection_.execute("INSERT INTO link (pid, id, target_pid) VALUES ($1, $2, $3)",
                         std::int64_t{UnitPID(unit)}, std::int64_t{attribute::kOperatingTimePID},

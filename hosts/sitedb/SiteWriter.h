@@ -66,8 +66,9 @@ public:
     /// Makes sure that a calibration shows at least so many decimals.
     void raiseDecimals(PID calibration, std::int32_t decimals);
 
-    /// Makes the load and operating-time parameters of a unit where they are missing.
-    void addLoadParameters(std::int32_t unit);
+    /// Makes the load or operating-time parameter of a unit where it is missing.
+    void addLoad(std::int32_t unit);
+    void addOperatingTime(std::int32_t unit);
     void setCapacity(std::int32_t unit, double megawatts);
 
     /// The value of a constant of a unit, or nothing.

@@ -116,8 +116,10 @@ void drawChart(ReportPage& page, const InnerMarks& marks, const HourBins& bins, 
         return;
     for (int bar = 1; bar <= kBinCount; ++bar) {
         const std::int32_t hours = bins[static_cast<std::size_t>(bar)];
-        const float share = static_cast<float>(hours) / static_cast<float>(peak);
-        const ReportRectangle& box = drawBar(page, bar, bottom, share * (top - bottom));
+        const double share =
+            static_cast<double>(static_cast<float>(hours)) / static_cast<float>(peak);
+        const double height = share * (static_cast<double>(top) - bottom);
+        const ReportRectangle& box = drawBar(page, bar, bottom, static_cast<float>(height));
         if (hours > 0)
             drawCount(page, box, hours, top);
     }

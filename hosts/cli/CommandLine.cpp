@@ -41,6 +41,29 @@ void addChoice(CLI::App& command, const std::string& name, std::optional<bool>& 
         "--no-" + name, [&choice] { choice = false; }, "The opposite of --" + name);
 }
 
+/// What all screens take.
+void addScreen(CLI::App& command, ScreenRequest& request, const std::string& jsonHelp)
+{
+    addSite(command, request.site);
+    addText(command, "--region", request.region,
+            "How dates and numbers are written: en-US, en-GB, de-DE or fr-FR");
+    addText(command, "--pdf", request.pdf, "Save the report to this file, in place of one there");
+    command.add_flag("--json", request.json, jsonHelp);
+}
+
+/// What load and range evaluation take.
+void addHistogram(CLI::App& command, HistogramRequest& request, const std::string& proposed)
+{
+    addScreen(command, request, "Print the whole screen and the state of the evaluation as JSON");
+    addText(command, "--unit", request.unit, "The unit; the first of the list if not given");
+    addText(command, "--parameter", request.parameter, "The parameter; " + proposed);
+    command.add_flag("--show-pid", request.showPid, "Show the PIDs of parameters");
+    addText(command, "--quarter", request.quarter,
+            "Last quarter of the evaluation, with its year (2021Q4) or without (Q4); the last "
+            "finished one if not given");
+    addText(command, "--year", request.year, "Year of the quarter");
+}
+
 /// An option with no value or with several of them.
 std::string mismatchOf(const std::string& text)
 {
@@ -65,18 +88,25 @@ CommandLine::CommandLine()
     addUnits();
     addAnalyzers();
     addDrift();
+    addLoad();
+    addRanges();
+    addRange();
     addRound();
 }
 
 void CommandLine::addImport()
 {
     CLI::App& command = *app_.add_subcommand(
-        "import", "Take EPA files into a site: monitoring plans and QA files (JSON), tables of "
-                  "spans and hourly load (CSV), plain or gzip");
+        "import",
+        "Take EPA files into a site: monitoring plans, QA and emissions files (JSON), tables "
+        "of spans, hourly load and monitor hours (CSV), plain or gzip");
     addSite(command, import_.site);
-    addText(command, "--unit", import_.unit,
-            "The unit that hourly load belongs to, or the one location to take from a table "
-            "of spans of locations");
+    addText(
+        command, "--unit", import_.unit,
+        "The unit that the hours of a table belong to, or the one location to take from a table "
+        "of spans of locations");
+    addText(command, "--component", import_.component,
+            "The component that measured the hours of a table, where the unit has several");
     addText(command, "--facility", import_.facility, "Name of the facility, for the reports");
     command
         .add_option(
@@ -85,8 +115,10 @@ void CommandLine::addImport()
             "be given for several units")
         ->allow_extra_args(false)
         ->check(faultOf);
-    command.add_flag("--leave-out", import_.leaveOutUnreadable,
-                     "Leave out single injections that can't be read, and list them");
+    command.add_flag(
+        "--leave-out", import_.leaveOutUnreadable,
+        "Leave out single injections that can't be read, and daily calibrations that the "
+        "site has already, and list them");
     command.add_option("files", import_.files, "The files");
     command.callback([this] {
         command_ = [this](const Console& console) { return runImport(import_, console); };
@@ -115,16 +147,11 @@ void CommandLine::addAnalyzers()
 void CommandLine::addDrift()
 {
     CLI::App& command = *app_.add_subcommand("drift", "Evaluate a 7-Day drift test");
-    addSite(command, drift_.site);
+    addScreen(command, drift_, "Print the whole screen and the state of the test as JSON");
     addSetUp(command);
     addTestInformation(command);
-    addText(command, "--region", drift_.region,
-            "How dates and numbers are written: en-US, en-GB, de-DE or fr-FR");
-    addText(command, "--pdf", drift_.pdf, "Save the report to this file, in place of one there");
     addText(command, "--xml", drift_.xml,
             "Save the ECMPS export to this file, in place of one there");
-    command.add_flag("--json", drift_.json,
-                     "Print the whole screen and the state of the test as JSON");
     command.add_flag("--check", drift_.check, "End with status 1 when the test is not passed");
     command.callback([this] {
         command_ = [this](const Console& console) { return runDrift(drift_, console); };
@@ -161,6 +188,50 @@ void CommandLine::addTestInformation(CLI::App& command)
     addText(command, "--reason", options.reason,
             "Test information: initial, recertification or diagnostic");
     addText(command, "--test-number", options.testNumber, "Test information: test number");
+}
+
+void CommandLine::addLoad()
+{
+    CLI::App& command = *app_.add_subcommand(
+        "load", "Evaluate how a unit's load spreads over its range of operation");
+    addHistogram(command, load_, "the unit's load if not given");
+    addText(command, "--minimum", load_.minimum, "Minimum safe operating value; 0 if not given");
+    addText(command, "--capacity", load_.capacity,
+            "Nameplate or rated capacity; that of the site if not given");
+    addText(command, "--from", load_.from,
+            "First day of specified dates, in place of four operating quarters");
+    addText(command, "--to", load_.to, "Last day of specified dates");
+    command.callback(
+        [this] { command_ = [this](const Console& console) { return runLoad(load_, console); }; });
+}
+
+void CommandLine::addRanges()
+{
+    CLI::App& command = *app_.add_subcommand(
+        "ranges", "List the parameters and scales of a site, or of one unit, with their spans");
+    addSite(command, site_);
+    addText(command, "--unit", unit_, "The unit");
+    command.callback([this] {
+        command_ = [this](const Console& console) { return runRanges(site_, unit_, console); };
+    });
+}
+
+void CommandLine::addRange()
+{
+    CLI::App& command =
+        *app_.add_subcommand("range", "Evaluate how an analyzer's range fits what it measured");
+    addHistogram(command, range_, "the unit's first if not given");
+    addText(command, "--scale", range_.scale,
+            "SINGLE, LOW, MID or HIGH; the parameter's first if not given");
+    addText(command, "--range", range_.range,
+            "Instrument range; the span of the scale if not given");
+    addText(command, "--mec", range_.mec,
+            "Maximum expected concentration, or none; the screen's proposal if not given");
+    addText(command, "--mpc", range_.mpc,
+            "Maximum potential concentration, or none; the screen's proposal if not given");
+    command.callback([this] {
+        command_ = [this](const Console& console) { return runRange(range_, console); };
+    });
 }
 
 void CommandLine::addRound()

@@ -27,6 +27,9 @@ private:
     void addUnits();
     void addAnalyzers();
     void addDrift();
+    void addLoad();
+    void addRanges();
+    void addRange();
     void addSetUp(CLI::App& command);
     void addTestInformation(CLI::App& command);
     void addRound();
@@ -37,6 +40,8 @@ private:
     std::string site_;
     std::string unit_;
     DriftRequest drift_;
+    LoadRequest load_;
+    RangeRequest range_;
     RoundRequest round_;
     std::function<Status(const Console&)> command_;
 };

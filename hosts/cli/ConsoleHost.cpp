@@ -15,11 +15,12 @@ std::optional<screen::SaveAnswer> ConsoleServices::ShowSave(const std::string& /
 
 screen::MsgBoxAnswer ConsoleServices::MsgBox(const screen::MsgBoxRequest& request)
 {
+    const std::string prompt = replaceAll(request.prompt, "\r\n", " ");
     if (request.buttons != screen::MsgBoxButtons::YesNo) {
-        failure = request.prompt;
+        told.push_back(prompt);
         return screen::MsgBoxAnswer::OK;
     }
-    *notes_ << replaceAll(request.prompt, "\r\n", " ") << " Yes\n";
+    *notes_ << prompt << " Yes\n";
     return screen::MsgBoxAnswer::Yes;
 }
 

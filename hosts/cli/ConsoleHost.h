@@ -21,8 +21,8 @@ public:
 
     /// What the next save dialog answers.
     std::optional<screen::SaveAnswer> nextSave;
-    /// The text of the last message box that asked nothing but told of a failure.
-    std::string failure;
+    /// The texts of the message boxes that asked nothing, in one line each.
+    std::vector<std::string> told;
 
     std::optional<screen::SaveAnswer> ShowSave(const std::string& filter,
                                                const std::string& defaultExtension) override;

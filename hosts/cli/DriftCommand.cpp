@@ -1,49 +1,19 @@
 #include "cli/Commands.h"
 #include "cli/DriftSession.h"
 #include "cli/OpenSite.h"
+#include "cli/Region.h"
+#include "cli/Saving.h"
 #include "cli/ScreenJson.h"
 #include "cli/ScreenText.h"
-#include "cli/Texts.h"
 #include "cli/UsageError.h"
-#include "foundation/FileFunctions.h"
 
-#include <algorithm>
-#include <array>
 #include <ostream>
-#include <system_error>
 
 namespace k7deval::cli
 {
 
 namespace
 {
-
-RegionalSettings settingsOf(const std::string& region)
-{
-    const std::array<const char*, 4> regions{"en-US", "en-GB", "de-DE", "fr-FR"};
-    if (std::find(regions.begin(), regions.end(), region) == regions.end())
-        throw UsageError(inQuotes(region) + " is no region; it is one of: " +
-                         listed({regions.begin(), regions.end()}) + ".");
-    return regionalSettings(region);
-}
-
-bool isSameFile(const std::string& one, const std::string& other)
-{
-    std::error_code ignored;
-    return one == other || std::filesystem::equivalent(filePath(one), filePath(other), ignored);
-}
-
-/// A save takes the place of what is there, so it must not be the site or the other file.
-void checkTarget(const std::string& option, const std::string& path, const std::string& site)
-{
-    if (path.empty())
-        return;
-    if (isSameFile(path, site))
-        throw UsageError(option + " names the site itself.");
-    std::error_code ignored;
-    if (std::filesystem::is_directory(filePath(path), ignored))
-        throw UsageError(path + " is a folder; " + option + " needs a file.");
-}
 
 void checkTargets(const DriftRequest& request)
 {
@@ -66,9 +36,7 @@ void printScreen(DriftSession& session, bool json, const Console& console)
 {
     ctrl7DayResult& results = session.control().ctrl7DayResult1;
     if (json)
-        console.out << screenAsJson(session).dump(2, ' ', false,
-                                                  nlohmann::ordered_json::error_handler_t::replace)
-                    << '\n';
+        printJson(screenAsJson(session), console.out);
     else if (results.Visible())
         printResults(results, console.out);
     for (const auto& line : session.postedLines())

@@ -2,6 +2,7 @@
 
 #include "cli/OpenSite.h"
 #include "cli/PostedLine.h"
+#include "cli/Saving.h"
 #include "cli/UsageError.h"
 #include "foundation/FileFunctions.h"
 
@@ -59,18 +60,15 @@ void DriftSession::saveXml(const std::string& path)
 void DriftSession::save(const std::string& path, std::int32_t filterIndex)
 {
     linesBefore_ = postedLines().size();
-    services_.nextSave = screen::SaveAnswer{path, filterIndex};
-    services_.failure.clear();
-    if (control_.chkPreview.isChecked())
-        control_.chkPreview.Press();
-    control_.cmdSave.Press();
+    const std::string failure =
+        pressSave(control_.cmdSave, control_.chkPreview, services_, {path, filterIndex});
     // A file can be saved in which a figure or a row is missing.
     if (postedLines().size() > linesBefore_)
         throw UsageError(path +
                          (fileExists(path) ? " is not complete " : " could not be written ") +
                          asReason(postedLines().at(linesBefore_), "") + ".");
-    if (!services_.failure.empty())
-        throw UsageError(path + " could not be written (" + services_.failure + ").");
+    if (!failure.empty())
+        throw UsageError(path + " could not be written (" + failure + ").");
 }
 
 } // namespace k7deval::cli

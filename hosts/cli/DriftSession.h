@@ -52,7 +52,6 @@ private:
     void pickUnit(const std::string& unit);
     void pickAnalyzer(const std::string& analyzer);
     void fillInterval(const DriftOptions& options);
-    void typeDate(screen::TextBox& field, const std::string& text);
     void fillCriteria(const DriftOptions& options);
     void fillSpecification(const DriftOptions& options);
     void typeLimit(const std::string& limit);

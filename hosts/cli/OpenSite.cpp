@@ -24,8 +24,9 @@ std::shared_ptr<DIServer> readSite(const std::string& path)
 void requireUnits(DIServer& server)
 {
     if (server.Units().empty())
-        throw UsageError("The site " + server.SiteKey() +
-                         " has no unit yet; import a monitoring plan, a span table or hourly data first.");
+        throw UsageError(
+            "The site " + server.SiteKey() +
+            " has no unit yet; import a monitoring plan, a span table or hourly data first.");
 }
 
 } // namespace k7deval::cli

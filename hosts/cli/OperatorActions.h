@@ -2,6 +2,8 @@
 
 #include "cli/Texts.h"
 #include "cli/UsageError.h"
+#include "foundation/Clock.h"
+#include "foundation/RegionalSettings.h"
 #include "screen/Buttons.h"
 #include "screen/ComboBox.h"
 #include "screen/TextBox.h"
@@ -24,6 +26,20 @@ void choose(screen::CheckBox& box, bool wanted);
 /// Types a text into a field and leaves it, upon which the screen may write it another way.
 /// UsageError when the field is too short for it. what: "ORIS code", ...
 void type(screen::TextBox& field, const std::string& text, const std::string& what);
+
+/// Types a date and leaves the field; nothing for an empty text. UsageError for what is no date.
+void typeDate(screen::TextBox& field, const std::string& text, const RegionalSettings& regional,
+              const Clock& clock);
+
+/// Types a number and leaves the field; nothing for an empty text. UsageError for what is no number
+/// that a single can hold. what: "minimum", ...
+void typeNumber(screen::TextBox& field, const std::string& text, const std::string& what,
+                const RegionalSettings& regional);
+
+/// Picks a year and a quarter: "2021" and "Q4", or "2021Q4" in one text; what is empty stays. A
+/// year that the list does not hold is typed. UsageError for what is no year or no quarter.
+void pickQuarter(screen::ComboBox& cmbYear, screen::ComboBox& cmbQTR, const std::string& year,
+                 const std::string& quarter);
 
 /// An option by the word that names it on the command line.
 struct NamedOption {

@@ -4,6 +4,7 @@
 #include "foundation/TextFunctions.h"
 
 #include <cmath>
+#include <ostream>
 
 namespace k7deval::cli
 {
@@ -12,14 +13,6 @@ namespace
 {
 
 using Json = nlohmann::ordered_json;
-
-/// The double that prints as the single does; null for what JSON has no number for.
-Json plainNumber(float value)
-{
-    if (!std::isfinite(value))
-        return nullptr;
-    return ToDouble(GeneralNumber(value, {}), RegionalSettings{});
-}
 
 /// What has to be worked out, or null where that fails.
 template <class Work> Json workedOut(Work work)
@@ -51,35 +44,30 @@ Json toJson(const screen::PropertyValue& content)
             else if constexpr (std::is_same_v<T, screen::PropertyList>)
                 return cli::toJson(value);
             else if constexpr (std::is_same_v<T, float>)
-                return plainNumber(value);
+                return numberToJson(value);
             else
                 return value;
         },
         content.value);
 }
 
-std::string timeText(Date value)
-{
-    return replaceAll(minuteKey(value), "/", "-");
-}
-
 Json toJson(const std::shared_ptr<clsStrippedCal>& injection)
 {
     if (!injection)
         return nullptr;
-    return {{"ReferenceValue", plainNumber(injection->ReferenceValue)},
-            {"MeasuredValue", plainNumber(injection->MeasuredValue)},
-            {"Drift", workedOut([&] { return plainNumber(injection->Drift()); })},
-            {"DriftLimit", plainNumber(injection->DriftLimit)},
+    return {{"ReferenceValue", numberToJson(injection->ReferenceValue)},
+            {"MeasuredValue", numberToJson(injection->MeasuredValue)},
+            {"Drift", workedOut([&] { return numberToJson(injection->Drift()); })},
+            {"DriftLimit", numberToJson(injection->DriftLimit)},
             {"UsesAPS", injection->UsesAPS},
-            {"InjectionEndTime", timeText(injection->InjectionEndTime)},
+            {"InjectionEndTime", timeToJson(injection->InjectionEndTime)},
             {"GasLevel", injection->GasLevel}};
 }
 
 Json toJson(const cls7DayAnalyzerCal& run)
 {
-    return {{"CalTime", timeText(run.CalTime)},
-            {"InstrumentSpan", plainNumber(run.InstrumentSpan)},
+    return {{"CalTime", timeToJson(run.CalTime)},
+            {"InstrumentSpan", numberToJson(run.InstrumentSpan)},
             {"IsOnline", run.IsOnline},
             {"ManualCal", run.ManualCal},
             {"UseZeroCal", run.UseZeroCal},
@@ -105,7 +93,7 @@ Json toJson(const clsDaySummary& day)
         displayed = Json::array();
     for (const auto& run : day.DisplayedCals.items())
         displayed.push_back(minuteKey(run->CalTime));
-    return {{"TStamp", timeText(day.TStamp)},
+    return {{"TStamp", timeToJson(day.TStamp)},
             {"IsOpDay", day.IsOpDay()},
             {"OpStatusIsUndetermined", day.OpStatusIsUndetermined},
             {"HasOnlineCals", day.HasOnlineCals()},
@@ -134,6 +122,18 @@ Json displayToJson(const DayArray& days)
 
 } // namespace
 
+Json numberToJson(float value)
+{
+    if (!std::isfinite(value))
+        return nullptr;
+    return ToDouble(GeneralNumber(value, {}), RegionalSettings{});
+}
+
+Json timeToJson(Date time)
+{
+    return replaceAll(minuteKey(time), "/", "-");
+}
+
 Json toJson(const screen::PropertyList& properties)
 {
     Json object = Json::object();
@@ -146,11 +146,11 @@ Json toJson(const DriftTest& test)
 {
     return {{"lngAnalyzedPID", test.lngAnalyzedPID},
             {"strAnalyzedScale", test.strAnalyzedScale},
-            {"dtStart", timeText(test.dtStart)},
-            {"dtEnd", timeText(test.dtEnd)},
-            {"sngPercentOfSpanLimit", plainNumber(test.sngPercentOfSpanLimit)},
-            {"sngPercentOfRefLimit", plainNumber(test.sngPercentOfRefLimit)},
-            {"sngAbsoluteLimit", plainNumber(test.sngAbsoluteLimit)},
+            {"dtStart", timeToJson(test.dtStart)},
+            {"dtEnd", timeToJson(test.dtEnd)},
+            {"sngPercentOfSpanLimit", numberToJson(test.sngPercentOfSpanLimit)},
+            {"sngPercentOfRefLimit", numberToJson(test.sngPercentOfRefLimit)},
+            {"sngAbsoluteLimit", numberToJson(test.sngAbsoluteLimit)},
             {"lngLimitRule", static_cast<std::int32_t>(test.lngLimitRule)},
             {"blnSixOfSeven", test.blnSixOfSeven},
             {"blnIncludeManualCals", test.blnIncludeManualCals},
@@ -167,6 +167,11 @@ Json toJson(const DriftTest& test)
             {"dictCals", test.dictCals ? runsToJson(*test.dictCals) : Json(nullptr)},
             {"dictDays", daysToJson(test.dictDays)},
             {"objDaysToDisplay", displayToJson(test.objDaysToDisplay)}};
+}
+
+void printJson(const Json& document, std::ostream& out)
+{
+    out << document.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
 } // namespace k7deval::cli

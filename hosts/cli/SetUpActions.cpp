@@ -2,7 +2,6 @@
 
 #include "cli/OperatorActions.h"
 #include "cli/PostedLine.h"
-#include "foundation/DateText.h"
 #include "foundation/TextFunctions.h"
 
 #include <algorithm>
@@ -75,19 +74,8 @@ void DriftSession::pickAnalyzer(const std::string& analyzer)
 
 void DriftSession::fillInterval(const DriftOptions& options)
 {
-    typeDate(control_.ctrl7DaySetUp1.txtFromDate, options.from);
-    typeDate(control_.ctrl7DaySetUp1.txtToDate, options.to);
-}
-
-void DriftSession::typeDate(screen::TextBox& field, const std::string& text)
-{
-    if (text.empty())
-        return;
-    // The page puts its old date back silently, so what it would refuse is asked for first.
-    if (!IsDate(text, *regional_, clock_->now()))
-        throw UsageError(inQuotes(text) + " is no date; one is written as 2024-05-31 or " +
-                         ShortDate(makeDate(2024, 5, 31), *regional_) + ".");
-    type(field, text, "date");
+    typeDate(control_.ctrl7DaySetUp1.txtFromDate, options.from, *regional_, *clock_);
+    typeDate(control_.ctrl7DaySetUp1.txtToDate, options.to, *regional_, *clock_);
 }
 
 void DriftSession::fillCriteria(const DriftOptions& options)

@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/ConsoleHost.h"
+#include "cli/ImportProgressLine.h"
 #include "cli/OpenSite.h"
 #include "cli/OperatorActions.h"
 #include "cli/UsageError.h"
@@ -82,6 +83,18 @@ std::vector<Capacity> capacitiesOf(const std::vector<std::string>& texts)
     return capacities;
 }
 
+sitedb::ImportReport importWithProgress(sitedb::SiteDatabase& site, const std::string& file,
+                                        sitedb::ImportOptions options, const Console& console)
+{
+    const auto path = filePath(file);
+    ImportProgressLine line(sitedb::utf8Text(path.filename()), console);
+    options.progress = [&line](const sitedb::ImportProgress& progress) {
+        line.tell(progress);
+        return true;
+    };
+    return sitedb::importFile(site, path, options);
+}
+
 void printAnalyzers(const ctrl7DaySetUp& page, std::ostream& out)
 {
     for (const auto& analyzer : page.cmbAnalyzer.List())
@@ -100,10 +113,11 @@ Status runImport(const ImportRequest& request, const Console& console)
     auto site = openSite(request.site, sitedb::OpenMode::ReadWrite);
     sitedb::ImportOptions options;
     options.unit = request.unit;
+    options.component = request.component;
     options.leaveOutUnreadable = request.leaveOutUnreadable;
     options.time = console.clock.now();
     for (const auto& file : request.files) {
-        printReport(file, sitedb::importFile(site, filePath(file), options), console.out);
+        printReport(file, importWithProgress(site, file, options, console), console.out);
         newSite.keep();
     }
     for (const auto& capacity : capacities)

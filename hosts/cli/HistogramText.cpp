@@ -1,0 +1,144 @@
+#include "cli/HistogramText.h"
+
+#include "cli/TextTable.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <numeric>
+#include <ostream>
+#include <string>
+
+namespace k7deval::cli
+{
+
+namespace
+{
+
+constexpr float kBarCharacters = 40;
+
+std::string captioned(const std::string& caption, const std::string& text)
+{
+    return caption + " " + text;
+}
+
+/// The row of a level: where it begins and ends, its percent as the screen shows it, its hours.
+struct Level {
+    const screen::Label* from;
+    const screen::Label* to;
+    const screen::Label* percent;
+    std::int32_t hours;
+};
+
+void printLevels(const std::array<Level, 3>& levels, std::ostream& out)
+{
+    TextTable table({Align::Right, Align::Right, Align::Right, Align::Left});
+    for (const Level& level : levels)
+        table.add({level.from->Caption() + " to", level.to->Caption(),
+                   std::to_string(level.hours) + " hours", level.percent->Caption()});
+    table.print(out);
+    out << '\n';
+}
+
+/// A tool tip holds the edges of its bar: "10 - 15   Op Hours: 12".
+std::vector<std::string> edgesOf(const std::string& toolTip)
+{
+    constexpr std::string_view kBetween = " - ";
+    const std::size_t between = toolTip.find(kBetween);
+    const std::size_t second = between + kBetween.size();
+    return {toolTip.substr(0, between),
+            toolTip.substr(second, toolTip.find("   ", second) - second)};
+}
+
+/// A bar as long as the screen's is high; one that is seen there is seen here.
+std::string barText(const histogram::HistogramTool& tool, int bar)
+{
+    const screen::Line& scale = tool.linMin;
+    const float share = tool.lblBar[bar].Place().Height / (scale.Y2() - scale.Y1());
+    return std::string(static_cast<std::size_t>(std::ceil(share * kBarCharacters)), '#');
+}
+
+/// The bars with hours; nothing while they are flat.
+void printBars(const histogram::HistogramTool& tool, const histogram::HourBins& bins,
+               const RegionalSettings& regional, std::ostream& out)
+{
+    if (histogram::peakOf(bins) == 0)
+        return;
+    const std::int32_t total = std::accumulate(bins.begin() + 1, bins.end(), 0);
+    TextTable table({Align::Right, Align::Right, Align::Right, Align::Right, Align::Left});
+    table.add({"From", "To", "Hours", "Percent", ""});
+    for (int bar = 1; bar <= histogram::kBinCount; ++bar) {
+        auto row = edgesOf(tool.lblBar[bar].ToolTipText());
+        const std::int32_t hours = bins.at(static_cast<std::size_t>(bar));
+        row.push_back(std::to_string(hours));
+        row.push_back(histogram::percentText(hours, total, "%", regional));
+        row.push_back(barText(tool, bar));
+        table.add(std::move(row));
+    }
+    table.print(out);
+    out << '\n';
+}
+
+void printParameter(const histogram::HistogramTool& tool, std::ostream& out)
+{
+    if (tool.chkShowPID.isChecked())
+        out << captioned(tool.lblParameter.Caption(), tool.cmbParam.Text()) << '\n';
+}
+
+std::string quarterText(const screen::ComboBox& cmbYear, const screen::ComboBox& cmbQTR)
+{
+    return cmbYear.Text() + " " + cmbQTR.Text();
+}
+
+std::string periodText(const ctrlMaxMW& tool)
+{
+    if (tool.optTimeEnd.isSelected())
+        return captioned(tool.optTimeEnd.Caption(), quarterText(tool.cmbYear, tool.cmbQTR));
+    return captioned(tool.optTimeSelect.Caption(),
+                     tool.txtFrom.Text() + " " +
+                         captioned(tool.lblTo.Caption(), tool.txtTo.Text()));
+}
+
+std::string limitText(const screen::CheckBox& box, const screen::TextBox& field)
+{
+    return captioned(box.Caption(), box.isChecked() ? field.Text() : "none");
+}
+
+} // namespace
+
+void printScreen(const ctrlMaxMW& tool, const RegionalSettings& regional, std::ostream& out)
+{
+    const LoadEvaluation& evaluation = tool.Evaluation();
+    out << tool.lblHeader.Caption() << '\n';
+    printParameter(tool, out);
+    out << captioned(tool.lblMinSafeValue.Caption(), tool.txtMinSafe.Text()) << '\n'
+        << captioned(tool.lblCapacity.Caption(), tool.txtCapacity.Text()) << '\n'
+        << periodText(tool) << "\n\n";
+    printLevels({{{&tool.lblMinSafe, &tool.lblLow, &tool.lblLowOpPercent, evaluation.LowHours},
+                  {&tool.lblLow, &tool.lblMid, &tool.lblMidOpPercent, evaluation.MidHours},
+                  {&tool.lblMid, &tool.lblMax, &tool.lblHighOpPercent, evaluation.HighHours}}},
+                out);
+    printBars(tool, evaluation.Bins, regional, out);
+    out << tool.lblBelow.Caption() << '\n' << tool.lblAbove.Caption() << '\n';
+}
+
+void printScreen(const ctrlRangeEval& tool, const RegionalSettings& regional, std::ostream& out)
+{
+    const RangeEvaluation& evaluation = tool.Evaluation();
+    out << captioned(tool.lblHeader.Caption(), tool.cmbScale.Text()) << '\n';
+    printParameter(tool, out);
+    out << captioned(tool.lblRange.Caption(), tool.txtRange.Text()) << '\n'
+        << limitText(tool.chkMEC, tool.txtMEC) << '\n'
+        << limitText(tool.chkMPC, tool.txtMPC) << '\n'
+        << captioned(tool.lblQuarter.Caption(), quarterText(tool.cmbYear, tool.cmbQTR)) << "\n\n";
+    printLevels({{{&tool.lblMinSafe, &tool.lblLow, &tool.lblLowOpPercent, evaluation.LowHours},
+                  {&tool.lblLow, &tool.lblMid, &tool.lblMidOpPercent, evaluation.MidHours},
+                  {&tool.lblMid, &tool.lblMax, &tool.lblHighOpPercent, evaluation.HighHours}}},
+                out);
+    printBars(tool, evaluation.Bins, regional, out);
+    for (const auto* line : {&tool.lblAboveMEC, &tool.lblAboveMPC, &tool.lblOverRange,
+                             &tool.lblReplaced, &tool.lblInvalid})
+        out << line->Caption() << '\n';
+}
+
+} // namespace k7deval::cli

@@ -24,9 +24,9 @@ struct Console {
 struct ImportRequest {
     std::string site;
     std::vector<std::string> files;
-    std::string unit;     ///< Of hourly values, or the one location of a table of spans.
+    std::string unit;      ///< Of hourly values, or the one location of a table of spans.
     std::string component; ///< Of hourly values that name none.
-    std::string facility; ///< Name of the facility for the reports.
+    std::string facility;  ///< Name of the facility for the reports.
     std::vector<std::string> capacities; ///< "UNIT=MW"
     bool leaveOutUnreadable = false;
 };

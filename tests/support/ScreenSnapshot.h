@@ -18,4 +18,13 @@ Snapshot snapshotOf(const screen::Control& control);
 /// What differs, as "name: before -> after", sorted by name.
 std::vector<std::string> changesBetween(const Snapshot& before, const Snapshot& after);
 
+/// What an action changes on a screen.
+template <class Action>
+std::vector<std::string> changesOn(const screen::Control& control, Action action)
+{
+    const Snapshot before = snapshotOf(control);
+    action();
+    return changesBetween(before, snapshotOf(control));
+}
+
 } // namespace k7deval::test

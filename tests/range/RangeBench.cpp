@@ -1,0 +1,165 @@
+#include "range/RangeBench.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <sstream>
+
+namespace k7deval::test
+{
+
+namespace
+{
+
+constexpr float kBase = 2700;
+constexpr float kFlat = 15;
+
+bool barsLieFlat(const ctrlRangeEval& tool)
+{
+    for (int bar = 1; bar <= histogram::kBinCount; ++bar) {
+        const screen::Label& label = tool.lblBar[bar];
+        if (label.Place().Top != kBase || label.Place().Height != kFlat ||
+            !label.ToolTipText().empty())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+ParameterData unitNamed(PID pid, const std::string& name)
+{
+    ParameterData unit;
+    unit.pid = pid;
+    unit.name = name;
+    unit.type = kUnitType;
+    return unit;
+}
+
+ParameterData hourlyNamed(PID pid, const std::string& name)
+{
+    ParameterData hourly;
+    hourly.pid = pid;
+    hourly.name = name;
+    hourly.type = kHourlyType;
+    hourly.intervalLetter = "h";
+    return hourly;
+}
+
+void addScale(SiteData& site, const ScaleFacts& facts)
+{
+    ParameterData calibration;
+    calibration.pid = facts.pid();
+    calibration.name = "calibration";
+    calibration.type = facts.type;
+    calibration.attributes[attribute::kLeftOutOfLists] = facts.leftOut;
+    calibration.attributes[attribute::kRangeUse] = facts.rangeUse;
+    calibration.attributes[attribute::kRecordTable] = facts.table;
+    calibration.attributes[attribute::kScale] = facts.scale;
+    site.parameters.push_back(calibration);
+    if (!facts.span)
+        return;
+    RecordData definition;
+    definition.pid = facts.pid();
+    definition.span = *facts.span;
+    site.records.push_back(definition);
+}
+
+std::shared_ptr<SiteData> siteOfNOx(const std::vector<ScaleFacts>& scales)
+{
+    auto site = std::make_shared<SiteData>();
+    site->facilityName = "Bethpage";
+    // An hour that a test says nothing of is no hour of operation.
+    site->statusMeanings[0] = {.offline = true};
+    site->parameters = {unitNamed(kGT1, "GT1"), hourlyNamed(kNOx, "NOX")};
+    for (const ScaleFacts& scale : scales)
+        addScale(*site, scale);
+    return site;
+}
+
+std::shared_ptr<SiteData> siteOfTwoUnits()
+{
+    auto site = siteOfNOx({{.scale = std::string("LOW"), .span = 50.0F},
+                           {.suffix = 2, .scale = std::string("HIGH"), .span = 500.0F},
+                           {.code = 230, .span = 20.0F},
+                           {.unit = 2, .scale = std::string("MID"), .span = 250.0F}});
+    site->parameters.push_back(hourlyNamed(MakePID(1, 230, 1, 75, 0), "CO2"));
+    site->parameters.push_back(unitNamed(kGT2, "GT2"));
+    site->parameters.push_back(hourlyNamed(MakePID(2, 120, 1, 75, 0), "NOX"));
+    return site;
+}
+
+void failAt(SiteData& site, const std::string& name)
+{
+    site.failure = [name](const std::string& call, std::size_t) {
+        return call == name ? std::optional(Error(440, "the line is down")) : std::nullopt;
+    };
+}
+
+void enter(screen::TextBox& field, const std::string& text)
+{
+    field.Type(text);
+    field.Leave();
+}
+
+RangeBench& RangeBench::hours(const std::vector<std::optional<double>>& values, std::int32_t status)
+{
+    series() = {};
+    for (std::size_t hour = 0; hour < values.size(); ++hour)
+        series().set(makeDate(2024, 1, 1, static_cast<int>(hour)), values[hour], status);
+    return *this;
+}
+
+RangeBench& RangeBench::limits(const std::string& mec, const std::string& mpc)
+{
+    enter(tool.txtMEC, mec);
+    enter(tool.txtMPC, mpc);
+    return *this;
+}
+
+std::vector<ReadRequest> RangeBench::takeReads()
+{
+    return std::exchange(site->reads, {});
+}
+
+Counters countersOf(const RangeEvaluation& evaluation)
+{
+    return {evaluation.LowHours,       evaluation.MidHours,      evaluation.HighHours,
+            evaluation.OverRangeHours, evaluation.AboveMECHours, evaluation.AboveMPCHours,
+            evaluation.ReplacedHours,  evaluation.InvalidHours};
+}
+
+std::ostream& operator<<(std::ostream& out, const Counters& counters)
+{
+    return out << "low " << counters.low << ", mid " << counters.mid << ", high " << counters.high
+               << ", over " << counters.overRange << ", MEC " << counters.aboveMEC << ", MPC "
+               << counters.aboveMPC << ", replaced " << counters.replaced << ", invalid "
+               << counters.invalid;
+}
+
+std::string filledBins(const RangeEvaluation& evaluation)
+{
+    std::ostringstream text;
+    for (std::size_t bin = 0; bin < evaluation.Bins.size(); ++bin) {
+        if (evaluation.Bins[bin] != 0)
+            text << (text.tellp() > 0 ? ", " : "") << bin << ": " << evaluation.Bins[bin];
+    }
+    return text.str();
+}
+
+bool isCleared(const ctrlRangeEval& tool)
+{
+    const std::array texts = {&tool.lblHeader,       &tool.lblMinSafe,      &tool.lblLow,
+                              &tool.lblMid,          &tool.lblMax,          &tool.lblLowOpPercent,
+                              &tool.lblMidOpPercent, &tool.lblHighOpPercent};
+    const bool hasNoTexts = std::all_of(texts.begin(), texts.end(),
+                                        [](const auto* label) { return label->Caption().empty(); });
+    return hasNoTexts && barsLieFlat(tool) &&
+           tool.lblAboveMEC.Caption() == "Hours above MEC:  N/A" &&
+           tool.lblAboveMPC.Caption() == "Hours above MPC:  N/A" &&
+           tool.lblOverRange.Caption() == "Hours over Range:  N/A" &&
+           tool.lblReplaced.Caption() == "Hours with 200% replacement:  N/A" &&
+           tool.lblInvalid.Caption() == "Invalid Hours:  N/A";
+}
+
+} // namespace k7deval::test

@@ -1,0 +1,218 @@
+#include "foundation/UtilityFunctions.h"
+#include "range/RangeBench.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+/// How far back the hours are read: to four quarters with any hour and more than 720 hours, or to
+/// twelve quarters.
+namespace k7deval::test
+{
+
+namespace
+{
+
+struct QuarterHours {
+    int quartersBack; ///< From the first quarter of 2024.
+    int hours;
+    double value = 50;
+    std::int32_t status = 34;
+};
+
+Date quarterStart(int quartersBack)
+{
+    return makeDate(2024, 1 - 3 * quartersBack, 1);
+}
+
+/// The tool with so many hours at the beginning of quarters.
+struct WalkBench : RangeBench {
+    explicit WalkBench(const std::vector<QuarterHours>& quarters)
+    {
+        for (const QuarterHours& quarter : quarters) {
+            const Date start = quarterStart(quarter.quartersBack);
+            const Date last = dateFromSeconds(wholeSeconds(start) + (quarter.hours - 1) * 3600);
+            series().fill(start, last, quarter.value, quarter.status);
+        }
+        calculate();
+    }
+    [[nodiscard]] std::size_t quartersRead() const { return site->reads.size(); }
+};
+
+std::vector<QuarterHours> evenly(int quarters, int hours)
+{
+    std::vector<QuarterHours> all;
+    for (int quarter = 0; quarter < quarters; ++quarter)
+        all.push_back({quarter, hours});
+    return all;
+}
+
+struct WalkCase {
+    const char* what;
+    std::vector<QuarterHours> quarters;
+    std::size_t read;
+    std::int32_t midHours;
+};
+
+std::vector<WalkCase> walkCases()
+{
+    return {
+        {"four quarters with 720 hours are too few, five are read", evenly(12, 180), 5, 900},
+        {"four quarters with 721 hours are enough",
+         {{0, 181}, {1, 180}, {2, 180}, {3, 180}, {4, 180}},
+         4,
+         721},
+        {"the hour that is missing may be the oldest",
+         {{0, 180}, {1, 180}, {2, 180}, {3, 181}},
+         4,
+         721},
+        {"many hours in three quarters are not enough",
+         {{0, 2000}, {1, 2000}, {2, 2000}},
+         12,
+         6000},
+        {"the fourth quarter may be later", {{0, 2000}, {1, 2000}, {2, 2000}, {6, 1}}, 7, 6001},
+        {"an hour a quarter goes to the limit", evenly(20, 1), 12, 12},
+        {"the last quarter is counted whole", evenly(12, 2000), 4, 8000},
+        {"data in the chosen quarter alone", {{0, 2000}}, 12, 2000},
+        {"data in the twelfth quarter alone", {{11, 5}}, 12, 5},
+        {"data behind the limit", {{12, 2000}, {13, 2000}}, 12, 0},
+        {"no data", {}, 12, 0},
+        {"an empty quarter in between", {{0, 500}, {2, 500}, {4, 500}, {5, 500}}, 6, 2000},
+        {"eight quarters of ninety hours", evenly(12, 90), 9, 810},
+    };
+}
+
+} // namespace
+
+TEST(RangeWalk, GoesBackUntilBothMinimaAreMetOrTwelveQuartersAreRead)
+{
+    for (const WalkCase& row : walkCases()) {
+        const WalkBench bench(row.quarters);
+        EXPECT_EQ(bench.quartersRead(), row.read) << row.what;
+        EXPECT_EQ(bench.results().MidHours, row.midHours) << row.what;
+        EXPECT_FALSE(bench.tool.NeedsEvaluation()) << row.what;
+    }
+}
+
+TEST(RangeWalk, HoursOverTheRangeCountForBothMinima)
+{
+    const WalkBench bench({{0, 400, 150}, {1, 300, 150}, {2, 20, 150}, {3, 1, 150}, {4, 9, 150}});
+    EXPECT_EQ(bench.quartersRead(), 4U);
+    EXPECT_EQ(bench.results().OverRangeHours, 721);
+}
+
+TEST(RangeWalk, HoursThatCannotBeUsedMakeNoQuarterAnOperatingOne)
+{
+    // Word 1 excludes an hour, word 2 marks it off-line.
+    const WalkBench bench(
+        {{0, 2000}, {1, 2000, 50, 1}, {2, 2000, 50, 2}, {3, 2000}, {4, 2000}, {5, 2000}});
+    EXPECT_EQ(bench.quartersRead(), 6U);
+    EXPECT_EQ(bench.results().InvalidHours, 2000);
+    EXPECT_EQ(bench.results().MidHours, 8000);
+}
+
+TEST(RangeWalk, InvalidHoursOfEmptyQuartersAreCountedToo)
+{
+    const WalkBench bench({{5, 10, 50, 1}});
+    EXPECT_EQ(bench.quartersRead(), 12U);
+    EXPECT_EQ(bench.results().InvalidHours, 10);
+}
+
+TEST(RangeWalk, AsksForEachQuarterAsAWhole)
+{
+    const WalkBench bench(evenly(12, 90));
+    const std::vector<ReadRequest> expected{
+        {kNOx, makeDate(2024, 1, 1), 91 * 24}, {kNOx, makeDate(2023, 10, 1), 92 * 24},
+        {kNOx, makeDate(2023, 7, 1), 92 * 24}, {kNOx, makeDate(2023, 4, 1), 91 * 24},
+        {kNOx, makeDate(2023, 1, 1), 90 * 24}, {kNOx, makeDate(2022, 10, 1), 92 * 24},
+        {kNOx, makeDate(2022, 7, 1), 92 * 24}, {kNOx, makeDate(2022, 4, 1), 91 * 24},
+        {kNOx, makeDate(2022, 1, 1), 90 * 24},
+    };
+    EXPECT_EQ(bench.site->reads, expected);
+}
+
+TEST(RangeWalk, UsesOneDataSet)
+{
+    const WalkBench bench({});
+    EXPECT_EQ(bench.site->readSets.size(), 12U);
+    EXPECT_EQ(
+        std::set<const DIDataSet*>(bench.site->readSets.begin(), bench.site->readSets.end()).size(),
+        1U);
+}
+
+TEST(RangeWalk, TheFirstAndTheLastHourOfAQuarterBelongToIt)
+{
+    RangeBench bench;
+    bench.series().fill(makeDate(2023, 12, 31, 23), makeDate(2023, 12, 31, 23), 10);
+    bench.series().fill(makeDate(2024, 1, 1), makeDate(2024, 1, 1), 50);
+    bench.series().fill(makeDate(2024, 3, 31, 23), makeDate(2024, 3, 31, 23), 50);
+    bench.series().fill(makeDate(2024, 4, 1), makeDate(2024, 4, 1), 90);
+    bench.calculate();
+    EXPECT_EQ(bench.results().LowHours, 1);
+    EXPECT_EQ(bench.results().MidHours, 2);
+    EXPECT_EQ(bench.results().HighHours, 0) << "the second quarter is not read";
+}
+
+TEST(RangeWalk, BeginsWithTheQuarterThatIsPicked)
+{
+    RangeBench bench;
+    bench.series().fill(makeDate(2022, 1, 1), makeDate(2024, 12, 31, 23), 50);
+    for (const auto& [quarter, start] : {std::pair(0, makeDate(2023, 1, 1)),
+                                         {1, makeDate(2023, 4, 1)},
+                                         {2, makeDate(2023, 7, 1)},
+                                         {3, makeDate(2023, 10, 1)}}) {
+        bench.tool.cmbYear.Type("2023");
+        bench.tool.cmbQTR.Pick(quarter);
+        bench.range("100").calculate();
+        const auto reads = bench.takeReads();
+        ASSERT_EQ(reads.size(), 4U);
+        EXPECT_EQ(reads[0].start, start) << quarter;
+        EXPECT_EQ(reads[3].start, DateAddExact("m", -9, start)) << quarter;
+    }
+}
+
+TEST(RangeWalk, BeginsWithAYearThatIsNotInTheList)
+{
+    RangeBench bench;
+    bench.tool.cmbYear.Type("1998");
+    bench.calculate();
+    EXPECT_EQ(bench.site->reads.front().start, makeDate(1998, 1, 1));
+    EXPECT_EQ(bench.tool.cmbYear.Text(), "1998");
+}
+
+TEST(RangeWalk, WithAYearThatIsNoneBeginsInThePresentOneAndShowsIt)
+{
+    for (const char* text : {"abc", "", "99", "10000", "2020.5"}) {
+        RangeBench bench;
+        bench.tool.cmbYear.Type(text);
+        bench.calculate();
+        EXPECT_EQ(bench.site->reads.front().start, makeDate(2024, 1, 1)) << text;
+        EXPECT_EQ(bench.tool.cmbYear.Text(), "2024") << text;
+        EXPECT_FALSE(bench.tool.NeedsEvaluation()) << text;
+        EXPECT_TRUE(bench.tool.cmdSave.Enabled()) << text;
+        EXPECT_FALSE(isCleared(bench.tool)) << text;
+    }
+}
+
+TEST(RangeWalk, WithoutAQuarterBeginsWithTheFirst)
+{
+    RangeBench bench(siteOfNOx(), makeDate(2024, 8, 1));
+    ASSERT_EQ(bench.tool.cmbQTR.Text(), "Q2");
+    bench.tool.cmbQTR.SetListIndex(-1);
+    bench.calculate();
+    EXPECT_EQ(bench.site->reads.front().start, makeDate(2024, 1, 1));
+    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q1");
+}
+
+TEST(RangeWalk, ReadsTheParameterThatIsPicked)
+{
+    RangeBench bench(siteOfTwoUnits());
+    bench.tool.cmbParam.Pick(1);
+    bench.calculate();
+    EXPECT_EQ(bench.takeReads().front().pid, 123017500);
+    bench.tool.cmbUnit.Pick(1);
+    bench.calculate();
+    EXPECT_EQ(bench.takeReads().front().pid, 212017500);
+}
+
+} // namespace k7deval::test

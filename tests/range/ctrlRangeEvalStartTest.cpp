@@ -1,0 +1,228 @@
+#include "range/RangeBench.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+/// The screen before the host has set any data.
+namespace k7deval::test
+{
+
+namespace
+{
+
+using screen::Alignment;
+
+struct LabelPlace {
+    const screen::Label& label;
+    float left;
+    float top;
+    float width; ///< 0 where it is the view's.
+    Alignment alignment = Alignment::Left;
+};
+
+std::vector<LabelPlace> labelPlaces(const ctrlRangeEval& tool)
+{
+    return {
+        {tool.lblHeader, 750, 75, 4500, Alignment::Centre},
+        {tool.lblLowOpPercent, 60, 360, 1800, Alignment::Centre},
+        {tool.lblMidOpPercent, 2040, 360, 1800, Alignment::Centre},
+        {tool.lblHighOpPercent, 4080, 360, 1800, Alignment::Centre},
+        {tool.lblMinSafe, 120, 2760, 0},
+        {tool.lblLow, 1320, 2760, 0},
+        {tool.lblMid, 3360, 2760, 1350, Alignment::Right},
+        {tool.lblMax, 4530, 2760, 1350, Alignment::Right},
+        {tool.lbl000, 120, 3000, 0},
+        {tool.lbl020, 1320, 3000, 0},
+        {tool.lbl080, 3960, 3000, 750, Alignment::Right},
+        {tool.lbl100, 4530, 3000, 1350, Alignment::Right},
+        {tool.lblAboveMEC, 120, 3285, 0},
+        {tool.lblAboveMPC, 120, 3510, 0},
+        {tool.lblOverRange, 120, 3720, 0},
+        {tool.lblReplaced, 120, 3945, 0},
+        {tool.lblInvalid, 120, 4185, 0},
+    };
+}
+
+void expectMark(const screen::Line& line, float x)
+{
+    EXPECT_EQ(line.X1(), x) << line.Name();
+    EXPECT_EQ(line.X2(), x) << line.Name();
+    EXPECT_EQ(line.Y1(), 630) << line.Name();
+    EXPECT_EQ(line.Y2(), 2700) << line.Name();
+    EXPECT_EQ(line.Style(), screen::LineStyle::Solid) << line.Name();
+}
+
+struct QuarterCase {
+    int month;
+    const char* quarter;
+    const char* year;
+};
+
+constexpr QuarterCase kQuarters[] = {
+    {1, "Q4", "2023"}, {2, "Q4", "2023"},  {3, "Q4", "2023"},  {4, "Q1", "2024"},
+    {5, "Q1", "2024"}, {6, "Q1", "2024"},  {7, "Q2", "2024"},  {8, "Q2", "2024"},
+    {9, "Q2", "2024"}, {10, "Q3", "2024"}, {11, "Q3", "2024"}, {12, "Q3", "2024"},
+};
+
+} // namespace
+
+TEST(RangeStart, TheLastFinishedQuarterIsSelected)
+{
+    for (const QuarterCase& row : kQuarters) {
+        const RangeTool bench(makeDate(2024, row.month, 15));
+        EXPECT_EQ(bench.tool.cmbQTR.Text(), row.quarter) << row.month;
+        EXPECT_EQ(bench.tool.cmbYear.Text(), row.year) << row.month;
+        EXPECT_EQ(bench.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
+        EXPECT_EQ(bench.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
+    }
+}
+
+TEST(RangeStart, TheSelectedQuarterIsAnEntryOfTheLists)
+{
+    const RangeTool bench(makeDate(2024, 1, 15));
+    EXPECT_EQ(bench.tool.cmbQTR.ListIndex(), 3);
+    EXPECT_EQ(bench.tool.cmbYear.ListIndex(), 1);
+}
+
+TEST(RangeStart, NothingIsEvaluatedAndNothingCanBeSaved)
+{
+    const RangeTool bench;
+    EXPECT_TRUE(bench.tool.NeedsEvaluation());
+    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    EXPECT_FALSE(bench.tool.chkShowPID.isChecked());
+    EXPECT_FALSE(bench.tool.chkPreview.isChecked());
+    EXPECT_TRUE(isCleared(bench.tool));
+    EXPECT_EQ(countersOf(bench.tool.Evaluation()), Counters());
+    EXPECT_TRUE(bench.tool.UnitCatalogue().isEmpty());
+    EXPECT_EQ(bench.tool.DIServer(), nullptr);
+}
+
+TEST(RangeStart, TheFieldsHaveTheirStartingTexts)
+{
+    const RangeTool bench;
+    EXPECT_EQ(bench.tool.txtRange.Text(), "Text1");
+    EXPECT_EQ(bench.tool.txtMEC.Text(), "Text3");
+    EXPECT_EQ(bench.tool.txtMPC.Text(), "Text4");
+    for (const screen::ComboBox* list :
+         {&bench.tool.cmbUnit, &bench.tool.cmbParam, &bench.tool.cmbScale}) {
+        EXPECT_EQ(list->ListCount(), 0) << list->Name();
+        EXPECT_EQ(list->Text(), "") << list->Name();
+    }
+}
+
+TEST(RangeStart, TheCaptionsAreThoseOfTheScreen)
+{
+    const RangeTool bench;
+    const ctrlRangeEval& tool = bench.tool;
+    EXPECT_EQ(tool.lblUnit.Caption(), "Unit:");
+    EXPECT_EQ(tool.lblParameter.Caption(), "Parameter:");
+    EXPECT_EQ(tool.lblRange.Caption(), "Instrument Range:");
+    EXPECT_EQ(tool.lblQuarter.Caption(), "Range evaluation summary ending the last day of :");
+    EXPECT_EQ(tool.chkShowPID.Caption(), "Show PID");
+    EXPECT_EQ(tool.chkMEC.Caption(), "Maximum Expected:");
+    EXPECT_EQ(tool.chkMPC.Caption(), "Maximum Potential:");
+    EXPECT_EQ(tool.cmdCalculate.Caption(), "Calculate");
+    EXPECT_EQ(tool.cmdSave.Caption(), "Save");
+    EXPECT_EQ(tool.cmdClose.Caption(), "Close");
+    EXPECT_EQ(tool.chkPreview.Caption(), "Preview Report After Saving");
+    EXPECT_EQ(tool.fraResults.Caption(), "");
+    EXPECT_EQ(tool.lbl000.Caption(), "Minimum");
+    EXPECT_EQ(tool.lbl020.Caption(), "20%");
+    EXPECT_EQ(tool.lbl080.Caption(), "80%");
+    EXPECT_EQ(tool.lbl100.Caption(), "Maximum");
+}
+
+TEST(RangeStart, ScreenAndResultsHaveTheirSize)
+{
+    const RangeTool bench;
+    EXPECT_EQ(bench.tool.Place().Width, 12540);
+    EXPECT_EQ(bench.tool.Place().Height, 5295);
+    EXPECT_EQ(bench.tool.fraResults.Place(), (screen::Geometry{6480, 120, 6000, 4500}));
+}
+
+TEST(RangeStart, TheLabelsOfTheResultsStandInTheirPlaces)
+{
+    const RangeTool bench;
+    for (const LabelPlace& row : labelPlaces(bench.tool)) {
+        EXPECT_EQ(row.label.Place().Left, row.left) << row.label.Name();
+        EXPECT_EQ(row.label.Place().Top, row.top) << row.label.Name();
+        EXPECT_EQ(row.label.Place().Width, row.width) << row.label.Name();
+        EXPECT_EQ(row.label.Alignment(), row.alignment) << row.label.Name();
+    }
+}
+
+TEST(RangeStart, TheMarksStandAt0And20And80And100Percent)
+{
+    const RangeTool bench;
+    expectMark(bench.tool.linMin, 120);
+    expectMark(bench.tool.linLow, 1260);
+    expectMark(bench.tool.linMid, 4725);
+    expectMark(bench.tool.linMax, 5880);
+    const screen::Line& base = bench.tool.linBase;
+    EXPECT_EQ(base.X1(), 120);
+    EXPECT_EQ(base.X2(), 5895);
+    EXPECT_EQ(base.Y1(), 2700);
+    EXPECT_EQ(base.Y2(), 2700);
+}
+
+TEST(RangeStart, TwentyBarsStandReadyBesideTheirHiddenPattern)
+{
+    const RangeTool bench;
+    EXPECT_FALSE(bench.tool.lblBar[0].Visible());
+    for (int bar = 1; bar <= 20; ++bar)
+        EXPECT_TRUE(bench.tool.lblBar[bar].Visible()) << bar;
+    EXPECT_EQ(bench.tool.lblBar[1].Place().Left, 120);
+    EXPECT_EQ(bench.tool.lblBar[20].Place().Left, 5580);
+    EXPECT_EQ(bench.tool.lblBar[20].Place().Width, 315);
+}
+
+TEST(RangeStart, EachWidgetLiesInItsFrame)
+{
+    RangeTool bench;
+    bench.tool.fraSetup.SetVisible(false);
+    bench.tool.fraResults.SetVisible(false);
+    for (const char* name :
+         {"cmbUnit", "cmbParam", "chkShowPID", "cmbScale", "txtRange", "chkMEC", "txtMEC", "chkMPC",
+          "txtMPC", "cmbYear", "cmbQTR", "lblHeader", "lblBar(1)", "linBase", "lblInvalid"})
+        EXPECT_FALSE(bench.tool.Find(name)->isReachable()) << name;
+    for (const char* name : {"cmdCalculate", "cmdClose", "chkPreview"})
+        EXPECT_TRUE(bench.tool.Find(name)->isReachable()) << name;
+}
+
+TEST(RangeStart, ClosingIsTheHostsBusiness)
+{
+    RangeTool bench;
+    int closed = 0;
+    bench.tool.CloseClicked.Connect([&] { ++closed; });
+    EXPECT_EQ(bench.changesBy([&] { bench.tool.cmdClose.Press(); }), Lines());
+    EXPECT_EQ(closed, 1);
+}
+
+TEST(RangeStart, OnlyTheYearIsTypedIn)
+{
+    RangeTool bench;
+    bench.tool.cmbYear.Type("2019");
+    EXPECT_EQ(bench.tool.cmbYear.Text(), "2019");
+    bench.tool.cmbQTR.Type("Q9");
+    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q1");
+}
+
+TEST(RangeStart, WithoutDataCalculatingFailsForWantOfAParameter)
+{
+    RangeTool bench;
+    EXPECT_THROW(bench.tool.cmdCalculate.Press(), Error);
+    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+}
+
+TEST(RangeStart, WithoutDataTheOtherActionsDoNoHarm)
+{
+    RangeTool bench;
+    EXPECT_NO_THROW(bench.tool.chkShowPID.Press());
+    EXPECT_NO_THROW(enter(bench.tool.txtRange, "50"));
+    EXPECT_NO_THROW(bench.tool.Terminate());
+    EXPECT_EQ(bench.tool.Evaluation().RangeValue, 50);
+}
+
+} // namespace k7deval::test

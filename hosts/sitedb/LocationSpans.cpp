@@ -50,8 +50,8 @@ public:
                 otherTypes_.insert(type);
         }
         if (rows.empty())
-            throw file_.error("unit", only_.empty() ? "no row of the table names its location"
-                                                    : "the table has no location " + only_);
+            throw file_.error("location", only_.empty() ? "no row of the table names its location"
+                                                        : "the table has no location " + only_);
         while (!rows.empty())
             takeKey(rows);
         tellSteppedOver();
@@ -221,7 +221,7 @@ private:
     {
         if (!otherTypes_.empty())
             content_.steppedOver.push_back(
-                "Spans of what no hourly values are kept of: " + listed(otherTypes_) + ".");
+                "Spans of types without hourly values: " + listed(otherTypes_) + ".");
         if (stale_ > 0)
             content_.steppedOver.push_back(counted(stale_, "span") + " of other times.");
         if (nameless_ > 0 && only_.empty())

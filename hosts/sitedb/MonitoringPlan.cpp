@@ -283,11 +283,11 @@ private:
     {
         const std::string path = node_.path();
         if (!otherComponents_.empty())
-            steppedOver_.push_back(path + ": components of which no hourly values are kept: " +
+            steppedOver_.push_back(path + ": components of types without hourly values: " +
                                    listed(otherComponents_) + ".");
         if (!otherSpans_.empty())
-            steppedOver_.push_back(path + ": spans of what no hourly values are kept of: " +
-                                   listed(otherSpans_) + ".");
+            steppedOver_.push_back(
+                path + ": spans of types without hourly values: " + listed(otherSpans_) + ".");
         if (spans_.size() > taken_.size())
             steppedOver_.push_back(path + ": " + counted(spans_.size() - taken_.size(), "span") +
                                    " of other times or without an analyzer.");

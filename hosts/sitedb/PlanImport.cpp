@@ -216,7 +216,6 @@ ImportReport take(sql::Connection& connection, const SourceFile& file, const Pla
 {
     sql::Transaction transaction(connection);
     SiteWriter writer(connection);
-    writer.checkIsNew(file);
     writer.checkOrisCode(file, content.orisPlace, content.orisCode);
     PlanImporter importer(writer, file);
     for (const auto& location : content.locations)
@@ -235,9 +234,11 @@ ImportReport take(sql::Connection& connection, const SourceFile& file, const Pla
 ImportReport takeMonitoringPlan(sql::Connection& connection, const SourceFile& file,
                                 const ImportOptions& options)
 {
+    SiteWriter(connection).checkIsNew(file);
     return take(connection, file, readMonitoringPlan(file), "monitoring plan", options);
 }
 
+// The table may come again for another of its locations.
 ImportReport takeLocationSpans(sql::Connection& connection, const SourceFile& file,
                                const ImportOptions& options)
 {

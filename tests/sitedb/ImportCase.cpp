@@ -67,10 +67,16 @@ std::string smallQa()
 std::string patchedQa(const std::string& operation, const std::string& path,
                       const std::string& value)
 {
+    return patchedJson(kSmallQa, operation, path, value);
+}
+
+std::string patchedJson(const std::string& text, const std::string& operation,
+                        const std::string& path, const std::string& value)
+{
     nlohmann::json step{{"op", operation}, {"path", path}};
     if (!value.empty())
         step["value"] = nlohmann::json::parse(value);
-    return nlohmann::json::parse(kSmallQa).patch(nlohmann::json::array({step})).dump(1);
+    return nlohmann::json::parse(text).patch(nlohmann::json::array({step})).dump(1);
 }
 
 } // namespace k7deval::sitedb::test

@@ -31,7 +31,10 @@ std::string refusal(EmptySite& held, const std::filesystem::path& file,
 /// A QA file of two tests: a linearity check that is stepped over, and a seven-day test of U1 010 H
 /// with two rows, 2020-03-01 06:10 and 2020-03-02 07:15.
 std::string smallQa();
-/// smallQa with one JSON patch operation applied: "replace", "add" or "remove".
+/// A JSON text with one patch operation applied: "replace", "add" or "remove".
+std::string patchedJson(const std::string& text, const std::string& operation,
+                        const std::string& path, const std::string& value);
+/// smallQa with one JSON patch operation applied.
 std::string patchedQa(const std::string& operation, const std::string& path,
                       const std::string& value);
 

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "load/LoadBench.h"
+#include "support/PlacedText.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace k7deval::test
+{
+
+/// Helvetica is 0.925 of its size high (ascender 718, descender -207).
+inline constexpr double kBodyHeight = 9.25;    // At 10 points.
+inline constexpr double kHeadingHeight = 11.1; // At 12 points.
+inline constexpr double kFooterHeight = 7.4;   // At 8 points.
+
+/// The rows of the page, from the top down.
+inline constexpr double kFacilityY = 563.05;
+inline constexpr double kTitleY = kFacilityY - kHeadingHeight - 2;
+inline constexpr double kPeriodY = kTitleY - kHeadingHeight - 2;
+inline constexpr double kHeaderY = kPeriodY - kHeadingHeight - 2;
+inline constexpr double kPercentsY = kHeaderY - 2 * kBodyHeight - 2;
+inline constexpr double kHoursY = kPercentsY - kBodyHeight - 2;
+inline constexpr double kChartTop = kHoursY - kBodyHeight - 2;
+/// And from the bottom up.
+inline constexpr double kBeyondY = 49.2 + kBodyHeight;
+inline constexpr double kNamesY = kBeyondY + kBodyHeight + 5;
+inline constexpr double kValuesY = kNamesY + kBodyHeight + 2;
+inline constexpr double kChartBottom = kValuesY + kBodyHeight + 2;
+
+/// The width of a text on paper in points.
+double widthOf(const std::string& text, int font = 5, float size = 10);
+
+/// A text whose middle, or whose right end, stands at an x.
+PlacedText centred(const std::string& text, double x, double y, int font = 5, float size = 10);
+PlacedText rightAligned(const std::string& text, double x, double y);
+
+/// GT1 of the facility "Bethpage" on 10 May 2024 at 14:30, with a minimum of 10 and a capacity of
+/// 110.
+struct ReportBench : LoadBench {
+    explicit ReportBench(const std::string& region = "en-US")
+        : LoadBench(siteOfLoads(), makeDate(2024, 5, 10, 14, 30), region)
+    {
+        site->facilityName = "Bethpage";
+        range("10", "110");
+    }
+    /// The page of the report as it would be saved now.
+    const ReportPage& page()
+    {
+        document = tool.buildReport();
+        return *document->Pages().begin();
+    }
+    /// So many hours in a bin.
+    ReportBench& inBin(int bin, std::size_t count)
+    {
+        addHours(count, 10 + bin * 5 - 2.5);
+        return *this;
+    }
+    std::unique_ptr<ReportDocument> document;
+};
+
+/// The rectangles of a page, by their left edges.
+std::vector<ReportRectangle> rectanglesOf(const ReportPage& page);
+/// The texts of a page that read upward, by their x.
+std::vector<ReportTextItem> upwardTexts(const ReportPage& page);
+
+} // namespace k7deval::test

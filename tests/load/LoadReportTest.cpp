@@ -1,0 +1,260 @@
+#include "load/LoadReportBench.h"
+
+#include <gtest/gtest.h>
+
+/// The texts of the load report, at positions worked by hand.
+namespace k7deval::test
+{
+
+namespace
+{
+
+/// All texts but the counts of the bars.
+constexpr std::size_t kTexts = 21;
+
+/// 3 low hours, 2 mid, 1 high, 4 under the minimum and 1 over the capacity.
+struct SixHoursBench : ReportBench {
+    explicit SixHoursBench(const std::string& region = "en-US") : ReportBench(region)
+    {
+        hours({10, 20, 30, 50, 70, 110, 1, 2, 3, 4, 150.5});
+        calculate();
+    }
+};
+
+/// The texts with these y, but those without a character.
+Lines writtenAt(const ReportPage& page, double y)
+{
+    Lines texts = textsAt(page, y);
+    std::erase(texts, "");
+    return texts;
+}
+
+} // namespace
+
+TEST(LoadReport, TellsWhoMadeItAndWhatItIs)
+{
+    SixHoursBench bench;
+    bench.document = bench.tool.buildReport();
+    EXPECT_EQ(bench.document->Author(), "Kelvo Load Evaluation");
+    EXPECT_EQ(bench.document->Creator(), "Kelvo Load Evaluation");
+    EXPECT_EQ(bench.document->Subject(), "Load Evaluation");
+    EXPECT_EQ(bench.document->Title(), "Load Evalution");
+}
+
+TEST(LoadReport, IsOneLandscapePage)
+{
+    SixHoursBench bench;
+    const ReportPage& page = bench.page();
+    EXPECT_EQ(bench.document->Pages().Count(), 1);
+    EXPECT_EQ(page.Height(), 612);
+    EXPECT_EQ(page.Width(), 792);
+}
+
+TEST(LoadReport, TheRowsStandWhereTheirHeightsPutThem)
+{
+    EXPECT_NEAR(kTitleY, 549.95, 1e-9);
+    EXPECT_NEAR(kPeriodY, 536.85, 1e-9);
+    EXPECT_NEAR(kHeaderY, 523.75, 1e-9);
+    EXPECT_NEAR(kPercentsY, 503.25, 1e-9);
+    EXPECT_NEAR(kHoursY, 492, 1e-9);
+    EXPECT_NEAR(kChartTop, 480.75, 1e-9);
+    EXPECT_NEAR(kBeyondY, 58.45, 1e-9);
+    EXPECT_NEAR(kNamesY, 72.7, 1e-9);
+    EXPECT_NEAR(kValuesY, 83.95, 1e-9);
+    EXPECT_NEAR(kChartBottom, 95.2, 1e-9);
+    EXPECT_NEAR(widthOf("Bethpage", 6, 14), 63.784, 0.001);
+    EXPECT_NEAR(widthOf("30%"), 5.56 * 2 + 8.89, 0.001);
+}
+
+TEST(LoadReport, HasFacilityTitlePeriodAndParameterOnTheCentreLine)
+{
+    SixHoursBench bench;
+    const ReportPage& page = bench.page();
+    expectText(page, centred("Bethpage", 392, kFacilityY, 6, 14));
+    expectText(page, centred("Load Evaluation Summary", 392, kTitleY, 6, 12));
+    expectText(page, centred("Load summary ending the last day of 2024 Q1", 392, kPeriodY, 6, 12));
+    expectText(page, centred("GT1 GT1 Load", 392, kHeaderY, 6, 12));
+}
+
+TEST(LoadReport, HasTheLevelsOverTheirThirdsOfTheChart)
+{
+    SixHoursBench bench;
+    const ReportPage& page = bench.page();
+    expectText(page, centred("50.0% Low Op Load", 144, kPercentsY));
+    expectText(page, centred("33.3% Mid Op Load", 360, kPercentsY));
+    expectText(page, centred("16.7% High Op Load", 612, kPercentsY));
+    expectText(page, centred("3 Hours", 144, kHoursY));
+    expectText(page, centred("2 Hours", 360, kHoursY));
+    expectText(page, centred("1 Hours", 612, kHoursY));
+}
+
+TEST(LoadReport, HasTheScaleUnderTheChart)
+{
+    SixHoursBench bench;
+    const ReportPage& page = bench.page();
+    expectText(page, {"10", 5, 10, 36, kValuesY});
+    expectText(page, centred("40", 252, kValuesY));
+    expectText(page, centred("70", 468, kValuesY));
+    expectText(page, rightAligned("110", 756, kValuesY));
+    expectText(page, {"Minimum", 5, 10, 36, kNamesY});
+    expectText(page, centred("30%", 252, kNamesY));
+    expectText(page, centred("60%", 468, kNamesY));
+    expectText(page, rightAligned("Maximum", 756, kNamesY));
+}
+
+TEST(LoadReport, HasTheHoursBeyondTheRangeAtItsFoot)
+{
+    SixHoursBench bench;
+    const ReportPage& page = bench.page();
+    expectText(page, {"4 hour(s) under 10", 5, 10, 36, kBeyondY});
+    expectText(page, rightAligned("1 hour(s) over 110 - Maximum 150.5", 756, kBeyondY));
+}
+
+TEST(LoadReport, TheFooterHangsBelowItsRuleWithTheTimeOfTheReport)
+{
+    SixHoursBench bench;
+    bench.clock.set(makeDate(2024, 5, 11, 9, 5));
+    expectText(bench.page(),
+               {"Load Evaluation Summary 5/11/2024 9:05 AM", 7, 8, 36, 49.1 - kFooterHeight});
+}
+
+TEST(LoadReport, HasNoOtherTexts)
+{
+    SixHoursBench bench;
+    const ReportPage& page = bench.page();
+    EXPECT_EQ(countTexts(page), kTexts + upwardTexts(page).size());
+    EXPECT_EQ(upwardTexts(page).size(), 6U) << "each hour has a bin of its own";
+}
+
+TEST(LoadReport, IsWrittenAsTheRegionDoes)
+{
+    SixHoursBench bench("de-DE");
+    const ReportPage& page = bench.page();
+    expectText(page, {"Load Evaluation Summary 10.05.2024 14:30", 7, 8, 36, 41.7});
+    expectText(page, centred("33,3% Mid Op Load", 360, kPercentsY));
+    expectText(page, rightAligned("1 hour(s) over 110 - Maximum 150,5", 756, kBeyondY));
+}
+
+TEST(LoadReport, AFacilityWithoutANameHasAStandIn)
+{
+    for (const std::optional<std::string>& name : {std::optional<std::string>(), {""}}) {
+        SixHoursBench bench;
+        bench.site->facilityName = name;
+        expectText(bench.page(), centred("<Facility Name>", 392, kFacilityY, 6, 14));
+    }
+}
+
+TEST(LoadReport, OfSpecifiedDatesNamesThem)
+{
+    ReportBench bench;
+    bench.specify("1/15/2024", "2/20/2024").calculate();
+    expectText(bench.page(),
+               centred("Load summary from 1/15/2024 to 2/20/2024", 392, kPeriodY, 6, 12));
+}
+
+TEST(LoadReport, OfSpecifiedDatesNamesWhatStandsInTheBoxes)
+{
+    ReportBench bench;
+    bench.specify("1/15/2024", "2/20/2024").calculate();
+    bench.tool.txtTo.Type("the end");
+    expectText(bench.page(),
+               centred("Load summary from 1/15/2024 to the end", 392, kPeriodY, 6, 12));
+}
+
+TEST(LoadReport, NamesAQuarterThatWasPickedAfterTheCalculation)
+{
+    SixHoursBench bench;
+    bench.tool.cmbQTR.Pick(2);
+    bench.tool.cmbYear.Pick(1);
+    const ReportPage& page = bench.page();
+    expectText(page, centred("Load summary ending the last day of 2023 Q3", 392, kPeriodY, 6, 12));
+    expectText(page, centred("3 Hours", 144, kHoursY));
+    expectText(page, centred("GT1 GT1 Load", 392, kHeaderY, 6, 12));
+}
+
+TEST(LoadReport, FromAClearedScreenHasTheHoursOfTheLastEvaluationAndNoCaptions)
+{
+    SixHoursBench bench;
+    const std::size_t counts = upwardTexts(bench.page()).size();
+    bench.tool.txtCapacity.Leave();
+    ASSERT_TRUE(bench.tool.cmdSave.Enabled());
+    const ReportPage& page = bench.page();
+    EXPECT_EQ(writtenAt(page, kHeaderY), Lines());
+    EXPECT_EQ(writtenAt(page, kPercentsY), Lines());
+    EXPECT_EQ(writtenAt(page, kHoursY), (Lines{"3 Hours", "2 Hours", "1 Hours"}));
+    EXPECT_EQ(writtenAt(page, kValuesY), Lines());
+    EXPECT_EQ(writtenAt(page, kNamesY), (Lines{"Minimum", "30%", "60%", "Maximum"}));
+    expectText(page, {"0 hour(s) under minimum", 5, 10, 36, kBeyondY});
+    expectText(page, rightAligned("0 hour(s) over maximum", 756, kBeyondY));
+    EXPECT_EQ(rectanglesOf(page).size(), 20U);
+    EXPECT_EQ(upwardTexts(page).size(), counts);
+}
+
+TEST(LoadReport, BeforeAnyEvaluationHasNoHours)
+{
+    ReportBench bench;
+    const ReportPage& page = bench.page();
+    expectText(page, centred("0 Hours", 144, kHoursY));
+    expectText(page, centred("0 Hours", 360, kHoursY));
+    expectText(page, centred("0 Hours", 612, kHoursY));
+    EXPECT_TRUE(rectanglesOf(page).empty());
+}
+
+TEST(LoadReport, WithoutHoursInTheRangeHasDashes)
+{
+    ReportBench bench;
+    bench.calculate();
+    const ReportPage& page = bench.page();
+    EXPECT_EQ(writtenAt(page, kPercentsY), (Lines{"-----", "-----", "-----"}));
+    expectText(page, rightAligned("0 hours(s) over 110", 756, kBeyondY));
+}
+
+TEST(LoadReport, LongTextsKeepTheirMiddleAndTheColumnsTheirPlaces)
+{
+    ReportBench bench;
+    const std::string unit(60, 'W');
+    bench.site->parameter(kGT1).name = unit;
+    bench.site->facilityName = std::string(70, 'M');
+    bench.tool.SetDIServer(serve(bench.site));
+    bench.hours({20});
+    enter(bench.tool.txtCapacity, "110");
+    bench.calculate();
+    const ReportPage& page = bench.page();
+    expectText(page, centred(std::string(70, 'M'), 392, kFacilityY, 6, 14));
+    expectText(page, centred(unit + " GT1 Load", 392, kHeaderY, 6, 12));
+    expectText(page, centred("100.0% Low Op Load", 144, kPercentsY));
+    EXPECT_LT(392 - widthOf(unit + " GT1 Load", 6, 12) / 2, 36);
+}
+
+TEST(LoadReport, ManyHoursAreInGeneralForm)
+{
+    ReportBench bench;
+    bench.specify("1/1/2023", "12/31/2023");
+    bench.load().fill(makeDate(2023, 1, 1), makeDate(2023, 12, 31, 23), 20);
+    bench.calculate();
+    expectText(bench.page(), centred("8760 Hours", 144, kHoursY));
+}
+
+TEST(LoadReport, WithoutDataCannotBeMade)
+{
+    LoadTool bench;
+    EXPECT_EQ(errorOf([&] { static_cast<void>(bench.tool.buildReport()); }), 91);
+}
+
+TEST(LoadReport, LooksTheFacilityUpInTheSitesTable)
+{
+    SixHoursBench bench;
+    bench.site->calls.clear();
+    bench.page();
+    EXPECT_EQ(bench.site->countCalls("DIServer.LookupService"), 1U);
+    EXPECT_EQ(bench.site->countCalls("DILookups.Find"), 1U);
+    EXPECT_EQ(bench.site->countCalls("DIParameter.ReadData"), 0U);
+}
+
+TEST(LoadReport, LeavesTheScreenAsItIs)
+{
+    SixHoursBench bench;
+    EXPECT_EQ(bench.changesBy([&] { bench.page(); }), Lines());
+}
+
+} // namespace k7deval::test

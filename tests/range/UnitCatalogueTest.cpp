@@ -2,6 +2,7 @@
 
 #include "foundation/ExpectError.h"
 #include "range/RangeBench.h"
+#include "range/ServerOfRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -179,6 +180,26 @@ TEST(UnitCatalogue, TakesTheFirstOfSeveralRecords)
     EXPECT_EQ(listed(site), kNOxOf100);
     site->records.front().span = Null{};
     EXPECT_EQ(listed(site), kNOxOf100) << "the second is not looked at";
+}
+
+TEST(UnitCatalogue, AFirstRecordThatIsNotThereLeavesTheSpanAtAHundred)
+{
+    const auto server = serve(siteOfNOx({{.span = 50.0F}}));
+    RecordQuery query;
+    query.pid = ScaleFacts().pid();
+    query.table = kCalibrationTable;
+    const DIRecordList records = server->RecordStore()->ReadRecords(query);
+    ASSERT_EQ(records.size(), 1U);
+    for (const DIRecordList& list : {DIRecordList(), {nullptr}, {nullptr, records[0]}}) {
+        ServerOfRecords gaps(server, list);
+        Catalogue catalogue;
+        addToCatalogue(catalogue, gaps, {});
+        EXPECT_EQ(listed(catalogue), kNOxOf100) << list.size();
+    }
+    ServerOfRecords whole(server, records);
+    Catalogue catalogue;
+    addToCatalogue(catalogue, whole, {});
+    EXPECT_EQ(listed(catalogue), "100100000: 112017500: 0=50; ");
 }
 
 TEST(UnitCatalogue, ReadsEachDefinitionWithTheArgumentsOfTheRecordStore)

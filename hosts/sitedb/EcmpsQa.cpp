@@ -56,8 +56,7 @@ private:
 
     static QaTest testHeader(const JsonNode& node)
     {
-        checkIsUnit(node);
-        const JsonNode unit = node.field("unitId");
+        const JsonNode unit = node.field(isOfStack(node) ? "stackPipeId" : "unitId");
         const JsonNode component = node.field({"componentId", "componentID"});
         const JsonNode scaleNode = node.field("spanScaleCode");
         const auto scale = scaleOfCode(scaleNode.textOrNull());
@@ -73,14 +72,10 @@ private:
         return test;
     }
 
-    static void checkIsUnit(const JsonNode& test)
+    static bool isOfStack(const JsonNode& test)
     {
-        if (!test.field("unitId").isNull() || !test.has("stackPipeId"))
-            return;
-        const JsonNode stack = test.field("stackPipeId");
-        if (!stack.isNull())
-            throw stack.error(stack.shown() + " is a stack or pipe, and a site keeps the"
-                                              " calibrations of units");
+        return test.field("unitId").isNull() && test.has("stackPipeId") &&
+               !test.field("stackPipeId").isNull();
     }
 
     void stepOverList(const JsonNode& root, const char* name)

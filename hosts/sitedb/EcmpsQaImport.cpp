@@ -44,8 +44,9 @@ private:
 
     [[nodiscard]] ImportError unknown(const std::string& path, const std::string& what) const
     {
-        return file_.error(path, "the site has no " + what +
-                                     ", so its span table has to be imported first");
+        return file_.error(path,
+                           "the site has no " + what +
+                               ", so its monitoring plan or span table has to be imported first");
     }
 
     const SourceFile& file_;

@@ -37,11 +37,6 @@ constexpr std::array<std::string_view, 18> kFlowUnits{
     "KSCFH", "KSCFM", "KSFPM", "MACFH", "MSCFH", "SCFH",  "SCFM",  "SFPM",  "SMSEC",
 };
 
-bool isFlow(const Gas& gas)
-{
-    return gas.componentType == "FLOW";
-}
-
 } // namespace
 
 const Gas* findGas(std::string_view componentType)
@@ -56,11 +51,16 @@ const Gas* findGas(std::int32_t parameterCode)
     return found == kGases.end() ? nullptr : &*found;
 }
 
+bool hasScales(const Gas& gas)
+{
+    return gas.componentType != "FLOW";
+}
+
 bool isSpanUnit(const Gas& gas, std::string_view unitsCode)
 {
-    if (isFlow(gas))
-        return std::ranges::find(kFlowUnits, unitsCode) != kFlowUnits.end();
-    return unitsCode == gas.unitsCode;
+    if (hasScales(gas))
+        return unitsCode == gas.unitsCode;
+    return std::ranges::find(kFlowUnits, unitsCode) != kFlowUnits.end();
 }
 
 std::string spanUnitsText(const Gas& gas, std::string_view unitsCode)
@@ -71,7 +71,7 @@ std::string spanUnitsText(const Gas& gas, std::string_view unitsCode)
 std::string spanUnitNames(const Gas& gas)
 {
     return std::string(gas.unitsCode) +
-           (isFlow(gas) ? ", KSCFM or another of EPA's units of " : ", the unit of ") +
+           (hasScales(gas) ? ", the unit of " : ", KSCFM or another of EPA's units of ") +
            std::string(gas.componentType);
 }
 

@@ -21,6 +21,8 @@ struct Gas {
 const Gas* findGas(std::string_view componentType);
 /// The gas of a code in a PID, or nothing.
 const Gas* findGas(std::int32_t parameterCode);
+/// Whether its analyzers have scales, high or low; a flow monitor has one.
+bool hasScales(const Gas& gas);
 /// Whether a span of the gas may be in a unit, by EPA's code. Flow monitors are calibrated in one
 /// of many units, all others in the unit of their hourly values.
 bool isSpanUnit(const Gas& gas, std::string_view unitsCode);

@@ -39,7 +39,8 @@ std::optional<PID> findOrAddMeasured(SiteWriter& writer, std::int32_t unit, cons
     const bool isOfGas =
         measured && PIDPart(*measured, pidpart::kParameterCode) == gas.parameterCode;
     if (isOfGas && !isCalibrated(writer, *measured))
-        writer.addCalibrationWithoutSpan(*measured, gas, component, Scale::High);
+        writer.addCalibrationWithoutSpan(*measured, gas, component,
+                                         hasScales(gas) ? Scale::High : Scale::Single);
     return measured;
 }
 

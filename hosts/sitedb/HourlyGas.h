@@ -19,9 +19,9 @@ inline constexpr double kHighestHourlyValue = 1e10;
 const Gas* findHourlyGas(std::string_view parameterCode);
 
 /// The measured parameter of a component of a unit, made when the site does not have it. Without
-/// a calibration it gets one on the scale HIGH whose span is not known, so that range evaluation
-/// offers it. Nothing when the unit has all the components that PIDs allow for the gas; a parameter
-/// of another gas when the component measures that one.
+/// a calibration it gets one on the scale HIGH, of flow SINGLE, whose span is not known, so that
+/// range evaluation offers it. Nothing when the unit has all the components that PIDs allow for the
+/// gas; a parameter of another gas when the component measures that one.
 std::optional<PID> findOrAddMeasured(SiteWriter& writer, std::int32_t unit, const Gas& gas,
                                      const std::string& component);
 

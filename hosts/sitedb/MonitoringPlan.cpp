@@ -67,10 +67,9 @@ Scale scaleOf(const JsonNode& record, const Gas& gas)
 {
     const JsonNode node = record.field("spanScaleCode");
     const auto scale = scaleOfCode(node.textOrNull());
-    const bool hasScales = gas.componentType != "FLOW";
-    if (!scale || (*scale != Scale::Single) != hasScales)
+    if (!scale || (*scale != Scale::Single) != hasScales(gas))
         throw node.error(node.shown() +
-                         (hasScales ? " is not H or L" : " is a scale, and flow has none"));
+                         (hasScales(gas) ? " is not H or L" : " is a scale, and flow has none"));
     return *scale;
 }
 

@@ -178,7 +178,8 @@ TEST_F(Usage, ImportsOnlyWhatItKnows)
          "hourly_load_GT3.csv.gz: unit: the unit that the load belongs to has to be named."},
         {"tests of analyzers that are not there",
          {"import", "--site", site, "--leave-out", "{data}ecmps_qa_50292.json"},
-         "ecmps_qa_50292.json: testSummaryData[0].unitId: the site has no unit GT1, so its span "
+         "ecmps_qa_50292.json: testSummaryData[0].unitId: the site has no unit GT1, so its "
+         "monitoring plan or span "
          "table has to be imported first."},
         {"tests with an hour that can't be read",
          {"import", "--site", "{spans}", "{data}ecmps_qa_50292.json"},

@@ -116,6 +116,17 @@ TEST(PlanImport, TestsFindTheAnalyzersOfAPlan)
     EXPECT_EQ(records[0]->Span(), Variant(200.0));
 }
 
+TEST(PlanImport, TestsFindTheAnalyzersOfAStack)
+{
+    EmptySite held;
+    importText(held, "plan.json", smallPlan());
+    auto qa = patchedQa("replace", "/testSummaryData/1/unitId", "null");
+    qa = patchedJson(qa, "replace", "/testSummaryData/1/stackPipeId", R"("CS1")");
+    qa = patchedJson(qa, "replace", "/testSummaryData/1/componentId", R"("100")");
+    importText(held, "qa.json", qa);
+    EXPECT_EQ(allRecords(held.site, 210'007'501, "HIGH").size(), 4U);
+}
+
 TEST(PlanImport, SpansInForceAreJoinedByTypeAndScale)
 {
     EmptySite held;

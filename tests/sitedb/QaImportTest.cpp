@@ -289,10 +289,10 @@ TEST(LeavingOutUnreadable, DoesNotExcuseATestThatCannotBePlaced)
     SmallSite held;
     const auto file = held.directory.write(
         "qa.json", patchedQa("replace", "/testSummaryData/1/unitId", R"("U9")"));
-    EXPECT_EQ(
-        refusal(held, file, leavingOut()),
-        "qa.json: testSummaryData[1].unitId: the site has no unit U9, so its span table has to "
-        "be imported first.");
+    EXPECT_EQ(refusal(held, file, leavingOut()),
+              "qa.json: testSummaryData[1].unitId: the site has no unit U9, so its monitoring plan "
+              "or span table has to "
+              "be imported first.");
 }
 
 TEST(LeavingOutUnreadable, TwoFaultsOfARowAreListedApart)

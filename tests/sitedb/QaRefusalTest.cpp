@@ -52,14 +52,16 @@ constexpr QaFault kQaFaults[] = {
     {"unit null", "replace", "/testSummaryData/1/unitId", "null",
      "testSummaryData[1].unitId: null is no text."},
     {"an unknown unit", "replace", "/testSummaryData/1/unitId", R"("U9")",
-     "testSummaryData[1].unitId: the site has no unit U9, so its span table has to be imported "
+     "testSummaryData[1].unitId: the site has no unit U9, so its monitoring plan or span table has "
+     "to be imported "
      "first."},
     {"no component", "remove", "/testSummaryData/1/componentId", "",
      "testSummaryData[1].componentId: the field is missing."},
     {"component null", "replace", "/testSummaryData/1/componentId", "null",
      "testSummaryData[1].componentId: null is no text."},
     {"an unknown component", "replace", "/testSummaryData/1/componentId", R"("011")",
-     "testSummaryData[1].componentId: the site has no component 011 of unit U1, so its span table "
+     "testSummaryData[1].componentId: the site has no component 011 of unit U1, so its monitoring "
+     "plan or span table "
      "has to be imported first."},
     {"no scale", "remove", "/testSummaryData/1/spanScaleCode", "",
      "testSummaryData[1].spanScaleCode: the field is missing."},
@@ -67,7 +69,7 @@ constexpr QaFault kQaFaults[] = {
      R"(testSummaryData[1].spanScaleCode: "X" is not H, L or null.)"},
     {"a scale that the component lacks", "replace", "/testSummaryData/1/spanScaleCode", "null",
      "testSummaryData[1].spanScaleCode: the site has no scale SINGLE of component 010 of unit U1, "
-     "so its span table has to be imported first."},
+     "so its monitoring plan or span table has to be imported first."},
     // A row.
     {"a row that is a text", "replace", "", R"("none")", R"(: "none" is no object.)"},
     {"no indicator", "remove", "/onlineOfflineIndicator", "",
@@ -165,15 +167,14 @@ TEST_P(QaRefusal, NamesFilePathAndFieldAndLeavesTheSiteAsItWas)
 
 INSTANTIATE_TEST_SUITE_P(Qa, QaRefusal, testing::ValuesIn(kQaFaults));
 
-TEST(QaRefusals, AStackIsNoUnit)
+TEST(QaRefusals, AStackThatTheSiteDoesNotHaveIsRefused)
 {
     SmallSite held;
     auto text = patchedQa("replace", "/testSummaryData/1/unitId", "null");
     text.replace(text.find(R"("stackPipeId": null)"), 19, R"("stackPipeId": "CS1")");
-    EXPECT_EQ(
-        refusal(held, held.directory.write("qa.json", text), {}),
-        R"(qa.json: testSummaryData[1].stackPipeId: "CS1" is a stack or pipe, and a site keeps )"
-        "the calibrations of units.");
+    EXPECT_EQ(refusal(held, held.directory.write("qa.json", text), {}),
+              "qa.json: testSummaryData[1].stackPipeId: the site has no unit CS1, so its "
+              "monitoring plan or span table has to be imported first.");
 }
 
 TEST(QaRefusals, AnotherFacilityIsRefused)

@@ -78,6 +78,7 @@ Capacity capacityOf(const std::string& text)
 std::vector<Capacity> capacitiesOf(const std::vector<std::string>& texts)
 {
     std::vector<Capacity> capacities;
+    capacities.reserve(texts.size());
     for (const auto& text : texts)
         capacities.push_back(capacityOf(text));
     return capacities;

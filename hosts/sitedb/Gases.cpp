@@ -41,13 +41,13 @@ constexpr std::array<std::string_view, 18> kFlowUnits{
 
 const Gas* findGas(std::string_view componentType)
 {
-    const auto found = std::ranges::find(kGases, componentType, &Gas::componentType);
+    const auto* const found = std::ranges::find(kGases, componentType, &Gas::componentType);
     return found == kGases.end() ? nullptr : &*found;
 }
 
 const Gas* findGas(std::int32_t parameterCode)
 {
-    const auto found = std::ranges::find(kGases, parameterCode, &Gas::parameterCode);
+    const auto* const found = std::ranges::find(kGases, parameterCode, &Gas::parameterCode);
     return found == kGases.end() ? nullptr : &*found;
 }
 

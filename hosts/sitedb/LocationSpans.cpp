@@ -131,15 +131,15 @@ private:
     void takeKey(std::vector<SpanRow>& rows)
     {
         const SpanRow key = rows.front();
-        const auto rest = std::ranges::stable_partition(
-            rows, [&](const SpanRow& row) { return row.isOfKey(key); });
+        const auto rest = std::stable_partition(
+            rows.begin(), rows.end(), [&](const SpanRow& row) { return row.isOfKey(key); });
         std::vector<PlanPeriod> periods;
-        for (auto row = rows.begin(); row != rest.begin(); ++row)
+        for (auto row = rows.begin(); row != rest; ++row)
             periods.push_back(row->period);
         const SpanRow& held = rows[*recordAt(periods, kPresent)];
         stale_ += periods.size() - 1;
         addSpan(held);
-        rows.erase(rows.begin(), rest.begin());
+        rows.erase(rows.begin(), rest);
     }
 
     void addSpan(const SpanRow& held)

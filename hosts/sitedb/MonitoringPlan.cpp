@@ -118,6 +118,7 @@ std::vector<Scale> scalesOf(const JsonNode& range)
 template <class Record> std::vector<PlanPeriod> periodsOf(const std::vector<Record>& records)
 {
     std::vector<PlanPeriod> periods;
+    periods.reserve(records.size());
     for (const auto& record : records)
         periods.push_back(record.period);
     return periods;
@@ -131,6 +132,7 @@ struct DatedNode {
 std::vector<DatedNode> datedNodes(const std::vector<JsonNode>& nodes)
 {
     std::vector<DatedNode> dated;
+    dated.reserve(nodes.size());
     for (const auto& node : nodes)
         dated.push_back({node, periodOf(node)});
     return dated;
@@ -153,7 +155,8 @@ public:
         for (const auto& component : kComponents.in(node_))
             readComponent(component);
         // What is in force is numbered first: range evaluation shows the first of two analyzers.
-        std::ranges::stable_partition(location_.components, &PlanComponent::isInForce);
+        std::stable_partition(location_.components.begin(), location_.components.end(),
+                              [](const PlanComponent& component) { return component.isInForce; });
         readLoad();
         tellSteppedOver();
         return std::move(location_);

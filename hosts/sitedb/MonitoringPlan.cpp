@@ -213,7 +213,7 @@ private:
         const auto range = recordAt(periodsOf(ranges), kPresent);
         if (!range) {
             joinSpan(component, Scale::Single, std::string(kPresent));
-            if (hasSpans(component))
+            if (hasScales(*component.gas) && hasSpans(component))
                 steppedOver_.push_back(
                     node.path() + ": " + std::string(component.gas->componentType) + " " +
                     component.id + " has no analyzer range, so no span is joined to it.");
@@ -229,9 +229,8 @@ private:
     // Spans of its type that a component without a range could have been joined to.
     [[nodiscard]] bool hasSpans(const PlanComponent& component) const
     {
-        return component.spans.empty() && std::ranges::any_of(spans_, [&](const SpanRecord& span) {
-                   return span.gas == component.gas;
-               });
+        return std::ranges::any_of(
+            spans_, [&](const SpanRecord& span) { return span.gas == component.gas; });
     }
 
     void joinSpan(PlanComponent& component, Scale scale, const std::string& time)
@@ -273,7 +272,7 @@ private:
         const JsonNode units = node.field("maximumLoadUnitsOfMeasureCode");
         if (units.textOrNull() != "MW") {
             steppedOver_.push_back(units.path() + ": " + units.shown() +
-                                   " is the unit of the load, and a site keeps MW.");
+                                   " is not MW, the unit in which a site keeps loads.");
             return;
         }
         location_.load = {node.path(), numberOf(node, "maximumLoadValue", kHighestLoad),

@@ -69,7 +69,8 @@ private:
         auto known = writer_.components(unit, *component.gas);
         if (component.id.empty())
             return known.empty() ? std::vector{gas} : known;
-        if (known == std::vector{gas} && isOnlyOne(location, component))
+        const bool isNameless = known == std::vector{gas} && isOnlyOne(location, component);
+        if (isNameless && !writer_.findMeasured(unit, component.id))
             writer_.renameComponent(unit, *component.gas, component.id);
         return {component.id};
     }

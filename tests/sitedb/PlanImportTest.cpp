@@ -187,8 +187,8 @@ TEST(PlanImport, TheLoadInForceIsKeptInMegawatts)
     EXPECT_THAT(constantsOf(held.site, 2), IsEmpty());
     EXPECT_THAT(report.steppedOver,
                 Contains("monitoringLocationData[1].monitoringLoadData[0]"
-                         ".maximumLoadUnitsOfMeasureCode: \"KLBHR\" is the unit of the load, and a "
-                         "site keeps MW."));
+                         ".maximumLoadUnitsOfMeasureCode: \"KLBHR\" is not MW, the unit in which a "
+                         "site keeps loads."));
 }
 
 // The load tool prefers a constant of program 0 to one of program 75.
@@ -213,8 +213,8 @@ TEST(PlanImport, SaysWhatItSteppedOver)
                     "monitoringLocationData[0]: 1 load record of other times.",
                     "monitoringLocationData[0].monitoringFormulaData: 2 entries.",
                     "monitoringLocationData[1].monitoringLoadData[0]"
-                    ".maximumLoadUnitsOfMeasureCode: \"KLBHR\" is the unit of the load, and "
-                    "a site keeps MW.",
+                    ".maximumLoadUnitsOfMeasureCode: \"KLBHR\" is not MW, the unit in which "
+                    "a site keeps loads.",
                     "monitoringLocationData[2]: components of types without hourly values: GFFM.",
                     "monitoringLocationData[2]: CP1 is a stack or pipe without analyzers."));
 }
@@ -240,6 +240,18 @@ TEST(PlanImport, AnAnalyzerWithoutARangeHasNoSpan)
                          "range, so no span is joined to it."));
     EXPECT_THAT(parametersOfType(held.site, kMeasuredType), Contains("1-240-0-75-01 CO2 020"));
     EXPECT_THAT(spansOf(held.site), Not(Contains("CO2 020/H Calibration: 20")));
+}
+
+TEST(PlanImport, AFlowMonitorNeedsNoRangeToHaveNoSpan)
+{
+    EmptySite held;
+    const auto report = importText(
+        held, "plan.json",
+        patchedPlan("replace", "/monitoringLocationData/0/monitoringSpanData/4/spanValue", "null"));
+    EXPECT_THAT(report.steppedOver,
+                Contains("monitoringLocationData[0].monitoringSpanData[4]: FLOW SINGLE has no span "
+                         "value, so its scale has no calibrations."));
+    EXPECT_THAT(report.steppedOver, Not(Contains(testing::HasSubstr("no analyzer range"))));
 }
 
 TEST(PlanImport, ADefaultHighRangeLeavesTheLowScaleAlone)

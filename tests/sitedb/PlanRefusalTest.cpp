@@ -227,6 +227,17 @@ TEST(PlanRefusals, AnotherSpanThanThatOfASpanTableIsRefused)
               "100 for U1 010 HIGH, and the file says 200.");
 }
 
+TEST(PlanRefusals, AnIdentifierOfAnotherGasIsNotGivenToTheNamelessAnalyzer)
+{
+    EmptySite held;
+    importText(held, "spans.csv",
+               "unit_id,component_id,component_type,span_scale,span_value,units\n"
+               "U1,NOX,NOX,H,200,PPM\nU1,010,O2,H,25,PCT\n");
+    EXPECT_EQ(refusal(held, held.directory.write("plan.json", smallPlan()), {}),
+              "plan.json: monitoringLocationData[0].componentData[1].componentId: component 010 of "
+              "U1 measures another gas.");
+}
+
 TEST(PlanRefusals, ATwentiethUnitIsRefused)
 {
     EmptySite held;

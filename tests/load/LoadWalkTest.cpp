@@ -182,6 +182,34 @@ TEST(LoadQuarters, ReachFromTheFirstHourToTheLast)
     EXPECT_EQ(countsOf(bench.results()), (HourCounts{.low = 1, .high = 1, .under = 1}));
 }
 
+TEST(LoadQuarters, OfYearsLongAgoAreReadAlike)
+{
+    for (const auto& [year, first] : {std::pair("1900", 1900), {"1850", 1850}, {"150", 150}}) {
+        WalkBench bench;
+        bench.tool.cmbYear.Type(year);
+        EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(first, 1, 12)) << year;
+    }
+}
+
+TEST(LoadQuarters, BeforeTheFirstYearThereAreNone)
+{
+    WalkBench bench;
+    bench.tool.cmbYear.Type("100");
+    EXPECT_EQ(errorOf([&] { bench.calculate(); }), 5);
+    EXPECT_EQ(bench.takeReads(), quartersBackFrom(100, 1, 1));
+    EXPECT_TRUE(bench.tool.NeedsEvaluation());
+}
+
+TEST(LoadQuarters, TheLastDayOfTheLastYearHasNoNextOne)
+{
+    WalkBench bench;
+    bench.tool.cmbYear.Type("9999");
+    bench.tool.cmbQTR.Pick(3);
+    EXPECT_EQ(errorOf([&] { bench.calculate(); }), 5);
+    bench.tool.cmbQTR.Pick(2);
+    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(9999, 3, 12));
+}
+
 TEST(LoadDateWalk, ReadsTheQuartersThatTheDatesTouch)
 {
     for (const DatesCase& dates : kDates) {

@@ -1,5 +1,7 @@
 #include "selection/ParamRows.h"
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -12,23 +14,25 @@ namespace
 constexpr std::int32_t kNoUnit = -1;
 constexpr PID kUnitPlace = 100000000;
 
-DIParameterList parametersOf(DIServer& server, const std::vector<PID>& pids)
+using TakeParameter = std::function<void(const std::shared_ptr<DIParameter>&)>;
+
+/// Each entry is dealt with before the next one is looked up.
+void forEach(DIServer& server, const std::vector<PID>& pids, const TakeParameter& take)
 {
-    DIParameterList found;
     const auto parameters = server.Parameters();
     for (const PID pid : pids) {
         if (present(parameters).Exists(pid))
-            found.push_back(parameters->Item(pid, -1));
+            take(parameters->Item(pid, -1));
     }
-    return found;
 }
 
-DIParameterList parametersOf(const std::shared_ptr<DIServer>& server, const ParamList& list)
+void forEach(const std::shared_ptr<DIServer>& server, const ParamList& list,
+             const TakeParameter& take)
 {
-    if (const auto* pids = std::get_if<std::vector<PID>>(&list))
-        return pids->empty() ? DIParameterList{} : parametersOf(present(server), *pids);
-    const auto* parameters = std::get_if<DIParameterList>(&list);
-    return parameters == nullptr ? DIParameterList{} : *parameters;
+    if (const auto* pids = std::get_if<std::vector<PID>>(&list); pids && !pids->empty())
+        forEach(present(server), *pids, take);
+    else if (const auto* parameters = std::get_if<DIParameterList>(&list))
+        std::for_each(parameters->begin(), parameters->end(), take);
 }
 
 } // namespace
@@ -38,34 +42,43 @@ void ParamRows::Load(const std::shared_ptr<DIServer>& server, const ParamList& l
 {
     count_ = 0;
     std::int32_t lastUnit = kNoUnit;
-    for (const auto& parameter : parametersOf(server, list)) {
+    forEach(server, list, [&](const std::shared_ptr<DIParameter>& parameter) {
         if (unitsInList)
             add({present(parameter).PID(), parameter->Name(0), false,
                  parameter->ParamType() == kUnitType});
         else
-            addBelowUnit(present(server), present(parameter), lastUnit);
-    }
+            addBelowUnit(server, present(parameter), lastUnit);
+    });
 }
 
 /// A unit that comes back later in the list gets a second row.
-void ParamRows::addBelowUnit(DIServer& server, DIParameter& parameter, std::int32_t& lastUnit)
+void ParamRows::addBelowUnit(const std::shared_ptr<DIServer>& server, DIParameter& parameter,
+                             std::int32_t& lastUnit)
 {
     const PID pid = parameter.PID();
     const std::int32_t unit = PIDPart(pid, pidpart::kUnit);
     if (unit != lastUnit) {
         lastUnit = unit;
-        const auto statusCodes = server.StatusCodes();
+        const auto statusCodes = present(server).StatusCodes();
         add({unit * kUnitPlace, present(statusCodes).UnitName(pid), false, true});
     }
     if (parameter.ParamType() != kUnitType)
         add({pid, parameter.Name(0), false, false});
 }
 
+/// Rows of the earlier list further down stay: until the load is through, they are on view.
 void ParamRows::add(ParamRow row)
 {
-    rows_.resizeKeeping(count_);
+    if (count_ > SafeUBound(rows_))
+        rows_.resizeKeeping(count_);
     rows_[count_] = std::move(row);
     ++count_;
+}
+
+void ParamRows::dropOld()
+{
+    if (count_ > 0)
+        rows_.resizeKeeping(count_ - 1);
 }
 
 void ParamRows::fillUnits(screen::ComboBox& list, const UnitFilter& filter) const

@@ -5,6 +5,7 @@
 #include "screen/ComboBox.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -38,10 +39,13 @@ class ParamRows
 {
 public:
     /// Replaces the rows. A list of another form and an empty one leave the old rows where they
-    /// are, though none of them counts any more. With unitsInList the list brings its own unit
-    /// rows, else they are made here, and its units are dropped. PIDs that do not exist are
-    /// skipped. Error 91 without data.
+    /// are, though none of them counts any more, and so do the old rows behind the last of a
+    /// shorter list. With unitsInList the list brings its own unit rows, else they are made here,
+    /// and its units are dropped. PIDs that do not exist are skipped. Error 91 without data; after
+    /// a failure of the data the rows up to it count.
     void Load(const std::shared_ptr<DIServer>& server, const ParamList& list, bool unitsInList);
+    /// Drops the old rows behind the last that counts; keeps them all when none does.
+    void dropOld();
 
     /// How many rows count.
     [[nodiscard]] std::int32_t Count() const { return count_; }
@@ -54,7 +58,8 @@ public:
     void fillUnits(screen::ComboBox& list, const UnitFilter& filter) const;
 
 private:
-    void addBelowUnit(DIServer& server, DIParameter& parameter, std::int32_t& lastUnit);
+    void addBelowUnit(const std::shared_ptr<DIServer>& server, DIParameter& parameter,
+                      std::int32_t& lastUnit);
     void add(ParamRow row);
 
     Array<ParamRow> rows_;

@@ -65,6 +65,7 @@ void ParamSelect::SetParamList(const ParamList& varParamList, bool blnUnitNamesI
     rows_.Load(server_, varParamList, blnUnitNamesInList);
     fillUnits();
     rebuildVisibleRows();
+    rows_.dropOld();
     readGrid();
 }
 
@@ -169,9 +170,10 @@ void ParamSelect::SetShowUnitCombo(bool value)
 /// The grid takes what the filter leaves of the control's height.
 void ParamSelect::placeGrid()
 {
+    if (cmbUnit.Visible())
+        cmbUnit.Move(cmbUnit.Place().Left, 0);
     screen::Geometry place = jgexGrid.Place();
-    const screen::Geometry& combo = cmbUnit.Place();
-    place.Top = cmbUnit.Visible() ? combo.Top + combo.Height + kGapBelowCombo : 0;
+    place.Top = cmbUnit.Visible() ? cmbUnit.Place().Height + kGapBelowCombo : 0;
     place.Height = Place().Height - place.Top;
     jgexGrid.SetPlace(place);
 }
@@ -179,7 +181,7 @@ void ParamSelect::placeGrid()
 void ParamSelect::Resize(float width, float height)
 {
     SetPlace({Place().Left, Place().Top, width, height});
-    cmbUnit.SetPlace({0, 0, width, cmbUnit.Place().Height});
+    cmbUnit.SetPlace({0, cmbUnit.Place().Top, width, cmbUnit.Place().Height});
     jgexGrid.SetPlace({0, jgexGrid.Place().Top, width, jgexGrid.Place().Height});
     placeGrid();
     jgexGrid.SetSecondColumnWidth(std::nearbyint(width - jgexGrid.ColumnWidth(kCheckColumn) -
@@ -255,15 +257,11 @@ std::string ParamSelect::headerText(const std::string& unit) const
 {
     const float width = jgexGrid.ColumnWidth(2);
     std::string text = "-- " + unit + " --";
-    float last = -1;
-    for (;;) {
-        const float next = jgexGrid.TextWidth(" --" + text + "-- ");
-        // A measure that does not grow with the text would never end it.
-        if (!(next < width) || !(next > last))
-            return text;
+    // No dash is thinner than a twip; a measure that does not grow with the text would never end.
+    for (float dashes = 0; dashes < width && jgexGrid.TextWidth(" --" + text + "-- ") < width;
+         dashes += 4)
         text = "--" + text + "--";
-        last = next;
-    }
+    return text;
 }
 
 } // namespace k7deval

@@ -36,6 +36,7 @@ void SingleParamSelect::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
 void SingleParamSelect::SetParamList(const ParamList& varParamList, bool blnUnitNamesInList)
 {
     rows_.Load(server_, varParamList, blnUnitNamesInList);
+    rows_.dropOld();
     fillBoth();
 }
 

@@ -242,4 +242,59 @@ TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRewritten)
     EXPECT_EQ(list.List(), (std::vector<std::string>{"Unit 1", "Unit 2"}));
 }
 
+TEST_F(ComboBox, RemovingAnEntryTakesItsItemDataAndRunsNothing)
+{
+    const Raised picked(combo.Picked);
+    const Raised textChanged(combo.TextChanged);
+    const Raised changed(combo.Changed);
+    combo.RemoveItem(0);
+    EXPECT_EQ(combo.List(), std::vector<std::string>{"Unit 2"});
+    EXPECT_EQ(combo.ItemDataList(), std::vector<std::int32_t>{102});
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(changed.count, 1) << "a view drops the entry";
+    EXPECT_EQ(picked.count + textChanged.count, 0);
+}
+
+TEST_F(ComboBox, TheSelectionStaysWithItsEntryWhenAnotherIsRemoved)
+{
+    list.AddItem("Unit 3", 103);
+    list.Pick(1);
+    list.RemoveItem(2);
+    EXPECT_EQ(list.ListIndex(), 1);
+    list.RemoveItem(0);
+    EXPECT_EQ(list.ListIndex(), 0);
+    EXPECT_EQ(list.ItemData(), 102);
+    EXPECT_EQ(list.Text(), "Unit 2");
+}
+
+TEST_F(ComboBox, TheSelectionGoesWithItsEntry)
+{
+    list.Pick(1);
+    const Raised picked(list.Picked);
+    list.RemoveItem(1);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.Text(), "");
+    EXPECT_EQ(errorOf([&] { return list.ItemData(); }), 381);
+    EXPECT_EQ(picked.count, 0);
+}
+
+TEST_F(ComboBox, ATypedTextStaysWhenAnEntryIsRemoved)
+{
+    combo.Type("Unit 1");
+    combo.RemoveItem(0);
+    EXPECT_EQ(combo.Text(), "Unit 1");
+    EXPECT_EQ(combo.ListIndex(), -1);
+}
+
+TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRemoved)
+{
+    for (const int index : {-1, 2})
+        EXPECT_EQ(errorOf([&] { return list.RemoveItem(index), 0; }), 381) << index;
+    EXPECT_EQ(list.ListCount(), 2);
+    list.RemoveItem(1);
+    list.RemoveItem(0);
+    EXPECT_EQ(errorOf([&] { return list.RemoveItem(0), 0; }), 381);
+    EXPECT_EQ(list.ListCount(), 0);
+}
+
 } // namespace k7deval::test

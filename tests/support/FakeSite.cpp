@@ -274,7 +274,11 @@ public:
     bool IsValid(std::int32_t status) override { return site_->meaningOf(status).valid; }
     bool IsExcluded(std::int32_t status) override { return site_->meaningOf(status).excluded; }
     bool IsUnitOffline(std::int32_t status) override { return site_->meaningOf(status).offline; }
-    std::string UnitName(PID pid) override { return site_->parameter(UnitPID(pid)).name; }
+    std::string UnitName(PID pid) override
+    {
+        site_->noteCall("DIStatusCodes.UnitName");
+        return site_->parameter(UnitPID(pid)).name;
+    }
 
 private:
     Site site_;

@@ -1,0 +1,298 @@
+#include "selection/SelectionBench.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+/// What holds for any list and any course of actions on it.
+namespace k7deval::test
+{
+
+namespace
+{
+
+const PIDs kAnyPIDs = {kCommon, kOpacity, kGT1,  kNox, kCo,  kO2,
+                       kGT2,    kLoad,    kFlow, kGT3, kSo2, kUnknown};
+
+enum class Act {
+    List,
+    ListWithUnits,
+    Pick,
+    ShowHeaders,
+    ShowFilter,
+    ShowUnpopulated,
+    ShowPIDs,
+    Edit,
+    DoubleClick,
+    SelectAll,
+    DeselectAll,
+    Count
+};
+
+struct Action {
+    Act act = Act::List;
+    std::int32_t number = 0;
+    bool on = false;
+    PIDs list;
+};
+
+rc::Gen<PIDs> anyList()
+{
+    return rc::gen::container<PIDs>(rc::gen::elementOf(kAnyPIDs));
+}
+
+rc::Gen<Action> anyAction()
+{
+    const auto act = rc::gen::map(rc::gen::inRange(0, static_cast<int>(Act::Count)),
+                                  [](int number) { return static_cast<Act>(number); });
+    return rc::gen::build<Action>(rc::gen::set(&Action::act, act),
+                                  rc::gen::set(&Action::number, rc::gen::inRange(0, 12)),
+                                  rc::gen::set(&Action::on, rc::gen::arbitrary<bool>()),
+                                  rc::gen::set(&Action::list, anyList()));
+}
+
+void doubleClick(ParamSelect& tool, std::int32_t gridRow)
+{
+    if (!tool.VisibleRows().Exists(gridRow))
+        return;
+    tool.jgexGrid.MouseDown(gridRow, 2);
+    tool.jgexGrid.DoubleClick();
+}
+
+void actOnList(ParamSelectBench& bench, const Action& action)
+{
+    auto& tool = bench.tool;
+    switch (action.act) {
+    case Act::List:
+        bench.list(action.list);
+        break;
+    case Act::ListWithUnits:
+        bench.listWithUnits(action.list);
+        break;
+    case Act::Pick:
+        tool.cmbUnit.Pick(action.number);
+        break;
+    case Act::ShowHeaders:
+        tool.SetOffsetUnits(action.on);
+        break;
+    case Act::ShowFilter:
+        tool.SetShowUnitCombo(action.on);
+        break;
+    default:
+        tool.SetShowUnpopulatedUnits(action.on);
+    }
+}
+
+void actOnRows(ParamSelectBench& bench, const Action& action)
+{
+    auto& tool = bench.tool;
+    switch (action.act) {
+    case Act::ShowPIDs:
+        tool.SetShowPIDNumber(action.on);
+        break;
+    case Act::Edit:
+        tool.jgexGrid.Edit(action.number, action.on);
+        break;
+    case Act::DoubleClick:
+        doubleClick(tool, action.number);
+        break;
+    case Act::SelectAll:
+        tool.SelectAll();
+        break;
+    default:
+        tool.DeselectAll();
+    }
+}
+
+/// Whether the rows, or which of them are on view, may change by it.
+bool isAboutTheList(Act act)
+{
+    return act < Act::ShowPIDs;
+}
+
+void act(ParamSelectBench& bench, const Action& action)
+{
+    if (isAboutTheList(action.act))
+        actOnList(bench, action);
+    else
+        actOnRows(bench, action);
+}
+
+/// Whether the rows on view have just been sought anew.
+bool isSoughtAnew(const ParamSelect& tool, const Action& action)
+{
+    const bool hasRows = tool.Rows().Count() > 0;
+    switch (action.act) {
+    case Act::List:
+    case Act::ListWithUnits:
+    case Act::ShowUnpopulated:
+        return hasRows;
+    case Act::ShowHeaders:
+        return hasRows && action.on;
+    default:
+        return false;
+    }
+}
+
+/// What the rows, their ticks and the filter say must be on view, by unit.
+Indexes expectedOnView(const ParamSelect& tool)
+{
+    Indexes expected;
+    const auto addRowsOf = [&](std::optional<std::int32_t> unit) {
+        for (std::int32_t index = 0; index < tool.Rows().Count(); ++index) {
+            const ParamRow& row = tool.Rows()[index];
+            const bool isOfUnit = !unit || row.pid / 100'000'000 == *unit / 100'000'000;
+            if (isOfUnit && (!row.isUnit || tool.OffsetUnits()))
+                expected.push_back(index);
+        }
+    };
+    const auto& filter = tool.cmbUnit;
+    if (!tool.ShowUnitCombo())
+        addRowsOf(std::nullopt);
+    else if (filter.ListIndex() > 0)
+        addRowsOf(filter.ItemData());
+    else
+        std::for_each(filter.ItemDataList().begin() + std::min(1, filter.ListCount()),
+                      filter.ItemDataList().end(), addRowsOf);
+    return expected;
+}
+
+PIDs tickedOnView(const ParamSelect& tool)
+{
+    PIDs ticked;
+    for (const std::int32_t index : visibleIndexes(tool)) {
+        if (tool.Rows()[index].isSelected)
+            ticked.push_back(tool.Rows()[index].pid);
+    }
+    return ticked;
+}
+
+void expectSoundList(const ParamSelect& tool)
+{
+    const Indexes visible = visibleIndexes(tool);
+    for (std::size_t i = 0; i < visible.size(); ++i)
+        RC_ASSERT(tool.VisibleRows().Keys()[i] == static_cast<std::int32_t>(i) + 1);
+    RC_ASSERT(tool.jgexGrid.RowCount() == static_cast<std::int32_t>(visible.size()));
+    RC_ASSERT(selectionOf(tool) == tickedOnView(tool));
+    RC_ASSERT(tool.GetSelection().has_value() == !tickedOnView(tool).empty());
+    RC_ASSERT(tool.cmbUnit.Visible() == tool.ShowUnitCombo());
+    for (const std::int32_t index : visible) {
+        RC_ASSERT(tool.Rows().Count() == 0 || index < tool.Rows().Count());
+        RC_ASSERT(tool.Rows().Count() == 0 || tool.OffsetUnits() || !tool.Rows()[index].isUnit);
+    }
+}
+
+void expectSoundCells(const ParamSelect& tool)
+{
+    const Indexes visible = visibleIndexes(tool);
+    for (std::size_t i = 0; i < visible.size(); ++i) {
+        const ParamRow& row = tool.Rows()[visible[i]];
+        const screen::GridCells cells = tool.jgexGrid.Cells(static_cast<std::int32_t>(i) + 1);
+        const std::string text =
+            tool.ShowPIDNumber() ? "[" + PIDToText(row.pid) + "] " + row.name : row.name;
+        if (!row.isUnit)
+            RC_ASSERT(cells == (screen::GridCells{row.isSelected, text}));
+        else if (tool.OffsetUnits())
+            RC_ASSERT(cells == (screen::GridCells{Empty{}, "-- " + row.name + " --"}));
+        else
+            RC_ASSERT(cells == screen::GridCells{});
+    }
+}
+
+} // namespace
+
+RC_GTEST_PROP(ParamSelectProperties, AnyCourseOfActionsLeavesASoundList, ())
+{
+    const auto actions = *rc::gen::container<std::vector<Action>>(anyAction());
+    ParamSelectBench bench;
+    for (const Action& action : actions) {
+        act(bench, action);
+        expectSoundList(bench.tool);
+        expectSoundCells(bench.tool);
+        if (isSoughtAnew(bench.tool, action))
+            RC_ASSERT(visibleIndexes(bench.tool) == expectedOnView(bench.tool));
+    }
+}
+
+RC_GTEST_PROP(ParamSelectProperties, AnyPickShowsTheRowsOfTheUnitAndKeepsAllTicks, ())
+{
+    ParamSelectBench bench;
+    bench.filtered().list(*rc::gen::nonEmpty(anyList()));
+    const auto actions = *rc::gen::container<std::vector<Action>>(anyAction());
+    for (const Action& action : actions) {
+        if (!isAboutTheList(action.act))
+            act(bench, action);
+        const auto rows = bench.tool.Rows().All().items();
+        const std::int32_t entry = *rc::gen::inRange(0, bench.tool.cmbUnit.ListCount());
+        bench.tool.cmbUnit.Pick(entry);
+        RC_ASSERT(bench.tool.Rows().All().items() == rows);
+        if (!bench.tool.ShowUnitCombo() || bench.tool.Rows().Count() == 0)
+            continue;
+        RC_ASSERT(bench.tool.OffsetUnits() == (entry == 0));
+        RC_ASSERT(visibleIndexes(bench.tool) == expectedOnView(bench.tool));
+    }
+}
+
+RC_GTEST_PROP(ParamSelectProperties, EveryParameterOfTheListHasARowBelowItsUnitInListOrder, ())
+{
+    const PIDs list = *anyList();
+    ParamSelectBench bench;
+    bench.list(list);
+    PIDs parameters;
+    std::int32_t unit = -1;
+    for (const ParamRow& row : bench.tool.Rows().All().items()) {
+        RC_ASSERT(row.isUnit || row.pid / 100'000'000 == unit);
+        RC_ASSERT(!row.isUnit || row.pid / 100'000'000 != unit);
+        if (row.isUnit)
+            unit = row.pid / 100'000'000;
+        else
+            parameters.push_back(row.pid);
+    }
+    PIDs expected;
+    std::copy_if(list.begin(), list.end(), std::back_inserter(expected), [](PID pid) {
+        return pid != kUnknown && pid != kCommon && pid != kGT1 && pid != kGT2 && pid != kGT3;
+    });
+    RC_ASSERT(parameters == expected);
+}
+
+RC_GTEST_PROP(ParamSelectProperties, AllUnitsShowAListThatIsGroupedByUnitAsItIs, ())
+{
+    const auto isListed =
+        *rc::gen::container<std::vector<bool>>(kAnyPIDs.size(), rc::gen::arbitrary<bool>());
+    PIDs list;
+    for (std::size_t i = 0; i < kAnyPIDs.size(); ++i) {
+        if (isListed[i])
+            list.push_back(kAnyPIDs[i]);
+    }
+    ParamSelectBench bench;
+    bench.tool.SetShowUnpopulatedUnits(true);
+    bench.filtered().list(list);
+    Indexes all;
+    for (std::int32_t index = 0; index < bench.tool.Rows().Count(); ++index)
+        all.push_back(index);
+    RC_ASSERT(visibleIndexes(bench.tool) == all);
+}
+
+RC_GTEST_PROP(SingleParamSelectProperties, WithoutTheFilterAnyListGivesItsParametersInOrder, ())
+{
+    const PIDs list = *anyList();
+    const bool hasUnits = *rc::gen::arbitrary<bool>();
+    SingleBench bench;
+    bench.filtered(false).tool.SetParamList(list, hasUnits);
+    PIDs expected;
+    for (const ParamRow& row : bench.tool.Rows().All().items()) {
+        if (!row.isUnit)
+            expected.push_back(row.pid);
+    }
+    RC_ASSERT(bench.tool.cmbPID.ItemDataList() == expected);
+    RC_ASSERT(bench.tool.cmbPID.ListIndex() == -1);
+    for (std::int32_t entry = 0; entry < bench.tool.cmbPID.ListCount(); ++entry) {
+        bench.tool.cmbPID.Pick(entry);
+        RC_ASSERT(bench.tool.GetSelection() == expected[static_cast<std::size_t>(entry)]);
+    }
+}
+
+} // namespace k7deval::test

@@ -1,0 +1,191 @@
+#include "foundation/ExpectError.h"
+#include "selection/SelectionBench.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+
+/// Failures of the data, which pass on to the host as they are.
+namespace k7deval::test
+{
+
+namespace
+{
+
+const Lines kCallsForPIDs = {
+    "DIParameter.Name",  "DIParameter.PID",     "DIParameter.ParamType", "DIParameters.Exists",
+    "DIParameters.Item", "DIServer.Parameters", "DIServer.StatusCodes",  "DIStatusCodes.UnitName"};
+
+/// A form of list, and the members of the data that it needs.
+struct ListForm {
+    const char* what;
+    bool isCollection;
+    bool hasUnits;
+    Lines calls;
+};
+
+void PrintTo(const ListForm& form, std::ostream* out)
+{
+    *out << form.what;
+}
+
+const ListForm kListForms[] = {
+    {"PIDs", false, false, kCallsForPIDs},
+    {"PIDsWithUnits",
+     false,
+     true,
+     {"DIParameter.Name", "DIParameter.PID", "DIParameter.ParamType", "DIParameters.Exists",
+      "DIParameters.Item", "DIServer.Parameters"}},
+    {"Parameters",
+     true,
+     false,
+     {"DIParameter.Name", "DIParameter.PID", "DIParameter.ParamType", "DIServer.StatusCodes",
+      "DIStatusCodes.UnitName"}},
+    {"ParametersWithUnits",
+     true,
+     true,
+     {"DIParameter.Name", "DIParameter.PID", "DIParameter.ParamType"}},
+};
+
+/// The error that an action passes on to the host; nothing when there is none.
+std::optional<std::string> passedOn(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const Error& error) {
+        return std::to_string(error.number()) + ", " + error.description();
+    }
+    return std::nullopt;
+}
+
+Lines sortedOnce(Lines lines)
+{
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+    return lines;
+}
+
+class SelectionFailure : public ::testing::TestWithParam<ListForm>
+{
+protected:
+    static ParamList listOn(const std::shared_ptr<SiteData>& site)
+    {
+        const PIDs pids = {kGT1, kNox, kLoad, kFlow};
+        if (GetParam().isCollection)
+            return collectionOf(site, pids);
+        return pids;
+    }
+
+    /// Loads the list with its call of that number failing.
+    template <class Bench>
+    static std::optional<std::string> loadFailingAt(Bench& bench, std::size_t number)
+    {
+        const ParamList list = listOn(bench.site);
+        const std::size_t first = bench.site->calls.size();
+        bench.site->failure = [first, number](const std::string&, std::size_t at) {
+            return at == first + number ? std::optional(Error(1234, "the line is down"))
+                                        : std::nullopt;
+        };
+        return passedOn([&] { bench.tool.SetParamList(list, GetParam().hasUnits); });
+    }
+
+    /// The calls that loading the list takes.
+    template <class Bench> static Lines callsOfLoading(Bench& bench)
+    {
+        const ParamList list = listOn(bench.site);
+        bench.site->calls.clear();
+        bench.tool.SetParamList(list, GetParam().hasUnits);
+        return bench.site->calls;
+    }
+};
+
+} // namespace
+
+TEST_P(SelectionFailure, OfEachCallIsMetWhileLoading)
+{
+    ParamSelectBench bench;
+    EXPECT_EQ(sortedOnce(callsOfLoading(bench)), sortedOnce(GetParam().calls));
+}
+
+TEST_P(SelectionFailure, AtAnyCallReachesTheHostOfTheListAndLeavesTheOldRowsOnView)
+{
+    ParamSelectBench undisturbed;
+    const std::size_t count = callsOfLoading(undisturbed).size();
+    for (std::size_t number = 0; number < count; ++number) {
+        ParamSelectBench bench;
+        bench.filtered().list({kSo2, kOpacity});
+        EXPECT_EQ(loadFailingAt(bench, number), "1234, the line is down") << number;
+        EXPECT_EQ(visibleIndexes(bench.tool), (Indexes{0, 1, 2, 3})) << number;
+        EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 3) << number;
+        EXPECT_NO_THROW(view(bench.tool)) << number;
+    }
+}
+
+TEST_P(SelectionFailure, AtAnyCallReachesTheHostOfTheBoxesAndLeavesTheirEntries)
+{
+    SingleBench undisturbed;
+    undisturbed.filtered(false);
+    const std::size_t count = callsOfLoading(undisturbed).size();
+    for (std::size_t number = 0; number < count; ++number) {
+        SingleBench bench;
+        bench.filtered(false).list({kSo2});
+        EXPECT_EQ(loadFailingAt(bench, number), "1234, the line is down") << number;
+        EXPECT_EQ(bench.tool.cmbPID.List(), Lines{"SO2"}) << number;
+    }
+}
+
+TEST_P(SelectionFailure, IsOverWithTheNextList)
+{
+    ParamSelectBench bench;
+    loadFailingAt(bench, 3);
+    bench.site->failure = nullptr;
+    bench.list({kLoad});
+    EXPECT_EQ(view(bench.tool), (Lines{"-- GT2 --", "[ ] Load"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(, SelectionFailure, ::testing::ValuesIn(kListForms),
+                         [](const auto& test) { return std::string(test.param.what); });
+
+TEST(SelectionFailureOfTheData, LeavesTheRowsUpToItCounted)
+{
+    ParamSelectBench bench;
+    failAt(*bench.site, "DIParameters.Exists", 3);
+    EXPECT_EQ(passedOn([&] { bench.list(kFiveParameters); }), "440, the line is down");
+    EXPECT_EQ(bench.tool.Rows().Count(), 3) << "GT1, NOx, CO";
+}
+
+TEST(SelectionFailureOfTheData, HasNoEntryOfTheListLookedUpBeforeThoseAheadOfItHaveTheirRows)
+{
+    ParamSelectBench bench;
+    failAt(*bench.site, "DIStatusCodes.UnitName");
+    EXPECT_EQ(passedOn([&] { bench.list(kFiveParameters); }), "440, the line is down");
+    EXPECT_EQ(bench.site->countCalls("DIParameters.Exists"), 1U);
+}
+
+TEST(SelectionFailureOfTheData, IsThatOfAnAbsentObjectWhereTheDataHandsOutNone)
+{
+    ParamSelectBench bench;
+    const DIParameterList list = {nullptr};
+    EXPECT_EQ(passedOn([&] { bench.tool.SetParamList(list); }),
+              "91, Object variable or With block variable not set");
+    EXPECT_EQ(passedOn([&] { bench.tool.SetParamList(list, true); }),
+              "91, Object variable or With block variable not set");
+}
+
+TEST(SelectionFailureOfTheData, InNamingTheUnitsOfTheEntriesReachesTheHost)
+{
+    SingleBench bench;
+    bench.filtered().listWithUnits({kGT1, kNox, kGT2, kLoad});
+    for (const char* call : {"DIServer.StatusCodes", "DIStatusCodes.UnitName"}) {
+        failAt(*bench.site, call);
+        const std::string failure = "440, the line is down";
+        EXPECT_EQ(passedOn([&] { bench.tool.SetShowPIDNumber(true); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { bench.tool.SetShowUnpopulatedUnits(true); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { bench.tool.SetAllUnitsInCombo(true); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { bench.tool.cmbUnit.Pick(0); }), failure) << call;
+    }
+}
+
+} // namespace k7deval::test

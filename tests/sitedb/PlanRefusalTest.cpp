@@ -1,6 +1,8 @@
 #include "sitedb/PlanCase.h"
+#include "sitedb/PlanContent.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace k7deval::sitedb::test
 {
@@ -236,6 +238,39 @@ TEST(PlanRefusals, AnIdentifierOfAnotherGasIsNotGivenToTheNamelessAnalyzer)
     EXPECT_EQ(refusal(held, held.directory.write("plan.json", smallPlan()), {}),
               "plan.json: monitoringLocationData[0].componentData[1].componentId: component 010 of "
               "U1 measures another gas.");
+}
+
+/// Whether a plan was read or refused by a sentence; anything else fails the test that asks.
+bool isReadOrRefused(const nlohmann::json& plan)
+{
+    SourceFile file;
+    file.name = "plan.json";
+    file.content = plan.dump();
+    try {
+        return !readMonitoringPlan(file).locations.empty();
+    } catch (const ImportError& error) {
+        return error.description().starts_with("plan.json: ");
+    }
+}
+
+TEST(PlanRefusals, WhateverStandsInAFieldIsReadOrRefusedByASentence)
+{
+    const nlohmann::json values[] = {nullptr, "x", -1, 1e300, nlohmann::json::object()};
+    const auto plan = nlohmann::json::parse(smallPlan());
+    const auto leaves = plan.flatten();
+    for (const auto& leaf : leaves.items()) {
+        const nlohmann::json::json_pointer field(leaf.key());
+        for (const auto& value : values) {
+            auto changed = plan;
+            changed[field] = value;
+            EXPECT_TRUE(isReadOrRefused(changed)) << leaf.key() << " is " << value.dump();
+        }
+        if (plan[field.parent_pointer()].is_object()) {
+            auto changed = plan;
+            changed[field.parent_pointer()].erase(field.back());
+            EXPECT_TRUE(isReadOrRefused(changed)) << leaf.key() << " is missing";
+        }
+    }
 }
 
 TEST(PlanRefusals, ATwentiethUnitIsRefused)

@@ -3,16 +3,6 @@
 namespace k7deval::sitedb
 {
 
-namespace
-{
-
-sql::Value value(const std::optional<double>& number)
-{
-    return number ? sql::Value(*number) : sql::Value();
-}
-
-} // namespace
-
 CalibrationWriter::CalibrationWriter(sql::Connection& connection, const SourceFile& file)
     : file_(file), writer_(connection),
       find_(connection.prepare(
@@ -66,9 +56,9 @@ void CalibrationWriter::insert(const CalibratedScale& scale, const QaInjection& 
     insert_->run(
         std::string(kCalibrationTable), std::int64_t{scale.measured}, scale.scale,
         injection.runTime, std::int64_t{injection.gasLevelCode}, injection.gasLevelText,
-        value(injection.reference), value(injection.measured), injection.injectionEnd,
+        sql::orNull(injection.reference), sql::orNull(injection.measured), injection.injectionEnd,
         std::int64_t{injection.isOnline ? status::kOnlineCalibration : status::kOfflineCalibration},
-        value(scale.span), std::int64_t{scale.measured});
+        sql::orNull(scale.span), std::int64_t{scale.measured});
 }
 
 } // namespace k7deval::sitedb

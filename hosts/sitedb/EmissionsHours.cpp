@@ -1,6 +1,5 @@
 #include "sitedb/EmissionsHours.h"
 
-#include "sitedb/CsvTable.h"
 #include "sitedb/ImportSteps.h"
 #include "sitedb/TimeText.h"
 
@@ -13,34 +12,12 @@ namespace
 constexpr const char* kMonitorHours = "monitorHourlyValueData";
 constexpr const char* kMatsHours = "matsMonitorHourlyValueData";
 
-/// The fraction of the hour in which the unit ran.
-std::optional<double> operatingTime(const JsonNode& record)
-{
-    const JsonNode node = record.fieldOrNull("operatingTime");
-    const auto time = node.numberOrNull(kHighestHourlyValue);
-    if (time && (*time < 0 || *time > 1))
-        throw node.error(node.shown() + " lies outside 0 to 1");
-    return time;
-}
-
 std::string dayOf(const JsonNode& record)
 {
     const JsonNode node = record.field("date");
     if (!node.isText() || !dayNumber(node.text()))
         throw node.error(node.shown() + " is no date");
     return node.text();
-}
-
-/// A number; in the records of 40 CFR 63 Subpart UUUUU it is a text such as "1.44E-2".
-std::optional<double> unadjustedValue(const JsonNode& value)
-{
-    const JsonNode node = value.fieldOrNull("unadjustedHourlyValue");
-    if (!node.isText())
-        return node.numberOrNull(kHighestHourlyValue);
-    const auto number = plainNumber(node.text());
-    if (!number)
-        throw node.error(node.shown() + " is no number");
-    return number;
 }
 
 const Modc& modcOf(const JsonNode& value)
@@ -72,7 +49,7 @@ void EmissionsHours::take(const JsonNode& node)
     Unit& unit = unitOf(node);
     const std::string* day = &*days_.insert(dayOf(node)).first;
     const int hour = node.field("hour").whole(0, 23, "hour");
-    const auto time = operatingTime(node);
+    const auto time = node.fieldOrNull("operatingTime").numberOrNull(0, 1);
     const Record record{unit, day, hour, time && *time == 0, node.path()};
     add(operatingTimePID(unit.number), {day, hour, operatingWord(time), time},
         "the operating time of " + unit.name, record.path);
@@ -105,10 +82,7 @@ EmissionsHours::Unit& EmissionsHours::unitOf(const JsonNode& record)
 
 void EmissionsHours::takeLoad(const Record& record, const JsonNode& node)
 {
-    const JsonNode load = node.fieldOrNull("hourLoad");
-    const auto value = load.numberOrNull(kHighestLoad);
-    if (value && *value < 0)
-        throw load.error(load.shown() + " lies outside 0 to " + numberText(kHighestLoad));
+    const auto value = node.fieldOrNull("hourLoad").numberOrNull(0, kHighestLoad);
     if (!value || record.isOffline)
         return;
     const std::string units = node.fieldOrNull("loadUnitsOfMeasureCode").textOrNull();
@@ -143,9 +117,11 @@ void EmissionsHours::takeValue(const Record& record, const JsonNode& value, cons
         return;
     }
     const Modc& modc = modcOf(value);
+    // In the records of 40 CFR 63 Subpart UUUUU a value is a text.
+    const auto number = value.fieldOrNull("unadjustedHourlyValue")
+                            .numberInTextOrNull(-kHighestHourlyValue, kHighestHourlyValue);
     const UnnamedHour hour{record.day, record.hour,
-                           record.isOffline ? status::kUnitOffline : statusWord(modc),
-                           unadjustedValue(value)};
+                           record.isOffline ? status::kUnitOffline : statusWord(modc), number};
     if (value.fieldOrNull("componentId").isNull())
         record.unit.unnamed[gas].push_back(hour);
     else

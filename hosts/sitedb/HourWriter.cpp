@@ -25,8 +25,8 @@ HourWriter::Outcome HourWriter::add(PID pid, const SiteHour& hour)
     HoursOfDay& hours = inFile_[pid][hour.day];
     if ((hours & bitOf(hour.hour)) != 0)
         return Outcome::TwiceInFile;
-    insert_->with(std::int64_t{pid}, hour.day, std::int64_t{hour.hour},
-                  hour.value ? sql::Value(*hour.value) : sql::Value(), std::int64_t{hour.word});
+    insert_->with(std::int64_t{pid}, hour.day, std::int64_t{hour.hour}, sql::orNull(hour.value),
+                  std::int64_t{hour.word});
     const bool isNew = insert_->step();
     insert_->reset();
     if (!isNew)

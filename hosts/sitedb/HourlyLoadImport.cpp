@@ -54,7 +54,7 @@ ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
     sql::Transaction transaction(connection);
     SiteWriter writer(connection);
     writer.checkIsNew(file);
-    const std::int32_t unit = namedUnit(writer, file, options.unit, "load");
+    const std::int32_t unit = namedUnit(writer, file, options.unit, "load belongs");
     writer.addLoad(unit);
     writer.addOperatingTime(unit);
     LoadImporter importer(table, file, connection, unit);

@@ -53,7 +53,7 @@ std::int32_t namedUnit(SiteWriter& writer, const SourceFile& file, const std::st
                        const std::string& what)
 {
     if (name.empty())
-        throw file.error("unit", "the unit that the " + what + " belongs to has to be named");
+        throw file.error("unit", "the unit that the " + what + " to has to be named");
     const std::string fault = identifierFault(name, kUnitIdentifierLength);
     if (!fault.empty())
         throw file.error("unit", fault);

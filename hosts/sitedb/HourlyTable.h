@@ -39,7 +39,7 @@ private:
 std::vector<std::string> otherColumns(const CsvTable& table, const std::set<std::string>& used);
 
 /// The number of the unit that the options name, made when the site does not have it; what belongs
-/// to it is named as "load". Raises ImportError when none is named or none can be made.
+/// to it is told as "load belongs". Raises ImportError when none is named or none can be made.
 std::int32_t namedUnit(SiteWriter& writer, const SourceFile& file, const std::string& name,
                        const std::string& what);
 

@@ -5,7 +5,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <cmath>
 
 namespace k7deval::sitedb
 {
@@ -156,7 +155,21 @@ std::optional<double> JsonNode::numberOrNull(double lowest, double highest) cons
         return std::nullopt;
     if (!value_->is_number())
         throw error(shown() + " is no number");
-    const auto number = value_->get<double>();
+    return inLimits(value_->get<double>(), lowest, highest);
+}
+
+std::optional<double> JsonNode::numberInTextOrNull(double lowest, double highest) const
+{
+    if (!isText())
+        return numberOrNull(lowest, highest);
+    const auto number = plainNumber(text());
+    if (!number)
+        throw error(shown() + " is no number");
+    return inLimits(*number, lowest, highest);
+}
+
+double JsonNode::inLimits(double number, double lowest, double highest) const
+{
     if (number < lowest || number > highest)
         throw error(shown() + " lies outside " + numberText(lowest) + " to " + numberText(highest));
     return number;

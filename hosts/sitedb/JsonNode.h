@@ -54,6 +54,8 @@ public:
     [[nodiscard]] std::optional<double> numberOrNull(double limit) const;
     /// A number from lowest to highest, or nothing for null.
     [[nodiscard]] std::optional<double> numberOrNull(double lowest, double highest) const;
+    /// The same for a number that may also stand there as a text, such as "1.44E-2".
+    [[nodiscard]] std::optional<double> numberInTextOrNull(double lowest, double highest) const;
     /// A whole number from lowest to highest; what names it in the sentence: "hour".
     [[nodiscard]] int whole(int lowest, int highest, std::string_view what) const;
 
@@ -65,6 +67,7 @@ public:
 private:
     JsonNode(const SourceFile& file, std::shared_ptr<const nlohmann::json> root,
              const nlohmann::json& value, std::string path);
+    [[nodiscard]] double inLimits(double number, double lowest, double highest) const;
     [[nodiscard]] JsonNode child(const nlohmann::json& value, std::string path) const;
 
     const SourceFile* file_;

@@ -41,7 +41,7 @@ public:
     MonitorHourlyImporter(const CsvTable& table, const SourceFile& file,
                           sql::Connection& connection, const ImportOptions& options)
         : table_(table), hours_(table, file, connection), writer_(connection), options_(options),
-          unit_(namedUnit(writer_, file, options.unit, "hours")),
+          unit_(namedUnit(writer_, file, options.unit, "hours belong")),
           parameter_(table.column("parameter")), modc_(table.column("modc")),
           value_(table.column(isMats(table) ? kMatsValueColumn : kValueColumn))
     {

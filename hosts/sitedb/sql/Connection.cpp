@@ -20,6 +20,14 @@ template <class Type> Type expect(Value value, const char* what)
 
 } // namespace
 
+Value orNull(const std::optional<double>& number)
+{
+    Value value;
+    if (number)
+        value = *number;
+    return value;
+}
+
 bool Statement::isNull(int index) const
 {
     return std::holds_alternative<std::monostate>(column(index));

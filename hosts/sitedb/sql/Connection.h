@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -14,6 +15,9 @@ namespace k7deval::sitedb::sql
 
 /// A parameter or a column: NULL, a whole number, a number, or UTF-8 text.
 using Value = std::variant<std::monostate, std::int64_t, double, std::string>;
+
+/// A number, or NULL for nothing.
+Value orNull(const std::optional<double>& number);
 
 /// What the engine wants said its own way when a table is made.
 struct Dialect {

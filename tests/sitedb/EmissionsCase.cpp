@@ -1,0 +1,72 @@
+#include "sitedb/EmissionsCase.h"
+
+#include "sitedb/CsvTable.h"
+#include "sitedb/SiteQueries.h"
+#include "sitedb/sql/Connection.h"
+
+namespace k7deval::sitedb::test
+{
+
+using nlohmann::json;
+
+std::string smallEmissions()
+{
+    return readFile(std::filesystem::path(K7DEVAL_SOURCE_DIR) / "tests" / "sitedb" / "data" /
+                    "ecmps_emissions_small.json");
+}
+
+std::string patchedEmissions(const std::string& operation, const std::string& path,
+                             const std::string& value)
+{
+    json step{{"op", operation}, {"path", path}};
+    if (!value.empty())
+        step["value"] = json::parse(value);
+    return json::parse(smallEmissions()).patch(json::array({step})).dump(1);
+}
+
+json emissionsHour(const std::string& day, int hour, double value)
+{
+    return {{"unitId", "U1"},
+            {"date", day},
+            {"hour", hour},
+            {"operatingTime", 1},
+            {"monitorHourlyValueData",
+             {{{"parameterCode", "NOXC"},
+               {"unadjustedHourlyValue", value},
+               {"modcCode", "01"},
+               {"componentId", "010"}}}}};
+}
+
+std::string emissionsOf(const std::vector<json>& hours)
+{
+    return json{{"orisCode", 54}, {"year", 2021}, {"quarter", 1}, {"hourlyOperatingData", hours}}
+        .dump();
+}
+
+ImportReport importEmissions(EmptySite& held, const std::string& text, const ImportOptions& options)
+{
+    return importFile(held.site, held.directory.write("emissions.json", text), options);
+}
+
+std::vector<std::string> hoursFrom(const SiteDatabase& site, PID pid, Date start,
+                                   std::int32_t count)
+{
+    DIDataSet set;
+    set.Init(start, count, "h", 1, 0);
+    parameter(site, pid)->ReadData(set);
+    std::vector<std::string> texts;
+    for (std::int32_t index = 1; index <= count; ++index) {
+        const auto value = set.ItemByIndex(index).Value();
+        texts.push_back((isNull(value) ? "-" : numberText(std::get<double>(value))) + "/" +
+                        std::to_string(set.ItemByIndex(index).Status()));
+    }
+    return texts;
+}
+
+std::int64_t count(const SiteDatabase& site, const std::string& query)
+{
+    const auto row = site.connection().prepare(query);
+    return row->step() ? row->integer(0) : -1;
+}
+
+} // namespace k7deval::sitedb::test

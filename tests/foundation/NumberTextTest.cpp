@@ -114,6 +114,7 @@ TEST(FormatNumber, AValueThatIsNotFiniteIsAnOverflow)
         EXPECT_EQ(errorOf([&] { return formatOf(value, "0.0"); }), errors::kOverflow);
         EXPECT_EQ(errorOf([&] { return GeneralNumber(value, kUs); }), errors::kOverflow);
         EXPECT_EQ(errorOf([&] { return roundTrip(value, 4); }), errors::kOverflow);
+        EXPECT_EQ(errorOf([&] { return roundTripToDouble(value, 4); }), errors::kOverflow);
     }
 }
 
@@ -171,6 +172,16 @@ TEST(RoundTrip, AResultOfZeroBearsNoSign)
     EXPECT_FALSE(std::signbit(roundTrip(-0.00004F, 4)));
     EXPECT_FALSE(std::signbit(roundTrip(-0.0F, 4)));
     EXPECT_EQ(roundTrip(-0.00004F, 4), 0.0F);
+}
+
+TEST(RoundTrip, ReadBackAsADoubleIsTheDecimalItself)
+{
+    EXPECT_EQ(roundTripToDouble(0.05F, 6), 0.05);
+    EXPECT_EQ(roundTripToDouble(-12.34565F, 4), -12.3457);
+    EXPECT_EQ(roundTripToDouble(-1.00002F, 6), -1.00002);
+    EXPECT_EQ(roundTripToDouble(16777216.0F, 6), 16777220.0);
+    EXPECT_FALSE(std::signbit(roundTripToDouble(-0.0000004F, 6)));
+    EXPECT_EQ(roundTripToDouble(kLargest, 6), 3.402823e38) << "beyond no double";
 }
 
 TEST(ToSingle, IsRoundedFromTheDoubleNextToTheText)

@@ -1,3 +1,4 @@
+#include "examples/Host.h"
 #include "foundation/Clock.h"
 #include "sevenday/ctrl7Day.h"
 #include "sitedb/SiteDatabase.h"
@@ -5,6 +6,8 @@
 #include <iostream>
 
 using namespace k7deval;
+using example::Dialogs;
+using example::type;
 
 namespace
 {
@@ -17,43 +20,6 @@ public:
         std::cerr << text << '\n';
     }
 };
-
-/// A host that saves to one file and has no calendar and no viewer.
-class Dialogs : public screen::Services
-{
-public:
-    explicit Dialogs(std::string path) : path_(std::move(path)) {}
-
-    std::optional<screen::SaveAnswer> ShowSave(const std::string& /*filter*/,
-                                               const std::string& /*defaultExtension*/) override
-    {
-        return screen::SaveAnswer{path_, 1};
-    }
-    screen::MsgBoxAnswer MsgBox(const screen::MsgBoxRequest& request) override
-    {
-        std::cout << request.prompt << '\n';
-        return screen::MsgBoxAnswer::Yes;
-    }
-    std::optional<Date> PickDate(const std::string& /*title*/, Date /*date*/, std::int32_t,
-                                 std::int32_t, std::int32_t) override
-    {
-        return std::nullopt;
-    }
-    void OpenDocument(const std::string& path, std::int32_t, std::int32_t /*ownerWindow*/,
-                      std::int32_t, std::int32_t /*showCommand*/) override
-    {
-        std::cout << "Saved " << path << '\n';
-    }
-
-private:
-    std::string path_;
-};
-
-void type(screen::TextBox& field, const std::string& text)
-{
-    field.Type(text);
-    field.Leave();
-}
 
 void evaluate(const std::string& siteFile, const std::string& reportFile)
 {
@@ -79,15 +45,5 @@ void evaluate(const std::string& siteFile, const std::string& reportFile)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::cerr << "Usage: drift_host SITE REPORT\n";
-        return 2;
-    }
-    try {
-        evaluate(argv[1], argv[2]);
-    } catch (const std::exception& failure) {
-        std::cerr << failure.what() << '\n';
-        return 2;
-    }
-    return 0;
+    return example::run(argc, argv, evaluate);
 }

@@ -10,12 +10,17 @@
 namespace k7deval::cli::test
 {
 
+Date timeOfRuns()
+{
+    return makeDate(2021, 5, 20, 12);
+}
+
 CommandRun run(const Arguments& arguments)
 {
     std::vector<const char*> argv{"k7deval"};
     for (const auto& argument : arguments)
         argv.push_back(argument.c_str());
-    const k7deval::test::FixedClock clock(makeDate(2021, 5, 20, 12));
+    const k7deval::test::FixedClock clock(timeOfRuns());
     std::ostringstream out;
     std::ostringstream notes;
     CommandRun result;
@@ -28,7 +33,12 @@ CommandRun run(const Arguments& arguments)
 
 nlohmann::json driftAsJson(const Arguments& arguments)
 {
-    const CommandRun printed = run(Arguments{"drift", "--json"} + arguments);
+    return printedAsJson("drift", arguments);
+}
+
+nlohmann::json printedAsJson(const std::string& command, const Arguments& arguments)
+{
+    const CommandRun printed = run(Arguments{command, "--json"} + arguments);
     auto document = nlohmann::json::parse(printed.out, nullptr, false);
     EXPECT_FALSE(document.is_discarded()) << printed.out << printed.notes;
     return document;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Date.h"
+
 #include <nlohmann/json.hpp>
 
 #include <string>
@@ -19,6 +21,12 @@ struct CommandRun {
 
 /// Runs the program in this process, at noon of 2021-05-20.
 CommandRun run(const Arguments& arguments);
+
+/// The clock of these runs.
+Date timeOfRuns();
+
+/// Runs a command with --json and reads what it printed; fails the test when it is no JSON.
+nlohmann::json printedAsJson(const std::string& command, const Arguments& arguments);
 
 /// Runs a `drift` with --json and reads what it printed; fails the test when it is no JSON.
 nlohmann::json driftAsJson(const Arguments& arguments);

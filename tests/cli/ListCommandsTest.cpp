@@ -62,7 +62,8 @@ TEST(ListCommands, TellTheLinesThatTheScreenPosts)
 
 TEST(ListCommands, ExplainThemselves)
 {
-    for (const char* command : {"import", "units", "analyzers", "drift", "round"}) {
+    for (const char* command :
+         {"import", "units", "analyzers", "drift", "load", "ranges", "range", "round"}) {
         SCOPED_TRACE(command);
         EXPECT_NE(run({"--help"}).out.find(command), std::string::npos);
         const CommandRun help = run({command, "--help"});

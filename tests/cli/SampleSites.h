@@ -6,13 +6,16 @@
 #include <string>
 #include <vector>
 
-/// Sites made from the files of the Bethpage sample by the program's own import, once for all tests
+/// Sites made from the files of the samples by the program's own import, once for all tests
 /// of a run. Tests that change a site take a copy.
 namespace k7deval::cli::test
 {
 
 /// A file of the sample.
 std::string sampleFile(const std::string& name);
+
+/// A file of data/: "crystal-river/spans.csv".
+std::string dataFile(const std::string& name);
 
 /// A site with a facility name and nothing else.
 const std::string& emptySite();
@@ -22,6 +25,16 @@ const std::string& siteOfSpans();
 const std::string& siteOfTests();
 /// All that the sample holds.
 const std::string& fullSite();
+
+/// A unit U1 with ten hours of load at the end of March 2021, on the bounds of bins and levels
+/// from 10 to 110 MW and beside them, and an hour off line.
+const std::string& siteOfLoad();
+/// A unit U1 with SO2 on two scales and O2, and twelve hours of SO2 at the end of March 2021, on
+/// the bounds of bins and levels up to 100 ppm and beside them: one replaced by 200 %, one missing,
+/// one left out of evaluations. A unit U2 with NOX on one scale.
+const std::string& siteOfGas();
+/// Units and spans of Crystal River, and mercury of unit 4 in the third quarter of 2021.
+const std::string& siteOfRanges();
 
 /// A copy of a site in a folder, after some SQL commands: for what no importer makes.
 std::string alteredSite(const std::string& site, const k7deval::testing::TemporaryFolder& folder,

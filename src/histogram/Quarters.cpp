@@ -1,5 +1,6 @@
 #include "histogram/Quarters.h"
 
+#include "foundation/Error.h"
 #include "foundation/NumberText.h"
 #include "foundation/UtilityFunctions.h"
 
@@ -45,15 +46,23 @@ void select(screen::ComboBox& list, const std::string& text)
         list.SetListIndex(static_cast<std::int32_t>(found - entries.begin()));
 }
 
+/// The number in a text; nothing for one that no double holds, too.
+std::optional<double> numberIn(const std::string& text, const RegionalSettings& regional)
+{
+    try {
+        return ToDouble(text, regional);
+    } catch (const Error&) {
+        return std::nullopt;
+    }
+}
+
 /// The year in a text; nothing for any text but a whole number from 100 to 9999.
 std::optional<int> yearIn(const std::string& text, const RegionalSettings& regional)
 {
-    if (!IsNumeric(text, regional))
+    const auto number = numberIn(text, regional);
+    if (!number || *number != std::floor(*number) || *number < kFirstYear || *number > kLastYear)
         return std::nullopt;
-    const double number = ToDouble(text, regional);
-    if (number != std::floor(number) || number < kFirstYear || number > kLastYear)
-        return std::nullopt;
-    return static_cast<int>(number);
+    return static_cast<int>(*number);
 }
 
 int selectedYear(screen::ComboBox& cmbYear, const screen::Surroundings& surroundings)

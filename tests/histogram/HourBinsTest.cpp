@@ -182,6 +182,16 @@ TEST(Bins, EndAtTheirEdges)
               std::numeric_limits<float>::max());
 }
 
+TEST(Thresholds, AreKeptToSixDecimals)
+{
+    EXPECT_EQ(histogram::sixDecimals(80.0, {}), 80.0F);
+    EXPECT_EQ(histogram::sixDecimals(33.3F * 0.8, {}), 26.639999F) << "26.6399993896484";
+    EXPECT_EQ(histogram::sixDecimals(0.0000005, {}), 0.000001F) << "halves away from zero";
+    EXPECT_EQ(histogram::sixDecimals(-0.0000005, {}), -0.000001F);
+    EXPECT_EQ(histogram::sixDecimals(0.00000049, {}), 0.0F);
+    EXPECT_EQ(histogram::sixDecimals(12.5F * 0.2, regionalSettings("de-DE")), 2.5F);
+}
+
 TEST(Bins, ThePeakIsTheFullestOfTheTwenty)
 {
     histogram::HourBins bins{};

@@ -170,6 +170,7 @@ constexpr YearCase kYears[] = {
     {"-2020", 2026, "2026"}, {"2020.5", 2026, "2026"},
     {"2020a", 2026, "2026"}, {"20 20", 2026, "2026"},
     {"99.9", 2026, "2026"},  {"99999999999999999999", 2026, "2026"},
+    {"1E400", 2026, "2026"},
 };
 
 TEST(SelectedQuarter, AYearThatIsNoneIsReplacedByThePresentOne)

@@ -45,7 +45,7 @@ TEST(ImportProgressLine, OnATerminalRewritesOneLineAndTakesItAway)
         EXPECT_EQ(held.notes.str(), "\re.json: 3 % of 300 MB, 1 hour   ");
         held.notes.str("");
     }
-    EXPECT_EQ(held.notes.str(), "\r" + std::string(31, ' ') + "\r");
+    EXPECT_EQ(held.notes.str(), "\r" + std::string(29, ' ') + "\r");
     EXPECT_EQ(held.out.str(), "");
 }
 

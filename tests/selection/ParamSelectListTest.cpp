@@ -117,7 +117,7 @@ TEST(ParamSelectList, AListWithUnitsGetsNoHeadersButItsOwn)
     bench.listWithUnits({kNox, kGT2, kLoad, kGT1});
     EXPECT_EQ(rowsOf(bench.tool), (Rows{parameterRow(kNox, "NOx"), unitRow(kGT2, "GT2"),
                                         parameterRow(kLoad, "Load"), unitRow(kGT1, "GT1")}));
-    EXPECT_EQ(bench.site->countCalls("DIStatusCodes.UnitName"), 0U);
+    EXPECT_EQ(bench.site->countCalls("DIServer.StatusCodes"), 0U);
 }
 
 TEST(ParamSelectList, ACollectionWithUnitsGetsNoHeadersButItsOwn)

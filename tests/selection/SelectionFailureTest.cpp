@@ -14,11 +14,18 @@ namespace k7deval::test
 namespace
 {
 
-const Lines kCallsForPIDs = {
-    "DIParameter.Name",  "DIParameter.PID",     "DIParameter.ParamType", "DIParameters.Exists",
-    "DIParameters.Item", "DIServer.Parameters", "DIServer.StatusCodes",  "DIStatusCodes.UnitName"};
+const Lines kCallsForPIDs = {"DIParameter.Name",
+                             "DIParameter.PID",
+                             "DIParameter.ParamType",
+                             "DIParameters.Exists",
+                             "DIParameters.Item",
+                             "DIServer.Parameters",
+                             "DIServer.StatusCodes",
+                             "DIStatusCodes.UnitName(100100000)",
+                             "DIStatusCodes.UnitName(260207500)"};
 
-/// A form of list, and the members of the data that it needs.
+/// A form of list, and the members of the data that it needs. A unit is named for the entry that
+/// opens it, and by that one's PID.
 struct ListForm {
     const char* what;
     bool isCollection;
@@ -42,7 +49,7 @@ const ListForm kListForms[] = {
      true,
      false,
      {"DIParameter.Name", "DIParameter.PID", "DIParameter.ParamType", "DIServer.StatusCodes",
-      "DIStatusCodes.UnitName"}},
+      "DIStatusCodes.UnitName(100100000)", "DIStatusCodes.UnitName(260207500)"}},
     {"ParametersWithUnits",
      true,
      true,
@@ -159,7 +166,7 @@ TEST(SelectionFailureOfTheData, LeavesTheRowsUpToItCounted)
 TEST(SelectionFailureOfTheData, HasNoEntryOfTheListLookedUpBeforeThoseAheadOfItHaveTheirRows)
 {
     ParamSelectBench bench;
-    failAt(*bench.site, "DIStatusCodes.UnitName");
+    failAt(*bench.site, "DIStatusCodes.UnitName(110007500)");
     EXPECT_EQ(passedOn([&] { bench.list(kFiveParameters); }), "440, the line is down");
     EXPECT_EQ(bench.site->countCalls("DIParameters.Exists"), 1U);
 }
@@ -178,7 +185,7 @@ TEST(SelectionFailureOfTheData, InNamingTheUnitsOfTheEntriesReachesTheHost)
 {
     SingleBench bench;
     bench.filtered().listWithUnits({kGT1, kNox, kGT2, kLoad});
-    for (const char* call : {"DIServer.StatusCodes", "DIStatusCodes.UnitName"}) {
+    for (const char* call : {"DIServer.StatusCodes", "DIStatusCodes.UnitName(260207500)"}) {
         failAt(*bench.site, call);
         const std::string failure = "440, the line is down";
         EXPECT_EQ(passedOn([&] { bench.tool.SetShowPIDNumber(true); }), failure) << call;

@@ -276,7 +276,7 @@ public:
     bool IsUnitOffline(std::int32_t status) override { return site_->meaningOf(status).offline; }
     std::string UnitName(PID pid) override
     {
-        site_->noteCall("DIStatusCodes.UnitName");
+        site_->noteCall(called("DIStatusCodes.UnitName", pid));
         return site_->parameter(UnitPID(pid)).name;
     }
 

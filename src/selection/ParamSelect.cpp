@@ -260,7 +260,7 @@ std::string ParamSelect::headerText(const std::string& unit) const
     // No dash is thinner than a twip; a measure that does not grow with the text would never end.
     for (float dashes = 0; dashes < width && jgexGrid.TextWidth(" --" + text + "-- ") < width;
          dashes += 4)
-        text = "--" + text + "--";
+        text.insert(0, "--").append("--");
     return text;
 }
 

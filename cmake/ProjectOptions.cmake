@@ -3,6 +3,8 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# The Python module takes the libraries into a shared object.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 option(K7DEVAL_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 

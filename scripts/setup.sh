@@ -4,10 +4,11 @@
 build_packages=(
     ca-certificates cmake ninja-build g++ ccache
     libpugixml-dev libhpdf-dev libsqlite3-dev zlib1g-dev nlohmann-json3-dev libcli11-dev
-    fonts-dejavu-core
+    fonts-dejavu-core pybind11-dev python3-dev
 )
 test_packages=(
-    clang-format clang-tidy git libgtest-dev libgmock-dev librapidcheck-dev poppler-utils python3 qpdf
+    clang-format clang-tidy git libgtest-dev libgmock-dev librapidcheck-dev poppler-utils python3 python3-numpy
+    python3-pytest qpdf
 )
 
 # need PACKAGE...: installs those that are missing.

@@ -20,6 +20,8 @@ class DIDataPoint
 public:
     DIDataPoint(DIDataSet& set, std::size_t slot) : set_(&set), slot_(slot) {}
 
+    /// Its position in the set, from 1.
+    [[nodiscard]] std::int32_t Index() const { return static_cast<std::int32_t>(slot_) + 1; }
     [[nodiscard]] Variant Value() const;
     [[nodiscard]] std::int32_t Status() const;
     void SetValue(double value);

@@ -44,6 +44,8 @@ public:
     /// Moves the widget without changing its size.
     void Move(float left, float top);
 
+    /// What the widget lies in; nothing for a screen of its own.
+    [[nodiscard]] Container* Parent() const { return parent_; }
     /// Whether a user can act on it: it and all that it lies in are visible and enabled.
     [[nodiscard]] bool isReachable() const;
 

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <utility>
+#include <variant>
 
 namespace k7deval::python
 {
@@ -31,7 +32,10 @@ py::object rounded(const py::object& value, Int32 digits, const HostState& state
 {
     if (PyLong_Check(value.ptr()) != 0 && PyBool_Check(value.ptr()) == 0 && !readInt32(value))
         throw Error(errors::kOverflow);
-    return pythonValue(RoundNumber(variantOf(value), digits, *state.regional));
+    const Variant result = RoundNumber(variantOf(value), digits, *state.regional);
+    if (const auto* truth = std::get_if<bool>(&result))
+        return py::int_(*truth ? -1 : 0);
+    return pythonValue(result);
 }
 
 } // namespace

@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Values, LateConstant,
                                          PointCase{"a numeric text", std::string("7.5"), 7.5},
                                          PointCase{"Null", Null{}, Null{}},
                                          PointCase{"a word", std::string("off"), Null{}}),
-                         [](const auto& info) { return "Case" + std::to_string(info.index); });
+                         [](const auto& test) { return "Case" + std::to_string(test.index); });
 
 TEST(LateParameters, LookParametersUpByPID)
 {

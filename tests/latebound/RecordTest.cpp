@@ -61,17 +61,27 @@ TEST(LateRecordStore, PassesTheQueryInTheOrderOfTheDataInterface)
     });
     RecordStore records(wrapped(store));
 
-    const DIRecordList found = records.ReadRangeRecords(
-        {.siteKey = "SITE", .start = kRun, .end = kRun, .pid = 5, .scale = "LOW", .tables = "A,B"});
-    EXPECT_TRUE(records.ReadRecords({.siteKey = "SITE", .pid = 5, .table = "A"}).empty());
+    RangeRecordQuery range;
+    range.siteKey = "SITE";
+    range.start = kRun;
+    range.end = kRun;
+    range.pid = 5;
+    range.scale = "LOW";
+    range.tables = "A,B";
+    const DIRecordList found = records.ReadRangeRecords(range);
+    RecordQuery table;
+    table.siteKey = "SITE";
+    table.pid = 5;
+    table.table = "A";
+    EXPECT_TRUE(records.ReadRecords(table).empty());
 
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0]->Scale(), "LOW");
     EXPECT_THAT(store->calls,
                 ElementsAre("ReadRangeRecords('SITE', 0, 5/16/2018 6:30:00 AM, 5/16/2018 6:30:00 "
                             "AM, '', 5, 0, '', 'LOW', '', 'A,B', 0, 0, 1)",
-                            "ReadRecords('SITE', 0, 12:00:00 AM, 12:00:00 AM, '', 0, 5, '', '', "
-                            "'', 'A')"));
+                            "ReadRecords('SITE', 0, 12/30/1899 12:00:00 AM, 12/30/1899 12:00:00 "
+                            "AM, '', 0, 5, '', '', '', 'A')"));
 }
 
 TEST(LateRecordStore, WithoutACollectionIsAnAbsentObject)

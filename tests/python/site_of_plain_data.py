@@ -7,8 +7,8 @@ import datetime as dt
 import k7deval
 
 UNIT = k7deval.MakePID(1, 1, 0, 0, 0)
-LOAD = k7deval.MakePID(1, 300, 0, 75, 0)
-CAPACITY = k7deval.MakePID(1, 300, 0, 0, 0)
+LOAD = k7deval.MakePID(1, 602, 0, 75, 0)
+CAPACITY = k7deval.MakePID(1, 602, 0, 0, 0)
 OPERATING_TIME = k7deval.MakePID(1, 7, 0, 75, 0)
 NOX = k7deval.MakePID(1, 120, 0, 75, 0)
 NOX_CAL = k7deval.MakePID(1, 120, 1, 75, 0)

@@ -102,7 +102,7 @@ def test_a_widget_of_a_page_keeps_the_whole_tool():
     kept = box()
     gc.collect()
     kept.Pick(0)
-    assert kept.Text == "NOX"
+    assert kept.Text == "NOX/H"
 
 
 def test_a_control_keeps_the_objects_of_its_host():

@@ -34,7 +34,7 @@ def test_hours_fall_into_bands_and_bins(tool):
     assert (tool.LowThreshold, tool.HighThreshold, tool.RangeValue) == (10.0, 40.0, 50.0)
     assert sum(tool.Bins) == 5 and len(tool.Bins) == 21
     assert not tool.NeedsEvaluation
-    assert tool.lblOverRange.Caption == "Hours over Range: 1"
+    assert tool.lblOverRange.Caption == "Hours over Range:  1"
 
 
 def test_limits_take_part_when_they_are_checked(tool):

@@ -36,7 +36,7 @@ def test_a_text_is_measured(page, raises_error):
     assert (item.Font, item.Size) == (5, 10.0)
     width = item.Width
     item.Font, item.Size = 6, 20
-    assert item.Width > 2 * width and item.Height > 20
+    assert item.Width > 2 * width and item.Height > 15
     item.X, item.Y, item.Orientation, item.Text = 36.1, 49.1, 2, "BBB"
     assert (item.X, item.Y, item.Orientation, item.Text) == (
         numpy.float32(36.1),

@@ -8,6 +8,7 @@ import pytest
 from site_of_plain_data import UNIT_TYPE, Parameter, Site
 
 UNITS = [k7deval.UnitPID(1), k7deval.UnitPID(2)]
+HEADERS = [100000000, 200000000]
 PIDS = [k7deval.MakePID(unit, code, 0, 75, 0) for unit, code in ((1, 120), (1, 300), (2, 120))]
 
 
@@ -42,7 +43,7 @@ def control(site):
 )
 def test_pids_come_in_any_sequence_of_integers(control, form):
     control.SetParamList(form(PIDS))
-    assert control.RowPIDs == [UNITS[0], PIDS[0], PIDS[1], UNITS[1], PIDS[2]]
+    assert control.RowPIDs == [HEADERS[0], PIDS[0], PIDS[1], HEADERS[1], PIDS[2]]
     assert control.RowNames == ["GT1", "NOX", "Load", "GT2", "NOX"]
     assert control.RowIsUnit == [True, False, False, True, False]
     assert control.RowSelected == [False] * 5
@@ -155,7 +156,7 @@ def test_one_parameter_is_picked(site, raises_error):
     assert control.cmbPID.List == ["GT1 NOX", "GT1 Load", "GT2 NOX"]
     control.cmbPID.Pick(1)
     assert control.GetSelection() == PIDS[1]
-    assert (control.RowCount, control.RowPIDs[0]) == (5, UNITS[0])
+    assert (control.RowCount, control.RowPIDs[0]) == (5, HEADERS[0])
     control.Resize(3000, 825)
     assert control.cmbUnit.Width == 3000
 

@@ -71,8 +71,8 @@ def test_a_question_is_answered_by_the_host(tmp_path, answer, is_kept):
     services.MsgBox = lambda *question: asked.append(question) or answer
     text = overwritten(tmp_path, services)
     assert (text == "old") is is_kept
-    assert asked[0][2:] == ("YesNo", asked[0][3])
-    assert asked[0][1] == "7-Day Drift"
+    assert asked[0][2] == "YesNo"
+    assert asked[0][1] == "Delete Existing File?"
 
 
 def test_a_missing_message_box_is_the_careful_answer(tmp_path):

@@ -5,7 +5,7 @@ import xml.etree.ElementTree as xml
 
 import k7deval
 import pytest
-from site_of_plain_data import NOX_CAL, UNIT, Dialogs, Messages, drift_site
+from site_of_plain_data import NOX, UNIT, Dialogs, Messages, drift_site
 
 FIRST = dt.datetime(2024, 3, 4)
 
@@ -38,11 +38,8 @@ def test_the_first_page_offers_what_the_host_has():
     page = tool_on(drift_site())[0].ctrl7DaySetUp1
     assert page.cmbUnit.List == ["GT1"] and page.cmbUnit.ItemData == [UNIT]
     assert page.cmbUnit.Text == "GT1"
-    assert (page.AnalyzedPID, page.AnalyzedScale, page.AnalyzedPrecision) == (
-        page.AnalyzedPID,
-        "HIGH",
-        "0.0",
-    )
+    assert (page.AnalyzedPID, page.AnalyzedScale) == (NOX, "HIGH")
+    assert page.AnalyzedPrecision == "0.0"
     assert page.LimitRules == k7deval.CalLimitRulesEnum.CalLimitRules_PercentOfSpanAndAbsoluteAPS
     assert isinstance(page.LimitRules, k7deval.CalLimitRulesEnum)
     assert (page.StartDate, page.EndDate) == (FIRST, FIRST + dt.timedelta(days=6))
@@ -62,7 +59,7 @@ def test_the_state_of_the_test_is_there_to_be_read(evaluated):
     assert evaluated.lngLimitRule == 2
     assert evaluated.sngPercentOfSpanLimit == 2.5
     assert not evaluated.blnSixOfSeven and evaluated.blnUseZeroCals
-    assert not evaluated.blnRetrieveCals and not evaluated.blnApplyLimits
+    assert not evaluated.blnRetrieveCals
     assert evaluated.lngUndeterminedDays == 0
     assert list(evaluated.dictCals) == [f"2024/03/{day:02} 06:00" for day in range(4, 11)]
     assert list(evaluated.dictDays) == [f"2024/03/{day:02}" for day in range(4, 11)]
@@ -174,7 +171,7 @@ def test_pages_can_stand_alone():
     page = k7deval.ctrl7DaySetUp()
     page.Setup(None, drift_site())
     page.cmbAnalyzer.Pick(0)
-    assert page.AnalyzedPID == page.AnalyzedPID
+    assert page.AnalyzedPID == NOX
     page.StackID = "GT9"
     page.OrisCode = 7
     page.TestNumber = "T1"

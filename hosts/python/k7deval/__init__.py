@@ -10,3 +10,7 @@ from ._values import DI1Params, Empty, EmptyType, Error, NoDate, Single
 
 __all__ = ["DI1Params", "Empty", "EmptyType", "Error", "NoDate", "Single"]
 __all__ += [name for name in dir(_core) if not name.startswith("_")]
+
+for _member in vars(_core).values():
+    if isinstance(_member, type):
+        _member.__module__ = "k7deval"

@@ -57,7 +57,7 @@ class Single(float):
     def __new__(cls, value: float = 0.0) -> Single:
         number = float(value)
         try:
-            return super().__new__(cls, struct.unpack("f", struct.pack("f", number))[0])
+            return super().__new__(cls, struct.unpack("<f", struct.pack("<f", number))[0])
         except OverflowError:
             raise Error(6, "Overflow") from None
 

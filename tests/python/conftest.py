@@ -4,6 +4,7 @@ import datetime as dt
 
 import k7deval
 import pytest
+import sample_sites
 
 NOW = dt.datetime(2024, 4, 10, 15, 5, 9)
 
@@ -26,3 +27,15 @@ def raises_error():
         return caught.value
 
     return run
+
+
+@pytest.fixture(scope="session")
+def bethpage(tmp_path_factory):
+    """The path of a site with a year of seven-day tests and the load of GT4."""
+    return sample_sites.make_bethpage(tmp_path_factory.mktemp("sites"))
+
+
+@pytest.fixture(scope="session")
+def flint_creek(tmp_path_factory):
+    """The path of a site with a quarter of SO2."""
+    return sample_sites.make_flint_creek(tmp_path_factory.mktemp("sites"))

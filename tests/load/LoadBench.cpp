@@ -5,25 +5,6 @@
 namespace k7deval::test
 {
 
-ParameterData unitNamed(PID pid, const std::string& name)
-{
-    ParameterData data;
-    data.pid = pid;
-    data.name = name;
-    data.type = kUnitType;
-    return data;
-}
-
-ParameterData hourlyNamed(PID pid, const std::string& name, std::int32_t type)
-{
-    ParameterData data;
-    data.pid = pid;
-    data.name = name;
-    data.type = type;
-    data.intervalLetter = "h";
-    return data;
-}
-
 ParameterData constantOf(PID pid, std::optional<double> value, std::int32_t type,
                          std::int32_t subset)
 {
@@ -47,13 +28,6 @@ std::shared_ptr<SiteData> siteOfLoads()
 {
     return siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), constantOf(kGT1Capacity, 100),
                              unitNamed(kGT2, "GT2"), hourlyNamed(kGT2Load, "GT2 Load")});
-}
-
-void failAt(SiteData& site, const std::string& name)
-{
-    site.failure = [name](const std::string& call, std::size_t) {
-        return call == name ? std::optional(Error(440, "the line is down")) : std::nullopt;
-    };
 }
 
 LoadBench& LoadBench::hours(const std::vector<double>& values, std::int32_t status)

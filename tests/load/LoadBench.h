@@ -1,8 +1,10 @@
 #pragma once
 
+#include "foundation/ExpectError.h"
 #include "load/ctrlMaxMW.h"
 #include "support/FakeServices.h"
 #include "support/FakeSite.h"
+#include "support/HourlySite.h"
 #include "support/ScreenSnapshot.h"
 
 #include <cstdint>
@@ -23,12 +25,9 @@ inline constexpr PID kGT1Capacity = 160'200'000;
 inline constexpr PID kGT2 = 200'100'000;
 inline constexpr PID kGT2Load = 260'207'501;
 
-/// Types under which a site may keep hourly loads and constants.
-inline constexpr std::int32_t kHourlyType = 8;
+/// A type under which a site may keep constants.
 inline constexpr std::int32_t kConstantType = 4;
 
-ParameterData unitNamed(PID pid, const std::string& name);
-ParameterData hourlyNamed(PID pid, const std::string& name, std::int32_t type = kHourlyType);
 ParameterData constantOf(PID pid, std::optional<double> value, std::int32_t type = kConstantType,
                          std::int32_t subset = 0);
 
@@ -36,16 +35,6 @@ ParameterData constantOf(PID pid, std::optional<double> value, std::int32_t type
 std::shared_ptr<SiteData> siteOfLoads();
 /// A site of GT1 alone, with these parameters.
 std::shared_ptr<SiteData> siteOfParameters(const std::vector<ParameterData>& parameters);
-
-/// Every call of that name fails from now on with error 440, "the line is down".
-void failAt(SiteData& site, const std::string& name);
-
-/// Text boxes are typed into and left.
-inline void enter(screen::TextBox& field, const std::string& text)
-{
-    field.Type(text);
-    field.Leave();
-}
 
 /// The load tool, on 10 May 2024 at 14:30 if not said otherwise. It has no data yet.
 struct LoadTool {
@@ -102,12 +91,7 @@ struct LoadBench : LoadTool {
     /// What was read so far; forgets it.
     std::vector<ReadRequest> takeReads();
 
-    template <class Action> Lines changesBy(Action action)
-    {
-        const Snapshot before = snapshotOf(tool);
-        action();
-        return changesBetween(before, snapshotOf(tool));
-    }
+    template <class Action> Lines changesBy(Action action) { return changesOn(tool, action); }
 
     std::shared_ptr<SiteData> site;
 };
@@ -126,16 +110,5 @@ struct HourCounts {
 };
 HourCounts countsOf(const LoadEvaluation& evaluation);
 std::ostream& operator<<(std::ostream& out, const HourCounts& counts);
-
-/// The number of the error that an action ends with; 0 for none.
-template <class Action> int errorOf(Action action)
-{
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 } // namespace k7deval::test

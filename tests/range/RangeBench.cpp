@@ -27,25 +27,6 @@ bool barsLieFlat(const ctrlRangeEval& tool)
 
 } // namespace
 
-ParameterData unitNamed(PID pid, const std::string& name)
-{
-    ParameterData unit;
-    unit.pid = pid;
-    unit.name = name;
-    unit.type = kUnitType;
-    return unit;
-}
-
-ParameterData hourlyNamed(PID pid, const std::string& name)
-{
-    ParameterData hourly;
-    hourly.pid = pid;
-    hourly.name = name;
-    hourly.type = kHourlyType;
-    hourly.intervalLetter = "h";
-    return hourly;
-}
-
 void addScale(SiteData& site, const ScaleFacts& facts)
 {
     ParameterData calibration;
@@ -87,19 +68,6 @@ std::shared_ptr<SiteData> siteOfTwoUnits()
     site->parameters.push_back(unitNamed(kGT2, "GT2"));
     site->parameters.push_back(hourlyNamed(MakePID(2, 120, 1, 75, 0), "NOX"));
     return site;
-}
-
-void failAt(SiteData& site, const std::string& name)
-{
-    site.failure = [name](const std::string& call, std::size_t) {
-        return call == name ? std::optional(Error(440, "the line is down")) : std::nullopt;
-    };
-}
-
-void enter(screen::TextBox& field, const std::string& text)
-{
-    field.Type(text);
-    field.Leave();
 }
 
 RangeBench& RangeBench::hours(const std::vector<std::optional<double>>& values, std::int32_t status)

@@ -3,6 +3,7 @@
 #include "range/ctrlRangeEval.h"
 #include "support/FakeServices.h"
 #include "support/FakeSite.h"
+#include "support/HourlySite.h"
 #include "support/ScreenSnapshot.h"
 
 #include <cstdint>
@@ -21,7 +22,6 @@ inline constexpr PID kGT1 = 100'100'000;
 inline constexpr PID kGT2 = 200'100'000;
 /// The hourly NOx of GT1.
 inline constexpr PID kNOx = 112'017'500;
-inline constexpr std::int32_t kHourlyType = 8;
 
 /// A calibration definition: as it stands, of GT1's NOx analyzer on its only scale.
 struct ScaleFacts {
@@ -39,8 +39,6 @@ struct ScaleFacts {
     [[nodiscard]] PID pid() const { return MakePID(unit, code, 0, program, suffix); }
 };
 
-ParameterData unitNamed(PID pid, const std::string& name);
-ParameterData hourlyNamed(PID pid, const std::string& name);
 void addScale(SiteData& site, const ScaleFacts& facts);
 
 /// GT1 with NOX, which has these scales. It has no hours, and all of them are off-line.
@@ -48,9 +46,6 @@ std::shared_ptr<SiteData> siteOfNOx(const std::vector<ScaleFacts>& scales = {Sca
 /// GT1 with NOX on "LOW" (50) and "HIGH" (500) and with CO2 on "SINGLE" (20), and GT2 with NOX on
 /// "MID" (250).
 std::shared_ptr<SiteData> siteOfTwoUnits();
-
-/// Every call of that name fails from now on with error 440, "the line is down".
-void failAt(SiteData& site, const std::string& name);
 
 /// The range tool, on 15 May 2024 at 14:30 if not said otherwise. It has no data yet.
 struct RangeTool {
@@ -70,9 +65,6 @@ struct RangeTool {
     RegionalSettings regional;
     ctrlRangeEval tool{{services, clock, regional}};
 };
-
-/// A user types into a field and leaves it.
-void enter(screen::TextBox& field, const std::string& text);
 
 /// The range tool on a site of plain data: if not said otherwise GT1's NOX with a range of 100, an
 /// expected value of 20 and a potential one of 100, up to the first quarter of 2024.

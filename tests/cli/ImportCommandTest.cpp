@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace k7deval::cli::test
 {
@@ -54,6 +55,32 @@ TEST(ImportCommand, PrintsWhatItSteppedOver)
     EXPECT_EQ(import.out, "hourly_load_GT3.csv.gz (hourly load): 52608 hours, 19403 hours with "
                           "load\n  stepped over: The column \"heat_input_mmbtu\".\n");
     EXPECT_EQ(import.status, 0);
+}
+
+TEST(ImportCommand, TakesAnEmissionsFileAndTellsNothingOfItsProgressSinceItIsSmall)
+{
+    const TemporaryFolder folder;
+    const CommandRun import =
+        run({"import", "--site", folder.file("a.site"),
+             std::string(K7DEVAL_SOURCE_DIR) + "/tests/sitedb/data/ecmps_emissions_small.json"});
+    EXPECT_TRUE(
+        import.out.starts_with("ecmps_emissions_small.json (ECMPS emissions data): 4 hours, "
+                               "6 monitor values, 3 calibration injections\n"))
+        << import.out;
+    EXPECT_EQ(import.notes, "");
+    EXPECT_EQ(import.status, 0);
+}
+
+TEST(ImportCommand, GivesTheHoursOfATableToTheComponentThatIsNamed)
+{
+    const TemporaryFolder folder;
+    const std::string site = folder.file("a.site");
+    std::ofstream(folder.file("hours.csv"))
+        << "date,hour,parameter,unadjusted_hourly_value,modc\n2021-01-01,0,SO2C,5,01\n";
+    const CommandRun import = run(
+        {"import", "--site", site, "--unit", "1", "--component", "A07", folder.file("hours.csv")});
+    EXPECT_EQ(import.out, "hours.csv (hours of a monitor): 1 hour, 1 measured hour\n");
+    EXPECT_EQ(textIn(site, "SELECT name FROM parameter WHERE pid = 110007501"), "SO2 A07");
 }
 
 TEST(ImportCommand, NamesTheFacility)

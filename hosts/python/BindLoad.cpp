@@ -77,7 +77,7 @@ void bindLoad(py::module_& module, const HostStateHandle& state)
     tool.def(py::init([state](py::object services) {
                  return hostTool<ctrlMaxMW>(std::move(services), state);
              }),
-             py::kw_only(), "services"_a = py::none());
+             "services"_a = py::none());
     bindData(tool, state);
     bindParts(tool);
     bindResults(tool);

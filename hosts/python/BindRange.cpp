@@ -79,7 +79,7 @@ void bindRange(py::module_& module, const HostStateHandle& state)
     tool.def(py::init([state](py::object services) {
                  return hostTool<ctrlRangeEval>(std::move(services), state);
              }),
-             py::kw_only(), "services"_a = py::none());
+             "services"_a = py::none());
     bindData(tool, state);
     bindParts(tool);
     bindResults(tool);

@@ -81,7 +81,7 @@ void bindResultPage(py::module_& module, const HostStateHandle& state)
     page.def(py::init([state](py::object services) {
                  return hostPage<Page>("ctrl7DayResult", std::move(services), state);
              }),
-             py::kw_only(), "services"_a = py::none());
+             "services"_a = py::none());
     page.def("SetSummaryText", &Page::SetSummaryText, "strNewText"_a, "Shows the outcome.")
         .def("SetAnalyzerText", &Page::SetAnalyzerText, "strNewText"_a, "Shows the analyzer.")
         .def("ClearTreeView", &Page::ClearTreeView, "Puts the tree in its empty state, \"NA\".")

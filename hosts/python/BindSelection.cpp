@@ -100,7 +100,7 @@ void bindParamSelect(py::module_& module, const HostStateHandle& state)
     control.def(py::init([state](py::object services) {
                     return hostList<Control>(std::move(services), state);
                 }),
-                py::kw_only(), "services"_a = py::none());
+                "services"_a = py::none());
     bindChoice(control, state);
     bindRows(control);
     column(control, "RowSelected", &ParamRow::isSelected, "The row is ticked.");
@@ -134,7 +134,7 @@ void bindSingleParamSelect(py::module_& module, const HostStateHandle& state)
     control.def(py::init([state](py::object services) {
                     return hostList<Control>(std::move(services), state);
                 }),
-                py::kw_only(), "services"_a = py::none());
+                "services"_a = py::none());
     bindChoice(control, state);
     bindRows(control);
     control.def("GetSelection", &Control::GetSelection,

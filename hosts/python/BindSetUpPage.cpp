@@ -141,7 +141,7 @@ void bindSetUpPage(py::module_& module, const HostStateHandle& state)
     page.def(py::init([state](py::object services) {
                  return hostPage<Page>("ctrl7DaySetUp", std::move(services), state);
              }),
-             py::kw_only(), "services"_a = py::none());
+             "services"_a = py::none());
     page.def(
         "Setup",
         [state](Page& self, const py::object& irm, const py::object& objDI) {

@@ -87,7 +87,7 @@ void bindSevenDay(py::module_& module, const HostStateHandle& host)
     tool.def(py::init([host](py::object services) {
                  return hostTool<ctrl7Day>(std::move(services), host);
              }),
-             py::kw_only(), "services"_a = py::none());
+             "services"_a = py::none());
     tool.def(
         "Setup",
         [host](ctrl7Day& self, const py::object& irm, const py::object& objDI) {

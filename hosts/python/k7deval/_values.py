@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import struct
 from datetime import datetime
+from typing import Union
 
 NoDate = datetime(1899, 12, 30)
 """The zero date, which stands for a date that is not set."""
@@ -46,6 +47,9 @@ class EmptyType:
 
 Empty = EmptyType()
 """A value that was never given. It counts as false."""
+
+Value = Union[None, bool, int, float, str, datetime, EmptyType]
+"""What the data interface hands out: None is a value that is known to be missing."""
 
 
 class Single(float):

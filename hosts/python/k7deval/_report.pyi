@@ -1,0 +1,79 @@
+"""The report model."""
+
+from collections.abc import Iterator
+
+
+class ReportTextItem:
+    Text: str
+    Font: int
+    Size: float
+    X: float
+    Y: float
+    Orientation: int
+    @property
+    def Width(self) -> float: ...
+    @property
+    def Height(self) -> float: ...
+
+class ReportTextItems:
+    @property
+    def Count(self) -> int: ...
+    def __len__(self) -> int: ...
+    def __iter__(self) -> Iterator[ReportTextItem]: ...
+    def Add(self, text: str = "") -> ReportTextItem: ...
+
+class ReportLine:
+    X1: float
+    Y1: float
+    X2: float
+    Y2: float
+    Style: int
+
+class ReportLines:
+    @property
+    def Count(self) -> int: ...
+    def __len__(self) -> int: ...
+    def __iter__(self) -> Iterator[ReportLine]: ...
+    def Add(self) -> ReportLine: ...
+
+class ReportRectangle:
+    X: float
+    Y: float
+    Width: float
+    Height: float
+    FillColor: int
+    LineColor: int
+
+class ReportRectangles:
+    @property
+    def Count(self) -> int: ...
+    def __len__(self) -> int: ...
+    def __iter__(self) -> Iterator[ReportRectangle]: ...
+    def Add(self) -> ReportRectangle: ...
+
+class ReportPage:
+    Height: float
+    Width: float
+    @property
+    def TextItems(self) -> ReportTextItems: ...
+    @property
+    def Lines(self) -> ReportLines: ...
+    @property
+    def Rectangles(self) -> ReportRectangles: ...
+
+class ReportPages:
+    @property
+    def Count(self) -> int: ...
+    def __len__(self) -> int: ...
+    def __iter__(self) -> Iterator[ReportPage]: ...
+    def Add(self) -> ReportPage: ...
+
+class ReportDocument:
+    def __init__(self) -> None: ...
+    @property
+    def Pages(self) -> ReportPages: ...
+    Title: str
+    Subject: str
+    Author: str
+    Creator: str
+    def SaveToFile(self, path: str) -> None: ...

@@ -8,8 +8,11 @@
 #include "support/ScreenSnapshot.h"
 
 #include <cstdint>
+#include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace k7deval::test

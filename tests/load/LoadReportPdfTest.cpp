@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 /// The load report as a reader of its saved file finds it.
 namespace k7deval::test
 {

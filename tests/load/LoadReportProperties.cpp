@@ -4,6 +4,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 /// The chart of the report for any hours.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 /// Which hours a load evaluation reads: quarter by quarter, from the newest backward.

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <stdexcept>
+#include <variant>
 
 /// Where the load tool's results stand, in twips, and what its fixed texts say.
 namespace k7deval::test
@@ -188,7 +191,6 @@ TEST(LoadToolLook, ThereAreNoOtherBars)
 TEST(LoadToolLook, FixedTextsSayWhatTheyAreFor)
 {
     const LoadTool bench;
-    const Snapshot snapshot = snapshotOf(bench.tool);
     for (const CaptionCase& expected : kCaptions) {
         const auto* widget = bench.tool.Find(expected.name);
         ASSERT_NE(widget, nullptr) << expected.name;

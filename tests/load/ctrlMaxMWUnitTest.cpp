@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 /// Picking a unit: which parameters are offered, and which of them is proposed.
 namespace k7deval::test
 {

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The main job: builds the program, makes the sample site and evaluates all its seven-day tests.
+# The main job: builds the program, makes the sample sites and shows the three tools on them.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/setup.sh

@@ -87,6 +87,16 @@ Nameplate/Rated Capacity: 300
     EXPECT_EQ(load.status, 0);
 }
 
+TEST(LoadCommand, PrintsBarsOfNegativeLoads)
+{
+    const CommandRun load =
+        run({"load", "--site", siteOfLoad(), "--minimum", "-10", "--capacity", "110"});
+    EXPECT_NE(load.out.find("From   To  Hours  Percent\n -10   -4      0     0.0%\n"
+                            "  -4    2      0     0.0%\n   2    8      1    11.1%  ####"),
+              std::string::npos)
+        << load.out;
+}
+
 TEST(LoadCommand, HoldsTheWholeScreenAndTheEvaluation)
 {
     const json document = printedAsJson("load", fromTenTo110());

@@ -86,13 +86,13 @@ bool fillFromNumbers(const py::buffer_info& info, std::span<std::int32_t> slots)
 
 template <class Slot> bool fillFromBuffer(py::handle source, std::span<Slot> slots)
 {
-    if (PyObject_CheckBuffer(source.ptr()) == 0)
+    const auto info = readBuffer(source);
+    if (!info)
         return false;
-    const py::buffer_info info = py::reinterpret_borrow<py::buffer>(source).request();
-    if (info.ndim != 1)
+    if (info->ndim != 1)
         throw Error(errors::kTypeMismatch);
-    needSlots(static_cast<std::size_t>(info.size), slots.size());
-    return fillFromNumbers(info, slots);
+    needSlots(static_cast<std::size_t>(info->size), slots.size());
+    return fillFromNumbers(*info, slots);
 }
 
 void storeItem(double& slot, py::handle item)

@@ -116,16 +116,27 @@ std::optional<std::vector<std::int32_t>> integersIn(const py::sequence& sequence
 /// A vector of integers by its buffer: of one dimension, and of an integer type.
 bool isIntegerVector(py::handle object)
 {
-    if (PyObject_CheckBuffer(object.ptr()) == 0 || PyBytes_Check(object.ptr()) != 0 ||
-        PyByteArray_Check(object.ptr()) != 0)
+    if (PyBytes_Check(object.ptr()) != 0 || PyByteArray_Check(object.ptr()) != 0)
         return false;
-    const py::buffer_info info = py::reinterpret_borrow<py::buffer>(object).request();
+    const auto info = readBuffer(object);
     constexpr std::string_view kIntegerCodes = "bBhHiIlLqQnN";
-    return info.ndim == 1 && !info.format.empty() &&
-           kIntegerCodes.find(info.format.back()) != std::string_view::npos;
+    return info && info->ndim == 1 && !info->format.empty() &&
+           kIntegerCodes.find(info->format.back()) != std::string_view::npos;
 }
 
 } // namespace
+
+std::optional<py::buffer_info> readBuffer(py::handle object)
+{
+    if (PyObject_CheckBuffer(object.ptr()) == 0)
+        return std::nullopt;
+    try {
+        return py::reinterpret_borrow<py::buffer>(object).request();
+    } catch (const py::error_already_set&) {
+        // Some vectors, of dates for instance, have no buffer that others could read.
+        return std::nullopt;
+    }
+}
 
 py::module_ valuesModule()
 {

@@ -53,6 +53,8 @@ std::optional<double> readDouble(pybind11::handle object);
 Variant variantOf(pybind11::handle object);
 pybind11::object pythonValue(const Variant& value);
 
+/// The buffer of a vector; nothing for an object without one.
+std::optional<pybind11::buffer_info> readBuffer(pybind11::handle object);
 /// The integers in a list, a tuple, or a one-dimensional buffer; nothing for any other object.
 /// Error 6 for an integer out of range.
 std::optional<std::vector<std::int32_t>> readIntegers(pybind11::handle object);

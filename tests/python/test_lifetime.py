@@ -58,7 +58,20 @@ class DriftHost:
         pass
 
 
-@pytest.mark.parametrize("kind", [Host, ListHost, DriftHost])
+class OwnTool(k7deval.ctrlMaxMW):
+    """A control that is its own host."""
+
+    def __init__(self):
+        super().__init__(services=self)
+        self.site = load_site([50.0] * 24)
+        self.DIServer = self.site
+        self.CloseClicked.Connect(self.close)
+
+    def close(self):
+        pass
+
+
+@pytest.mark.parametrize("kind", [Host, ListHost, DriftHost, OwnTool])
 def test_a_host_and_its_control_go_away_together(kind):
     gone = weakref.ref(kind())
     gc.collect()
@@ -186,6 +199,18 @@ def test_a_thousand_hosts_with_circles_leave_nothing_behind():
     before = len(gc.get_objects())
     for _ in range(1000):
         Host()
+    gc.collect()
+    assert len(gc.get_objects()) - before < 100
+
+
+def test_a_thousand_evaluations_leave_nothing_behind():
+    tool = tool_with(load_site([50.0] * 24))
+    tool.txtCapacity.Text = "100"
+    gc.collect()
+    before = len(gc.get_objects())
+    for quarter in range(1000):
+        tool.cmbQTR.Pick(quarter % 4)
+        tool.cmdCalculate.Press()
     gc.collect()
     assert len(gc.get_objects()) - before < 100
 

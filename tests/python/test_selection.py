@@ -58,7 +58,12 @@ def test_a_parameter_collection_is_known_by_its_name(control, site):
 
 
 @pytest.mark.parametrize(
-    "form", [None, "1", 5, ["a"], [1.5], object(), {1: 2}, numpy.zeros(2), b"ab", range(3)]
+    "form",
+    [
+        *(None, "1", 5, ["a"], [1.5], object(), {1: 2}, b"ab", range(3), numpy.zeros(2)),
+        numpy.array([PIDS]),
+        numpy.array(["2024-01-01"], "datetime64[s]"),
+    ],
 )
 def test_any_other_form_gives_no_rows(control, form):
     control.SetParamList(form)

@@ -14,3 +14,4 @@ __all__ += [name for name in dir(_core) if not name.startswith("_")]
 for _member in vars(_core).values():
     if isinstance(_member, type):
         _member.__module__ = "k7deval"
+del _member

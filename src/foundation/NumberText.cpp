@@ -234,6 +234,15 @@ double ToDouble(std::string_view text, const RegionalSettings& settings)
     return number->value();
 }
 
+std::optional<double> numberIn(std::string_view text, const RegionalSettings& settings)
+{
+    try {
+        return ToDouble(text, settings);
+    } catch (const Error&) {
+        return std::nullopt;
+    }
+}
+
 bool IsNumeric(std::string_view text, const RegionalSettings& settings)
 {
     return NumericText::read(text, settings).has_value();

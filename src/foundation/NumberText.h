@@ -3,6 +3,7 @@
 #include "foundation/RegionalSettings.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -54,6 +55,8 @@ inline bool IsNumeric(const char* text, const RegionalSettings& settings)
 /// currency mark at either end, group marks ahead of the decimal mark, an exponent with E or D.
 /// Error 13 when the text is not numeric, 6 when the number is too large; one too small is 0.
 double ToDouble(std::string_view text, const RegionalSettings& settings);
+/// The number that a text holds; nothing where it holds none, or one too large for any number.
+std::optional<double> numberIn(std::string_view text, const RegionalSettings& settings);
 /// The nearest single; error 6 out of a single's range.
 float ToSingle(double value);
 /// As ToDouble, then the nearest single; error 6 out of a single's range.

@@ -92,16 +92,15 @@ void HistogramTool::showHeader()
         lblHeader.SetCaption(cmbUnit.Text() + " " + present(parameters->Item(pid, -1)).Name(0));
 }
 
-void HistogramTool::showLevels(const Levels& levels)
+void HistogramTool::showLevels(const InRangeHours& hours, const LevelTails& tails)
 {
     // Hours outside the range are left out, so that the three percents add up to 100.
-    const std::int32_t total = levels.low.hours + levels.mid.hours + levels.high.hours;
-    const auto show = [&](screen::Label& label, const Level& level) {
-        label.SetCaption(percentText(level.hours, total, level.tail, surroundings_.regional));
+    const auto show = [&](screen::Label& label, std::int32_t count, const std::string& tail) {
+        label.SetCaption(percentText(count, hours.TotalInRange(), tail, surroundings_.regional));
     };
-    show(lblLowOpPercent, levels.low);
-    show(lblMidOpPercent, levels.mid);
-    show(lblHighOpPercent, levels.high);
+    show(lblLowOpPercent, hours.LowHours, tails.low);
+    show(lblMidOpPercent, hours.MidHours, tails.mid);
+    show(lblHighOpPercent, hours.HighHours, tails.high);
 }
 
 void HistogramTool::showScale(const std::string& minimum, float low, float mid, float maximum)
@@ -112,9 +111,33 @@ void HistogramTool::showScale(const std::string& minimum, float low, float mid, 
     lblMax.SetCaption(GeneralNumber(maximum, surroundings_.regional));
 }
 
-std::string HistogramTool::printTime() const
+HistogramTool::BegunReport HistogramTool::beginReport(const ReportTexts& texts,
+                                                      const LevelCentres& centres,
+                                                      const InRangeHours& hours) const
 {
-    return FormatTimeStamp(CurrentDateTime(surroundings_.clock), 10, surroundings_.regional);
+    auto document = std::make_unique<ReportDocument>();
+    document->SetAuthor(texts.author);
+    document->SetCreator(texts.author);
+    document->SetSubject(texts.subject);
+    document->SetTitle(texts.title);
+    const std::string facility = facilityName(data());
+
+    ReportPage& page = layout::addPage(*document);
+    const Date now = CurrentDateTime(surroundings_.clock);
+    const float head =
+        drawHead(page, {.facility = facility,
+                        .heading = texts.heading,
+                        .period = texts.period,
+                        .analyzed = lblHeader.Caption(),
+                        .printed = FormatTimeStamp(now, 10, surroundings_.regional)});
+    const auto count = [](std::int32_t number) { return std::to_string(number) + " Hours"; };
+    const float chartTop =
+        drawLevels(page,
+                   {{{centres[0], lblLowOpPercent.Caption(), count(hours.LowHours)},
+                     {centres[1], lblMidOpPercent.Caption(), count(hours.MidHours)},
+                     {centres[2], lblHighOpPercent.Caption(), count(hours.HighHours)}}},
+                   head);
+    return {std::move(document), &page, chartTop};
 }
 
 void HistogramTool::saveClick()

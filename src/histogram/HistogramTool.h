@@ -2,6 +2,7 @@
 
 #include "foundation/DataInterface.h"
 #include "histogram/BarLabels.h"
+#include "histogram/HistogramPage.h"
 #include "report/ReportDocument.h"
 #include "screen/Buttons.h"
 #include "screen/ComboBox.h"
@@ -11,6 +12,7 @@
 #include "screen/Line.h"
 #include "screen/Services.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -109,23 +111,35 @@ protected:
     /// The entry of a parameter in the list, with its PID ahead if that is wanted.
     [[nodiscard]] std::string parameterEntry(DIParameter& parameter) const;
 
-    /// The hours of the three levels, with the tails of their percents.
-    struct Level {
-        std::int32_t hours = 0;
-        std::string tail;
-    };
-    struct Levels {
-        Level low;
-        Level mid;
-        Level high;
+    /// What stands behind the percents of the three levels.
+    struct LevelTails {
+        std::string low;
+        std::string mid;
+        std::string high;
     };
     void showHeader();
-    void showLevels(const Levels& levels);
+    void showLevels(const InRangeHours& hours, const LevelTails& tails);
     /// The values at the four marks.
     void showScale(const std::string& minimum, float low, float mid, float maximum);
 
-    /// The present date and time as reports bear it.
-    [[nodiscard]] std::string printTime() const;
+    /// What the report of a tool bears.
+    struct ReportTexts {
+        std::string author; ///< Also its creator.
+        std::string subject;
+        std::string title;
+        std::string heading;
+        std::string period;
+    };
+    /// A report with its page begun: the head, and the captions and hours of the levels.
+    struct BegunReport {
+        std::unique_ptr<ReportDocument> document;
+        ReportPage* page = nullptr;
+        float chartTop = 0;
+    };
+    /// Where the middles of the levels stand on the page, from the low one.
+    using LevelCentres = std::array<float, 3>;
+    [[nodiscard]] BegunReport beginReport(const ReportTexts& texts, const LevelCentres& centres,
+                                          const InRangeHours& hours) const;
 
     screen::Surroundings surroundings_;
 

@@ -98,6 +98,25 @@ int BinScale::binOfOther(float value) const
     return bin;
 }
 
+void InRangeHours::ResetInRange()
+{
+    Bins.fill(0);
+    HighHours = 0;
+    MidHours = 0;
+    LowHours = 0;
+}
+
+void InRangeHours::CountInRange(float value, const BinScale& scale)
+{
+    ++Bins[static_cast<std::size_t>(scale.binOf(value))];
+    if (value > HighThreshold)
+        ++HighHours;
+    else if (value > LowThreshold)
+        ++MidHours;
+    else
+        ++LowHours;
+}
+
 float sixDecimals(double value, const RegionalSettings& regional)
 {
     return ToSingle(FormatNumber(value, "0.000000", regional), regional);

@@ -53,6 +53,22 @@ private:
     std::array<float, kBinCount - 1> begins_{};
 };
 
+/// The hours of a range by its bins and by three levels, as the tools count them.
+struct InRangeHours {
+    float HighThreshold = 0; ///< Hours above it are of the high level.
+    float LowThreshold = 0;  ///< Hours above it and up to the other are of the mid level.
+    std::int32_t HighHours = 0;
+    std::int32_t MidHours = 0;
+    std::int32_t LowHours = 0;
+    HourBins Bins{};
+
+    void ResetInRange();
+    /// Counts an hour in its bin and in its level. An hour on a threshold belongs below it.
+    void CountInRange(float value, const BinScale& scale);
+    /// The hours of all levels.
+    [[nodiscard]] std::int32_t TotalInRange() const { return LowHours + MidHours + HighHours; }
+};
+
 /// A threshold as it is kept: rounded to six decimals by way of its text.
 float sixDecimals(double value, const RegionalSettings& regional);
 

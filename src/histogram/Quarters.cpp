@@ -1,6 +1,5 @@
 #include "histogram/Quarters.h"
 
-#include "foundation/Error.h"
 #include "foundation/NumberText.h"
 #include "foundation/UtilityFunctions.h"
 
@@ -44,16 +43,6 @@ void select(screen::ComboBox& list, const std::string& text)
     const auto found = std::ranges::find(entries, text);
     if (found != entries.end())
         list.SetListIndex(static_cast<std::int32_t>(found - entries.begin()));
-}
-
-/// The number in a text; nothing for one that no double holds, too.
-std::optional<double> numberIn(const std::string& text, const RegionalSettings& regional)
-{
-    try {
-        return ToDouble(text, regional);
-    } catch (const Error&) {
-        return std::nullopt;
-    }
 }
 
 /// The year in a text; nothing for any text but a whole number from 100 to 9999.

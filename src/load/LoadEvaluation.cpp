@@ -31,11 +31,8 @@ void LoadEvaluation::SetThresholds(const RegionalSettings& regional)
 
 void LoadEvaluation::Reset()
 {
-    Bins.fill(0);
+    ResetInRange();
     OverHours = 0;
-    HighHours = 0;
-    MidHours = 0;
-    LowHours = 0;
     UnderHours = 0;
 }
 
@@ -84,13 +81,7 @@ void LoadEvaluation::takeHour(float value, const histogram::BinScale& scale)
             MaxObserved = value;
         return;
     }
-    ++Bins[static_cast<std::size_t>(scale.binOf(value))];
-    if (value > HighThreshold)
-        ++HighHours;
-    else if (value > LowThreshold)
-        ++MidHours;
-    else
-        ++LowHours;
+    CountInRange(value, scale);
 }
 
 } // namespace k7deval

@@ -20,22 +20,17 @@ struct LoadPeriod {
 /// How a unit's hourly load lies in its range of operation, from the minimum safe operating value
 /// to the capacity, and over the low, mid and high levels of 0 to 30, 30 to 60 and 60 to 100% of it
 /// (40 CFR 75 App. A 6.5.2.1).
-struct LoadEvaluation {
-    float HighThreshold = 0; ///< The value at 60% of the range, kept to six decimals.
-    float LowThreshold = 0;  ///< The value at 30% of the range, kept to six decimals.
-    float MinSafeValue = 0;  ///< Minimum safe operating value.
-    float CapacityValue = 0; ///< Nameplate or rated capacity.
-    std::int32_t HighHours = 0;
-    std::int32_t MidHours = 0;
-    std::int32_t LowHours = 0;
+struct LoadEvaluation : histogram::InRangeHours {
+    float MinSafeValue = 0;     ///< Minimum safe operating value.
+    float CapacityValue = 0;    ///< Nameplate or rated capacity.
     std::int32_t OverHours = 0; ///< Hours above the capacity.
     /// The highest value above the capacity of all evaluations so far, also of other units.
     float MaxObserved = 0;
     std::int32_t UnderHours = 0; ///< Hours under the minimum.
-    histogram::HourBins Bins{};
 
     /// The capacity above the minimum, as a single. Error 6 when it is too wide for one.
     [[nodiscard]] float Range() const;
+    /// Sets the values at 60% and at 30% of the range, kept to six decimals.
     void SetThresholds(const RegionalSettings& regional);
     /// Zeroes all but MaxObserved.
     void Reset();

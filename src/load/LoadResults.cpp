@@ -17,9 +17,8 @@ void ctrlMaxMW::ShowResults()
     showHeader();
     showScale(numberText(evaluation_.MinSafeValue), evaluation_.LowThreshold,
               evaluation_.HighThreshold, evaluation_.CapacityValue);
-    showLevels({.low = {evaluation_.LowHours, "% Low Op Load"},
-                .mid = {evaluation_.MidHours, "% Mid Op Load"},
-                .high = {evaluation_.HighHours, "% High Op Load"}});
+    showLevels(evaluation_,
+               {.low = "% Low Op Load", .mid = "% Mid Op Load", .high = "% High Op Load"});
     lblBelow.SetCaption(std::to_string(evaluation_.UnderHours) + " hour(s) under " +
                         numberText(evaluation_.MinSafeValue));
     lblAbove.SetCaption(overText());

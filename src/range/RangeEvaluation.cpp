@@ -29,11 +29,8 @@ void RangeEvaluation::SetThresholds(const RegionalSettings& regional)
 
 void RangeEvaluation::Reset()
 {
-    Bins.fill(0);
+    ResetInRange();
     InvalidHours = 0;
-    LowHours = 0;
-    MidHours = 0;
-    HighHours = 0;
     OverRangeHours = 0;
     AboveMECHours = 0;
     AboveMPCHours = 0;
@@ -47,7 +44,7 @@ void RangeEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes, Da
     histogram::QuarterCount quarters;
     histogram::walkQuarters(parameter, lastHour, std::nullopt, [&](const DIDataSet& hours) {
         quarters.count(takeHours(hours, statusCodes, scale, limits));
-        const std::int32_t total = LowHours + MidHours + HighHours + OverRangeHours;
+        const std::int32_t total = TotalInRange() + OverRangeHours;
         const bool isEnough = total > kWantedHours && quarters.withData >= kWantedQuarters;
         return !isEnough && !quarters.isAtLimit();
     });
@@ -82,13 +79,7 @@ void RangeEvaluation::takeHour(float value, std::int32_t status, const histogram
         ++OverRangeHours;
         return;
     }
-    ++Bins[static_cast<std::size_t>(scale.binOf(value))];
-    if (value > HighThreshold)
-        ++HighHours;
-    else if (value > LowThreshold)
-        ++MidHours;
-    else
-        ++LowHours;
+    CountInRange(value, scale);
     if (limits.mec && value > MECValue)
         ++AboveMECHours;
     if (limits.mpc && value > MPCValue)

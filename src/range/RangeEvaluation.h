@@ -12,21 +12,15 @@ namespace k7deval
 
 /// How an analyzer's range fits what the analyzer measured: most readings should lie between 20 and
 /// 80% of it (40 CFR 75 App. A 2.1).
-struct RangeEvaluation {
-    float RangeValue = 0;    ///< The instrument range.
-    float LowThreshold = 0;  ///< 20% of the range, kept to six decimals.
-    float HighThreshold = 0; ///< 80% of the range, kept to six decimals.
-    float MECValue = 0;      ///< Maximum expected concentration; kept when it takes no part.
-    float MPCValue = 0;      ///< Maximum potential concentration; kept when it takes no part.
-    std::int32_t LowHours = 0;
-    std::int32_t MidHours = 0;
-    std::int32_t HighHours = 0;
+struct RangeEvaluation : histogram::InRangeHours {
+    float RangeValue = 0; ///< The instrument range.
+    float MECValue = 0;   ///< Maximum expected concentration; kept when it takes no part.
+    float MPCValue = 0;   ///< Maximum potential concentration; kept when it takes no part.
     std::int32_t OverRangeHours = 0; ///< In none of the counters below.
     std::int32_t AboveMECHours = 0;  ///< In-range hours.
     std::int32_t AboveMPCHours = 0;  ///< In-range hours.
     std::int32_t ReplacedHours = 0;  ///< In-range hours with 200% replacement, words 35 and 36.
     std::int32_t InvalidHours = 0;   ///< Unusable hours in which the unit was not off line.
-    histogram::HourBins Bins{};
 
     /// The limits that take part in an evaluation.
     struct Limits {
@@ -34,6 +28,7 @@ struct RangeEvaluation {
         bool mpc = false;
     };
 
+    /// Sets the values at 80% and at 20% of the range, kept to six decimals.
     void SetThresholds(const RegionalSettings& regional);
     /// Zeroes all counters.
     void Reset();

@@ -29,9 +29,7 @@ void ctrlRangeEval::ShowResults()
 {
     showHeader();
     showScale("0", evaluation_.LowThreshold, evaluation_.HighThreshold, evaluation_.RangeValue);
-    showLevels({.low = {evaluation_.LowHours, "%"},
-                .mid = {evaluation_.MidHours, "%"},
-                .high = {evaluation_.HighHours, "%"}});
+    showLevels(evaluation_, {.low = "%", .mid = "%", .high = "%"});
     const auto countOrNone = [](bool isShown, std::int32_t hours) {
         return isShown ? std::to_string(hours) : kNotApplicable;
     };

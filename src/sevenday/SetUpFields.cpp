@@ -30,21 +30,9 @@ void ctrl7DaySetUp::connectFields()
     cmdToDate.Clicked.Connect([this] { pickDate(txtToDate, toDate_); });
 }
 
-/// The number in a field; nothing where it holds none, or one too large for any number.
-std::optional<double> ctrl7DaySetUp::numberIn(const screen::TextBox& field) const
-{
-    if (!IsNumeric(std::string_view(field.Text()), surroundings_.regional))
-        return std::nullopt;
-    try {
-        return ToDouble(field.Text(), surroundings_.regional);
-    } catch (const Error&) {
-        return std::nullopt;
-    }
-}
-
 void ctrl7DaySetUp::validateOris()
 {
-    const auto number = numberIn(txtORIS);
+    const auto number = numberIn(txtORIS.Text(), surroundings_.regional);
     const double whole = number ? std::nearbyint(*number) : -1;
     if (whole < 0 || whole > kLargestOris)
         txtORIS.SetText("");
@@ -54,7 +42,7 @@ void ctrl7DaySetUp::validateOris()
 
 void ctrl7DaySetUp::validateLimit(screen::TextBox& field, float& limit) const
 {
-    const auto number = numberIn(field);
+    const auto number = numberIn(field.Text(), surroundings_.regional);
     if (number && std::abs(*number) <= std::numeric_limits<float>::max())
         limit = static_cast<float>(*number);
     else

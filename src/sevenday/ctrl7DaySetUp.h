@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -154,7 +153,6 @@ private:
     void validateLimit(screen::TextBox& field, float& limit) const;
     void validateDate(screen::TextBox& field, Date& date) const;
     void pickDate(screen::TextBox& field, Date& date) const;
-    [[nodiscard]] std::optional<double> numberIn(const screen::TextBox& field) const;
 
     [[nodiscard]] Variant selectedAttribute(std::int32_t id) const;
     [[nodiscard]] std::string textOf(const Variant& value) const;

@@ -28,9 +28,11 @@ def run_as_json(*arguments):
 
 def make_bethpage(folder):
     site = folder / "bethpage.site"
-    run_program("import", "--site", site, "--facility", "Bethpage Energy Center", DATA / "bethpage" / "spans.csv")
-    run_program("import", "--site", site, "--leave-out", DATA / "bethpage" / "ecmps_qa_50292.json")
-    run_program("import", "--site", site, "--unit", "GT4", DATA / "bethpage" / "hourly_load_GT4.csv.gz")
+    data = DATA / "bethpage"
+    take = ("import", "--site", site)
+    run_program(*take, "--facility", "Bethpage Energy Center", data / "spans.csv")
+    run_program(*take, "--leave-out", data / "ecmps_qa_50292.json")
+    run_program(*take, "--unit", "GT4", data / "hourly_load_GT4.csv.gz")
     return site
 
 

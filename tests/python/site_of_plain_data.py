@@ -257,7 +257,8 @@ def drift_site(days=7, drift=1.0, first=dt.datetime(2024, 3, 4)):
     for day in range(days):
         run = first + dt.timedelta(days=day, hours=6)
         records += [Record(run, 0, 0.0, drift), Record(run, 1, 90.0, 90.0 - drift)]
-    calibration = {-16: 1, -21: NOX, -25: False, -56: "HIGH", -115: "N01", -300: "K7CAL", -367: "NOX"}
+    calibration = {-16: 1, -21: NOX, -25: False, -56: "HIGH"}
+    calibration |= {-115: "N01", -300: "K7CAL", -367: "NOX"}
     unit = {-95: 50292, -96: False, -97: "GT1   ", -98: ""}
     operating = hours_from(first, [1.0] * 24 * days)
     return Site(

@@ -36,7 +36,9 @@ def test_a_slot_is_found_by_its_hour(slots, raises_error):
     assert raises_error(lambda: slots.ItemByIndex(0)).number == 9
 
 
-@pytest.mark.parametrize("value, read", [(2, 2.0), (None, None), (float("nan"), None), ("1.5", 1.5)])
+@pytest.mark.parametrize(
+    "value, read", [(2, 2.0), (None, None), (float("nan"), None), ("1.5", 1.5)]
+)
 def test_a_slot_takes_any_number(slots, value, read):
     point = slots.ItemByIndex(1)
     point.Value = value

@@ -96,7 +96,7 @@ def test_a_stub_has_the_arguments_of_its_function(name):
 
 
 def undocumented(owner, members):
-    """Members whose docstring says no more than how they are called. A widget's name says it all."""
+    """Members whose docstring says no more than how they are called; a widget needs no more."""
     return [
         f"{owner}.{name}"
         for name, value in members.items()

@@ -39,7 +39,11 @@ def control(site):
 
 @pytest.mark.parametrize(
     "form",
-    [list, tuple, numpy.array, lambda pids: array.array("i", pids), lambda pids: numpy.array(pids, numpy.int32)],
+    [
+        *(list, tuple, numpy.array),
+        lambda pids: array.array("i", pids),
+        lambda pids: numpy.array(pids, numpy.int32),
+    ],
 )
 def test_pids_come_in_any_sequence_of_integers(control, form):
     control.SetParamList(form(PIDS))

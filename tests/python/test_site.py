@@ -28,14 +28,15 @@ def test_a_parameter_is_read(site):
 
 
 def test_hours_are_read_into_a_data_set(site):
-    hourly = [entry for entry in site.ParametersOfInterval("h") if k7deval.PIDPart(entry.PID, 2) == 602]
-    assert (hourly[0].Interval.Multiple, hourly[0].Interval.Unit) == (1, 1)
+    hourly = site.ParametersOfInterval("h")
+    load = next(entry for entry in hourly if k7deval.PIDPart(entry.PID, 2) == 602)
+    assert (load.Interval.Multiple, load.Interval.Unit) == (1, 1)
     dataset = k7deval.DIDataSet()
     dataset.Init(dt.datetime(2021, 10, 1), 2208)
-    hourly[0].ReadData(dataset)
+    load.ReadData(dataset)
     values = [dataset.ItemByIndex(i).Value for i in range(1, dataset.Count + 1)]
     assert any(value for value in values)
-    assert site.StatusCodes.UnitName(hourly[0].PID) == "GT4"
+    assert site.StatusCodes.UnitName(load.PID) == "GT4"
 
 
 def test_records_are_read(site):

@@ -39,7 +39,10 @@ def test_a_format_that_is_none_is_refused(raises_error):
 
 @pytest.mark.parametrize(
     "text, numeric",
-    [(" 1,234.5 ", True), ("(5)", True), ("1e3", True), ("", False), ("nan", False), ("1 2", False)],
+    [
+        *((" 1,234.5 ", True), ("(5)", True), ("1e3", True)),
+        *(("", False), ("nan", False), ("1 2", False)),
+    ],
 )
 def test_a_text_is_numeric_or_not(text, numeric):
     assert k7deval.IsNumeric(text) is numeric

@@ -3,7 +3,6 @@
 
 #include <memory>
 
-// NOLINTNEXTLINE(modernize-use-trailing-return-type): the macro's own text.
 PYBIND11_MODULE(_core, module)
 {
     using namespace k7deval::python;

@@ -21,14 +21,12 @@ namespace k7deval::python
 /// A 32-bit integer of a caller; error 6 out of its range.
 struct Int32 {
     std::int32_t value = 0;
-    // NOLINTNEXTLINE(google-explicit-constructor): stands for the number in calls.
     operator std::int32_t() const { return value; }
 };
 
 /// A 32-bit float of a caller; error 6 out of its range.
 struct Float32 {
     float value = 0;
-    // NOLINTNEXTLINE(google-explicit-constructor): stands for the number in calls.
     operator float() const { return value; }
 };
 

@@ -3,6 +3,7 @@
 #include "foundation/Error.h"
 #include "foundation/NumberText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <string>
@@ -42,8 +43,7 @@ BarLabels::BarLabels(screen::Frame& frame, const screen::Line& linMin, const scr
 /// Bars go from the twentieth to the first, the pattern last.
 BarLabels::~BarLabels()
 {
-    for (auto label = labels_.rbegin(); label != labels_.rend(); ++label)
-        label->reset();
+    std::for_each(labels_.rbegin(), labels_.rend(), [](auto& label) { label.reset(); });
 }
 
 screen::Label& BarLabels::operator[](int index) const

@@ -37,7 +37,6 @@ private:
     void place(int bar);
     void draw(int bar, std::int32_t hours, std::int32_t peak);
 
-    screen::Frame* frame_;
     const screen::Line* linMin_;
     const screen::Line* linBase_;
     std::array<std::unique_ptr<screen::Label>, kBinCount + 1> labels_;

@@ -86,8 +86,9 @@ int BinScale::binOf(float value) const
 {
     if (!isOrdered_ || value < low_ || value > top_)
         return binOfOther(value);
-    const auto next = std::upper_bound(begins_.begin(), begins_.end(), value);
-    return static_cast<int>(next - begins_.begin()) + 1;
+    const auto binsBelow =
+        std::upper_bound(begins_.begin(), begins_.end(), value) - begins_.begin();
+    return static_cast<int>(binsBelow) + 1;
 }
 
 int BinScale::binOfOther(float value) const

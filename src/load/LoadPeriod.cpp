@@ -43,7 +43,7 @@ void ctrlMaxMW::startUp()
     const histogram::Quarter last = histogram::lastFinishedQuarter(today);
     takeDate(txtFrom, startDate_, histogram::firstDayOf(last));
     takeDate(txtTo, endDate_, histogram::lastDayOf(last));
-    ClearResults();
+    ctrlMaxMW::ClearResults();
     lblBar.ResetBars();
 }
 

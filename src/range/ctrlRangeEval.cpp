@@ -51,7 +51,7 @@ ctrlRangeEval::ctrlRangeEval(const screen::Surroundings& surroundings)
 void ctrlRangeEval::startUp()
 {
     histogram::offerQuarters(cmbQTR, cmbYear, CurrentDateTime(surroundings_.clock));
-    ClearResults();
+    ctrlRangeEval::ClearResults();
     lblBar.ResetBars();
 }
 

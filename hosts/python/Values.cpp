@@ -50,13 +50,23 @@ bool isNaive(PyObject* object)
     return PyDateTime_DATE_GET_TZINFO(object) == Py_None;
 }
 
-Variant integerVariant(py::handle object)
+/// The int that an object stands for; nothing for one that stands for none, nor for a truth value.
+py::object integerIn(py::handle object)
 {
-    const auto index = py::reinterpret_steal<py::object>(PyNumber_Index(object.ptr()));
-    if (!index)
+    if (PyIndex_Check(object.ptr()) == 0 || PyBool_Check(object.ptr()) != 0)
+        return {};
+    auto index = py::reinterpret_steal<py::object>(PyNumber_Index(object.ptr()));
+    if (!index && PyErr_ExceptionMatches(PyExc_TypeError) == 0)
         throw py::error_already_set();
+    // Some types have an index in some of their values only.
+    PyErr_Clear();
+    return index;
+}
+
+Variant integerVariant(const py::object& integer)
+{
     int overflow = 0;
-    const long long value = PyLong_AsLongLongAndOverflow(index.ptr(), &overflow);
+    const long long value = PyLong_AsLongLongAndOverflow(integer.ptr(), &overflow);
     if (overflow != 0)
         return std::copysign(std::numeric_limits<double>::infinity(), overflow);
     if (value != static_cast<std::int32_t>(value))
@@ -64,23 +74,18 @@ Variant integerVariant(py::handle object)
     return static_cast<std::int32_t>(value);
 }
 
-bool isInteger(py::handle object)
-{
-    return PyIndex_Check(object.ptr()) != 0 && PyBool_Check(object.ptr()) == 0;
-}
-
 /// What other scalar types, such as numpy's, stand for.
 Variant scalarVariant(py::handle object)
 {
     if (hasTypeName(object, "numpy.float32"))
         return static_cast<float>(*readDouble(object));
-    if (isInteger(object))
-        return integerVariant(object);
     if (py::hasattr(object, "dtype") && py::hasattr(object, "item")) {
         const py::object item = object.attr("item")();
         if (!py::hasattr(item, "dtype"))
             return variantOf(item);
     }
+    if (const py::object integer = integerIn(object))
+        return integerVariant(integer);
     if (const auto number = readDouble(object))
         return *number;
     throw Error(errors::kTypeMismatch);
@@ -180,9 +185,10 @@ std::optional<std::int32_t> readInt32(py::handle object)
 {
     if (PyBool_Check(object.ptr()) != 0)
         return object.ptr() == Py_True ? 1 : 0;
-    if (!isInteger(object))
+    const py::object integer = integerIn(object);
+    if (!integer)
         return std::nullopt;
-    const Variant number = integerVariant(object);
+    const Variant number = integerVariant(integer);
     const auto* value = std::get_if<std::int32_t>(&number);
     if (value == nullptr)
         throw Error(errors::kOverflow);
@@ -208,7 +214,7 @@ Variant variantOf(py::handle object)
     if (PyBool_Check(pointer) != 0)
         return pointer == Py_True;
     if (PyLong_CheckExact(pointer) != 0)
-        return integerVariant(object);
+        return integerVariant(py::reinterpret_borrow<py::object>(object));
     if (PyFloat_CheckExact(pointer) != 0)
         return PyFloat_AS_DOUBLE(pointer);
     if (PyUnicode_Check(pointer) != 0)

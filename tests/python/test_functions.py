@@ -1,6 +1,7 @@
 """The free functions: values cross the border with the types that the caller chose."""
 
 import datetime as dt
+import decimal
 
 import k7deval
 import numpy
@@ -70,6 +71,24 @@ def test_rounding_keeps_the_type_of_its_value(value, digits, rounded):
     result = k7deval.RoundNumber(value, digits)
     assert result == rounded
     assert type(result) is type(rounded)
+
+
+@pytest.mark.parametrize(
+    "value, text",
+    [
+        (numpy.float16(1.5), "1.5"),
+        (numpy.float32(0.1), "0.1"),
+        (numpy.float64(0.1), "0.1"),
+        (numpy.array(2.5), "2.5"),
+        (numpy.uint8(7), "7"),
+        (numpy.bool_(True), "-1"),
+        (numpy.str_("2.5"), "2.5"),
+        (decimal.Decimal("1.5"), "1.5"),
+        (k7deval.CalLimitRulesEnum.CalLimitRules_PercentOfRef, "3"),
+    ],
+)
+def test_any_scalar_is_a_value(value, text):
+    assert k7deval.GeneralNumber(value) == text
 
 
 @pytest.mark.parametrize("value", [None, dt.datetime(2024, 1, 1), "word"])

@@ -66,6 +66,7 @@ def test_a_parameter_collection_is_known_by_its_name(control, site):
     [
         *(None, "1", 5, ["a"], [1.5], object(), {1: 2}, b"ab", range(3), numpy.zeros(2)),
         numpy.array([PIDS]),
+        [numpy.float32(1)],
         numpy.array(["2024-01-01"], "datetime64[s]"),
     ],
 )

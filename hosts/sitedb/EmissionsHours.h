@@ -36,9 +36,9 @@ public:
 private:
     /// An hour of a gas for which no component is named, as EPA wants it where no monitor measured.
     struct UnnamedHour {
-        const std::string* day;
-        int hour;
-        std::int32_t word;
+        const std::string* day = nullptr;
+        int hour = 0;
+        std::int32_t word = 0;
         std::optional<double> value;
     };
     struct Unit {

@@ -1,5 +1,7 @@
 #include "sitedb/EmissionsParts.h"
 
+#include <utility>
+
 #include "sitedb/ImportSteps.h"
 
 namespace k7deval::sitedb
@@ -48,7 +50,9 @@ std::vector<std::string> SteppedOver::sentences() const
     std::vector<std::string> sentences;
     for (const auto& [kind, count] : counts_) {
         const auto& [list, what, which] = kind;
-        sentences.push_back(list + ": " + counted(count, what) + " " + which + ".");
+        std::string sentence = list + ": ";
+        sentence.append(counted(count, what)).append(" ").append(which).append(".");
+        sentences.push_back(std::move(sentence));
     }
     return sentences;
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
 
 namespace k7deval::sitedb
 {
@@ -73,8 +74,8 @@ const Modc* findModc(std::string_view text)
     const auto read = std::from_chars(text.data(), end, code);
     if (text.empty() || text.size() > 2 || read.ec != std::errc() || read.ptr != end)
         return nullptr;
-    const auto found = std::ranges::find(kModcs, code, &Modc::code);
-    return found == kModcs.end() ? nullptr : &*found;
+    const auto index = std::ranges::find(kModcs, code, &Modc::code) - kModcs.begin();
+    return index == std::ssize(kModcs) ? nullptr : &kModcs[static_cast<std::size_t>(index)];
 }
 
 std::int32_t statusWord(const Modc& modc)

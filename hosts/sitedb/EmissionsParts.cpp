@@ -1,8 +1,8 @@
 #include "sitedb/EmissionsParts.h"
 
-#include <utility>
-
 #include "sitedb/ImportSteps.h"
+
+#include <utility>
 
 namespace k7deval::sitedb
 {

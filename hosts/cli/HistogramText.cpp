@@ -51,11 +51,12 @@ std::vector<std::string> edgesOf(const std::string& toolTip)
 }
 
 /// A bar as long as the screen's is high; one that is seen there is seen here.
-std::string barText(const histogram::HistogramTool& tool, int bar)
+std::string barText(const histogram::HistogramTool& tool, int number)
 {
     const screen::Line& scale = tool.linMin;
-    const float share = tool.lblBar[bar].Place().Height / (scale.Y2() - scale.Y1());
-    return std::string(static_cast<std::size_t>(std::ceil(share * kBarCharacters)), '#');
+    const float share = tool.lblBar[number].Place().Height / (scale.Y2() - scale.Y1());
+    std::string bar(static_cast<std::size_t>(std::ceil(share * kBarCharacters)), '#');
+    return bar;
 }
 
 /// The bars with hours; nothing while they are flat.

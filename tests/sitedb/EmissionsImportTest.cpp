@@ -12,7 +12,6 @@ namespace
 {
 
 using nlohmann::json;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -15,14 +15,6 @@ namespace
 
 using ToolClass = ControlClass<ctrlRangeEval, histogram::HistogramTool>;
 
-/// A result of the last evaluation, to be read.
-template <class Results, class Value>
-void result(ToolClass& tool, const char* name, Value Results::*member, const char* doc)
-{
-    tool.def_property_readonly(
-        name, [member](const ctrlRangeEval& self) { return self.Evaluation().*member; }, doc);
-}
-
 void bindResults(ToolClass& tool)
 {
     using Results = RangeEvaluation;

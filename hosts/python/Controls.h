@@ -49,6 +49,15 @@ void setting(Class& control, const char* name, Get get, Set set, const char* doc
     control.def_property(name, get, set, doc);
 }
 
+/// A result of the last evaluation, to be read.
+template <class Class, class Results, class Value>
+void result(Class& tool, const char* name, Value Results::*member, const char* doc)
+{
+    using Tool = typename Class::type;
+    tool.def_property_readonly(
+        name, [member](const Tool& self) { return self.Evaluation().*member; }, doc);
+}
+
 /// The data as a property.
 template <class Class> void bindData(Class& control, const HostStateHandle& state)
 {

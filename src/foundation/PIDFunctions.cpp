@@ -144,6 +144,11 @@ std::string PIDToText(PID pid)
            padded(PIDPart(pid, pidpart::kSuffix), 2);
 }
 
+std::string NameWithPID(PID pid, const std::string& name)
+{
+    return "[" + PIDToText(pid) + "] " + name;
+}
+
 PID TextToPID(std::string text, bool bracketed)
 {
     if (bracketed)

@@ -95,8 +95,7 @@ void BarLabels::draw(int bar, std::int32_t hours, std::int32_t peak)
 {
     const double scale = linMin_->Y2() - linMin_->Y1() - kGrid;
     const float base = linBase_->Y1();
-    const double share = static_cast<double>(static_cast<float>(hours)) / static_cast<float>(peak);
-    float top = onGrid(static_cast<float>(base - share * scale));
+    float top = onGrid(static_cast<float>(base - shareOfPeak(hours, peak) * scale));
     if (hours > 0 && top == base)
         top = base - kGrid;
     screen::Label& label = (*this)[bar];

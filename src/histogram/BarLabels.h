@@ -5,7 +5,6 @@
 #include "screen/Line.h"
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <string>
 

@@ -116,9 +116,7 @@ void drawChart(ReportPage& page, const InnerMarks& marks, const HourBins& bins, 
         return;
     for (int bar = 1; bar <= kBinCount; ++bar) {
         const std::int32_t hours = bins[static_cast<std::size_t>(bar)];
-        const double share =
-            static_cast<double>(static_cast<float>(hours)) / static_cast<float>(peak);
-        const double height = share * (static_cast<double>(top) - bottom);
+        const double height = shareOfPeak(hours, peak) * (static_cast<double>(top) - bottom);
         const ReportRectangle& box = drawBar(page, bar, bottom, static_cast<float>(height));
         if (hours > 0)
             drawCount(page, box, hours, top);

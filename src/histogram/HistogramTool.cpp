@@ -81,7 +81,16 @@ std::string HistogramTool::parameterEntry(DIParameter& parameter) const
 {
     if (!chkShowPID.isChecked())
         return parameter.Name(0);
-    return "[" + PIDToText(parameter.PID()) + "] " + parameter.Name(0);
+    return NameWithPID(parameter.PID(), parameter.Name(0));
+}
+
+std::optional<HistogramTool::HourSource> HistogramTool::hoursOf(PID pid) const
+{
+    const auto parameters = data().Parameters();
+    if (!present(parameters).Exists(pid))
+        return std::nullopt;
+    HourSource source{parameters->Item(pid, -1), data().StatusCodes()};
+    return source;
 }
 
 void HistogramTool::showHeader()

@@ -15,6 +15,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -111,6 +112,13 @@ protected:
     /// The entry of a parameter in the list, with its PID ahead if that is wanted.
     [[nodiscard]] std::string parameterEntry(DIParameter& parameter) const;
 
+    /// What an evaluation reads: a series, and what its status words say.
+    struct HourSource {
+        std::shared_ptr<DIParameter> parameter;
+        std::shared_ptr<DIStatusCodes> statusCodes;
+    };
+    /// The hours of a parameter; nothing for one that is gone.
+    [[nodiscard]] std::optional<HourSource> hoursOf(PID pid) const;
     /// What stands behind the percents of the three levels.
     struct LevelTails {
         std::string low;

@@ -57,6 +57,11 @@ std::int32_t peakOf(const HourBins& bins)
     return *std::max_element(bins.begin() + 1, bins.end());
 }
 
+double shareOfPeak(std::int32_t hours, std::int32_t peak)
+{
+    return static_cast<double>(static_cast<float>(hours)) / static_cast<float>(peak);
+}
+
 float binEdge(int bin, float low, float range)
 {
     return ToSingle(static_cast<double>(bin) * range / kBinCount + low);

@@ -19,6 +19,9 @@ using HourBins = std::array<std::int32_t, kBinCount + 1>;
 /// The hours of the fullest bin.
 std::int32_t peakOf(const HourBins& bins);
 
+/// The hours of a bin as a share of those of the fullest one; both are taken as singles.
+double shareOfPeak(std::int32_t hours, std::int32_t peak);
+
 /// The value at which a bin ends, from 0 for the beginning of the first to 20.
 float binEdge(int bin, float low, float range);
 

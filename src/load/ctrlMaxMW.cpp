@@ -199,12 +199,10 @@ void ctrlMaxMW::EvaluateLoad(PID pid)
     if (evaluation_.Range() == 0)
         return;
     const LoadPeriod hours = period();
-    const auto parameters = data().Parameters();
-    if (!present(parameters).Exists(pid))
+    const auto source = hoursOf(pid);
+    if (!source)
         return;
-    const auto parameter = parameters->Item(pid, -1);
-    const auto statusCodes = data().StatusCodes();
-    evaluation_.Run(present(parameter), present(statusCodes), hours);
+    evaluation_.Run(present(source->parameter), present(source->statusCodes), hours);
     setEvaluated();
 }
 

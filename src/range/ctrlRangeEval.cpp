@@ -198,12 +198,10 @@ void ctrlRangeEval::EvaluateRange(PID pid)
     evaluation_.Reset();
     const RangeEvaluation::Limits limits = readLimits();
     const Date lastHour = histogram::GetSelectedQuarterEnd(cmbQTR, cmbYear, surroundings_);
-    const auto parameters = data().Parameters();
-    if (!present(parameters).Exists(pid))
+    const auto source = hoursOf(pid);
+    if (!source)
         return;
-    const auto parameter = parameters->Item(pid, -1);
-    const auto statusCodes = data().StatusCodes();
-    evaluation_.Run(present(parameter), present(statusCodes), lastHour, limits);
+    evaluation_.Run(present(source->parameter), present(source->statusCodes), lastHour, limits);
     setEvaluated();
 }
 

@@ -243,10 +243,8 @@ screen::GridCells ParamSelect::readRow(std::int32_t gridRow) const
     if (!server_)
         return {};
     const ParamRow& row = rows_[visibleRows_.Item(gridRow)];
-    if (!row.isUnit) {
-        const std::string pid = showPIDNumber_ ? "[" + PIDToText(row.pid) + "] " : "";
-        return {row.isSelected, pid + row.name};
-    }
+    if (!row.isUnit)
+        return {row.isSelected, showPIDNumber_ ? NameWithPID(row.pid, row.name) : row.name};
     if (!offsetUnits_)
         return {};
     return {Empty{}, headerText(row.name)};

@@ -75,7 +75,7 @@ std::int32_t ComboBox::ItemData() const
 
 void ComboBox::SetText(const std::string& text)
 {
-    if (editField_ == EditField::No)
+    if (!HasEditField())
         throw Error(errors::kUnknownMember);
     edit(text);
 }
@@ -88,7 +88,7 @@ void ComboBox::Pick(std::int32_t index)
 
 void ComboBox::Type(std::string_view text)
 {
-    if (isReachable() && editField_ == EditField::Yes)
+    if (isReachable() && HasEditField())
         edit(std::string(text));
 }
 

@@ -20,6 +20,9 @@ class ComboBox final : public Widget
 public:
     ComboBox(Container& parent, std::string name, EditField editField = EditField::No);
 
+    /// Whether the user can type in it, too.
+    [[nodiscard]] bool HasEditField() const { return editField_ == EditField::Yes; }
+
     /// Empties the list: no entry selected, empty text. Runs nothing.
     void Clear();
     void AddItem(std::string text, std::int32_t itemData = 0);

@@ -1,0 +1,70 @@
+#include "qt/Binding.h"
+
+#include "qt/Mirror.h"
+#include "qt/UserAction.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace k7deval::qt
+{
+
+namespace
+{
+
+/// Rows are changed in place, since a list is filled entry by entry.
+void showEntries(QComboBox& view, const screen::ComboBox& model)
+{
+    for (int row = 0; row < model.ListCount(); ++row) {
+        const QString text = toQString(model.List()[static_cast<std::size_t>(row)]);
+        if (row >= view.count())
+            view.addItem(text);
+        else if (view.itemText(row) != text)
+            view.setItemText(row, text);
+    }
+    while (view.count() > model.ListCount())
+        view.removeItem(view.count() - 1);
+}
+
+void showComboBox(QComboBox& view, const screen::ComboBox& model)
+{
+    showEntries(view, model);
+    if (view.currentIndex() != model.ListIndex())
+        view.setCurrentIndex(model.ListIndex());
+    if (view.isEditable() && view.currentText() != toQString(model.Text()))
+        view.setEditText(toQString(model.Text()));
+}
+
+/// The toolkit's own readings of a typed text, to complete it or to pick the entry that it equals,
+/// would make a pick of what the user only typed.
+void makeEditable(QComboBox& view)
+{
+    view.setEditable(true);
+    view.setInsertPolicy(QComboBox::NoInsert);
+    view.setCompleter(nullptr);
+    QObject::disconnect(view.lineEdit(), &QLineEdit::editingFinished, &view, nullptr);
+    QObject::disconnect(view.lineEdit(), &QLineEdit::returnPressed, &view, nullptr);
+}
+
+} // namespace
+
+void bind(QComboBox& view, screen::ComboBox& model)
+{
+    if (model.HasEditField())
+        makeEditable(view);
+    view.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    const Refresh refresh = mirror<QComboBox, screen::ComboBox>(view, model, showComboBox);
+    QObject::connect(&view, &QComboBox::activated, &view, [&view, &model, refresh](int row) {
+        forward(
+            view, [&] { model.Pick(row); }, refresh);
+    });
+    if (!view.isEditable())
+        return;
+    QObject::connect(view.lineEdit(), &QLineEdit::textEdited, &view,
+                     [&view, &model, refresh](const QString& text) {
+                         forward(
+                             view, [&] { model.Type(text.toStdString()); }, refresh);
+                     });
+}
+
+} // namespace k7deval::qt

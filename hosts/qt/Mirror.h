@@ -1,0 +1,50 @@
+#pragma once
+
+#include "qt/EventWatch.h"
+#include "qt/Texts.h"
+#include "screen/Widget.h"
+
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QWidget>
+
+#include <functional>
+
+namespace k7deval::qt
+{
+
+/// Shows a model anew on its view, as long as there is the view.
+using Refresh = std::function<void()>;
+
+/// How a view shows what stands in its model.
+template <class View, class Model> using Show = std::function<void(View&, const Model&)>;
+
+/// A function that makes a view look like its model without a signal to those who follow the view,
+/// so that a change of the model is never taken for an action of the user. Does nothing once the
+/// view is gone; the model outlives the view.
+template <class View, class Model>
+Refresh refreshOf(View& view, const Model& model, Show<View, Model> show)
+{
+    return [guard = QPointer<View>(&view), &model, show = std::move(show)] {
+        if (!guard)
+            return;
+        const QSignalBlocker quiet(guard.data());
+        guard->setVisible(model.Visible());
+        guard->setEnabled(model.Enabled());
+        show(*guard, model);
+    };
+}
+
+/// Names a view as its model and keeps it like the model from now on, and in the colours of its
+/// palette. The answer shows the model at once.
+template <class View, class Model> Refresh mirror(View& view, Model& model, Show<View, Model> show)
+{
+    view.setObjectName(toQString(model.Name()));
+    const Refresh refresh = refreshOf<View, Model>(view, model, std::move(show));
+    model.Changed.Connect(refresh);
+    new EventWatch(view, QEvent::PaletteChange, [refresh](const QEvent&) { refresh(); });
+    refresh();
+    return refresh;
+}
+
+} // namespace k7deval::qt

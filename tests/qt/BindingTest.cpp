@@ -1,0 +1,184 @@
+#include "qt/Binding.h"
+#include "foundation/Error.h"
+#include "qt/Operator.h"
+#include "qt/Texts.h"
+
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <optional>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+/// A screen with a field, a list to type in, a box and a button, which counts what it hears.
+struct Screen : screen::Control {
+    Screen() : Control("screen")
+    {
+        list.AddItem("one");
+        list.AddItem("two");
+        list.Picked.Connect([this] { ++picks; });
+        list.TextChanged.Connect([this] { ++typings; });
+        field.TextChanged.Connect([this] { ++changes; });
+        field.Validate.Connect([this] { ++leavings; });
+        box.Clicked.Connect([this] { ++clicks; });
+        button.Clicked.Connect([this] {
+            ++presses;
+            if (failure)
+                throw Error(*failure);
+        });
+    }
+
+    screen::TextBox field{*this, "field", 4};
+    screen::ComboBox list{*this, "list", screen::EditField::Yes};
+    screen::CheckBox box{*this, "box", "Box"};
+    screen::Button button{*this, "button", "Salt & Pepper"};
+    int picks = 0;
+    int typings = 0;
+    int changes = 0;
+    int leavings = 0;
+    int clicks = 0;
+    int presses = 0;
+    std::optional<Error> failure;
+};
+
+struct View : QWidget {
+    explicit View(Screen& screen)
+    {
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(makeView(*this, screen.field));
+        column->addWidget(makeView(*this, screen.list));
+        column->addWidget(makeView(*this, screen.box));
+        column->addWidget(makeView(*this, screen.button, 'p'));
+    }
+};
+
+struct Bench {
+    Screen screen;
+    View view{screen};
+    Operator hands{view};
+};
+
+} // namespace
+
+TEST(Binding, AChangeByCodeIsNoActionOfTheUser)
+{
+    Bench bench;
+    bench.screen.field.SetText("code");
+    bench.screen.list.SetListIndex(1);
+    bench.screen.box.SetChecked(true);
+    settle();
+    EXPECT_EQ(bench.hands.view<QLineEdit>("field").text(), "code");
+    EXPECT_EQ(bench.hands.view<QComboBox>("list").currentIndex(), 1);
+    EXPECT_TRUE(bench.hands.view<QCheckBox>("box").isChecked());
+    EXPECT_EQ(bench.screen.changes, 1);
+    EXPECT_EQ(bench.screen.picks, 1);
+    EXPECT_EQ(bench.screen.typings, 0);
+    EXPECT_EQ(bench.screen.clicks, 1);
+}
+
+TEST(Binding, EachKeyIsTypedOnce)
+{
+    Bench bench;
+    bench.hands.type("field", "12345");
+    EXPECT_EQ(bench.screen.field.Text(), "1234");
+    EXPECT_EQ(bench.screen.changes, 4);
+    EXPECT_EQ(bench.screen.leavings, 0);
+    bench.hands.press(Qt::Key_Tab);
+    EXPECT_EQ(bench.screen.leavings, 1);
+}
+
+TEST(Binding, APickOfTheSameEntryIsAPick)
+{
+    Bench bench;
+    bench.screen.list.SetListIndex(1);
+    auto& list = bench.hands.view<QComboBox>("list");
+    list.showPopup();
+    settle();
+    QTest::keyClick(list.view(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(bench.screen.picks, 2);
+}
+
+TEST(Binding, TypingTheTextOfAnEntryIsNoPick)
+{
+    Bench bench;
+    bench.hands.enter("list", "two");
+    EXPECT_EQ(bench.screen.list.Text(), "two");
+    EXPECT_EQ(bench.screen.list.ListIndex(), -1);
+    EXPECT_EQ(bench.hands.view<QComboBox>("list").currentIndex(), -1);
+    EXPECT_EQ(bench.screen.picks, 0);
+    EXPECT_EQ(bench.screen.typings, 3);
+}
+
+TEST(Binding, ShowsWhatTheModelMadeOfAPress)
+{
+    Bench bench;
+    // The model goes back on the user.
+    bench.screen.box.Clicked.Connect([&bench] { bench.screen.box.SetChecked(false); });
+    bench.hands.click("box");
+    EXPECT_FALSE(bench.hands.view<QCheckBox>("box").isChecked());
+}
+
+TEST(Binding, TellsAFailureByNumberAndDescription)
+{
+    Bench bench;
+    bench.screen.failure = Error(381);
+    QString told;
+    whenDialogComes([&told](QDialog& dialog) {
+        told = dynamic_cast<QMessageBox&>(dialog).text();
+        dialog.accept();
+    });
+    bench.hands.click("button");
+    EXPECT_EQ(told, "Error 381: Invalid property array index");
+}
+
+TEST(Binding, AMnemonicPressesTheButton)
+{
+    Bench bench;
+    EXPECT_EQ(bench.hands.view<QPushButton>("button").text(), "Salt && &Pepper");
+    bench.hands.press(Qt::Key_P, Qt::AltModifier);
+    EXPECT_EQ(bench.screen.presses, 1);
+}
+
+TEST(Binding, TheModelOutlivesItsView)
+{
+    Screen screen;
+    {
+        const View view(screen);
+    }
+    screen.field.SetText("on");
+    screen.list.Clear();
+    screen.button.SetEnabled(false);
+    EXPECT_EQ(screen.changes, 1);
+}
+
+TEST(Binding, AViewMayCloseWhileItsButtonIsPressed)
+{
+    Screen screen;
+    auto view = std::make_unique<View>(screen);
+    screen.button.Clicked.Connect([&view] { view.release()->deleteLater(); });
+    Operator(*view).click("button");
+    EXPECT_EQ(screen.presses, 1);
+}
+
+TEST(Binding, AMnemonicIsALetterOfTheCaption)
+{
+    EXPECT_EQ(withMnemonic("Unit:", 'U'), "&Unit:");
+    EXPECT_EQ(withMnemonic("Show PID", 'd'), "Show PI&D");
+    EXPECT_EQ(withMnemonic("A & B", 0), "A && B");
+    EXPECT_EQ(withMnemonic("Unit:", 'x'), "Unit:");
+}
+
+} // namespace k7deval::qt::test

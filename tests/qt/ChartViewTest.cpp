@@ -1,0 +1,125 @@
+#include "qt/ChartView.h"
+#include "load/LoadBench.h"
+#include "qt/Operator.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QTest>
+#include <QToolTip>
+
+#include <cmath>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+using k7deval::test::LoadBench;
+
+/// The chart of a load evaluation: 4 hours in the first bin, 8 in the tenth, 1 in the last, as wide
+/// as the tool's frame at 10 twips a pixel.
+struct Chart {
+    Chart()
+    {
+        bench.range("0", "100").hours({1, 1, 1, 1, 99});
+        bench.addHours(8, 50);
+        bench.calculate();
+        view.resize(600, 400);
+        view.show();
+        settle();
+    }
+
+    LoadBench bench;
+    ChartView view{
+        nullptr,
+        bench.tool,
+        {&bench.tool.lbl000, &bench.tool.lbl030, &bench.tool.lbl060, &bench.tool.lbl100}};
+
+    [[nodiscard]] QLabel& label(const char* name) const { return *view.findChild<QLabel*>(name); }
+};
+
+} // namespace
+
+TEST(ChartView, BarsKeepTheProportionsOfTheTool)
+{
+    const Chart chart;
+    for (int bar = 1; bar <= 20; ++bar) {
+        const screen::Geometry& place = chart.bench.tool.lblBar[bar].Place();
+        const QRect rect = chart.view.barRect(bar);
+        if (place.Height == 0) {
+            EXPECT_TRUE(rect.isEmpty()) << bar;
+            continue;
+        }
+        EXPECT_NEAR(rect.left(), place.Left / 10, 1) << bar;
+        EXPECT_NEAR(rect.width(), place.Width / 10, 1) << bar;
+        const double share = rect.height() / static_cast<double>(chart.view.barRect(10).height());
+        EXPECT_NEAR(share, place.Height / chart.bench.tool.lblBar[10].Place().Height, 0.01) << bar;
+    }
+}
+
+TEST(ChartView, PaintsItsBarsInTheColourOfTheDesktop)
+{
+    const Chart chart;
+    const QImage image = const_cast<ChartView&>(chart.view).grab().toImage();
+    EXPECT_EQ(image.pixelColor(chart.view.barRect(10).center()),
+              chart.view.palette().color(QPalette::Highlight));
+    EXPECT_EQ(image.pixelColor(chart.view.barRect(10).center() + QPoint(30, 0)),
+              chart.view.palette().color(QPalette::Window));
+}
+
+TEST(ChartView, TextsStandAtTheirMarksAndDoNotOverlap)
+{
+    const Chart chart;
+    EXPECT_NEAR(chart.label("lblLow").geometry().center().x(), 184.5, 2);
+    EXPECT_NEAR(chart.label("lblMax").geometry().right(), 588, 2);
+    EXPECT_FALSE(chart.label("lblLowOpPercent")
+                     .geometry()
+                     .intersects(chart.label("lblMidOpPercent").geometry()));
+}
+
+TEST(ChartView, TheSmallestChartHasRoomForItsTexts)
+{
+    Chart chart;
+    chart.view.resize(chart.view.minimumSizeHint());
+    settle();
+    for (const char* pair : {"lblLowOpPercent lblMidOpPercent", "lblMidOpPercent lblHighOpPercent",
+                             "lblMinSafe lblLow", "lblMid lblMax", "lbl000 lbl030"}) {
+        const QStringList names = QString(pair).split(' ');
+        EXPECT_FALSE(chart.label(qPrintable(names[0]))
+                         .geometry()
+                         .intersects(chart.label(qPrintable(names[1])).geometry()))
+            << pair;
+    }
+}
+
+TEST(ChartView, ShowsTheToolTipOfTheWholeColumn)
+{
+    Chart chart;
+    const QPoint top(chart.view.barRect(20).center().x(), 50);
+    QHelpEvent help(QEvent::ToolTip, top, chart.view.mapToGlobal(top));
+    QApplication::sendEvent(&chart.view, &help);
+    EXPECT_EQ(QToolTip::text(), "95 - 100   Op Hours: 1");
+}
+
+TEST(ChartView, TheArrowKeysGoFromBarToBar)
+{
+    Chart chart;
+    QTest::keyClick(&chart.view, Qt::Key_Right);
+    EXPECT_EQ(QToolTip::text(), "0 - 5   Op Hours: 4");
+    QTest::keyClick(&chart.view, Qt::Key_Right);
+    EXPECT_EQ(QToolTip::text(), "5 - 10   Op Hours: 0");
+}
+
+TEST(ChartView, AScreenReaderGetsAllBars)
+{
+    const Chart chart;
+    const QStringList bars = chart.view.accessibleDescription().split('\n');
+    ASSERT_EQ(bars.size(), 20);
+    EXPECT_EQ(bars[9], "45 - 50   Op Hours: 8");
+}
+
+} // namespace k7deval::qt::test

@@ -1,0 +1,231 @@
+#include "qt/Operator.h"
+#include "qt/ScreenComparison.h"
+#include "qt/ctrl7DayView.h"
+#include "sevenday/ToolBench.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+using k7deval::test::addCal;
+using k7deval::test::march;
+using k7deval::test::operatedSite;
+using k7deval::test::SiteData;
+using k7deval::test::siteWithDailyCals;
+using k7deval::test::ToolBench;
+using testing::IsEmpty;
+
+/// Seven days of passed calibrations, on the third of which one failed before it passed.
+std::shared_ptr<SiteData> siteWithOneFailure()
+{
+    auto site = siteWithDailyCals(7);
+    addCal(*site, {.time = march(3, 6), .spanMeasured = 190});
+    addCal(*site, {.time = march(4, 21), .online = false});
+    return site;
+}
+
+struct DriftScreen {
+    explicit DriftScreen(std::shared_ptr<SiteData> site = siteWithDailyCals(7))
+        : bench(std::move(site))
+    {
+    }
+
+    ToolBench bench;
+    ctrl7DayView view{bench.tool};
+    Operator hands{view};
+
+    [[nodiscard]] QLabel& label(const std::string& name) const { return hands.view<QLabel>(name); }
+    [[nodiscard]] QTreeWidget& tree() const { return hands.view<QTreeWidget>("tvwCalTimes"); }
+    [[nodiscard]] std::vector<std::string> differences() const
+    {
+        settle();
+        return test::differences(bench.tool, view);
+    }
+    void clickEntry(QTreeWidgetItem& entry) const
+    {
+        tree().scrollToItem(&entry);
+        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {},
+                          tree().visualItemRect(&entry).center());
+        settle();
+    }
+};
+
+QTreeWidgetItem& entryOf(const DriftScreen& screen, const QString& text)
+{
+    const auto found = screen.tree().findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+    EXPECT_EQ(found.size(), 1) << text.toStdString();
+    return *found.front();
+}
+
+} // namespace
+
+TEST(DriftScreen, ShowsTheSetUpFromTheStart)
+{
+    DriftScreen screen;
+    screen.hands.photograph("drift-setup");
+    EXPECT_FALSE(screen.tree().isVisible());
+    EXPECT_THAT(screen.differences(), IsEmpty());
+}
+
+TEST(DriftScreen, EvaluatesWithMouseAndKeys)
+{
+    DriftScreen screen(siteWithOneFailure());
+    screen.hands.enter("txtFromDate", "2024-03-01");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtFromDate").text(), "3/1/2024");
+    screen.hands.click("optShowInterval");
+    screen.hands.click("cmdNext");
+    screen.hands.photograph("drift-results");
+
+    EXPECT_TRUE(screen.tree().isVisible());
+    EXPECT_FALSE(screen.hands.view<QWidget>("cmbAnalyzer").isVisible());
+    EXPECT_EQ(screen.label("lblCalResultLabel").text(), "Passed");
+    EXPECT_THAT(screen.differences(), IsEmpty());
+
+    screen.hands.click("cmdBack");
+    EXPECT_FALSE(screen.tree().isVisible());
+    EXPECT_THAT(screen.differences(), IsEmpty());
+}
+
+TEST(DriftScreen, AFailedCalibrationStandsOut)
+{
+    DriftScreen screen(siteWithOneFailure());
+    screen.hands.click("cmdNext");
+    settle();
+    entryOf(screen, "3/3/2024").setExpanded(true);
+    settle();
+    screen.clickEntry(entryOf(screen, "3/3/2024 06:00"));
+    screen.hands.photograph("drift-failed");
+
+    const QLabel& result = screen.label("lblCalResultLabel");
+    EXPECT_EQ(result.text(), "Failed");
+    EXPECT_TRUE(result.font().bold());
+    const QColor color = result.palette().color(QPalette::WindowText);
+    EXPECT_GT(color.red(), color.green() + 100);
+    EXPECT_THAT(screen.differences(), IsEmpty());
+    EXPECT_TRUE(entryOf(screen, "3/3/2024").isExpanded());
+
+    screen.clickEntry(entryOf(screen, "3/5/2024 08:15"));
+    EXPECT_EQ(result.text(), "Passed");
+    EXPECT_EQ(result.palette().color(QPalette::WindowText),
+              screen.view.palette().color(QPalette::WindowText));
+}
+
+TEST(DriftScreen, TheArrowKeysSelectAnEntry)
+{
+    DriftScreen screen;
+    screen.hands.click("cmdNext");
+    settle();
+    screen.tree().setFocus(Qt::TabFocusReason);
+    screen.hands.press(Qt::Key_Down);
+    EXPECT_EQ(screen.label("lblCalTimeData").text(), "3/2/2024 08:15");
+    EXPECT_THAT(screen.differences(), IsEmpty());
+}
+
+TEST(DriftScreen, TheEmptyResultIsNotSelectedByItself)
+{
+    DriftScreen screen(operatedSite());
+    screen.hands.click("cmdNext");
+    settle();
+    screen.tree().setFocus(Qt::TabFocusReason);
+    settle();
+    EXPECT_EQ(screen.bench.result().tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_THAT(screen.differences(), IsEmpty());
+    screen.clickEntry(entryOf(screen, "NA"));
+    EXPECT_EQ(screen.bench.result().tvwCalTimes.SelectedItem()->Key, "NA");
+}
+
+TEST(DriftScreen, AnEntrySaysWhatItsPictureMeans)
+{
+    DriftScreen screen(siteWithOneFailure());
+    screen.hands.click("optShowInterval");
+    screen.hands.click("cmdNext");
+    settle();
+    EXPECT_EQ(entryOf(screen, "3/5/2024 08:15").toolTip(0), "Pass On-Line, used in the drift test");
+    EXPECT_EQ(entryOf(screen, "3/3/2024 06:00").data(0, Qt::AccessibleDescriptionRole),
+              "Fail On-Line");
+}
+
+TEST(DriftScreen, AnOptionTakesItsLimit)
+{
+    DriftScreen screen;
+    EXPECT_FALSE(screen.hands.view<QLineEdit>("txtOtherSpanValue").isEnabled());
+    screen.hands.click("optOtherSpan");
+    screen.hands.enter("txtOtherSpanValue", "4");
+    EXPECT_EQ(screen.bench.setUp().PercentOfSpanLimit(), 4);
+    EXPECT_THAT(screen.differences(), IsEmpty());
+}
+
+TEST(DriftScreen, TheArrowKeysGoThroughTheOptions)
+{
+    DriftScreen screen;
+    screen.hands.click("opt025Span");
+    screen.hands.press(Qt::Key_Down);
+    EXPECT_TRUE(screen.bench.setUp().opt05Span.isSelected());
+    EXPECT_THAT(screen.differences(), IsEmpty());
+}
+
+TEST(DriftScreen, ATextTooLongIsCut)
+{
+    DriftScreen screen;
+    screen.hands.enter("txtORIS", "1234567");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtORIS").text(), "123456");
+}
+
+TEST(DriftScreen, EveryFieldAndButtonHasANameToReadOut)
+{
+    DriftScreen screen;
+    EXPECT_THAT(withoutAccessibleName(screen.view), IsEmpty());
+    screen.hands.click("cmdNext");
+    EXPECT_THAT(withoutAccessibleName(screen.view), IsEmpty());
+}
+
+TEST(DriftScreen, StaysReadableOnADarkDesktop)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(0x30, 0x30, 0x30));
+    QApplication::setPalette(dark);
+    {
+        DriftScreen screen(siteWithOneFailure());
+        screen.hands.click("cmdNext");
+        settle();
+        entryOf(screen, "3/3/2024").setExpanded(true);
+        screen.clickEntry(entryOf(screen, "3/3/2024 06:00"));
+        screen.hands.photograph("drift-dark");
+        EXPECT_GT(
+            screen.label("lblCalResultLabel").palette().color(QPalette::WindowText).lightness(),
+            150);
+    }
+    QApplication::setPalette(before);
+}
+
+TEST(DriftScreen, GrowsWithLargeLetters)
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 2);
+    QApplication::setFont(large);
+    {
+        DriftScreen screen;
+        screen.hands.photograph("drift-setup-large");
+        for (const QLabel* label : screen.view.findChildren<QLabel*>()) {
+            if (label->isVisible()) {
+                EXPECT_GE(label->width(), label->sizeHint().width())
+                    << label->objectName().toStdString();
+            }
+        }
+    }
+    QApplication::setFont(before);
+}
+
+} // namespace k7deval::qt::test

@@ -1,0 +1,156 @@
+#include "load/LoadBench.h"
+#include "qt/Operator.h"
+#include "qt/ScreenComparison.h"
+#include "qt/ctrlMaxMWView.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+using k7deval::test::failAt;
+using k7deval::test::FakeServices;
+using k7deval::test::kGT1Load;
+using k7deval::test::LoadBench;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// An operator at the load tool on GT1: ten hours of load on the bounds of bins and levels.
+struct LoadScreen {
+    LoadScreen()
+    {
+        bench.hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110});
+        bench.addHours(20, 42);
+    }
+
+    LoadBench bench;
+    ctrlMaxMWView view{bench.tool};
+    Operator hands{view};
+
+    [[nodiscard]] std::string text(const std::string& label) const
+    {
+        return hands.view<QLabel>(label).text().toStdString();
+    }
+};
+
+} // namespace
+
+TEST(LoadScreen, ShowsItsToolFromTheStart)
+{
+    const LoadScreen screen;
+    screen.hands.photograph("load-start");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, EvaluatesWithMouseAndKeys)
+{
+    const LoadScreen screen;
+    screen.hands.enter("txtMinSafe", "10");
+    screen.hands.enter("txtCapacity", "100");
+    screen.hands.click("cmdCalculate");
+    screen.hands.photograph("load-results");
+
+    EXPECT_EQ(screen.text("lblHeader"), "GT1 GT1 Load");
+    EXPECT_EQ(screen.text("lblBelow"), "1 hour(s) under 10");
+    EXPECT_EQ(screen.text("lblAbove"), "1 hour(s) over 100 - Maximum 110");
+    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, AMnemonicLeavesTheFieldBeforeItCalculates)
+{
+    const LoadScreen screen;
+    screen.hands.type("txtMinSafe", "10");
+    screen.hands.press(Qt::Key_C, Qt::AltModifier);
+    EXPECT_EQ(screen.text("lblMinSafe"), "10");
+}
+
+TEST(LoadScreen, BadInputIsPutBackWhenTheFieldIsLeft)
+{
+    const LoadScreen screen;
+    screen.hands.type("txtCapacity", "abc");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtCapacity").text(), "abc");
+    screen.hands.press(Qt::Key_Tab);
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtCapacity").text(), "100");
+}
+
+TEST(LoadScreen, AnotherWindowDoesNotEndTheTyping)
+{
+    const LoadScreen screen;
+    screen.hands.type("txtCapacity", "abc");
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&screen.hands.view<QLineEdit>("txtCapacity"), &away);
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtCapacity").text(), "abc");
+}
+
+TEST(LoadScreen, ThePeriodGoesWithItsOption)
+{
+    const LoadScreen screen;
+    screen.hands.click("optTimeSelect");
+    screen.hands.enter("txtFrom", "1/1/2024");
+    screen.hands.enter("txtTo", "2024-01-02");
+    EXPECT_FALSE(screen.hands.view<QWidget>("cmbYear").isEnabled());
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtTo").text(), "1/2/2024");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, ATypedYearIsNotTakenForAPick)
+{
+    const LoadScreen screen;
+    screen.hands.enter("cmbYear", "2023");
+    EXPECT_EQ(screen.bench.tool.cmbYear.ListIndex(), -1);
+    EXPECT_EQ(screen.bench.tool.cmbYear.Text(), "2023");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, AnotherUnitBringsItsOwnParameters)
+{
+    const LoadScreen screen;
+    screen.hands.pick("cmbUnit", "GT2");
+    screen.hands.click("chkShowPID");
+    EXPECT_EQ(screen.bench.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, AFailureIsToldAndTheHourglassStays)
+{
+    const LoadScreen screen;
+    failAt(*screen.bench.site, "DIServer.Parameters");
+    QString told;
+    whenDialogComes([&told](QDialog& dialog) {
+        told = dynamic_cast<QMessageBox&>(dialog).text();
+        dialog.accept();
+    });
+    screen.hands.click("cmdCalculate");
+    EXPECT_EQ(told, "Error 440: the line is down");
+    EXPECT_EQ(screen.view.cursor().shape(), Qt::WaitCursor);
+}
+
+TEST(LoadScreen, EveryFieldAndButtonHasANameToReadOut)
+{
+    const LoadScreen screen;
+    EXPECT_THAT(withoutAccessibleName(screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)
+{
+    LoadBench bench;
+    {
+        const ctrlMaxMWView view(bench.tool);
+    }
+    bench.hours({50}).calculate();
+    EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 GT1 Load");
+}
+
+} // namespace k7deval::qt::test

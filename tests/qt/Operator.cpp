@@ -1,0 +1,101 @@
+#include "qt/Operator.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+/// Boxes and options react on their mark and text, at the left.
+QPoint spotOf(const QWidget& view)
+{
+    const bool hasMark = qobject_cast<const QCheckBox*>(&view) != nullptr ||
+                         qobject_cast<const QRadioButton*>(&view) != nullptr;
+    return hasMark ? QPoint(view.height() / 2, view.height() / 2) : view.rect().center();
+}
+
+} // namespace
+
+Operator::Operator(QWidget& screen) : screen_(&screen)
+{
+    screen.show();
+    QApplication::setActiveWindow(&screen);
+    settle();
+}
+
+void Operator::click(const std::string& name) const
+{
+    auto& button = view<QWidget>(name);
+    QTest::mouseClick(&button, Qt::LeftButton, {}, spotOf(button));
+    settle();
+}
+
+void Operator::type(const std::string& name, const std::string& text) const
+{
+    auto& field = view<QWidget>(name);
+    field.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    if (text.empty())
+        QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, QString::fromStdString(text));
+    settle();
+}
+
+void Operator::enter(const std::string& name, const std::string& text) const
+{
+    type(name, text);
+    press(Qt::Key_Tab);
+}
+
+void Operator::pick(const std::string& name, const std::string& entry) const
+{
+    auto& list = view<QComboBox>(name);
+    list.setFocus(Qt::TabFocusReason);
+    const int wanted = list.findText(QString::fromStdString(entry));
+    if (wanted < 0)
+        throw std::runtime_error("no such entry of " + name + ": " + entry);
+    while (list.currentIndex() != wanted)
+        QTest::keyClick(&list, list.currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
+    settle();
+}
+
+void Operator::press(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+{
+    QWidget* focused = QApplication::focusWidget();
+    QTest::keyClick(focused == nullptr ? screen_ : focused, key, modifiers);
+    settle();
+}
+
+void Operator::photograph(const std::string& name) const
+{
+    const QString folder = qEnvironmentVariable("K7DEVAL_SCREENS");
+    if (folder.isEmpty())
+        return;
+    settle();
+    screen_->grab().save(folder + "/" + QString::fromStdString(name) + ".png");
+}
+
+void settle()
+{
+    QApplication::processEvents();
+}
+
+void whenDialogComes(std::function<void(QDialog&)> deal)
+{
+    QTimer::singleShot(0, qApp, [deal = std::move(deal)] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            deal(*dialog);
+        else
+            whenDialogComes(deal);
+    });
+}
+
+} // namespace k7deval::qt::test

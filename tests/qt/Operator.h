@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+class QDialog;
+
+namespace k7deval::qt::test
+{
+
+/// The hands of an operator at a screen: mouse and keys, nothing else. Widgets go by the names that
+/// the tools give them.
+class Operator
+{
+public:
+    /// Sits down at a screen, which is shown.
+    explicit Operator(QWidget& screen);
+
+    /// A part of the screen by its name; std::runtime_error if there is none or it is of another
+    /// kind.
+    template <class View> [[nodiscard]] View& view(const std::string& name) const
+    {
+        auto* found = screen_->findChild<View*>(QString::fromStdString(name));
+        if (found == nullptr)
+            throw std::runtime_error("no such part of the screen: " + name);
+        return *found;
+    }
+
+    /// Clicks into the middle of a button, or on the mark of a box or option.
+    void click(const std::string& name) const;
+    /// Types a text over what a field holds, without leaving it.
+    void type(const std::string& name, const std::string& text) const;
+    /// Types a text over what a field holds and goes on with the tabulator.
+    void enter(const std::string& name, const std::string& text) const;
+    /// Picks an entry of a list with the keys.
+    void pick(const std::string& name, const std::string& entry) const;
+    /// Presses a key where the focus is.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+
+    /// Writes what the screen looks like to a PNG, if the variable K7DEVAL_SCREENS names a folder.
+    void photograph(const std::string& name) const;
+
+private:
+    QWidget* screen_;
+};
+
+/// Lets the event loop deal with what waits.
+void settle();
+
+/// Does something with the next dialog that comes up, over whatever runs then. Each dialog has to
+/// be dealt with so that the program goes on.
+void whenDialogComes(std::function<void(QDialog&)> deal);
+
+} // namespace k7deval::qt::test

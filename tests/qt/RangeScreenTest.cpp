@@ -1,0 +1,85 @@
+#include "qt/Operator.h"
+#include "qt/ScreenComparison.h"
+#include "qt/ctrlRangeEvalView.h"
+#include "range/RangeBench.h"
+
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+using k7deval::test::RangeBench;
+using k7deval::test::siteOfTwoUnits;
+using testing::IsEmpty;
+
+/// An operator at the range tool, on GT1 with its scales and GT2.
+struct RangeScreen {
+    RangeScreen() { bench.hours({5, 10, 10.5, 20, 30, 39.5, 40, 45, 50, 60, 12, 12, 12}); }
+
+    RangeBench bench{siteOfTwoUnits()};
+    ctrlRangeEvalView view{bench.tool};
+    Operator hands{view};
+
+    [[nodiscard]] std::string text(const std::string& label) const
+    {
+        return hands.view<QLabel>(label).text().toStdString();
+    }
+};
+
+} // namespace
+
+TEST(RangeScreen, ShowsItsToolFromTheStart)
+{
+    const RangeScreen screen;
+    screen.hands.photograph("range-start");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, EvaluatesWithMouseAndKeys)
+{
+    const RangeScreen screen;
+    screen.hands.enter("txtMEC", "11");
+    screen.hands.click("cmdCalculate");
+    screen.hands.photograph("range-results");
+
+    EXPECT_EQ(screen.text("lblAboveMEC"), "Hours above MEC:  9");
+    EXPECT_EQ(screen.text("lblOverRange"), "Hours over Range:  1");
+    EXPECT_EQ(screen.text("lblLowOpPercent"), "16.7%");
+    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, APickGoesDownToTheRange)
+{
+    const RangeScreen screen;
+    screen.hands.pick("cmbScale", "HIGH");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "500");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    screen.hands.pick("cmbUnit", "GT2");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "250");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, TypingALimitTakesTheResultsOffTheScreen)
+{
+    const RangeScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.type("txtMPC", "48");
+    EXPECT_EQ(screen.text("lblHeader"), "");
+    EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+}
+
+TEST(RangeScreen, EveryFieldAndButtonHasANameToReadOut)
+{
+    const RangeScreen screen;
+    EXPECT_THAT(withoutAccessibleName(screen.view), IsEmpty());
+}
+
+} // namespace k7deval::qt::test

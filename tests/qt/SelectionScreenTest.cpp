@@ -1,0 +1,142 @@
+#include "qt/Operator.h"
+#include "qt/ScreenComparison.h"
+#include "qt/SelectionViews.h"
+#include "selection/SelectionBench.h"
+
+#include <gmock/gmock.h>
+
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QStyle>
+#include <QStyleOptionViewItem>
+#include <QTableView>
+#include <QTest>
+
+namespace k7deval::qt::test
+{
+
+namespace
+{
+
+using k7deval::test::kCo;
+using k7deval::test::kFiveParameters;
+using k7deval::test::kLoad;
+using k7deval::test::kNox;
+using k7deval::test::ParamSelectBench;
+using k7deval::test::selectionOf;
+using k7deval::test::SingleBench;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// An operator at the list of five parameters of two units, under the filter of units.
+struct ListScreen {
+    ListScreen()
+    {
+        bench.filtered().list(kFiveParameters);
+        view.resize(300, 300);
+        settle();
+    }
+
+    ParamSelectBench bench;
+    ParamSelectView view{bench.tool};
+    Operator hands{view};
+
+    [[nodiscard]] QTableView& table() const { return hands.view<QTableView>("jgexGrid"); }
+    [[nodiscard]] QModelIndex cell(int row, int column) const
+    {
+        return table().model()->index(row, column);
+    }
+    [[nodiscard]] QString text(int row) const { return cell(row, 1).data().toString(); }
+    /// On the mark of a row, from 0.
+    void tick(int row) const
+    {
+        const QRect rect = table().visualRect(cell(row, 0));
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {},
+                          {rect.left() + rect.height() / 2, rect.center().y()});
+        settle();
+    }
+    void doubleClick(int row, int column) const
+    {
+        const QPoint spot = table().visualRect(cell(row, column)).center();
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, spot);
+        QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, spot);
+        settle();
+    }
+};
+
+} // namespace
+
+TEST(ListScreen, ShowsTheRowsAndTheFilter)
+{
+    const ListScreen screen;
+    screen.hands.photograph("selection-list");
+    EXPECT_EQ(screen.table().model()->rowCount(), 7);
+    EXPECT_EQ(screen.text(1), "NOx");
+    EXPECT_EQ(screen.table().columnSpan(0, 0), 2);
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(ListScreen, AHeaderFillsTheWidth)
+{
+    const ListScreen screen;
+    const QString header = screen.text(0);
+    EXPECT_TRUE(header.startsWith("-----") && header.contains("- GT1 -")) << header.toStdString();
+    const int width = screen.table().fontMetrics().horizontalAdvance(header);
+    EXPECT_LE(width, screen.table().viewport()->width());
+    EXPECT_GE(width, screen.table().viewport()->width() * 3 / 4);
+}
+
+TEST(ListScreen, TicksWithMouseAndKeys)
+{
+    const ListScreen screen;
+    screen.tick(1);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox));
+    screen.table().setCurrentIndex(screen.cell(2, 0));
+    QTest::keyClick(&screen.table(), Qt::Key_Space);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox, kCo));
+    EXPECT_EQ(screen.cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
+    screen.tick(1);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kCo));
+}
+
+TEST(ListScreen, ADoubleClickOnANameTicksIt)
+{
+    const ListScreen screen;
+    screen.doubleClick(5, 1);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kLoad));
+    screen.doubleClick(0, 1);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kLoad));
+}
+
+TEST(ListScreen, TheFilterShowsOneUnit)
+{
+    const ListScreen screen;
+    screen.hands.pick("cmbUnit", "GT2");
+    EXPECT_EQ(screen.table().model()->rowCount(), 2);
+    EXPECT_EQ(screen.text(0), "Load");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(ListScreen, KnowsItsKeysCell)
+{
+    const ListScreen screen;
+    screen.table().setFocus();
+    screen.table().setCurrentIndex(screen.cell(2, 1));
+    QTest::keyClick(&screen.table(), Qt::Key_Down);
+    EXPECT_EQ(screen.bench.tool.jgexGrid.Row(), 4);
+}
+
+TEST(SingleScreen, PicksOneParameter)
+{
+    SingleBench bench;
+    bench.filtered().list(kFiveParameters);
+    SingleParamSelectView view(bench.tool);
+    const Operator hands(view);
+    hands.pick("cmbPID", "GT1 CO");
+    hands.photograph("selection-single");
+    EXPECT_EQ(bench.tool.GetSelection(), kCo);
+    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+    EXPECT_THAT(withoutAccessibleName(view), IsEmpty());
+}
+
+} // namespace k7deval::qt::test

@@ -22,8 +22,10 @@ namespace
 {
 
 constexpr int kLinesOfBars = 10;
-constexpr int kLinesOfLowestBars = 5;
-constexpr double kRoomBetweenTexts = 1.15;
+constexpr int kLinesOfLowestBars = 8;
+// Letters across: with fewer the texts of the percents and of the scale would meet.
+constexpr int kWidth = 90;
+constexpr int kLowestWidth = 76;
 
 } // namespace
 
@@ -81,14 +83,6 @@ int ChartView::rowHeight() const
     return fontMetrics().lineSpacing() + fontMetrics().leading() + 2;
 }
 
-int ChartView::widthOf(const Row& row) const
-{
-    int width = 0;
-    for (const Text& text : row)
-        width += text.view->sizeHint().width() + fontMetrics().averageCharWidth();
-    return width;
-}
-
 /// A text that is wider than its place on the tool's grid grows from the side that it leans on.
 void ChartView::placeRow(const Row& row, int top) const
 {
@@ -107,14 +101,13 @@ void ChartView::placeRow(const Row& row, int top) const
 
 QSize ChartView::sizeHint() const
 {
-    return {std::max(minimumSizeHint().width(), fontMetrics().averageCharWidth() * 80),
+    return {fontMetrics().averageCharWidth() * kWidth,
             rowHeight() * 3 + fontMetrics().lineSpacing() * kLinesOfBars};
 }
 
 QSize ChartView::minimumSizeHint() const
 {
-    const int widest = std::max({widthOf(percents_), widthOf(values_), widthOf(fixed_)});
-    return {static_cast<int>(widest * kRoomBetweenTexts),
+    return {fontMetrics().averageCharWidth() * kLowestWidth,
             rowHeight() * 3 + fontMetrics().lineSpacing() * kLinesOfLowestBars};
 }
 

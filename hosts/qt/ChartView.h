@@ -47,7 +47,6 @@ private:
     void showAnew();
     void placeRow(const Row& row, int top) const;
     [[nodiscard]] int rowHeight() const;
-    [[nodiscard]] int widthOf(const Row& row) const;
 
     [[nodiscard]] double across(float twips) const;
     [[nodiscard]] double down(float twips) const;

@@ -1,6 +1,7 @@
 #include "qt/QtServices.h"
 
 #include "foundation/Error.h"
+#include "qt/Modal.h"
 #include "qt/Texts.h"
 
 #include <QApplication>
@@ -88,30 +89,31 @@ QStringList nameFilters(const std::string& filter)
 std::optional<screen::SaveAnswer> QtServices::ShowSave(const std::string& filter,
                                                        const std::string& defaultExtension)
 {
-    QFileDialog dialog(QApplication::activeWindow(), "Save");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setNameFilters(nameFilters(filter));
-    dialog.setDefaultSuffix(toQString(defaultExtension));
+    Modal<QFileDialog> dialog(QApplication::activeWindow(), "Save");
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    dialog->setNameFilters(nameFilters(filter));
+    dialog->setDefaultSuffix(toQString(defaultExtension));
     QObject::connect(
-        &dialog, &QFileDialog::filterSelected, &dialog,
-        [&dialog](const QString& entry) { dialog.setDefaultSuffix(extensionOf(entry)); });
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        &*dialog, &QFileDialog::filterSelected, &*dialog,
+        [&files = *dialog](const QString& entry) { files.setDefaultSuffix(extensionOf(entry)); });
+    if (dialog.ask() != QDialog::Accepted || dialog->selectedFiles().isEmpty())
         return std::nullopt;
-    const auto entry = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
-    return screen::SaveAnswer{dialog.selectedFiles().front().toStdString(),
+    const auto entry = dialog->nameFilters().indexOf(dialog->selectedNameFilter());
+    return screen::SaveAnswer{dialog->selectedFiles().front().toStdString(),
                               static_cast<std::int32_t>(entry) + 1};
 }
 
 screen::MsgBoxAnswer QtServices::MsgBox(const screen::MsgBoxRequest& request)
 {
     const bool isQuestion = request.buttons == screen::MsgBoxButtons::YesNo;
-    QMessageBox box(iconOf(request.icon), toQString(request.title),
-                    toQString(request.prompt).replace("\r\n", "\n"),
-                    isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    const int answer = box.exec();
+    Modal<QMessageBox> box(iconOf(request.icon), toQString(request.title),
+                           toQString(request.prompt).replace("\r\n", "\n"),
+                           isQuestion ? QMessageBox::Yes | QMessageBox::No
+                                      : QMessageBox::StandardButtons(QMessageBox::Ok),
+                           QApplication::activeWindow());
+    box->setTextFormat(Qt::PlainText);
+    const int answer = box.ask();
     if (!isQuestion)
         return screen::MsgBoxAnswer::OK;
     return answer == QMessageBox::Yes ? screen::MsgBoxAnswer::Yes : screen::MsgBoxAnswer::No;
@@ -120,10 +122,11 @@ screen::MsgBoxAnswer QtServices::MsgBox(const screen::MsgBoxRequest& request)
 std::optional<Date> QtServices::PickDate(const std::string& title, Date date, std::int32_t /*x*/,
                                          std::int32_t /*y*/, std::int32_t /*owner*/)
 {
-    CalendarDialog dialog(toQString(title), dayOf(date));
-    if (dialog.exec() != QDialog::Accepted)
+    Modal<CalendarDialog> dialog(toQString(title), dayOf(date));
+    if (dialog.ask() != QDialog::Accepted)
         return std::nullopt;
-    return makeDate(dialog.day().year(), dialog.day().month(), dialog.day().day());
+    const QDate day = dialog->day();
+    return makeDate(day.year(), day.month(), day.day());
 }
 
 void QtServices::OpenDocument(const std::string& path, std::int32_t /*operation*/,

@@ -1,5 +1,7 @@
 #include "qt/UserAction.h"
 
+#include "qt/Modal.h"
+
 #include <QMessageBox>
 #include <QPointer>
 
@@ -8,12 +10,12 @@ namespace k7deval::qt
 
 void showError(QWidget* over, const Error& error)
 {
-    QMessageBox box(
+    Modal<QMessageBox> box(
         QMessageBox::Critical, "K7DEval",
         toQString("Error " + std::to_string(error.number()) + ": " + error.description()),
         QMessageBox::Ok, over == nullptr ? nullptr : over->window());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    box->setTextFormat(Qt::PlainText);
+    static_cast<void>(box.ask());
 }
 
 void forward(QWidget& view, const std::function<void()>& action, const Refresh& refresh)

@@ -124,6 +124,9 @@ QWidget* ctrl7DayResultView::summary()
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setWidget(text);
+    // The ground of the box shows through.
+    scroll->viewport()->setAutoFillBackground(false);
+    text->setAutoFillBackground(false);
     auto* column = new QVBoxLayout(box);
     column->addWidget(scroll);
     return box;

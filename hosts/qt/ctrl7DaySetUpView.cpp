@@ -1,6 +1,7 @@
 #include "qt/ctrl7DaySetUpView.h"
 
 #include "qt/Binding.h"
+#include "qt/DateField.h"
 #include "qt/Texts.h"
 
 #include <QCheckBox>
@@ -18,25 +19,6 @@ namespace k7deval::qt
 
 namespace
 {
-
-/// A day with its name before it and the button of its calendar behind.
-struct DayField {
-    screen::Label& name;
-    char mnemonic;
-    screen::TextBox& text;
-    screen::Button& calendar;
-    const char* calendarName;
-};
-
-void addDay(QGridLayout& rows, int row, QWidget& box, const DayField& day)
-{
-    auto* text = makeView(box, day.text);
-    rows.addWidget(makeView(box, day.name, *text, day.mnemonic), row, 0);
-    rows.addWidget(text, row, 1);
-    auto* calendar = makeView(box, day.calendar);
-    calendar->setAccessibleName(day.calendarName);
-    rows.addWidget(calendar, row, 2);
-}
 
 /// One of the specifications, with examples behind it.
 struct SpecificationRow {
@@ -90,11 +72,15 @@ QWidget* ctrl7DaySetUpView::interval()
 {
     auto* box = makeView(*this, page_->fraTargetTime);
     auto* rows = new QGridLayout(box);
-    addDay(*rows, 0, *box,
-           {page_->lblFromDate, 'F', page_->txtFromDate, page_->cmdFromDate,
-            "Calendar of the first day"});
-    addDay(*rows, 1, *box,
-           {page_->lblToDate, 'T', page_->txtToDate, page_->cmdToDate, "Calendar of the last day"});
+    const auto addDay = [&](int row, screen::Label& name, char mnemonic, const DateField& day) {
+        rows->addWidget(makeView(*box, name, *day.text, mnemonic), row, 0);
+        rows->addWidget(day.text, row, 1);
+        rows->addWidget(day.calendar, row, 2);
+    };
+    addDay(0, page_->lblFromDate, 'F',
+           makeDateField(*box, page_->txtFromDate, page_->cmdFromDate, "First day"));
+    addDay(1, page_->lblToDate, 'T',
+           makeDateField(*box, page_->txtToDate, page_->cmdToDate, "Last day"));
     return box;
 }
 

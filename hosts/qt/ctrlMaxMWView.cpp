@@ -1,14 +1,17 @@
 #include "qt/ctrlMaxMWView.h"
 
 #include "qt/Binding.h"
+#include "qt/DateField.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 
 namespace k7deval::qt
 {
@@ -37,29 +40,26 @@ void ctrlMaxMWView::addPeriod(ctrlMaxMW& tool) const
     auto* box = makeView(setUpBox(), tool.fraTimeFrame);
     setUpRows().addWidget(box, 5, 0, 1, 4);
     auto* rows = new QGridLayout(box);
-    rows->addWidget(makeView(*box, tool.lblTimeFrameHeading), 0, 0, 1, 6);
-    rows->addWidget(makeView(*box, tool.optTimeEnd, '4'), 1, 0, 1, 6);
+    rows->addWidget(makeView(*box, tool.lblTimeFrameHeading), 0, 0, 1, 3);
+    rows->addWidget(makeView(*box, tool.optTimeEnd, '4'), 1, 0, 1, 3);
     auto* year = makeView(*box, tool.cmbYear);
     year->setAccessibleName("Year");
-    rows->addWidget(year, 2, 1, 1, 2);
+    rows->addWidget(year, 2, 1);
     auto* quarter = makeView(*box, tool.cmbQTR);
     quarter->setAccessibleName("Quarter");
-    rows->addWidget(quarter, 2, 3, 1, 3);
-    rows->addWidget(makeView(*box, tool.optTimeSelect, 'i'), 3, 0, 1, 6);
+    rows->addWidget(quarter, 2, 2);
+    rows->addWidget(makeView(*box, tool.optTimeSelect, 'i'), 3, 0, 1, 3);
 
-    auto* from = makeView(*box, tool.txtFrom);
-    from->setAccessibleName("First day");
-    rows->addWidget(from, 4, 1);
-    auto* pickFrom = makeView(*box, tool.cmdFrom);
-    pickFrom->setAccessibleName("Calendar of the first day");
-    rows->addWidget(pickFrom, 4, 2);
-    auto* to = makeView(*box, tool.txtTo);
-    rows->addWidget(makeView(*box, tool.lblTo, *to, 't'), 4, 3);
-    to->setAccessibleName("Last day");
-    rows->addWidget(to, 4, 4);
-    auto* pickTo = makeView(*box, tool.cmdTo);
-    pickTo->setAccessibleName("Calendar of the last day");
-    rows->addWidget(pickTo, 4, 5);
+    auto* days = new QHBoxLayout;
+    const DateField from = makeDateField(*box, tool.txtFrom, tool.cmdFrom, "First day");
+    const DateField to = makeDateField(*box, tool.txtTo, tool.cmdTo, "Last day");
+    days->addWidget(from.text, 1);
+    days->addWidget(from.calendar);
+    days->addWidget(makeView(*box, tool.lblTo, *to.text, 't'));
+    days->addWidget(to.text, 1);
+    days->addWidget(to.calendar);
+    rows->addLayout(days, 4, 1, 1, 2);
+    rows->setColumnMinimumWidth(0, box->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth));
 }
 
 } // namespace k7deval::qt

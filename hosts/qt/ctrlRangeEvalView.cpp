@@ -49,9 +49,7 @@ void ctrlRangeEvalView::addLimits(ctrlRangeEval& tool) const
 void ctrlRangeEvalView::addQuarter(ctrlRangeEval& tool) const
 {
     auto* year = makeView(setUpBox(), tool.cmbYear);
-    auto* heading = makeView(setUpBox(), tool.lblQuarter, *year, 'R');
-    heading->setWordWrap(true);
-    setUpRows().addWidget(heading, 7, 0, 1, 4);
+    setUpRows().addWidget(makeView(setUpBox(), tool.lblQuarter, *year, 'R'), 7, 0, 1, 4);
     year->setAccessibleName("Year");
     setUpRows().addWidget(year, 8, 0, 1, 2);
     auto* quarter = makeView(setUpBox(), tool.cmbQTR);

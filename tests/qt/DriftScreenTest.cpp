@@ -64,7 +64,8 @@ struct DriftScreen {
 QTreeWidgetItem& entryOf(const DriftScreen& screen, const QString& text)
 {
     const auto found = screen.tree().findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
-    EXPECT_EQ(found.size(), 1) << text.toStdString();
+    if (found.size() != 1)
+        throw std::runtime_error("no such entry: " + text.toStdString());
     return *found.front();
 }
 
@@ -100,11 +101,12 @@ TEST(DriftScreen, EvaluatesWithMouseAndKeys)
 TEST(DriftScreen, AFailedCalibrationStandsOut)
 {
     DriftScreen screen(siteWithOneFailure());
+    screen.hands.click("optShowInterval");
     screen.hands.click("cmdNext");
     settle();
     entryOf(screen, "3/3/2024").setExpanded(true);
     settle();
-    screen.clickEntry(entryOf(screen, "3/3/2024 06:00"));
+    screen.clickEntry(entryOf(screen, "3/3/2024 06:15"));
     screen.hands.photograph("drift-failed");
 
     const QLabel& result = screen.label("lblCalResultLabel");
@@ -147,12 +149,19 @@ TEST(DriftScreen, TheEmptyResultIsNotSelectedByItself)
 
 TEST(DriftScreen, AnEntrySaysWhatItsPictureMeans)
 {
+    DriftScreen screen;
+    screen.hands.click("cmdNext");
+    settle();
+    EXPECT_EQ(entryOf(screen, "3/5/2024 08:15").toolTip(0), "Pass On-Line, used in the drift test");
+}
+
+TEST(DriftScreen, AFailureIsSaidToAScreenReader)
+{
     DriftScreen screen(siteWithOneFailure());
     screen.hands.click("optShowInterval");
     screen.hands.click("cmdNext");
     settle();
-    EXPECT_EQ(entryOf(screen, "3/5/2024 08:15").toolTip(0), "Pass On-Line, used in the drift test");
-    EXPECT_EQ(entryOf(screen, "3/3/2024 06:00").data(0, Qt::AccessibleDescriptionRole),
+    EXPECT_EQ(entryOf(screen, "3/3/2024 06:15").data(0, Qt::AccessibleDescriptionRole),
               "Fail On-Line");
 }
 
@@ -197,10 +206,11 @@ TEST(DriftScreen, StaysReadableOnADarkDesktop)
     QApplication::setPalette(dark);
     {
         DriftScreen screen(siteWithOneFailure());
+        screen.hands.click("optShowInterval");
         screen.hands.click("cmdNext");
         settle();
         entryOf(screen, "3/3/2024").setExpanded(true);
-        screen.clickEntry(entryOf(screen, "3/3/2024 06:00"));
+        screen.clickEntry(entryOf(screen, "3/3/2024 06:15"));
         screen.hands.photograph("drift-dark");
         EXPECT_GT(
             screen.label("lblCalResultLabel").palette().color(QPalette::WindowText).lightness(),

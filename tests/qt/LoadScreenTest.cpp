@@ -72,7 +72,7 @@ TEST(LoadScreen, AMnemonicLeavesTheFieldBeforeItCalculates)
 {
     const LoadScreen screen;
     screen.hands.type("txtMinSafe", "10");
-    screen.hands.press(Qt::Key_C, Qt::AltModifier);
+    screen.hands.pressMnemonic(Qt::Key_C);
     EXPECT_EQ(screen.text("lblMinSafe"), "10");
 }
 

@@ -1,5 +1,6 @@
 #include "qt/Operator.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -7,6 +8,9 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace k7deval::qt::test
 {
@@ -67,10 +71,24 @@ void Operator::pick(const std::string& name, const std::string& entry) const
     settle();
 }
 
-void Operator::press(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+void Operator::press(Qt::Key key) const
 {
     QWidget* focused = QApplication::focusWidget();
-    QTest::keyClick(focused == nullptr ? screen_ : focused, key, modifiers);
+    QTest::keyClick(focused == nullptr ? screen_ : focused, key);
+    settle();
+}
+
+/// A button pressed by its letter is seen to go down and up.
+void Operator::pressMnemonic(Qt::Key letter) const
+{
+    QTest::keyClick(screen_->windowHandle(), letter, Qt::AltModifier);
+    const auto buttons = screen_->findChildren<QAbstractButton*>();
+    const bool isDone = QTest::qWaitFor([&] {
+        return std::none_of(buttons.begin(), buttons.end(),
+                            [](const QAbstractButton* button) { return button->isDown(); });
+    });
+    if (!isDone)
+        throw std::runtime_error("a button stays down");
     settle();
 }
 

@@ -38,7 +38,9 @@ public:
     /// Picks an entry of a list with the keys.
     void pick(const std::string& name, const std::string& entry) const;
     /// Presses a key where the focus is.
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    void press(Qt::Key key) const;
+    /// Presses Alt and a letter.
+    void pressMnemonic(Qt::Key letter) const;
 
     /// Writes what the screen looks like to a PNG, if the variable K7DEVAL_SCREENS names a folder.
     void photograph(const std::string& name) const;

@@ -35,8 +35,10 @@ std::optional<screen::SaveAnswer> save(const std::string& name, int entry)
         auto& files = dynamic_cast<QFileDialog&>(dialog);
         files.selectNameFilter(files.nameFilters()[entry]);
         emit files.filterSelected(files.nameFilters()[entry]);
-        QTest::keyClicks(files.findChild<QLineEdit*>("fileNameEdit"), QString::fromStdString(name));
-        QTest::keyClick(files.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        auto* field = files.findChild<QLineEdit*>("fileNameEdit");
+        // Key by key the dialog would offer to complete the name.
+        field->insert(QString::fromStdString(name));
+        QTest::keyClick(field, Qt::Key_Return);
     });
     return QtServices().ShowSave(kBoth, ".pdf");
 }

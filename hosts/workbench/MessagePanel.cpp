@@ -1,0 +1,69 @@
+#include "workbench/MessagePanel.h"
+
+#include "foundation/DateText.h"
+#include "qt/Texts.h"
+
+#include <QHeaderView>
+#include <QPointer>
+
+namespace k7deval::workbench
+{
+
+namespace
+{
+
+class PanelSink final : public MessageSink
+{
+public:
+    PanelSink(MessagePanel& panel, const Clock& clock, const RegionalSettings& regional)
+        : panel_(&panel), clock_(&clock), regional_(&regional)
+    {
+    }
+
+    void Post(std::int32_t severity, const std::string& text) override
+    {
+        if (!panel_)
+            return;
+        const Date now = clock_->now();
+        panel_->add(qt::toQString(ShortDate(now, *regional_) + " " + LongTime(now, *regional_)),
+                    severity, qt::toQString(text));
+    }
+
+private:
+    QPointer<MessagePanel> panel_;
+    const Clock* clock_;
+    const RegionalSettings* regional_;
+};
+
+} // namespace
+
+MessagePanel::MessagePanel(QWidget* parent) : QTableWidget(0, 3, parent)
+{
+    setObjectName("messages");
+    setAccessibleName("Messages");
+    setHorizontalHeaderLabels({"Time", "Severity", "Message"});
+    horizontalHeader()->setStretchLastSection(true);
+    verticalHeader()->hide();
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setTabKeyNavigation(false);
+}
+
+void MessagePanel::add(const QString& time, std::int32_t severity, const QString& text)
+{
+    const int row = rowCount();
+    insertRow(row);
+    setItem(row, 0, new QTableWidgetItem(time));
+    setItem(row, 1, new QTableWidgetItem(QString::number(severity)));
+    setItem(row, 2, new QTableWidgetItem(text));
+    resizeColumnToContents(0);
+    scrollToBottom();
+}
+
+std::shared_ptr<MessageSink> sinkOf(MessagePanel& panel, const Clock& clock,
+                                    const RegionalSettings& regional)
+{
+    return std::make_shared<PanelSink>(panel, clock, regional);
+}
+
+} // namespace k7deval::workbench

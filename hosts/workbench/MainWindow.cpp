@@ -70,12 +70,12 @@ void MainWindow::addMenus()
     tools_->setEnabled(false);
 }
 
-void MainWindow::addToolAction(QMenu& menu, const QString& title, ShowTool show)
+void MainWindow::addToolAction(QMenu& menu, const QString& title, ShowTool showTool)
 {
-    menu.addAction(title, this, [this, title, show] {
+    menu.addAction(title, this, [this, title, showTool] {
         if (!goTo(title))
             qt::forward(
-                *this, [this, show] { (this->*show)(); }, kNothingToRefresh);
+                *this, [this, showTool] { (this->*showTool)(); }, kNothingToRefresh);
     });
 }
 
@@ -110,10 +110,10 @@ void MainWindow::openSite(const std::string& path)
     qt::forward(*this, open, kNothingToRefresh);
     if (tabs_->count() > 0 || server_ == nullptr)
         return;
-    for (const ShowTool show :
+    for (const ShowTool showTool :
          {&MainWindow::showDrift, &MainWindow::showLoad, &MainWindow::showRange})
         qt::forward(
-            *this, [this, show] { (this->*show)(); }, kNothingToRefresh);
+            *this, [this, showTool] { (this->*showTool)(); }, kNothingToRefresh);
     tabs_->setCurrentIndex(0);
 }
 

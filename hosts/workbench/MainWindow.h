@@ -37,7 +37,7 @@ private:
     using ShowTool = void (MainWindow::*)();
 
     void addMenus();
-    void addToolAction(QMenu& menu, const QString& title, ShowTool show);
+    void addToolAction(QMenu& menu, const QString& title, ShowTool showTool);
     void addMessages();
     void askForSite();
     void closeTools();

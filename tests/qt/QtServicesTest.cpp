@@ -6,12 +6,11 @@
 #include <gmock/gmock.h>
 
 #include <QCalendarWidget>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
-#include <QUrl>
+#include <QWindow>
 
 namespace k7deval::qt::test
 {
@@ -59,7 +58,8 @@ Box ask(const screen::MsgBoxRequest& request, Qt::Key key)
         box.text = shown.text();
         box.title = shown.windowTitle();
         box.icon = shown.icon();
-        QTest::keyClick(&dialog, key, key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier);
+        QTest::keyClick(dialog.windowHandle(), key,
+                        key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier);
     });
     box.answer = QtServices().MsgBox(request);
     return box;

@@ -110,6 +110,7 @@ void bind(QTreeWidget& view, screen::TreeView& model, NodeDescription describe)
     view.setObjectName(toQString(model.Name()));
     view.setHeaderHidden(true);
     view.setUniformRowHeights(true);
+    view.setIconSize({pictureSize(view), pictureSize(view)});
     const Refresh refresh =
         deferred(view, refreshOf<QTreeWidget, screen::TreeView>(
                            view, model,

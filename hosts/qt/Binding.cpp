@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
 
 namespace k7deval::qt
 {
@@ -101,7 +100,7 @@ void bind(QLabel& view, screen::Label& model)
 {
     view.setTextFormat(Qt::PlainText);
     mirror<QLabel, screen::Label>(view, model, [](QLabel& label, const screen::Label& shown) {
-        label.setText(toQString(shown.Caption()));
+        label.setText(toLines(shown.Caption()));
         showLook(label, shown);
     });
 }
@@ -120,7 +119,7 @@ void bind(QLabel& view, screen::Label& model, QWidget& field, char mnemonic)
 void bind(QLabel& view, screen::Image& model)
 {
     mirror<QLabel, screen::Image>(view, model, [](QLabel& label, const screen::Image& image) {
-        const int size = label.style()->pixelMetric(QStyle::PM_SmallIconSize);
+        const int size = pictureSize(label);
         label.setPixmap(pictureOf(image.Picture()).pixmap({size, size}, label.devicePixelRatioF()));
     });
 }

@@ -40,6 +40,8 @@ void HistogramView::addUnitAndParameter()
 void HistogramView::addResults(const std::vector<screen::Label*>& fixedTexts,
                                const std::vector<screen::Label*>& hours)
 {
+    // First, so that the keys come to them next to the fields.
+    addButtons();
     auto* box = makeView(*this, tool_->fraResults);
     auto* column = new QVBoxLayout(box);
     auto* header = makeView(*box, tool_->lblHeader);
@@ -49,7 +51,6 @@ void HistogramView::addResults(const std::vector<screen::Label*>& fixedTexts,
     for (screen::Label* line : hours)
         column->addWidget(makeView(*box, *line));
     halves_->addWidget(box, 0, 1);
-    addButtons();
 }
 
 void HistogramView::addButtons()

@@ -3,8 +3,12 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QStyle>
+#include <QWidget>
 
+#include <algorithm>
 #include <array>
+#include <initializer_list>
 
 namespace k7deval::qt
 {
@@ -96,6 +100,13 @@ QPixmap drawn(const Picture& picture, int size)
     return pixmap;
 }
 
+/// A selected entry keeps the colours of its picture.
+void addSize(QIcon& icon, const QPixmap& pixmap)
+{
+    icon.addPixmap(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected);
+}
+
 } // namespace
 
 QIcon pictureOf(const std::string& key)
@@ -105,8 +116,14 @@ QIcon pictureOf(const std::string& key)
     if (picture.outline.isEmpty())
         return icon;
     for (const int size : kSizes)
-        icon.addPixmap(drawn(picture, size));
+        addSize(icon, drawn(picture, size));
     return icon;
+}
+
+int pictureSize(const QWidget& widget)
+{
+    return std::max(widget.style()->pixelMetric(QStyle::PM_SmallIconSize),
+                    widget.fontMetrics().height());
 }
 
 } // namespace k7deval::qt

@@ -4,6 +4,8 @@
 
 #include <string>
 
+class QWidget;
+
 namespace k7deval::qt
 {
 
@@ -11,5 +13,8 @@ namespace k7deval::qt
 /// A disc with a tick passed, a square with a cross failed, filled on-line and hollow off-line; a
 /// triangle is a day of operation without a calibration. So they differ without colours, too.
 QIcon pictureOf(const std::string& key);
+
+/// The side of a picture beside a text of a widget, in pixels.
+int pictureSize(const QWidget& widget);
 
 } // namespace k7deval::qt

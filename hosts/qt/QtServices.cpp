@@ -107,8 +107,7 @@ std::optional<screen::SaveAnswer> QtServices::ShowSave(const std::string& filter
 screen::MsgBoxAnswer QtServices::MsgBox(const screen::MsgBoxRequest& request)
 {
     const bool isQuestion = request.buttons == screen::MsgBoxButtons::YesNo;
-    Modal<QMessageBox> box(iconOf(request.icon), toQString(request.title),
-                           toQString(request.prompt).replace("\r\n", "\n"),
+    Modal<QMessageBox> box(iconOf(request.icon), toQString(request.title), toLines(request.prompt),
                            isQuestion ? QMessageBox::Yes | QMessageBox::No
                                       : QMessageBox::StandardButtons(QMessageBox::Ok),
                            QApplication::activeWindow());

@@ -3,6 +3,11 @@
 namespace k7deval::qt
 {
 
+QString toLines(const std::string& text)
+{
+    return toQString(text).replace("\r\n", "\n");
+}
+
 QString withMnemonic(const std::string& caption, char letter)
 {
     QString text = toQString(caption).replace('&', "&&");

@@ -28,6 +28,7 @@ using DriftPage = ToolPage<ctrl7Day, qt::ctrl7DayView>;
 using LoadPage = ToolPage<ctrlMaxMW, qt::ctrlMaxMWView>;
 using RangePage = ToolPage<ctrlRangeEval, qt::ctrlRangeEvalView>;
 
+constexpr int kLinesOfMessages = 7;
 constexpr const char* kDrift = "7-Day Drift";
 constexpr const char* kLoad = "Load Evaluation";
 constexpr const char* kRange = "Range Evaluation";
@@ -86,13 +87,14 @@ void MainWindow::addMessages()
     messages_ = new MessagePanel(dock);
     dock->setWidget(messages_);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
+    resizeDocks({dock}, {fontMetrics().lineSpacing() * kLinesOfMessages}, Qt::Vertical);
     menuBar()->addMenu("&View")->addAction(dock->toggleViewAction());
 }
 
 void MainWindow::askForSite()
 {
     const QString path =
-        QFileDialog::getOpenFileName(this, "Open Site", {}, "Sites (*.k7site);;All files (*)");
+        QFileDialog::getOpenFileName(this, "Open Site", {}, "Sites (*.site);;All files (*)");
     if (!path.isEmpty())
         openSite(path.toStdString());
 }

@@ -43,6 +43,7 @@ MessagePanel::MessagePanel(QWidget* parent) : QTableWidget(0, 3, parent)
     setAccessibleName("Messages");
     setHorizontalHeaderLabels({"Time", "Severity", "Message"});
     horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     verticalHeader()->hide();
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);

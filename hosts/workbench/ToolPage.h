@@ -15,7 +15,9 @@ public:
     ToolPage(const screen::Surroundings& surroundings, QWidget* parent)
         : QWidget(parent), tool_(surroundings), view_(new View(tool_, this))
     {
-        (new QVBoxLayout(this))->addWidget(view_);
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->addWidget(view_);
     }
     ToolPage(const ToolPage&) = delete;
     ToolPage& operator=(const ToolPage&) = delete;

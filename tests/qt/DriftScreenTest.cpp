@@ -2,6 +2,7 @@
 #include "qt/ScreenComparison.h"
 #include "qt/ctrl7DayView.h"
 #include "sevenday/ToolBench.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -24,7 +25,9 @@ using k7deval::test::operatedSite;
 using k7deval::test::SiteData;
 using k7deval::test::siteWithDailyCals;
 using k7deval::test::ToolBench;
-using testing::IsEmpty;
+using k7deval::testing::TemporaryFolder;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 /// Seven days of passed calibrations, on the third of which one failed before it passed.
 std::shared_ptr<SiteData> siteWithOneFailure()
@@ -145,6 +148,43 @@ TEST(DriftScreen, TheEmptyResultIsNotSelectedByItself)
     EXPECT_THAT(screen.differences(), IsEmpty());
     screen.clickEntry(entryOf(screen, "NA"));
     EXPECT_EQ(screen.bench.result().tvwCalTimes.SelectedItem()->Key, "NA");
+}
+
+TEST(DriftScreen, WhatWasUsedInTheTestIsWhite)
+{
+    auto site = siteWithDailyCals(7);
+    addCal(*site, {.time = march(9)});
+    DriftScreen screen(site);
+    screen.hands.click("optShowInterval");
+    screen.hands.click("cmdNext");
+    settle();
+    const QColor white = screen.tree().palette().color(QPalette::Base);
+    EXPECT_EQ(entryOf(screen, "3/5/2024 08:15").background(0).color(), white);
+    EXPECT_NE(entryOf(screen, "3/9/2024 08:15").background(0).color(), white);
+}
+
+TEST(DriftScreen, SavesTheReportAndShowsIt)
+{
+    const TemporaryFolder folder;
+    DriftScreen screen;
+    screen.bench.services.saveAnswer = screen::SaveAnswer{folder.file("drift.pdf"), 1};
+    screen.hands.click("cmdNext");
+    screen.hands.pressMnemonic(Qt::Key_S);
+    EXPECT_THAT(screen.bench.services.opened, ElementsAre(folder.file("drift.pdf")));
+    EXPECT_THAT(folder.names(), ElementsAre("drift.pdf"));
+}
+
+TEST(DriftScreen, TheTabulatorGoesDownTheScreen)
+{
+    DriftScreen screen;
+    screen.hands.view<QComboBox>("cmbUnit").setFocus();
+    QStringList visited;
+    for (int field = 0; field < 8; ++field) {
+        visited << QApplication::focusWidget()->objectName();
+        screen.hands.press(Qt::Key_Tab);
+    }
+    EXPECT_EQ(visited, QStringList({"cmbUnit", "cmbAnalyzer", "txtFromDate", "cmdFromDate",
+                                    "txtToDate", "cmdToDate", "chkManualCals", "chk6of7"}));
 }
 
 TEST(DriftScreen, AnEntrySaysWhatItsPictureMeans)

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -37,11 +36,6 @@ struct LoadScreen {
     LoadBench bench;
     ctrlMaxMWView view{bench.tool};
     Operator hands{view};
-
-    [[nodiscard]] std::string text(const std::string& label) const
-    {
-        return hands.view<QLabel>(label).text().toStdString();
-    }
 };
 
 } // namespace
@@ -61,9 +55,9 @@ TEST(LoadScreen, EvaluatesWithMouseAndKeys)
     screen.hands.click("cmdCalculate");
     screen.hands.photograph("load-results");
 
-    EXPECT_EQ(screen.text("lblHeader"), "GT1 GT1 Load");
-    EXPECT_EQ(screen.text("lblBelow"), "1 hour(s) under 10");
-    EXPECT_EQ(screen.text("lblAbove"), "1 hour(s) over 100 - Maximum 110");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
+    EXPECT_EQ(screen.hands.text("lblBelow"), "1 hour(s) under 10");
+    EXPECT_EQ(screen.hands.text("lblAbove"), "1 hour(s) over 100 - Maximum 110");
     EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
     EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
 }
@@ -73,7 +67,7 @@ TEST(LoadScreen, AMnemonicLeavesTheFieldBeforeItCalculates)
     const LoadScreen screen;
     screen.hands.type("txtMinSafe", "10");
     screen.hands.pressMnemonic(Qt::Key_C);
-    EXPECT_EQ(screen.text("lblMinSafe"), "10");
+    EXPECT_EQ(screen.hands.text("lblMinSafe"), "10");
 }
 
 TEST(LoadScreen, BadInputIsPutBackWhenTheFieldIsLeft)

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
@@ -90,6 +91,11 @@ void Operator::pressMnemonic(Qt::Key letter) const
     if (!isDone)
         throw std::runtime_error("a button stays down");
     settle();
+}
+
+std::string Operator::text(const std::string& label) const
+{
+    return view<QLabel>(label).text().toStdString();
 }
 
 void Operator::photograph(const std::string& name) const

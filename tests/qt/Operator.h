@@ -42,6 +42,9 @@ public:
     /// Presses Alt and a letter.
     void pressMnemonic(Qt::Key letter) const;
 
+    /// What a label says.
+    [[nodiscard]] std::string text(const std::string& label) const;
+
     /// Writes what the screen looks like to a PNG, if the variable K7DEVAL_SCREENS names a folder.
     void photograph(const std::string& name) const;
 

@@ -5,7 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -26,11 +25,6 @@ struct RangeScreen {
     RangeBench bench{siteOfTwoUnits()};
     ctrlRangeEvalView view{bench.tool};
     Operator hands{view};
-
-    [[nodiscard]] std::string text(const std::string& label) const
-    {
-        return hands.view<QLabel>(label).text().toStdString();
-    }
 };
 
 } // namespace
@@ -49,9 +43,9 @@ TEST(RangeScreen, EvaluatesWithMouseAndKeys)
     screen.hands.click("cmdCalculate");
     screen.hands.photograph("range-results");
 
-    EXPECT_EQ(screen.text("lblAboveMEC"), "Hours above MEC:  9");
-    EXPECT_EQ(screen.text("lblOverRange"), "Hours over Range:  1");
-    EXPECT_EQ(screen.text("lblLowOpPercent"), "16.7%");
+    EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  9");
+    EXPECT_EQ(screen.hands.text("lblOverRange"), "Hours over Range:  1");
+    EXPECT_EQ(screen.hands.text("lblLowOpPercent"), "16.7%");
     EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
     EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
 }
@@ -72,7 +66,7 @@ TEST(RangeScreen, TypingALimitTakesTheResultsOffTheScreen)
     const RangeScreen screen;
     screen.hands.click("cmdCalculate");
     screen.hands.type("txtMPC", "48");
-    EXPECT_EQ(screen.text("lblHeader"), "");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "");
     EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
 }
 

@@ -1,5 +1,6 @@
 #include "qt/ScreenComparison.h"
 
+#include "qt/Texts.h"
 #include "screen/Buttons.h"
 #include "screen/ComboBox.h"
 #include "screen/Label.h"
@@ -66,7 +67,7 @@ std::string entriesOf(const QTreeWidgetItem& parent)
 Line lineOf(const screen::Widget& model)
 {
     if (const auto* label = dynamic_cast<const screen::Label*>(&model))
-        return label->Caption() + (label->Bold() ? " bold" : "");
+        return toLines(label->Caption()).toStdString() + (label->Bold() ? " bold" : "");
     if (const auto* box = dynamic_cast<const screen::TextBox*>(&model))
         return box->Text();
     if (const auto* button = dynamic_cast<const screen::Button*>(&model))

@@ -11,7 +11,6 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -90,11 +89,31 @@ TEST(Workbench, EvaluatesADriftTestOfTheSample)
     Workbench bench;
     const Operator hands = bench.at(0);
     hands.pick("cmbUnit", "GT4");
-    hands.enter("txtFromDate", "2/1/2021");
-    hands.enter("txtToDate", "2/28/2021");
+    hands.pick("cmbAnalyzer", "NOX 206/H");
+    hands.enter("txtFromDate", "5/4/2018");
+    hands.enter("txtToDate", "6/18/2018");
     hands.click("cmdNext");
+    EXPECT_EQ(hands.text("lblSummary"),
+              "Starting on 5/16/2018 there are 6 on-line cal(s) counted in the 7-Day Drift Test.\n"
+              "1 more on-line daily cal(s) are needed to pass the Drift Test.");
+    EXPECT_EQ(hands.text("lblZeroDriftData"), "-220.79");
     Operator(*bench.window.window()).photograph("workbench-drift");
-    EXPECT_GT(hands.view<QTreeWidget>("tvwCalTimes").topLevelItemCount(), 0);
+}
+
+TEST(Workbench, EvaluatesAYearOfLoad)
+{
+    Workbench bench;
+    const Operator hands = bench.at(1);
+    hands.pick("cmbUnit", "GT4");
+    hands.enter("txtMinSafe", "30");
+    hands.enter("txtCapacity", "84");
+    hands.click("optTimeSelect");
+    hands.enter("txtFrom", "7/1/2020");
+    hands.enter("txtTo", "6/30/2021");
+    hands.click("cmdCalculate");
+    EXPECT_THAT(hands.text("lblHeader"), testing::HasSubstr("GT4"));
+    EXPECT_THAT(hands.text("lblMidOpPercent"), testing::EndsWith("% Mid Op Load"));
+    Operator(*bench.window.window()).photograph("workbench-load");
 }
 
 TEST(Workbench, AClosedToolCanBeOpenedAgain)

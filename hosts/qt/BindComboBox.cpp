@@ -1,6 +1,7 @@
 #include "qt/Binding.h"
 
 #include "qt/Mirror.h"
+#include "qt/Texts.h"
 #include "qt/UserAction.h"
 
 #include <QComboBox>

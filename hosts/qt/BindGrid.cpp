@@ -1,6 +1,8 @@
 #include "qt/Binding.h"
 
+#include "qt/EventWatch.h"
 #include "qt/Mirror.h"
+#include "qt/Texts.h"
 #include "qt/UserAction.h"
 
 #include <QAbstractTableModel>

@@ -3,13 +3,13 @@
 #include "qt/Colors.h"
 #include "qt/Mirror.h"
 #include "qt/Pictures.h"
+#include "qt/Texts.h"
 #include "qt/UserAction.h"
 
 #include <QHeaderView>
 #include <QTimer>
 #include <QTreeWidget>
 
-#include <memory>
 #include <utility>
 
 namespace k7deval::qt
@@ -82,17 +82,14 @@ void showTree(QTreeWidget& view, const screen::TreeView& model, const NodeDescri
 }
 
 /// Runs a refresh once for all that asks for it before the event loop turns.
-Refresh deferred(QTreeWidget& view, Refresh refresh)
+Refresh deferred(QTreeWidget& view, const Refresh& refresh)
 {
-    return [guard = QPointer<QTreeWidget>(&view), refresh = std::move(refresh),
-            isDue = std::make_shared<bool>(false)] {
-        if (!guard || *isDue)
-            return;
-        *isDue = true;
-        QTimer::singleShot(0, guard, [refresh, isDue] {
-            *isDue = false;
-            refresh();
-        });
+    auto* timer = new QTimer(&view);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, &view, refresh);
+    return [guard = QPointer<QTimer>(timer)] {
+        if (guard)
+            guard->start(0);
     };
 }
 
@@ -107,7 +104,6 @@ void press(QTreeWidget& view, screen::TreeView& model)
 
 void bind(QTreeWidget& view, screen::TreeView& model, NodeDescription describe)
 {
-    view.setObjectName(toQString(model.Name()));
     view.setHeaderHidden(true);
     view.setUniformRowHeights(true);
     view.setIconSize({pictureSize(view), pictureSize(view)});
@@ -117,9 +113,7 @@ void bind(QTreeWidget& view, screen::TreeView& model, NodeDescription describe)
                            [describe = std::move(describe)](QTreeWidget& tree, const auto& from) {
                                showTree(tree, from, describe);
                            }));
-    model.Changed.Connect(refresh);
-    new EventWatch(view, QEvent::PaletteChange, [refresh](const QEvent&) { refresh(); });
-    refresh();
+    keepShown(view, model, refresh);
     // Not the current entry: a tree that gets the focus makes its first entry the current one.
     QObject::connect(&view, &QTreeWidget::itemSelectionChanged, &view, [&view, &model, refresh] {
         forward(

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "qt/EventWatch.h"
-#include "qt/Texts.h"
 #include "screen/Widget.h"
 
 #include <QPointer>
@@ -9,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <utility>
 
 namespace k7deval::qt
 {
@@ -35,15 +34,15 @@ Refresh refreshOf(View& view, const Model& model, Show<View, Model> show)
     };
 }
 
-/// Names a view as its model and keeps it like the model from now on, and in the colours of its
-/// palette. The answer shows the model at once.
+/// Names a view as its model, and shows the model now, at each change, and when the view gets other
+/// colours.
+void keepShown(QWidget& view, screen::Widget& model, const Refresh& refresh);
+
+/// Keeps a view like its model from now on. The answer shows the model at once.
 template <class View, class Model> Refresh mirror(View& view, Model& model, Show<View, Model> show)
 {
-    view.setObjectName(toQString(model.Name()));
-    const Refresh refresh = refreshOf<View, Model>(view, model, std::move(show));
-    model.Changed.Connect(refresh);
-    new EventWatch(view, QEvent::PaletteChange, [refresh](const QEvent&) { refresh(); });
-    refresh();
+    Refresh refresh = refreshOf<View, Model>(view, model, std::move(show));
+    keepShown(view, model, refresh);
     return refresh;
 }
 

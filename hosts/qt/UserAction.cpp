@@ -1,6 +1,7 @@
 #include "qt/UserAction.h"
 
 #include "qt/Modal.h"
+#include "qt/Texts.h"
 
 #include <QMessageBox>
 #include <QPointer>

@@ -101,6 +101,7 @@ void MainWindow::askForSite()
 
 void MainWindow::openSite(const std::string& path)
 {
+    bool isOpen = false;
     const auto open = [&] {
         const auto site = sitedb::SiteDatabase::open(filePath(path), sitedb::OpenMode::ReadOnly);
         auto server = site.server();
@@ -108,9 +109,10 @@ void MainWindow::openSite(const std::string& path)
         server_ = std::move(server);
         setWindowTitle(qt::toQString(server_->SiteKey() + " - K7DEval"));
         tools_->setEnabled(true);
+        isOpen = true;
     };
     qt::forward(*this, open, kNothingToRefresh);
-    if (tabs_->count() > 0 || server_ == nullptr)
+    if (!isOpen)
         return;
     for (const ShowTool showTool :
          {&MainWindow::showDrift, &MainWindow::showLoad, &MainWindow::showRange})

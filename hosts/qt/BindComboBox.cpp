@@ -7,11 +7,26 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace k7deval::qt
 {
 
 namespace
 {
+
+constexpr int kFewestLetters = 6;
+constexpr int kMostLetters = 26;
+
+/// A list is as wide as its longest entry, within reason, and its layout may make it wider. The
+/// toolkit's own way of following the entries would take that width back.
+void fitWidth(QComboBox& view)
+{
+    int letters = kFewestLetters;
+    for (int row = 0; row < view.count(); ++row)
+        letters = std::max(letters, static_cast<int>(view.itemText(row).size()));
+    view.setMinimumContentsLength(std::min(letters, kMostLetters));
+}
 
 /// Rows are changed in place, since a list is filled entry by entry.
 void showEntries(QComboBox& view, const screen::ComboBox& model)
@@ -25,6 +40,7 @@ void showEntries(QComboBox& view, const screen::ComboBox& model)
     }
     while (view.count() > model.ListCount())
         view.removeItem(view.count() - 1);
+    fitWidth(view);
 }
 
 void showComboBox(QComboBox& view, const screen::ComboBox& model)
@@ -53,7 +69,7 @@ void bind(QComboBox& view, screen::ComboBox& model)
 {
     if (model.HasEditField())
         makeEditable(view);
-    view.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    view.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     const Refresh refresh = mirror<QComboBox, screen::ComboBox>(view, model, showComboBox);
     QObject::connect(&view, &QComboBox::activated, &view, [&view, &model, refresh](int row) {
         forward(

@@ -37,7 +37,7 @@ void addLimit(QGridLayout& rows, int row, QWidget& box, screen::Label& name, scr
 {
     auto* field = makeView(box, limit);
     rows.addWidget(makeView(box, name, *field), row, 2);
-    rows.addWidget(field, row, 3);
+    rows.addWidget(field, row, 3, Qt::AlignLeft);
 }
 
 } // namespace
@@ -117,6 +117,7 @@ QWidget* ctrl7DaySetUpView::specification()
     addSpecification(*rows, 4, *box, {page_->optOtherAbsolute, 'h', page_->lblOtherAbsolute});
     addLimit(*rows, 4, *box, page_->lblOtherAbsoluteValue, page_->txtOtherAbsoluteValue);
     addSpecification(*rows, 5, *box, {page_->optPS9GC, '9', page_->lblPS9GC});
+    rows->setColumnStretch(3, 1);
     return box;
 }
 
@@ -139,6 +140,9 @@ QWidget* ctrl7DaySetUpView::testInformation()
     add(page_->lblTestReason, 'R', makeView(*box, page_->cmbTestReason));
     add(page_->lblTestNumber, 'm', makeView(*box, page_->txtTestNumber));
     rows->setRowStretch(row, 1);
+    // These are short texts, however wide the screen.
+    rows->setColumnStretch(1, 3);
+    rows->setColumnStretch(2, 1);
     return box;
 }
 

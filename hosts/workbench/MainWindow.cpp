@@ -3,19 +3,28 @@
 #include "foundation/FileFunctions.h"
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
-#include "qt/ctrl7DayView.h"
-#include "qt/ctrlMaxMWView.h"
-#include "qt/ctrlRangeEvalView.h"
 #include "sitedb/SiteDatabase.h"
+#include "workbench/HelpWindow.h"
 #include "workbench/MessagePanel.h"
-#include "workbench/ToolPage.h"
+#include "workbench/Region.h"
+#include "workbench/StartPage.h"
+#include "workbench/ToolTabs.h"
 
+#include <QActionGroup>
+#include <QDir>
 #include <QDockWidget>
+#include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
 #include <QMenuBar>
-#include <QScrollArea>
-#include <QTabWidget>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QStatusBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace k7deval::workbench
@@ -24,62 +33,128 @@ namespace k7deval::workbench
 namespace
 {
 
-using DriftPage = ToolPage<ctrl7Day, qt::ctrl7DayView>;
-using LoadPage = ToolPage<ctrlMaxMW, qt::ctrlMaxMWView>;
-using RangePage = ToolPage<ctrlRangeEval, qt::ctrlRangeEvalView>;
-
 constexpr int kLinesOfMessages = 7;
-constexpr const char* kDrift = "7-Day Drift";
-constexpr const char* kLoad = "Load Evaluation";
-constexpr const char* kRange = "Range Evaluation";
+constexpr QSize kFirstSize(1180, 720);
+constexpr const char* kSiteFilter = "Sites (*.site);;All files (*)";
+constexpr const char* kImportFilter =
+    "EPA files (*.json *.json.gz *.csv *.csv.gz *.gz);;All files (*)";
 
 const qt::Refresh kNothingToRefresh = [] {};
 
+QStringList pathsOf(const QMimeData& dropped)
+{
+    QStringList paths;
+    for (const QUrl& url : dropped.urls()) {
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    }
+    return paths;
+}
+
+bool isSite(const QString& path)
+{
+    return path.endsWith(".site", Qt::CaseInsensitive);
+}
+
+/// Which site this is. A facility without a name has a stand-in for reports, in brackets.
+QString lineOf(DIServer& server, const QString& path)
+{
+    const QString name = qt::toQString(facilityName(server));
+    return (name.startsWith('<') ? QString() : name + "   ") + QDir::toNativeSeparators(path);
+}
+
+sitedb::SiteDatabase openDatabase(const QString& path, sitedb::OpenMode mode)
+{
+    return sitedb::SiteDatabase::open(filePath(path.toStdString()), mode);
+}
+
 } // namespace
 
-MainWindow::MainWindow(screen::Services& services, const Clock& clock, RegionalSettings regional)
-    : services_(&services), clock_(&clock), regional_(std::move(regional)),
-      tabs_(new QTabWidget(this))
+MainWindow::MainWindow(screen::Services& services, const Clock& clock, Settings& settings)
+    : services_(&services), clock_(&clock), settings_(&settings),
+      regional_(settingsOfRegion(settings_->region())), centre_(new QStackedWidget(this))
 {
     setWindowTitle("K7DEval");
-    tabs_->setObjectName("tools");
-    tabs_->setDocumentMode(true);
-    setCentralWidget(tabs_);
+    setAcceptDrops(true);
     addMenus();
     addMessages();
+    addCentre();
+    siteLine_ = new QLabel(this);
+    siteLine_->setObjectName("siteLine");
+    statusBar()->addPermanentWidget(siteLine_, 1);
+    restoreLayout();
+    showSite(nullptr);
 }
 
 /// The tools refer to what the window holds.
 MainWindow::~MainWindow()
 {
-    closeTools();
+    tools_->close();
 }
 
 void MainWindow::addMenus()
 {
-    QMenu& file = *menuBar()->addMenu("&File");
-    QAction* open = file.addAction("&Open Site...", this, [this] { askForSite(); });
-    open->setShortcut(QKeySequence::Open);
-    file.addSeparator();
-    QAction* quit = file.addAction("&Quit", this, &QWidget::close);
-    quit->setShortcut(QKeySequence::Quit);
-
-    tools_ = menuBar()->addMenu("&Tools");
-    addToolAction(*tools_, kDrift, &MainWindow::showDrift);
-    addToolAction(*tools_, kLoad, &MainWindow::showLoad);
-    addToolAction(*tools_, kRange, &MainWindow::showRange);
-    tools_->setEnabled(false);
+    addFileMenu();
+    addToolsMenu();
+    addViewMenu();
+    addHelpMenu();
 }
 
-void MainWindow::addToolAction(QMenu& menu, const QString& title, ShowTool showTool)
+void MainWindow::addFileMenu()
 {
-    menu.addAction(title, this, [this, title, showTool] {
-        if (!goTo(title))
-            qt::forward(
-                *this, [this, showTool] { (this->*showTool)(); }, kNothingToRefresh);
-    });
+    QMenu& file = *menuBar()->addMenu("&File");
+    file.addAction("&New Site...", QKeySequence::New, this, [this] { askForNewSite(); });
+    file.addAction("&Open Site...", QKeySequence::Open, this, [this] { askForSite(); });
+    recentMenu_ = file.addMenu("Open &Recent");
+    connect(&file, &QMenu::aboutToShow, this, [this] { listRecentSites(); });
+    file.addSeparator();
+    import_ = file.addAction("&Import Files...", QKeySequence("Ctrl+I"), this,
+                             [this] { importFiles({}); });
+    properties_ = file.addAction("Site &Properties...", this, [this] { askForProperties(); });
+    file.addSeparator();
+    file.addAction("&Quit", QKeySequence::Quit, this, &QWidget::close);
 }
 
+void MainWindow::addToolsMenu()
+{
+    toolsMenu_ = menuBar()->addMenu("&Tools");
+    int number = 0;
+    for (const Tool tool : kTools) {
+        const QString key = QString::number(++number);
+        toolsMenu_->addAction("&" + key + " " + titleOf(tool), QKeySequence("Ctrl+" + key), this,
+                              [this, tool] { tools_->goTo(tool); });
+    }
+}
+
+void MainWindow::addViewMenu()
+{
+    QMenu& view = *menuBar()->addMenu("&View");
+    view.setObjectName("viewMenu");
+    addRegions(*view.addMenu("&Numbers and Dates"));
+}
+
+void MainWindow::addRegions(QMenu& menu)
+{
+    auto* group = new QActionGroup(&menu);
+    const auto add = [&](const QString& title, const QString& name) {
+        QAction* action = menu.addAction(title, this, [this, name] { takeRegion(name); });
+        action->setCheckable(true);
+        action->setChecked(settings_->region() == name);
+        group->addAction(action);
+    };
+    add("As on the &desktop", {});
+    for (const char* name : kRegionNames)
+        add(titleOfRegion(name), name);
+}
+
+void MainWindow::addHelpMenu()
+{
+    QMenu& help = *menuBar()->addMenu("&Help");
+    help.addAction("&Help on This Tool", QKeySequence::HelpContents, this, [this] { showHelp(); });
+    help.addAction("&About K7DEval", this, [this] { showAbout(); });
+}
+
+/// A line that is posted brings the panel on view, whatever hid it.
 void MainWindow::addMessages()
 {
     auto* dock = new QDockWidget("Messages", this);
@@ -88,91 +163,189 @@ void MainWindow::addMessages()
     dock->setWidget(messages_);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
     resizeDocks({dock}, {fontMetrics().lineSpacing() * kLinesOfMessages}, Qt::Vertical);
-    menuBar()->addMenu("&View")->addAction(dock->toggleViewAction());
+    findChild<QMenu*>("viewMenu")->addAction(dock->toggleViewAction());
+    connect(messages_->model(), &QAbstractItemModel::rowsInserted, dock, [dock] { dock->show(); });
+}
+
+void MainWindow::addCentre()
+{
+    start_ = new StartPage({[this] { askForNewSite(); }, [this] { askForSite(); },
+                            [this] { importFiles({}); },
+                            [this](const QString& path) { openSite(path); }},
+                           this);
+    tools_ = new ToolTabs({*services_, *clock_, regional_}, *messages_, this);
+    centre_->addWidget(start_);
+    centre_->addWidget(tools_);
+    setCentralWidget(centre_);
+}
+
+void MainWindow::restoreLayout()
+{
+    if (!settings_->restoreLayout(*this))
+        resize(kFirstSize.boundedTo(screen()->availableSize()));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    settings_->keepLayout(*this);
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!pathsOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+/// The desktop waits for the end of a drop, so what it leads to is done behind it.
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QStringList paths = pathsOf(*event->mimeData());
+    event->acceptProposedAction();
+    const auto take = [this, paths] {
+        const auto site = std::ranges::find_if(paths, isSite);
+        if (site == paths.end())
+            return importFiles(paths);
+        openSite(*site);
+    };
+    QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
 }
 
 void MainWindow::askForSite()
 {
     const QString path =
-        QFileDialog::getOpenFileName(this, "Open Site", {}, "Sites (*.site);;All files (*)");
+        QFileDialog::getOpenFileName(this, "Open Site", settings_->folder(), kSiteFilter);
     if (!path.isEmpty())
-        openSite(path.toStdString());
+        openSite(path);
 }
 
-void MainWindow::openSite(const std::string& path)
+void MainWindow::askForNewSite()
 {
-    bool isOpen = false;
+    QFileDialog dialog(this, "New Site", settings_->folder(), kSiteFilter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // A site is never written over, so there is nothing to confirm.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix("site");
+    if (dialog.exec() == QDialog::Accepted)
+        newSite(dialog.selectedFiles().front());
+}
+
+void MainWindow::newSite(const QString& path)
+{
+    if (QFileInfo::exists(path)) {
+        QMessageBox::warning(this, "New Site",
+                             QDir::toNativeSeparators(path) +
+                                 " is there already. Open it, or choose another name.");
+        return;
+    }
+    bool isMade = false;
+    const auto make = [&] {
+        openDatabase(path, sitedb::OpenMode::ReadWrite);
+        isMade = true;
+    };
+    qt::forward(*this, make, kNothingToRefresh);
+    if (isMade)
+        openSite(path);
+}
+
+void MainWindow::openSite(const QString& path)
+{
+    std::shared_ptr<DIServer> server;
     const auto open = [&] {
-        const auto site = sitedb::SiteDatabase::open(filePath(path), sitedb::OpenMode::ReadOnly);
-        auto server = site.server();
-        closeTools();
-        server_ = std::move(server);
-        setWindowTitle(qt::toQString(server_->SiteKey() + " - K7DEval"));
-        tools_->setEnabled(true);
-        isOpen = true;
+        if (!QFileInfo::exists(path))
+            settings_->removeRecentSite(path);
+        server = openDatabase(path, sitedb::OpenMode::ReadOnly).server();
     };
     qt::forward(*this, open, kNothingToRefresh);
-    if (!isOpen)
-        return;
-    for (const ShowTool showTool :
-         {&MainWindow::showDrift, &MainWindow::showLoad, &MainWindow::showRange})
-        qt::forward(
-            *this, [this, showTool] { (this->*showTool)(); }, kNothingToRefresh);
-    tabs_->setCurrentIndex(0);
-}
-
-void MainWindow::closeTools()
-{
-    while (tabs_->count() > 0)
-        delete tabs_->widget(0);
-}
-
-bool MainWindow::goTo(const QString& title)
-{
-    for (int tab = 0; tab < tabs_->count(); ++tab) {
-        if (tabs_->tabText(tab) == title) {
-            tabs_->setCurrentIndex(tab);
-            return true;
-        }
+    if (server) {
+        site_ = QFileInfo(path).absoluteFilePath();
+        settings_->setFolderOf(site_);
+        settings_->addRecentSite(site_);
     }
-    return false;
+    if (server || !server_)
+        showSite(server);
 }
 
-/// On a small desktop a tool is seen in part and can be scrolled.
-void MainWindow::addTab(QWidget& page, const QString& title)
+void MainWindow::offerSite(const QString& path)
 {
-    auto* scroll = new QScrollArea(tabs_);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(&page);
-    tabs_->setCurrentIndex(tabs_->addTab(scroll, title));
+    settings_->addRecentSite(path);
 }
 
-void MainWindow::showDrift()
+void MainWindow::importFiles(const QStringList& /*paths*/) {}
+
+void MainWindow::askForProperties() {}
+
+void MainWindow::listRecentSites()
 {
-    auto* page = new DriftPage({*services_, *clock_, regional_}, nullptr);
-    addTab(*page, kDrift);
-    page->tool().Setup(sinkOf(*messages_, *clock_, regional_), server_);
+    recentMenu_->clear();
+    int number = 0;
+    for (const QString& path : settings_->recentSites()) {
+        const QString title = "&" + QString::number(++number) + " " +
+                              QDir::toNativeSeparators(QString(path)).replace('&', "&&");
+        recentMenu_->addAction(title, this, [this, path] { openSite(path); });
+    }
+    recentMenu_->setEnabled(number > 0);
+    recentMenu_->addSeparator();
+    recentMenu_->addAction("&Clear List", this, [this] { settings_->clearRecentSites(); });
 }
 
-template <class Page> void MainWindow::showHistogram(const QString& title)
+/// The tools keep to the region that they were made for, so they are made anew.
+void MainWindow::takeRegion(const QString& name)
 {
-    auto* page = new Page({*services_, *clock_, regional_}, nullptr);
-    addTab(*page, title);
-    QWidget* tab = tabs_->currentWidget();
-    // The tool is still at work when it says so.
-    page->tool().CloseClicked.Connect([tab] { tab->deleteLater(); });
-    page->tool().SetDIServer(server_);
+    settings_->setRegion(name);
+    const auto tool = tools_->current();
+    tools_->close();
+    regional_ = settingsOfRegion(name);
+    showSite(server_);
+    if (tool)
+        tools_->goTo(*tool);
 }
 
-void MainWindow::showLoad()
+void MainWindow::showAgain()
 {
-    showHistogram<LoadPage>(kLoad);
+    const auto tool = tools_->current();
+    openSite(site_);
+    if (tool)
+        tools_->goTo(*tool);
 }
 
-void MainWindow::showRange()
+void MainWindow::showSite(std::shared_ptr<DIServer> server)
 {
-    showHistogram<RangePage>(kRange);
+    server_ = std::move(server);
+    const bool hasUnits = server_ && !server_->Units().empty();
+    import_->setEnabled(server_ != nullptr);
+    properties_->setEnabled(hasUnits);
+    toolsMenu_->setEnabled(hasUnits);
+    setWindowTitle(server_ ? QFileInfo(site_).completeBaseName() + " - K7DEval" : "K7DEval");
+    siteLine_->setText(server_ ? lineOf(*server_, site_) : "No site");
+    if (hasUnits) {
+        centre_->setCurrentWidget(tools_);
+        tools_->open(server_);
+        return;
+    }
+    tools_->close();
+    centre_->setCurrentWidget(start_);
+    if (server_)
+        start_->showEmptySite(QFileInfo(site_).fileName());
+    else
+        start_->showWithoutSite(settings_->recentSites());
+}
+
+/// The topic of the tool on view.
+void MainWindow::showHelp()
+{
+    if (help_ == nullptr)
+        help_ = new HelpWindow(this);
+    const auto tool = server_ ? tools_->current() : std::nullopt;
+    help_->showTopic(tool ? topicOf(*tool) : "sites");
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, "About K7DEval",
+                       "K7DEval judges the data of continuous emissions monitoring systems under "
+                       "40 CFR Part 75 and Part 60.\n\nWhat it shows is worked out by the same "
+                       "library that its command line and its Python module use.");
 }
 
 } // namespace k7deval::workbench

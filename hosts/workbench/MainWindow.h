@@ -4,59 +4,91 @@
 #include "foundation/DataInterface.h"
 #include "foundation/RegionalSettings.h"
 #include "screen/Services.h"
+#include "workbench/Settings.h"
 
 #include <QMainWindow>
 
 #include <memory>
-#include <string>
 
+class QActionGroup;
+class QLabel;
 class QMenu;
-class QTabWidget;
+class QStackedWidget;
 
 namespace k7deval::workbench
 {
 
+class HelpWindow;
 class MessagePanel;
+class StartPage;
+class ToolTabs;
 
 /// The desktop program: one site, its tools in tabs, and what they have to say below.
 class MainWindow final : public QMainWindow
 {
 public:
-    /// Services and clock outlive the window.
-    MainWindow(screen::Services& services, const Clock& clock, RegionalSettings regional);
+    /// All three outlive the window, which follows the settings and keeps them up to date.
+    MainWindow(screen::Services& services, const Clock& clock, Settings& settings);
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow() override;
 
     /// Shows the tools on the site of a file in place of the site before. A failure is told to the
     /// user and leaves that one open.
-    void openSite(const std::string& path);
+    void openSite(const QString& path);
+    /// Lists a site among the recent ones without opening it.
+    void offerSite(const QString& path);
+    /// Makes an empty site and opens it. A file that is there already is told to the user and left
+    /// alone.
+    void newSite(const QString& path);
+    /// Asks what is needed to take files into the open site, takes them, and shows what came of it.
+    void importFiles(const QStringList& paths);
+
+    [[nodiscard]] ToolTabs& tools() const { return *tools_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
-    /// Adds a tool and hands it the data.
-    using ShowTool = void (MainWindow::*)();
-
     void addMenus();
-    void addToolAction(QMenu& menu, const QString& title, ShowTool showTool);
+    void addFileMenu();
+    void addToolsMenu();
+    void addViewMenu();
+    void addRegions(QMenu& menu);
+    void addHelpMenu();
     void addMessages();
-    void askForSite();
-    void closeTools();
+    void addCentre();
+    void restoreLayout();
 
-    void showDrift();
-    void showLoad();
-    void showRange();
-    template <class Page> void showHistogram(const QString& title);
-    /// Goes to the tab of that title; false when there is none.
-    bool goTo(const QString& title);
-    void addTab(QWidget& page, const QString& title);
+    void askForSite();
+    void askForNewSite();
+    void askForProperties();
+    void listRecentSites();
+    void takeRegion(const QString& name);
+    /// Shows the site anew as it is now, on the same tool.
+    void showAgain();
+    void showSite(std::shared_ptr<DIServer> server);
+    void showHelp();
+    void showAbout();
 
     screen::Services* services_;
     const Clock* clock_;
+    Settings* settings_;
     RegionalSettings regional_;
+    QString site_; ///< The path of the open site; empty without one.
     std::shared_ptr<DIServer> server_;
-    QTabWidget* tabs_;
-    QMenu* tools_ = nullptr;
+    QStackedWidget* centre_;
+    StartPage* start_ = nullptr;
+    ToolTabs* tools_ = nullptr;
     MessagePanel* messages_ = nullptr;
+    HelpWindow* help_ = nullptr;
+    QLabel* siteLine_ = nullptr;
+    QMenu* recentMenu_ = nullptr;
+    QMenu* toolsMenu_ = nullptr;
+    QAction* import_ = nullptr;
+    QAction* properties_ = nullptr;
 };
 
 } // namespace k7deval::workbench

@@ -3,6 +3,9 @@
 #include "foundation/DateText.h"
 #include "qt/Texts.h"
 
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPointer>
 
@@ -48,6 +51,32 @@ MessagePanel::MessagePanel(QWidget* parent) : QTableWidget(0, 3, parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setTabKeyNavigation(false);
+    addActions();
+}
+
+void MessagePanel::addActions()
+{
+    auto* copyLines = new QAction("&Copy", this);
+    copyLines->setShortcut(QKeySequence::Copy);
+    auto* clearLines = new QAction("C&lear", this);
+    for (QAction* action : {copyLines, clearLines}) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        addAction(action);
+    }
+    connect(copyLines, &QAction::triggered, this, [this] { copy(); });
+    connect(clearLines, &QAction::triggered, this, [this] { setRowCount(0); });
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void MessagePanel::copy() const
+{
+    QStringList lines;
+    const bool isAnyMarked = selectionModel()->hasSelection();
+    for (int row = 0; row < rowCount(); ++row) {
+        if (!isAnyMarked || selectionModel()->isRowSelected(row, {}))
+            lines << item(row, 0)->text() + "\t" + item(row, 2)->text();
+    }
+    QGuiApplication::clipboard()->setText(lines.join('\n'));
 }
 
 void MessagePanel::add(const QString& time, std::int32_t severity, const QString& text)

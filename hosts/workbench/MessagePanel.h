@@ -18,6 +18,11 @@ public:
     explicit MessagePanel(QWidget* parent = nullptr);
 
     void add(const QString& time, std::int32_t severity, const QString& text);
+    /// Puts the marked lines, or all when none is marked, on the clipboard.
+    void copy() const;
+
+private:
+    void addActions();
 };
 
 /// Hands posted lines to a panel; drops them once the panel is gone. Clock and regional settings

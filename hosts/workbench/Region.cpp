@@ -16,4 +16,16 @@ RegionalSettings settingsOf(const QLocale& locale)
     }
 }
 
+RegionalSettings settingsOfRegion(const QString& name)
+{
+    return settingsOf(name.isEmpty() ? QLocale::system() : QLocale(name));
+}
+
+QString titleOfRegion(const QString& name)
+{
+    const QLocale locale(name);
+    return QLocale::languageToString(locale.language()) + " (" +
+           QLocale::territoryToString(locale.territory()) + ")";
+}
+
 } // namespace k7deval::workbench

@@ -32,7 +32,10 @@ struct RegionalSettings {
     friend bool operator==(const RegionalSettings&, const RegionalSettings&) = default;
 };
 
-/// The settings of a region by its name: "en-US", "en-GB", "de-DE" or "fr-FR". Error 5 for another.
+/// The regions that are known by name.
+inline constexpr std::array<const char*, 4> kRegionNames{"en-US", "en-GB", "de-DE", "fr-FR"};
+
+/// The settings of a region by one of those names. Error 5 for another.
 RegionalSettings regionalSettings(std::string_view name);
 
 } // namespace k7deval

@@ -3,10 +3,17 @@
 #include <QWidget>
 
 #include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 
 class QDialog;
+
+/// What a failed comparison prints.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
 
 namespace k7deval::qt::test
 {

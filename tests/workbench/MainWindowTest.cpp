@@ -6,17 +6,33 @@
 #include "support/FakeSite.h"
 #include "workbench/MessagePanel.h"
 #include "workbench/Region.h"
+#include "workbench/ToolTabs.h"
 
 #include <gmock/gmock.h>
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QLocale>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
 #include <QTreeWidget>
+
+#include <algorithm>
+#include <memory>
 
 namespace k7deval::workbench::test
 {
@@ -37,20 +53,31 @@ std::string sampleSite()
     return (sample.directory / "bethpage.k7site").string();
 }
 
+/// What the program remembers, gone with the test.
+struct Memory {
+    QTemporaryDir folder;
+    Settings settings{folder.filePath("settings.ini")};
+
+    Memory() { settings.setRegion("en-US"); }
+};
+
 /// An operator at the program with the sample open, on 2 May 2024.
 struct Workbench {
-    explicit Workbench(const std::string& site = sampleSite())
+    explicit Workbench(const std::string& site = sampleSite(),
+                       std::shared_ptr<Memory> known = std::make_shared<Memory>())
+        : memory(std::move(known))
     {
         window.resize(1000, 760);
         window.show();
         if (!site.empty())
-            window.openSite(site);
+            window.openSite(QString::fromStdString(site));
         settle();
     }
 
+    std::shared_ptr<Memory> memory;
     FakeServices services;
     FixedClock clock{makeDate(2024, 5, 2, 9, 30)};
-    MainWindow window{services, clock, RegionalSettings()};
+    MainWindow window{services, clock, memory->settings};
 
     [[nodiscard]] QTabWidget& tabs() const { return *window.findChild<QTabWidget*>("tools"); }
     [[nodiscard]] QStringList titles() const
@@ -66,6 +93,31 @@ struct Workbench {
         tabs().setCurrentIndex(tab);
         return Operator(*tabs().widget(tab));
     }
+    /// The entry of a menu, by the texts on the way to it; std::runtime_error when there is none.
+    [[nodiscard]] QAction& entry(const QStringList& way) const
+    {
+        QList<QAction*> actions = window.menuBar()->actions();
+        QAction* found = nullptr;
+        for (const QString& text : way) {
+            const auto at = std::ranges::find_if(actions, [&](const QAction* action) {
+                return QString(action->text()).remove('&') == text;
+            });
+            if (at == actions.end())
+                throw std::runtime_error("no such entry: " + text.toStdString());
+            found = *at;
+            if (found->menu() != nullptr) {
+                emit found->menu()->aboutToShow();
+                actions = found->menu()->actions();
+            }
+        }
+        return *found;
+    }
+    void choose(const QStringList& way) const
+    {
+        entry(way).trigger();
+        settle();
+    }
+    [[nodiscard]] QLabel& label(const char* name) const { return *window.findChild<QLabel*>(name); }
     [[nodiscard]] QTableWidget& messages() const
     {
         return *window.findChild<QTableWidget*>("messages");
@@ -122,10 +174,7 @@ TEST(Workbench, AClosedToolCanBeOpenedAgain)
     bench.at(1).click("cmdClose");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(bench.titles(), QStringList({"7-Day Drift", "Range Evaluation"}));
-    for (QAction* action : bench.window.menuBar()->actions()[1]->menu()->actions()) {
-        if (action->text() == "Load Evaluation")
-            action->trigger();
-    }
+    bench.choose({"Tools", "2 Load Evaluation"});
     EXPECT_EQ(bench.titles().last(), "Load Evaluation");
     EXPECT_GT(bench.at(2).view<QComboBox>("cmbUnit").count(), 0);
 }
@@ -149,7 +198,7 @@ TEST(Workbench, AFileThatIsNoSiteLeavesTheSiteOpen)
         told = dynamic_cast<QMessageBox&>(dialog).text();
         dialog.accept();
     });
-    bench.window.openSite(sitedb::test::sampleFile("spans.csv").string());
+    bench.window.openSite(QString::fromStdString(sitedb::test::sampleFile("spans.csv").string()));
     EXPECT_TRUE(told.startsWith("Error 75: ")) << told.toStdString();
     EXPECT_EQ(bench.titles(), kAllTools);
     EXPECT_EQ(bench.window.windowTitle(), "bethpage - K7DEval");
@@ -158,9 +207,180 @@ TEST(Workbench, AFileThatIsNoSiteLeavesTheSiteOpen)
 TEST(Workbench, AnotherSiteTakesThePlaceOfTheFirst)
 {
     Workbench bench;
-    bench.window.openSite(sampleSite());
+    bench.window.openSite(QString::fromStdString(sampleSite()));
     settle();
     EXPECT_EQ(bench.titles(), kAllTools);
+}
+
+TEST(Workbench, WithoutASiteSaysHowToGetOne)
+{
+    const Workbench bench("");
+    EXPECT_EQ(bench.label("startTitle").text(), "No site is open");
+    EXPECT_FALSE(bench.entry({"File", "Import Files..."}).isEnabled());
+    EXPECT_FALSE(bench.entry({"Tools"}).isEnabled());
+    EXPECT_FALSE(bench.window.findChild<QListWidget*>("recentSites")->isVisible());
+}
+
+TEST(Workbench, ARecentSiteIsOpenedWithAKey)
+{
+    const auto memory = std::make_shared<Memory>();
+    {
+        const Workbench first(sampleSite(), memory);
+    }
+    const Workbench bench("", memory);
+    auto& recent = *bench.window.findChild<QListWidget*>("recentSites");
+    ASSERT_EQ(recent.count(), 1);
+    recent.setFocus();
+    QTest::keyClick(&recent, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(bench.titles(), kAllTools);
+    EXPECT_THAT(
+        bench.entry({"File", "Open Recent"}).menu()->actions().front()->text().toStdString(),
+        testing::HasSubstr("bethpage.k7site"));
+    bench.choose({"File", "Open Recent", "Clear List"});
+    EXPECT_TRUE(memory->settings.recentSites().isEmpty());
+}
+
+TEST(Workbench, ARecentSiteThatIsGoneIsToldAndForgotten)
+{
+    Workbench bench("");
+    bench.window.offerSite("/nowhere/lost.site");
+    QString told;
+    whenDialogComes([&told](QDialog& dialog) {
+        told = dynamic_cast<QMessageBox&>(dialog).text();
+        dialog.accept();
+    });
+    bench.window.openSite("/nowhere/lost.site");
+    EXPECT_TRUE(told.startsWith("Error 53: ")) << told.toStdString();
+    EXPECT_TRUE(bench.memory->settings.recentSites().isEmpty());
+    EXPECT_EQ(bench.label("startTitle").text(), "No site is open");
+}
+
+TEST(Workbench, ANewSiteIsEmptyAndAsksForFiles)
+{
+    const Workbench bench("");
+    const QString path = bench.memory->folder.filePath("plant.site");
+    bench.memory->settings.setFolderOf(path);
+    whenDialogComes([](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>()->setText("plant");
+        dialog.accept();
+    });
+    bench.choose({"File", "New Site..."});
+    EXPECT_TRUE(QFileInfo::exists(path));
+    EXPECT_EQ(bench.label("startTitle").text(), "plant.site has no units yet");
+    EXPECT_EQ(bench.label("siteLine").text(), path);
+    EXPECT_TRUE(bench.entry({"File", "Import Files..."}).isEnabled());
+    EXPECT_FALSE(bench.entry({"Tools"}).isEnabled());
+}
+
+TEST(Workbench, ANewSiteNeverTakesThePlaceOfAFile)
+{
+    Workbench bench("");
+    QFile file(bench.memory->folder.filePath("plant.site"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("kept");
+    file.close();
+    QString told;
+    whenDialogComes([&told](QDialog& dialog) {
+        told = dynamic_cast<QMessageBox&>(dialog).text();
+        dialog.accept();
+    });
+    bench.window.newSite(file.fileName());
+    EXPECT_TRUE(told.endsWith("Open it, or choose another name.")) << told.toStdString();
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "kept");
+}
+
+TEST(Workbench, AnotherRegionWritesDatesItsWayAndIsRemembered)
+{
+    const auto memory = std::make_shared<Memory>();
+    {
+        Workbench bench(sampleSite(), memory);
+        EXPECT_EQ(bench.at(0).view<QLineEdit>("txtToDate").text(), "5/2/2024");
+        bench.tabs().setCurrentIndex(1);
+        bench.choose({"View", "Numbers and Dates", "German (Germany)"});
+        EXPECT_EQ(bench.tabs().currentIndex(), 1);
+        EXPECT_EQ(bench.at(0).view<QLineEdit>("txtToDate").text(), "02.05.2024");
+    }
+    Workbench again(sampleSite(), memory);
+    EXPECT_EQ(again.at(0).view<QLineEdit>("txtToDate").text(), "02.05.2024");
+    EXPECT_TRUE(again.entry({"View", "Numbers and Dates", "German (Germany)"}).isChecked());
+}
+
+TEST(Workbench, TheLayoutOfTheWindowIsKept)
+{
+    const auto memory = std::make_shared<Memory>();
+    {
+        Workbench bench("", memory);
+        bench.choose({"View", "Messages"});
+        bench.window.close();
+    }
+    const Workbench again("", memory);
+    EXPECT_FALSE(again.messages().isVisible());
+}
+
+TEST(Workbench, APostedLineBringsThePanelBack)
+{
+    const Workbench bench;
+    bench.choose({"View", "Messages"});
+    ASSERT_FALSE(bench.messages().isVisible());
+    auto& panel = *bench.window.findChild<MessagePanel*>("messages");
+    panel.add("9:30", 4, "DEval-006: 9, Subscript out of range");
+    panel.add("9:31", 4, "DEval-003: 94, Invalid use of Null");
+    settle();
+    EXPECT_TRUE(bench.messages().isVisible());
+    panel.setFocus();
+    panel.selectRow(1);
+    QTest::keyClick(&panel, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "9:31\tDEval-003: 94, Invalid use of Null");
+}
+
+TEST(Workbench, ToolsAreReachedByTheirNumbers)
+{
+    const Workbench bench;
+    QTest::keyClick(bench.window.windowHandle(), Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(bench.tabs().currentIndex(), 2);
+    QTest::keyClick(bench.window.windowHandle(), Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(bench.tabs().currentIndex(), 1);
+}
+
+TEST(Workbench, HelpIsOnTheToolOnView)
+{
+    const Workbench bench;
+    bench.tabs().setCurrentIndex(2);
+    QTest::keyClick(bench.window.windowHandle(), Qt::Key_F1);
+    settle();
+    auto& page = *bench.window.findChild<QTextBrowser*>("helpPage");
+    EXPECT_TRUE(page.isVisible());
+    EXPECT_EQ(page.documentTitle(), "Range Evaluation");
+    EXPECT_TRUE(page.toPlainText().contains("very low sulfur fuel"));
+    const Operator reader(*bench.window.findChild<QDialog*>("help"));
+    reader.photograph("help-range");
+}
+
+TEST(Workbench, EveryTopicOfHelpHasItsPage)
+{
+    const Workbench bench("");
+    bench.choose({"Help", "Help on This Tool"});
+    auto& topics = *bench.window.findChild<QListWidget*>("helpTopics");
+    auto& page = *bench.window.findChild<QTextBrowser*>("helpPage");
+    EXPECT_EQ(topics.currentItem()->text(), "Sites and files");
+    for (int row = 0; row < topics.count(); ++row) {
+        topics.setCurrentRow(row);
+        EXPECT_EQ(page.documentTitle(), topics.item(row)->text());
+        EXPECT_GT(page.toPlainText().size(), 500) << page.documentTitle().toStdString();
+    }
+}
+
+TEST(Workbench, ALinkOfHelpLeadsToItsTopic)
+{
+    const Workbench bench("");
+    bench.choose({"Help", "Help on This Tool"});
+    auto& page = *bench.window.findChild<QTextBrowser*>("helpPage");
+    page.setSource(QUrl("qrc:/k7deval/help/drift.html"));
+    EXPECT_EQ(bench.window.findChild<QListWidget*>("helpTopics")->currentItem()->text(),
+              "7-Day Drift");
+    EXPECT_EQ(page.documentTitle(), "7-Day Drift");
 }
 
 TEST(Workbench, TakesTheRegionOfItsUser)

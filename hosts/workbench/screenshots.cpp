@@ -1,0 +1,137 @@
+#include "cli/OperatorActions.h"
+#include "foundation/Error.h"
+#include "qt/QtServices.h"
+#include "qt/Texts.h"
+#include "workbench/MainWindow.h"
+#include "workbench/ToolPages.h"
+#include "workbench/ToolTabs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+#include <iostream>
+
+/// Pictures of the desktop program at work on the sample sites, for documentation and for those who
+/// judge its looks: k7deval-screenshots SITES FOLDER
+namespace k7deval::workbench
+{
+
+namespace
+{
+
+/// A small office screen.
+constexpr QSize kScreen(1366, 768);
+
+/// One window, and the folder that its pictures go to.
+class Studio
+{
+public:
+    Studio(const QString& sites, const QString& folder)
+        : sites_(sites), folder_(folder), settings_(scratch_.filePath("settings.ini"))
+    {
+        for (const char* site : {"flint-creek", "crystal-river", "barrett", "bethpage"})
+            window_.offerSite(pathOf(site));
+        window_.resize(kScreen);
+        window_.show();
+    }
+
+    void takeAll()
+    {
+        window_.newSite(scratch_.filePath("new.site"));
+        take("empty-site", window_);
+        window_.openSite(pathOf("bethpage"));
+        takeDrift();
+        takeLoad();
+        window_.openSite(pathOf("crystal-river"));
+        takeRange();
+    }
+
+private:
+    [[nodiscard]] QString pathOf(const QString& site) const
+    {
+        return QDir(sites_).filePath(site + ".site");
+    }
+
+    template <class Page> Page& goTo(Tool tool)
+    {
+        window_.tools().goTo(tool);
+        return dynamic_cast<Page&>(*window_.tools().page(tool));
+    }
+
+    /// A test that was passed on its seventh day.
+    void takeDrift()
+    {
+        ctrl7Day& tool = goTo<DriftPage>(Tool::Drift).tool();
+        ctrl7DaySetUp& page = tool.ctrl7DaySetUp1;
+        cli::pick(page.cmbUnit, "GT3", "no unit GT3");
+        cli::pick(page.cmbAnalyzer, "NOX 310/L", "no analyzer NOX 310/L");
+        cli::type(page.txtFromDate, "5/3/2021", "date");
+        cli::type(page.txtToDate, "5/9/2021", "date");
+        take("drift-setup", window_);
+        tool.cmdNext.Press();
+        take("drift-results", window_);
+    }
+
+    void takeLoad()
+    {
+        ctrlMaxMW& tool = goTo<LoadPage>(Tool::Load).tool();
+        cli::pick(tool.cmbUnit, "GT4", "no unit GT4");
+        cli::type(tool.txtMinSafe, "30", "minimum");
+        cli::type(tool.txtCapacity, "84", "capacity");
+        cli::pickQuarter(tool.cmbYear, tool.cmbQTR, "2021", "Q4");
+        tool.cmdCalculate.Press();
+        take("load", window_);
+    }
+
+    void takeRange()
+    {
+        ctrlRangeEval& tool = goTo<RangePage>(Tool::Range).tool();
+        cli::pick(tool.cmbUnit, "4", "no unit 4");
+        cli::pick(tool.cmbParam, "HG", "no parameter HG");
+        cli::pickQuarter(tool.cmbYear, tool.cmbQTR, "2021", "Q3");
+        tool.cmdCalculate.Press();
+        take("range", window_);
+    }
+
+    void take(const QString& name, QWidget& window) const
+    {
+        QApplication::processEvents();
+        const QString path = QDir(folder_).filePath(name + ".png");
+        if (!window.grab().save(path))
+            throw Error(errors::kPathAccess, path.toStdString() + " could not be written.");
+        std::cout << path.toStdString() << '\n';
+    }
+
+    QString sites_;
+    QString folder_;
+    QTemporaryDir scratch_;
+    Settings settings_;
+    qt::QtServices services_;
+    SystemClock clock_;
+    MainWindow window_{services_, clock_, settings_};
+};
+
+} // namespace
+
+} // namespace k7deval::workbench
+
+int main(int argc, char** argv)
+{
+    // No display is needed, and none is disturbed.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 3 || !QDir().mkpath(arguments[2])) {
+        std::cerr << "usage: k7deval-screenshots SITES FOLDER\n";
+        return EXIT_FAILURE;
+    }
+    try {
+        k7deval::workbench::Studio(arguments[1], arguments[2]).takeAll();
+    } catch (const std::exception& failure) {
+        std::cerr << failure.what() << '\n';
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}

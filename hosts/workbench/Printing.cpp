@@ -1,0 +1,196 @@
+#include "workbench/Printing.h"
+
+#include "foundation/Error.h"
+#include "qt/Mirror.h"
+#include "qt/Modal.h"
+#include "qt/ReportPainter.h"
+#include "qt/Texts.h"
+#include "qt/UserAction.h"
+
+#include <QPageLayout>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPushButton>
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+#include <vector>
+
+namespace k7deval::workbench
+{
+
+namespace
+{
+
+const qt::Refresh kNothingToRefresh = [] {};
+
+/// The paper that a page is laid out for.
+QPageLayout layoutOf(const ReportPage& page)
+{
+    const double width = page.Width();
+    const double height = page.Height();
+    const QPageSize size(QSizeF(std::min(width, height), std::max(width, height)), QPageSize::Point,
+                         QString(), QPageSize::FuzzyMatch);
+    return {size, width > height ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
+
+/// From the points of a page to those of the paper.
+QTransform placeOn(const QRectF& paper, const QRectF& printable, const ReportPage& page)
+{
+    const QRectF content = qt::contentOf(page);
+    const double scale = std::min({1.0, printable.width() / std::max(content.width(), 1.0),
+                                   printable.height() / std::max(content.height(), 1.0)});
+    const QSizeF size = QSizeF(page.Width(), page.Height()) * scale;
+    QPointF corner = paper.center() - QPointF(size.width(), size.height()) / 2;
+    const QRectF placed(corner + content.topLeft() * scale, content.size() * scale);
+    corner += QPointF(std::max(printable.left() - placed.left(), 0.0) +
+                          std::min(printable.right() - placed.right(), 0.0),
+                      std::max(printable.top() - placed.top(), 0.0) +
+                          std::min(printable.bottom() - placed.bottom(), 0.0));
+    return QTransform::fromTranslate(corner.x(), corner.y()).scale(scale, scale);
+}
+
+Error printerError()
+{
+    return {errors::kAutomation, "The printer could not be used."};
+}
+
+void printPage(const ReportPage& page, QPrinter& printer, QPainter& painter)
+{
+    const QPageLayout layout = printer.pageLayout();
+    painter.save();
+    painter.scale(printer.logicalDpiX() / 72.0, printer.logicalDpiY() / 72.0);
+    painter.setTransform(
+        placeOn(layout.fullRect(QPageLayout::Point), layout.paintRect(QPageLayout::Point), page),
+        true);
+    qt::drawPage(painter, page);
+    painter.restore();
+}
+
+/// The pages that the user asked for, one time each.
+std::vector<const ReportPage*> pagesFor(const QPrinter& printer, const ReportDocument& document)
+{
+    std::vector<const ReportPage*> pages;
+    int number = 0;
+    for (const ReportPage& page : document.Pages()) {
+        ++number;
+        if (printer.fromPage() == 0 || (number >= printer.fromPage() && number <= printer.toPage()))
+            pages.push_back(&page);
+    }
+    return pages;
+}
+
+void prepare(QPrinter& printer, const ReportDocument& document)
+{
+    printer.setDocName(qt::toQString(document.Title()));
+    printer.setCreator(qt::toQString(document.Creator()));
+    if (document.Pages().Count() > 0)
+        printer.setPageLayout(layoutOf(*document.Pages().begin()));
+}
+
+/// A letter for a mnemonic that no widget of a view has yet; 0 when all are taken.
+char freeLetter(const QWidget& view, const std::string& caption)
+{
+    QString taken;
+    for (const QWidget* widget : view.findChildren<QWidget*>()) {
+        const QString text = widget->property("text").toString().toLower().remove("&&");
+        if (const auto mark = text.indexOf('&'); mark >= 0)
+            taken += text.mid(mark + 1, 1);
+    }
+    const auto isFree = [&](char letter) {
+        return std::isalpha(static_cast<unsigned char>(letter)) != 0 &&
+               !taken.contains(QLatin1Char(letter), Qt::CaseInsensitive);
+    };
+    const auto found = std::find_if(caption.begin(), caption.end(), isFree);
+    return found == caption.end() ? '\0' : *found;
+}
+
+QPushButton* makeButton(QWidget& view, screen::Button& save, const QString& name,
+                        const std::string& caption, const BuildReport& build,
+                        void (*show)(const ReportDocument&, QWidget*))
+{
+    auto* button = new QPushButton(qt::withMnemonic(caption, freeLetter(view, caption)), &view);
+    button->setObjectName(name);
+    const qt::Refresh refresh =
+        qt::refreshOf<QPushButton, screen::Button>(*button, save, [](auto&, const auto&) {});
+    save.Changed.Connect(refresh);
+    refresh();
+    QObject::connect(button, &QPushButton::clicked, button, [button, build, show, refresh] {
+        const auto act = [&] {
+            const auto document = build();
+            if (!document)
+                throw Error(errors::kInvalidCall, "There is nothing to print.");
+            show(*document, button);
+        };
+        qt::forward(*button, act, refresh);
+    });
+    return button;
+}
+
+} // namespace
+
+void printPages(const ReportDocument& document, QPrinter& printer)
+{
+    printer.setFullPage(true);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        throw printerError();
+    bool isFirst = true;
+    const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
+    for (int copy = 0; copy < copies; ++copy) {
+        for (const ReportPage* page : pagesFor(printer, document)) {
+            if (!isFirst && !printer.newPage())
+                throw printerError();
+            isFirst = false;
+            printPage(*page, printer, painter);
+        }
+    }
+    if (!painter.end() || printer.printerState() == QPrinter::Error)
+        throw printerError();
+}
+
+void printReport(const ReportDocument& document, QWidget* over)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    prepare(printer, document);
+    qt::Modal<QPrintDialog> dialog(&printer, over);
+    dialog->setWindowTitle("Print");
+    dialog->setMinMax(1, document.Pages().Count());
+    dialog->setOption(QAbstractPrintDialog::PrintPageRange, document.Pages().Count() > 1);
+    if (dialog.ask() != QDialog::Accepted)
+        return;
+    try {
+        printPages(document, printer);
+    } catch (...) {
+        qt::showError(over, errorInFlight());
+    }
+}
+
+void previewReport(const ReportDocument& document, QWidget* over)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    prepare(printer, document);
+    qt::Modal<QPrintPreviewDialog> dialog(&printer, over);
+    dialog->setWindowTitle(qt::toQString("Print Preview - " + document.Title()));
+    QPrintPreviewDialog& shown = *dialog;
+    QObject::connect(&shown, &QPrintPreviewDialog::paintRequested, &shown,
+                     [&shown, &document](QPrinter* target) {
+                         qt::forward(
+                             shown, [&] { printPages(document, *target); }, kNothingToRefresh);
+                     });
+    static_cast<void>(dialog.ask());
+}
+
+PrintButtons makePrintButtons(QWidget& view, screen::Button& save, const BuildReport& build)
+{
+    PrintButtons buttons;
+    buttons.print = makeButton(view, save, "cmdPrint", "Print...", build, printReport);
+    buttons.preview =
+        makeButton(view, save, "cmdPrintPreview", "Print Preview...", build, previewReport);
+    return buttons;
+}
+
+} // namespace k7deval::workbench

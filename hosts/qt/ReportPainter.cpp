@@ -8,6 +8,8 @@
 #include <QPen>
 #include <QTransform>
 
+#include <algorithm>
+
 namespace k7deval::qt
 {
 
@@ -51,11 +53,25 @@ QRectF boxOf(const ReportTextItem& text, double pageHeight)
         .mapRect(QRectF(0, -text.Height(), text.Width(), text.Height()));
 }
 
+/// The faces that the PDF file takes, or the nearest: those for texts beyond Windows-1252 first
+/// where it has such a text.
+QStringList familiesOf(const TextLayout& layout)
+{
+    const bool isBeyond = std::any_of(layout.runs.begin(), layout.runs.end(),
+                                      [](const TextRun& run) { return run.face != nullptr; });
+    QStringList families = {"Helvetica", "Liberation Sans", "Nimbus Sans", "Arial"};
+    if (isBeyond)
+        families.prepend("DejaVu Sans");
+    else
+        families.append("DejaVu Sans");
+    return families;
+}
+
 /// Without pairs drawn closer together: the PDF file knows none.
-QFont fontOf(const ReportTextItem& text)
+QFont fontOf(const ReportTextItem& text, const TextLayout& layout)
 {
     QFont font;
-    font.setFamilies({"Helvetica", "Liberation Sans", "Nimbus Sans", "Arial", "DejaVu Sans"});
+    font.setFamilies(familiesOf(layout));
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(kSetSize);
     font.setBold(text.Font() == kTitleFont);
@@ -96,7 +112,7 @@ void drawText(QPainter& painter, const ReportTextItem& text, double pageHeight)
 {
     const TextLayout layout = text.layout();
     const QString shown = shownText(layout);
-    const QFont font = fontOf(text);
+    const QFont font = fontOf(text, layout);
     const double advance = QFontMetricsF(font).horizontalAdvance(shown);
     if (shown.isEmpty() || advance <= 0)
         return;

@@ -37,6 +37,13 @@ QPageLayout layoutOf(const ReportPage& page)
     return {size, width > height ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
 }
 
+/// What the printer reaches, and the user has not kept free.
+QRectF printableOn(QPageLayout layout)
+{
+    layout.setUnits(QPageLayout::Point);
+    return layout.fullRect().marginsRemoved(layout.margins() | layout.minimumMargins());
+}
+
 /// From the points of a page to those of the paper.
 QTransform placeOn(const QRectF& paper, const QRectF& printable, const ReportPage& page)
 {
@@ -63,9 +70,8 @@ void printPage(const ReportPage& page, QPrinter& printer, QPainter& painter)
     const QPageLayout layout = printer.pageLayout();
     painter.save();
     painter.scale(printer.logicalDpiX() / 72.0, printer.logicalDpiY() / 72.0);
-    painter.setTransform(
-        placeOn(layout.fullRect(QPageLayout::Point), layout.paintRect(QPageLayout::Point), page),
-        true);
+    painter.setTransform(placeOn(layout.fullRect(QPageLayout::Point), printableOn(layout), page),
+                         true);
     qt::drawPage(painter, page);
     painter.restore();
 }

@@ -6,8 +6,6 @@
 #include <gmock/gmock.h>
 
 #include <QAccessible>
-#include <QTest>
-#include <QtTest/qtestaccessible.h>
 
 /// The chart as somebody gets it who has it read out.
 namespace k7deval::qt::test
@@ -90,6 +88,16 @@ TEST(ChartAccess, SaysWhatTheToolHas)
     EXPECT_THAT(chart.row(10), ElementsAre("50", "55", "0", "0.0%"));
 }
 
+TEST(ChartAccess, IsEmptyAgainWhenTheResultsAreStale)
+{
+    const ReadChart chart;
+    chart.hands.click("cmdCalculate");
+    chart.hands.enter("txtMinSafe", "10");
+    EXPECT_THAT(chart.row(9), ElementsAre("", "", "", ""));
+    chart.hands.click("cmdCalculate");
+    EXPECT_THAT(chart.row(19), ElementsAre("95.5", "100", "1", "11.1%"));
+}
+
 TEST(ChartAccess, ACellHasItsHeadsAndItsPlace)
 {
     const ReadChart chart;
@@ -125,28 +133,14 @@ TEST(ChartAccess, TheArrowKeysTakeTheFocusFromBarToBar)
     const ReadChart chart;
     chart.hands.click("cmdCalculate");
     chart.hands.view<QWidget>("chart").setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(chart.face().focusChild(), &chart.face()) << "no bar yet";
     chart.hands.press(Qt::Key_Right);
-    QTestAccessibility::initialize();
     chart.hands.press(Qt::Key_Right);
-    QAccessibleEvent event(&chart.hands.view<QWidget>("chart"), QAccessible::Focus);
-    event.setChild(chart.face().indexOfChild(chart.table().cellAt(1, 2)));
-    EXPECT_TRUE(QTestAccessibility::containsEvent(&event));
-    QTestAccessibility::cleanup();
     EXPECT_EQ(chart.face().focusChild(), chart.table().cellAt(1, 2));
     EXPECT_TRUE(chart.table().cellAt(1, 2)->state().focused);
     EXPECT_FALSE(chart.table().cellAt(0, 2)->state().focused);
-}
-
-TEST(ChartAccess, AnEvaluationIsToldOnce)
-{
-    const ReadChart chart;
-    QTestAccessibility::initialize();
-    chart.hands.click("cmdCalculate");
-    int changes = 0;
-    for (const QAccessibleEvent* event : QTestAccessibility::events())
-        changes += event->type() == QAccessible::TableModelChanged ? 1 : 0;
-    QTestAccessibility::cleanup();
-    EXPECT_EQ(changes, 1);
+    chart.hands.view<QWidget>("cmdSave").setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(chart.table().cellAt(1, 2)->state().focused);
 }
 
 } // namespace k7deval::qt::test

@@ -206,6 +206,34 @@ TEST(DriftScreen, AFailureIsSaidToAScreenReader)
               "Fail On-Line");
 }
 
+TEST(DriftScreen, TheVerdictIsWhatTheEyeMeetsFirst)
+{
+    DriftScreen screen(siteWithOneFailure());
+    screen.view.resize(1366, 768);
+    screen.hands.click("cmdNext");
+    settle();
+    screen.hands.photograph("drift-results-wide");
+    const QLabel& summary = screen.label("lblSummary");
+    EXPECT_GE(summary.fontMetrics().height(), 1.5 * screen.view.fontMetrics().height());
+    EXPECT_LE(summary.height(), summary.parentWidget()->height()) << "all of it is seen";
+}
+
+TEST(DriftScreen, ALongVerdictCanBeScrolled)
+{
+    DriftScreen screen;
+    screen.view.resize(screen.view.minimumSizeHint());
+    screen.hands.click("cmdNext");
+    QString text;
+    for (int line = 0; line < 40; ++line)
+        text += "One more line of many.\r\n";
+    screen.bench.result().SetSummaryText(text.toStdString());
+    settle();
+    screen.hands.photograph("drift-results-long");
+    const QLabel& summary = screen.label("lblSummary");
+    EXPECT_GE(summary.height(), summary.heightForWidth(summary.width()));
+    EXPECT_GT(summary.height(), summary.parentWidget()->height());
+}
+
 TEST(DriftScreen, AnOptionTakesItsLimit)
 {
     DriftScreen screen;

@@ -272,8 +272,10 @@ TEST(Save, WritesTheReportThatAHostCanBuildToo)
 TEST(Save, ABuiltReportIsThatOfTheResultsAsTheyAreNow)
 {
     SaveBench bench(kPdf, siteWithDailyCals(7));
-    bench.back().setUp().chkShowSummary.Press();
-    bench.next().save();
+    bench.back();
+    bench.setUp().chkShowSummary.Press();
+    bench.next();
+    bench.save();
     EXPECT_EQ(contentOf(bench.path), pdfOf(*bench.tool.buildReport()));
 }
 

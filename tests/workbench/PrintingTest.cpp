@@ -171,11 +171,34 @@ TEST(PrintPages, CutsNothingOffOnOtherPaper)
             printPages(report.document, file.printer);
             const PdfPage page = pdfPages(file.path).at(0);
             EXPECT_GE(page.word("Sheet1").left, -0.1);
-            EXPECT_LE(page.word("Sheet1").top, page.height + 3);
+            EXPECT_LE(page.word("Sheet1").top, page.height + 5);
             EXPECT_LE(page.word("endSheet1").right, page.width + 0.1);
-            EXPECT_GE(page.word("endSheet1").bottom, -3);
+            EXPECT_GE(page.word("endSheet1").bottom, -5);
         }
     }
+}
+
+TEST(PrintPages, KeepsOutOfTheMarginsOfThePrinter)
+{
+    const NumberedPages report(1);
+    FilePrinter file;
+    file.printer.setPageMargins(QMarginsF(72, 18, 18, 18), QPageLayout::Point);
+    printPages(report.document, file.printer);
+    const PdfPage page = pdfPages(file.path).at(0);
+    EXPECT_NEAR(page.word("Sheet1").left, 72, 0.5);
+    EXPECT_LE(page.word("Sheet1").top, page.height - 18 + 5);
+    EXPECT_NEAR(page.word("endSheet1").right, page.width - 18, 0.5);
+}
+
+TEST(PrintPages, MovesAPageThatFitsIntoTheMargins)
+{
+    const NumberedPages report(1);
+    FilePrinter file;
+    file.printer.setPageMargins(QMarginsF(50, 10, 10, 10), QPageLayout::Point);
+    printPages(report.document, file.printer);
+    const PdfPage page = pdfPages(file.path).at(0);
+    EXPECT_NEAR(page.word("Sheet1").left, 50, 0.5);
+    EXPECT_NEAR(page.word("endSheet1").right, 770, 0.5);
 }
 
 TEST(PrintPages, KeepsTheTrueSizeOnAPaperThatIsLargeEnough)

@@ -185,18 +185,23 @@ void ChartView::paintMark(QPainter& painter, const screen::Line& line) const
                      QPointF(across(line.X2()), down(line.Y2())));
 }
 
+/// Filled, not drawn, frames keep to whole pixels at any scale of the screen.
+void ChartView::paintBar(QPainter& painter, int bar) const
+{
+    const QRect rect = barRect(bar);
+    const QColor color = areaColor(tool_->lblBar[bar].BackColor(), palette());
+    if (rect.height() <= 2)
+        return painter.fillRect(rect, color);
+    painter.fillRect(rect,
+                     palette().color(bar == currentBar_ ? QPalette::WindowText : QPalette::Window));
+    painter.fillRect(rect.adjusted(1, 1, -1, -1), color);
+}
+
 void ChartView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    for (int bar = 1; bar < histogram::BarLabels::Count(); ++bar) {
-        const screen::Label& model = tool_->lblBar[bar];
-        const QRect rect = barRect(bar);
-        painter.fillRect(rect, areaColor(model.BackColor(), palette()));
-        painter.setPen(
-            palette().color(bar == currentBar_ ? QPalette::WindowText : QPalette::Window));
-        if (rect.height() > 2)
-            painter.drawRect(rect.adjusted(0, 0, -1, -1));
-    }
+    for (int bar = 1; bar < histogram::BarLabels::Count(); ++bar)
+        paintBar(painter, bar);
     for (const screen::Line* line :
          {&tool_->linMin, &tool_->linLow, &tool_->linMid, &tool_->linMax, &tool_->linBase})
         paintMark(painter, *line);

@@ -63,6 +63,7 @@ private:
     [[nodiscard]] double across(float twips) const;
     [[nodiscard]] double down(float twips) const;
     void showTip(int bar);
+    void paintBar(QPainter& painter, int bar) const;
     void paintMark(QPainter& painter, const screen::Line& line) const;
 
     histogram::HistogramTool* tool_;

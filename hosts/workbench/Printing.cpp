@@ -7,6 +7,9 @@
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
 
+#include <QComboBox>
+#include <QGraphicsView>
+#include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
@@ -15,7 +18,6 @@
 #include <QPushButton>
 
 #include <algorithm>
-#include <cctype>
 #include <string>
 #include <vector>
 
@@ -97,8 +99,8 @@ void prepare(QPrinter& printer, const ReportDocument& document)
         printer.setPageLayout(layoutOf(*document.Pages().begin()));
 }
 
-/// A letter for a mnemonic that no widget of a view has yet; 0 when all are taken.
-char freeLetter(const QWidget& view, const std::string& caption)
+/// The first of some letters that is no mnemonic of a view yet; 0 when all are.
+char freeLetter(const QWidget& view, const std::string& letters)
 {
     QString taken;
     for (const QWidget* widget : view.findChildren<QWidget*>()) {
@@ -106,34 +108,59 @@ char freeLetter(const QWidget& view, const std::string& caption)
         if (const auto mark = text.indexOf('&'); mark >= 0)
             taken += text.mid(mark + 1, 1);
     }
-    const auto isFree = [&](char letter) {
-        return std::isalpha(static_cast<unsigned char>(letter)) != 0 &&
-               !taken.contains(QLatin1Char(letter), Qt::CaseInsensitive);
-    };
-    const auto found = std::find_if(caption.begin(), caption.end(), isFree);
-    return found == caption.end() ? '\0' : *found;
+    const auto found = std::find_if(letters.begin(), letters.end(), [&](char letter) {
+        return !taken.contains(QLatin1Char(letter));
+    });
+    return found == letters.end() ? '\0' : *found;
 }
 
-QPushButton* makeButton(QWidget& view, screen::Button& save, const QString& name,
-                        const std::string& caption, const BuildReport& build,
-                        void (*show)(const ReportDocument&, QWidget*))
+/// What the two buttons differ in.
+struct PrintLook {
+    const char* name;
+    const char* caption;
+    const char* letters; ///< For its mnemonic, the best first.
+    void (*show)(const ReportDocument&, QWidget*);
+};
+constexpr PrintLook kPrint = {"cmdPrint", "Print...", "prnti", printReport};
+constexpr PrintLook kPreview = {"cmdPrintPreview", "Print Preview...", "wveirntp", previewReport};
+
+void show(const PrintLook& look, const BuildReport& build, QWidget& over)
 {
-    auto* button = new QPushButton(qt::withMnemonic(caption, freeLetter(view, caption)), &view);
-    button->setObjectName(name);
+    const auto document = build();
+    if (!document)
+        throw Error(errors::kInvalidCall, "There is nothing to print.");
+    look.show(*document, &over);
+}
+
+QPushButton* makeButton(QWidget& view, screen::Button& save, const PrintLook& look,
+                        const BuildReport& build)
+{
+    auto* button =
+        new QPushButton(qt::withMnemonic(look.caption, freeLetter(view, look.letters)), &view);
+    button->setObjectName(look.name);
     const qt::Refresh refresh =
         qt::refreshOf<QPushButton, screen::Button>(*button, save, [](auto&, const auto&) {});
     save.Changed.Connect(refresh);
     refresh();
-    QObject::connect(button, &QPushButton::clicked, button, [button, build, show, refresh] {
-        const auto act = [&] {
-            const auto document = build();
-            if (!document)
-                throw Error(errors::kInvalidCall, "There is nothing to print.");
-            show(*document, button);
-        };
-        qt::forward(*button, act, refresh);
+    QObject::connect(button, &QPushButton::clicked, button, [button, &save, &look, build, refresh] {
+        // A field that the user was in is left first, which may take the results away.
+        button->setFocus(Qt::ShortcutFocusReason);
+        if (save.isReachable())
+            qt::forward(
+                *button, [&] { show(look, build, *button); }, refresh);
     });
     return button;
+}
+
+/// The toolkit leaves some of its fields without names.
+void nameFields(const QPrintPreviewDialog& dialog)
+{
+    for (QGraphicsView* pages : dialog.findChildren<QGraphicsView*>())
+        pages->setAccessibleName("Pages");
+    for (QComboBox* zoom : dialog.findChildren<QComboBox*>())
+        zoom->setAccessibleName("Zoom");
+    for (QLineEdit* page : dialog.findChildren<QLineEdit*>())
+        page->setAccessibleName("Page");
 }
 
 } // namespace
@@ -181,6 +208,7 @@ void previewReport(const ReportDocument& document, QWidget* over)
     prepare(printer, document);
     qt::Modal<QPrintPreviewDialog> dialog(&printer, over);
     dialog->setWindowTitle(qt::toQString("Print Preview - " + document.Title()));
+    nameFields(*dialog);
     QPrintPreviewDialog& shown = *dialog;
     QObject::connect(&shown, &QPrintPreviewDialog::paintRequested, &shown,
                      [&shown, &document](QPrinter* target) {
@@ -192,11 +220,7 @@ void previewReport(const ReportDocument& document, QWidget* over)
 
 PrintButtons makePrintButtons(QWidget& view, screen::Button& save, const BuildReport& build)
 {
-    PrintButtons buttons;
-    buttons.print = makeButton(view, save, "cmdPrint", "Print...", build, printReport);
-    buttons.preview =
-        makeButton(view, save, "cmdPrintPreview", "Print Preview...", build, previewReport);
-    return buttons;
+    return {makeButton(view, save, kPrint, build), makeButton(view, save, kPreview, build)};
 }
 
 } // namespace k7deval::workbench

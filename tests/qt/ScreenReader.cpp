@@ -42,7 +42,9 @@ std::string nameOf(const QWidget& view)
 bool isInnerPart(const QWidget& view)
 {
     const QWidget* whole = view.parentWidget();
-    return qobject_cast<const QComboBox*>(whole) != nullptr ||
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(whole);
+    return (area != nullptr && area->viewport() == &view) ||
+           qobject_cast<const QComboBox*>(whole) != nullptr ||
            qobject_cast<const QAbstractSpinBox*>(whole) != nullptr ||
            qobject_cast<const QAbstractItemView*>(whole) != nullptr;
 }

@@ -231,6 +231,7 @@ TEST(PrintPreview, ShowsAllPagesOnTheirPaper)
     QWidget over;
     whenPreviewComes([](QPrintPreviewDialog& dialog, QPrintPreviewWidget& preview) {
         EXPECT_EQ(preview.pageCount(), 3);
+        EXPECT_THAT(faultsForAScreenReader(dialog), IsEmpty());
         EXPECT_EQ(dialog.printer()->pageLayout().orientation(), QPageLayout::Landscape);
         EXPECT_EQ(dialog.printer()->pageLayout().pageSize().id(), QPageSize::Letter);
     });
@@ -318,10 +319,12 @@ TEST(PrintButtons, AreReachedByTheirLetters)
     bool isAsked = false;
     whenDialogComes([&](QDialog& dialog) {
         isAsked = qobject_cast<QPrintDialog*>(&dialog) != nullptr;
+        Operator(dialog).photograph("print-dialog");
         dialog.reject();
     });
     load.hands.pressMnemonic(Qt::Key_R);
     EXPECT_TRUE(isAsked);
+    EXPECT_EQ(load.page.focusWidget(), &load.button("cmdPrint")) << "the field before is left";
 }
 
 TEST(PrintButtons, FollowTheButtonsThatSave)

@@ -101,8 +101,7 @@ Difference difference(const ReportDocument& document)
     Difference found;
     for (int top = 0; top + kSquare <= height; top += kSquare) {
         for (int left = 0; left + kSquare <= width; left += kSquare) {
-            const double most =
-                distance(meanOf(image, left, top), meanOf(read, left, top, height));
+            const double most = distance(meanOf(image, left, top), meanOf(read, left, top, height));
             if (most > found.most)
                 found = {most, left, top};
         }
@@ -163,13 +162,24 @@ struct SamplePage {
 };
 
 /// Letters of the faces differ by less, a letter in place of none by more.
-constexpr double kTolerance = 40;
+constexpr double kTolerance = 30;
 
 void expectAlike(const ReportDocument& document)
 {
     const Difference found = difference(document);
     EXPECT_LT(found.most, kTolerance)
         << "at " << found.left << ", " << found.top << " from the top";
+}
+
+/// How much of a page is drawn upon in a row of it, in square points.
+double inkAt(const QImage& image, double fromTop)
+{
+    double ink = 0;
+    for (int y = static_cast<int>((fromTop - 1) * kScale); y < (fromTop + 1) * kScale; ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            ink += (255 - qGray(image.pixel(x, y))) / 255.0 / (kScale * kScale);
+    }
+    return ink;
 }
 
 } // namespace
@@ -185,6 +195,14 @@ TEST(ReportPainter, DrawsTheReportOfALoad)
     LoadBench bench;
     bench.range("10", "100").hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110}).calculate();
     expectAlike(*bench.tool.buildReport());
+}
+
+TEST(ReportPainter, ADashedLineIsDrawnForAThirdOfItsLength)
+{
+    const SamplePage sample;
+    const QImage image = painted(sample.page);
+    EXPECT_NEAR(inkAt(image, 60), 130, 2) << "half a point wide";
+    EXPECT_NEAR(inkAt(image, 70), 130 / 3.0, 2);
 }
 
 TEST(ReportPainter, ContentIsAllThatStandsOnAPage)

@@ -160,6 +160,15 @@ public:
         : QAccessibleWidget(&chart, QAccessible::Table), cells_(kCellCount, 0)
     {
     }
+    ChartTable(const ChartTable&) = delete;
+    ChartTable& operator=(const ChartTable&) = delete;
+    ~ChartTable() override
+    {
+        for (const QAccessible::Id id : cells_) {
+            if (id != 0)
+                QAccessible::deleteAccessibleInterface(id);
+        }
+    }
 
     void* interface_cast(QAccessible::InterfaceType type) override
     {
@@ -231,15 +240,6 @@ public:
     bool selectColumn(int /*column*/) override { return false; }
     bool unselectRow(int /*row*/) override { return false; }
     bool unselectColumn(int /*column*/) override { return false; }
-
-protected:
-    ~ChartTable() override
-    {
-        for (const QAccessible::Id id : cells_) {
-            if (id != 0)
-                QAccessible::deleteAccessibleInterface(id);
-        }
-    }
 
 private:
     [[nodiscard]] ChartView& chart() const { return *static_cast<ChartView*>(widget()); }

@@ -1,6 +1,7 @@
 #include "qt/ChartView.h"
 
 #include "qt/Binding.h"
+#include "qt/ChartAccess.h"
 #include "qt/Colors.h"
 #include "qt/Texts.h"
 
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
+#include <QTimer>
 #include <QToolTip>
 
 #include <algorithm>
@@ -36,6 +38,7 @@ ChartView::ChartView(QWidget* parent, histogram::HistogramTool& tool,
       values_(makeRow({&tool.lblMinSafe, &tool.lblLow, &tool.lblMid, &tool.lblMax})),
       fixed_(makeRow(fixedTexts))
 {
+    installChartAccess();
     setObjectName("chart");
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -63,19 +66,25 @@ void ChartView::follow(screen::Widget& model)
     });
 }
 
-/// A screen reader gets the chart as the list of its bars.
 void ChartView::showAnew()
 {
-    QStringList bars;
-    for (int bar = 1; bar < histogram::BarLabels::Count(); ++bar) {
-        if (!tool_->lblBar[bar].ToolTipText().empty())
-            bars << toQString(tool_->lblBar[bar].ToolTipText());
-    }
-    setAccessibleDescription(bars.join("\n"));
+    tellChangeSoon();
     placeRow(percents_, 0);
     placeRow(values_, height() - 2 * rowHeight());
     placeRow(fixed_, height() - rowHeight());
     update();
+}
+
+/// Once for all bars of an evaluation.
+void ChartView::tellChangeSoon()
+{
+    if (isChanged_)
+        return;
+    isChanged_ = true;
+    QTimer::singleShot(0, this, [this] {
+        isChanged_ = false;
+        tellChange(*this);
+    });
 }
 
 int ChartView::rowHeight() const
@@ -138,6 +147,24 @@ QRect ChartView::barRect(int bar) const
     return {left, std::min(top, bottom - 1), right - left, std::max(bottom - top, 1)};
 }
 
+QRect ChartView::columnRect(int bar) const
+{
+    const screen::Geometry& place = tool_->lblBar[bar].Place();
+    const int left = static_cast<int>(across(place.Left));
+    const int right = static_cast<int>(across(place.Left + place.Width));
+    return {left, rowHeight(), right - left, height() - 3 * rowHeight()};
+}
+
+const histogram::BarTexts& ChartView::texts(int bar) const
+{
+    return tool_->lblBar.Texts(bar);
+}
+
+QString ChartView::tip(int bar) const
+{
+    return toQString(tool_->lblBar[bar].ToolTipText());
+}
+
 /// The whole column of a bar counts, since low bars are hard to hit.
 int ChartView::barAt(int x) const
 {
@@ -158,18 +185,23 @@ void ChartView::paintMark(QPainter& painter, const screen::Line& line) const
                      QPointF(across(line.X2()), down(line.Y2())));
 }
 
+/// Filled, not drawn, frames keep to whole pixels at any scale of the screen.
+void ChartView::paintBar(QPainter& painter, int bar) const
+{
+    const QRect rect = barRect(bar);
+    const QColor color = areaColor(tool_->lblBar[bar].BackColor(), palette());
+    if (rect.height() <= 2)
+        return painter.fillRect(rect, color);
+    painter.fillRect(rect,
+                     palette().color(bar == currentBar_ ? QPalette::WindowText : QPalette::Window));
+    painter.fillRect(rect.adjusted(1, 1, -1, -1), color);
+}
+
 void ChartView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    for (int bar = 1; bar < histogram::BarLabels::Count(); ++bar) {
-        const screen::Label& model = tool_->lblBar[bar];
-        const QRect rect = barRect(bar);
-        painter.fillRect(rect, areaColor(model.BackColor(), palette()));
-        painter.setPen(
-            palette().color(bar == currentBar_ ? QPalette::WindowText : QPalette::Window));
-        if (rect.height() > 2)
-            painter.drawRect(rect.adjusted(0, 0, -1, -1));
-    }
+    for (int bar = 1; bar < histogram::BarLabels::Count(); ++bar)
+        paintBar(painter, bar);
     for (const screen::Line* line :
          {&tool_->linMin, &tool_->linLow, &tool_->linMid, &tool_->linMax, &tool_->linBase})
         paintMark(painter, *line);
@@ -185,9 +217,7 @@ bool ChartView::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto& help = static_cast<const QHelpEvent&>(*event);
         const int bar = barAt(help.pos().x());
-        QToolTip::showText(help.globalPos(),
-                           bar == 0 ? QString() : toQString(tool_->lblBar[bar].ToolTipText()),
-                           this);
+        QToolTip::showText(help.globalPos(), bar == 0 ? QString() : tip(bar), this);
         return true;
     }
     if (event->type() == QEvent::FontChange)
@@ -202,7 +232,8 @@ void ChartView::showTip(int bar)
     const QRect rect = barRect(bar);
     const QPoint top(static_cast<int>(across(tool_->lblBar[bar].Place().Left)),
                      rect.isEmpty() ? height() / 2 : rect.top());
-    QToolTip::showText(mapToGlobal(top), toQString(tool_->lblBar[bar].ToolTipText()), this);
+    QToolTip::showText(mapToGlobal(top), tip(bar), this);
+    tellFocus(*this, bar);
 }
 
 void ChartView::keyPressEvent(QKeyEvent* event)

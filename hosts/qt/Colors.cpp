@@ -10,13 +10,13 @@ constexpr int kHalfLight = 128;
 const QColor kRedOnLight(0xC0, 0x00, 0x00);
 const QColor kRedOnDark(0xFF, 0x80, 0x80);
 
+} // namespace
+
 QColor plainColor(screen::Color color)
 {
     return {static_cast<int>(color & 0xFFU), static_cast<int>(color >> 8U & 0xFFU),
             static_cast<int>(color >> 16U & 0xFFU)};
 }
-
-} // namespace
 
 bool isDark(const QPalette& palette)
 {

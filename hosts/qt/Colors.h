@@ -8,6 +8,9 @@
 namespace k7deval::qt
 {
 
+/// A colour as its three parts say, whatever the palette; higher bits count for nothing.
+QColor plainColor(screen::Color color);
+
 /// Whether texts of a palette are light on a dark ground.
 bool isDark(const QPalette& palette);
 

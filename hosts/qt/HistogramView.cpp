@@ -55,13 +55,21 @@ void HistogramView::addResults(const std::vector<screen::Label*>& fixedTexts,
 
 void HistogramView::addButtons()
 {
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(makeView(*this, tool_->cmdCalculate, 'C'));
-    buttons->addWidget(makeView(*this, tool_->cmdSave, 'S'));
-    buttons->addWidget(makeView(*this, tool_->chkPreview, 'v'));
-    buttons->addWidget(makeView(*this, tool_->cmdClose, 'l'));
-    halves_->addLayout(buttons, 1, 0, 1, 2);
+    buttons_ = new QHBoxLayout;
+    buttons_->addStretch(1);
+    buttons_->addWidget(makeView(*this, tool_->cmdCalculate, 'C'));
+    buttons_->addWidget(makeView(*this, tool_->cmdSave, 'S'));
+    lastBesideSave_ = makeView(*this, tool_->chkPreview, 'v');
+    buttons_->addWidget(lastBesideSave_);
+    buttons_->addWidget(makeView(*this, tool_->cmdClose, 'l'));
+    halves_->addLayout(buttons_, 1, 0, 1, 2);
+}
+
+void HistogramView::addBesideSave(QWidget& widget)
+{
+    buttons_->insertWidget(buttons_->indexOf(lastBesideSave_) + 1, &widget);
+    setTabOrder(lastBesideSave_, &widget);
+    lastBesideSave_ = &widget;
 }
 
 } // namespace k7deval::qt

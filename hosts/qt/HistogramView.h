@@ -8,6 +8,7 @@
 
 class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 
 namespace k7deval::qt
 {
@@ -16,6 +17,11 @@ namespace k7deval::qt
 /// chart on the right, the buttons below.
 class HistogramView : public QWidget
 {
+public:
+    /// Adds a widget of the host's own to the buttons, behind those that save and those added
+    /// before. The view owns it.
+    void addBesideSave(QWidget& widget);
+
 protected:
     HistogramView(QWidget* parent, histogram::HistogramTool& tool);
 
@@ -36,6 +42,8 @@ private:
     QGridLayout* halves_;
     QGroupBox* setUpBox_;
     QGridLayout* setUpRows_;
+    QHBoxLayout* buttons_ = nullptr;
+    QWidget* lastBesideSave_ = nullptr;
 };
 
 } // namespace k7deval::qt

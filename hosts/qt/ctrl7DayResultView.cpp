@@ -1,8 +1,10 @@
 #include "qt/ctrl7DayResultView.h"
 
 #include "qt/Binding.h"
+#include "qt/EventWatch.h"
 #include "qt/Texts.h"
 
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -44,6 +46,19 @@ QString meaningOf(ctrl7DayResult& page, const screen::TreeNode& node)
 void makeReadable(QLabel& label)
 {
     label.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+/// The verdict of the test is what the eye meets first.
+void enlarge(QLabel& label, QWidget& box)
+{
+    constexpr double kTimes = 1.6;
+    const auto show = [&label, &box] {
+        QFont font = label.font();
+        font.setPointSizeF(QFontInfo(box.font()).pointSizeF() * kTimes);
+        label.setFont(font);
+    };
+    new EventWatch(box, QEvent::FontChange, [show](const QEvent&) { show(); });
+    show();
 }
 
 void addPair(QGridLayout& rows, int row, QWidget& box, screen::Label& name, screen::Label& data)
@@ -120,7 +135,9 @@ QWidget* ctrl7DayResultView::summary()
     text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     text->setWordWrap(true);
     makeReadable(*text);
+    enlarge(*text, *box);
     auto* scroll = new QScrollArea(box);
+    scroll->setAccessibleName(toQString(page_->fraSummary.Caption()));
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setWidget(text);

@@ -25,7 +25,8 @@ void keepRoom(QWidget& page)
 
 } // namespace
 
-ctrl7DayView::ctrl7DayView(ctrl7Day& tool, QWidget* parent) : QWidget(parent)
+ctrl7DayView::ctrl7DayView(ctrl7Day& tool, QWidget* parent)
+    : QWidget(parent), buttons_(new QHBoxLayout)
 {
     bind(*this, tool);
     auto* rows = new QGridLayout(this);
@@ -36,19 +37,29 @@ ctrl7DayView::ctrl7DayView(ctrl7Day& tool, QWidget* parent) : QWidget(parent)
         rows->addWidget(page, 0, 0);
     }
     rows->setRowStretch(0, 1);
-    rows->addLayout(buttons(tool), 1, 0);
+    rows->addLayout(buttons_, 1, 0);
+    addButtons(tool);
 }
 
-QHBoxLayout* ctrl7DayView::buttons(ctrl7Day& tool)
+void ctrl7DayView::addButtons(ctrl7Day& tool)
 {
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    row->addWidget(makeView(*this, tool.chkPreview, 'v'));
-    row->addWidget(makeView(*this, tool.cmdBack, 'B'));
-    // One place for two, of which one is ever on view.
-    row->addWidget(makeView(*this, tool.cmdNext, 'N'));
-    row->addWidget(makeView(*this, tool.cmdSave, 'S'));
-    return row;
+    // One place for the last two, of which one is ever on view.
+    ownButtons_ = {makeView(*this, tool.chkPreview, 'v'), makeView(*this, tool.cmdBack, 'B'),
+                   makeView(*this, tool.cmdNext, 'N'), makeView(*this, tool.cmdSave, 'S')};
+    buttons_->addStretch(1);
+    for (QWidget* button : ownButtons_)
+        buttons_->addWidget(button);
+}
+
+/// Behind the button that saves they would move it from under the mouse that pressed Next.
+void ctrl7DayView::addBesideSave(QWidget& widget)
+{
+    buttons_->insertWidget(buttons_->indexOf(ownButtons_.front()), &widget);
+    QWidget* before = &widget;
+    for (QWidget* button : ownButtons_) {
+        setTabOrder(before, button);
+        before = button;
+    }
 }
 
 } // namespace k7deval::qt

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QHBoxLayout;
 
 namespace k7deval::qt
@@ -16,8 +18,15 @@ class ctrl7DayView final : public QWidget
 public:
     explicit ctrl7DayView(ctrl7Day& tool, QWidget* parent = nullptr);
 
+    /// Adds a widget of the host's own to the buttons, ahead of those of the tool and behind those
+    /// added before. The view owns it.
+    void addBesideSave(QWidget& widget);
+
 private:
-    QHBoxLayout* buttons(ctrl7Day& tool);
+    void addButtons(ctrl7Day& tool);
+
+    QHBoxLayout* buttons_;
+    std::vector<QWidget*> ownButtons_;
 };
 
 } // namespace k7deval::qt

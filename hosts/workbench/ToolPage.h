@@ -1,14 +1,17 @@
 #pragma once
 
 #include "screen/Services.h"
+#include "workbench/Printing.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>
 
 namespace k7deval::workbench
 {
 
-/// A tool and its screen, which live and end together. What the surroundings refer to outlives it.
+/// A tool and its screen, which live and end together, with the buttons to print its report. What
+/// the surroundings refer to outlives it.
 template <class Tool, class View> class ToolPage final : public QWidget
 {
 public:
@@ -18,6 +21,10 @@ public:
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(0, 0, 0, 0);
         column->addWidget(view_);
+        const PrintButtons buttons =
+            makePrintButtons(*view_, tool_.cmdSave, [this] { return tool_.buildReport(); });
+        view_->addBesideSave(*buttons.print);
+        view_->addBesideSave(*buttons.preview);
     }
     ToolPage(const ToolPage&) = delete;
     ToolPage& operator=(const ToolPage&) = delete;

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
+#include <numeric>
 #include <string>
 
 namespace k7deval::histogram
@@ -22,6 +24,14 @@ float onGrid(float twips)
 {
     const auto whole = static_cast<int>(std::nearbyint(twips));
     return static_cast<float>(whole - whole % kGrid);
+}
+
+/// The hours of all bins, as far as a whole number of 32 bits goes.
+std::int32_t totalOf(const HourBins& bins)
+{
+    const auto total = std::accumulate(bins.begin() + 1, bins.end(), std::int64_t{0});
+    constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+    return static_cast<std::int32_t>(std::min(total, kMost));
 }
 
 } // namespace
@@ -53,6 +63,13 @@ screen::Label& BarLabels::operator[](int index) const
     return *labels_[static_cast<std::size_t>(index)];
 }
 
+const BarTexts& BarLabels::Texts(int index) const
+{
+    if (index < 0 || index > kBinCount)
+        throw Error(errors::kSubscript);
+    return texts_[static_cast<std::size_t>(index)];
+}
+
 void BarLabels::place(int bar)
 {
     const double begin = linBase_->X1();
@@ -69,6 +86,7 @@ void BarLabels::place(int bar)
 
 void BarLabels::ResetBars()
 {
+    texts_.fill({});
     for (int bar = 1; bar <= kBinCount; ++bar) {
         screen::Label& label = (*this)[bar];
         label.SetPlace({label.Place().Left, linBase_->Y1(), label.Place().Width, kGrid});
@@ -82,12 +100,15 @@ void BarLabels::DrawChart(const HourBins& bins, float low, float range,
     const std::int32_t peak = peakOf(bins);
     if (peak == 0)
         return ResetBars();
+    const std::int32_t total = totalOf(bins);
     for (int bar = 1; bar <= kBinCount; ++bar) {
         const std::int32_t hours = bins[static_cast<std::size_t>(bar)];
         draw(bar, hours, peak);
-        (*this)[bar].SetToolTipText(GeneralNumber(binEdge(bar - 1, low, range), regional) + " - " +
-                                    GeneralNumber(binEdge(bar, low, range), regional) +
-                                    "   Op Hours: " + std::to_string(hours));
+        BarTexts& texts = texts_[static_cast<std::size_t>(bar)];
+        texts = {GeneralNumber(binEdge(bar - 1, low, range), regional),
+                 GeneralNumber(binEdge(bar, low, range), regional), std::to_string(hours),
+                 percentText(hours, total, "%", regional)};
+        (*this)[bar].SetToolTipText(texts.from + " - " + texts.to + "   Op Hours: " + texts.hours);
     }
 }
 

@@ -11,6 +11,15 @@
 namespace k7deval::histogram
 {
 
+/// What a bar stands for, as texts; all empty when there is nothing to show.
+struct BarTexts {
+    std::string from;    ///< The value at which its bin begins.
+    std::string to;      ///< The value at which its bin ends.
+    std::string hours;   ///< The hours of its bin.
+    std::string percent; ///< Those as a share of the hours of all bins, such as "33.3%".
+    friend bool operator==(const BarTexts&, const BarTexts&) = default;
+};
+
 /// The twenty bars of a chart and, at index 0, the hidden pattern they are made from. Every edge
 /// lies on a grid of 15 twips, one pixel.
 class BarLabels
@@ -24,6 +33,8 @@ public:
 
     /// Error 9 outside 0 to 20.
     [[nodiscard]] screen::Label& operator[](int index) const;
+    /// What a bar stands for; the tool tip is made of it. Error 9 outside 0 to 20.
+    [[nodiscard]] const BarTexts& Texts(int index) const;
     [[nodiscard]] static constexpr int Count() { return kBinCount + 1; }
 
     /// Flat bars without tool tips.
@@ -38,6 +49,7 @@ private:
 
     const screen::Line* linMin_;
     const screen::Line* linBase_;
+    std::array<BarTexts, kBinCount + 1> texts_;
     std::array<std::unique_ptr<screen::Label>, kBinCount + 1> labels_;
 };
 

@@ -35,6 +35,10 @@ public:
 
     /// The state of the test, as the last evaluation left it.
     [[nodiscard]] const DriftTest& Test() const { return test_; }
+    /// The report that a save would write now. Nothing where a save writes none: when there are
+    /// runs but no days to show them in. Raises what keeps it from being built; only a part that
+    /// fails and leaves a gap posts its line.
+    [[nodiscard]] std::unique_ptr<ReportDocument> buildReport() { return report_.build(); }
 
     ctrl7DaySetUp ctrl7DaySetUp1;
     ctrl7DayResult ctrl7DayResult1;

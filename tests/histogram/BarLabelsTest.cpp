@@ -197,6 +197,19 @@ TEST(BarLabels, TellValuesAboveAMinimumAndAsTheRegionWritesThem)
     EXPECT_EQ(chart.bars[1].ToolTipText(), "12,5 - 14,125   Op Hours: 9");
 }
 
+TEST(BarLabels, HaveTheTextsOfATable)
+{
+    Chart chart;
+    chart.regional = regionalSettings("de-DE");
+    chart.draw(binsOf({{1, 1}, {4, 2}}), 12.5F, 32.5F);
+    EXPECT_EQ(chart.bars.Texts(1), (histogram::BarTexts{"12,5", "14,125", "1", "33,3%"}));
+    EXPECT_EQ(chart.bars.Texts(4), (histogram::BarTexts{"17,375", "19", "2", "66,7%"}));
+    EXPECT_EQ(chart.bars.Texts(20), (histogram::BarTexts{"43,375", "45", "0", "0,0%"}));
+    EXPECT_EQ(errorOf([&] { return chart.bars.Texts(21).from; }), 9);
+    chart.bars.ResetBars();
+    EXPECT_EQ(chart.bars.Texts(4), histogram::BarTexts());
+}
+
 TEST(BarLabels, AgainWithoutHoursHaveNoHeightWhileOthersStand)
 {
     Chart chart;

@@ -114,12 +114,4 @@ TEST(ChartView, TheArrowKeysGoFromBarToBar)
     EXPECT_EQ(QToolTip::text(), "5 - 10   Op Hours: 0");
 }
 
-TEST(ChartView, AScreenReaderGetsAllBars)
-{
-    const Chart chart;
-    const QStringList bars = chart.view.accessibleDescription().split('\n');
-    ASSERT_EQ(bars.size(), 20);
-    EXPECT_EQ(bars[9], "45 - 50   Op Hours: 8");
-}
-
 } // namespace k7deval::qt::test

@@ -1,6 +1,7 @@
 #include "load/LoadBench.h"
 #include "qt/Operator.h"
 #include "qt/ScreenComparison.h"
+#include "qt/ScreenReader.h"
 #include "qt/ctrlMaxMWView.h"
 
 #include <gmock/gmock.h>
@@ -131,10 +132,12 @@ TEST(LoadScreen, AFailureIsToldAndTheHourglassStays)
     EXPECT_EQ(screen.view.cursor().shape(), Qt::WaitCursor);
 }
 
-TEST(LoadScreen, EveryFieldAndButtonHasANameToReadOut)
+TEST(LoadScreen, AScreenReaderMakesSenseOfIt)
 {
     const LoadScreen screen;
-    EXPECT_THAT(withoutAccessibleName(screen.view), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
+    screen.hands.click("cmdCalculate");
+    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)

@@ -7,7 +7,6 @@
 #include "screen/TextBox.h"
 #include "screen/TreeView.h"
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -162,22 +161,6 @@ std::vector<std::string> differences(const screen::Control& control, const QWidg
             for (auto& difference : differences(*page, *view))
                 found.push_back(page->Name() + "." + difference);
         }
-    }
-    return found;
-}
-
-std::vector<std::string> withoutAccessibleName(const QWidget& screen)
-{
-    std::vector<std::string> found;
-    for (QWidget* view : screen.findChildren<QWidget*>()) {
-        if (view->focusPolicy() == Qt::NoFocus || !view->isVisible() ||
-            view->objectName().isEmpty())
-            continue;
-        const auto* face = QAccessible::queryAccessibleInterface(view);
-        const QString name = face == nullptr ? QString() : face->text(QAccessible::Name);
-        // A button of three dots has to say what it is for.
-        if (name.isEmpty() || name == "...")
-            found.push_back(view->objectName().toStdString());
     }
     return found;
 }

@@ -14,7 +14,4 @@ namespace k7deval::qt::test
 /// Compares all that the control has on view, its pages included.
 std::vector<std::string> differences(const screen::Control& control, const QWidget& screen);
 
-/// The fields and buttons on view that a screen reader has no name for.
-std::vector<std::string> withoutAccessibleName(const QWidget& screen);
-
 } // namespace k7deval::qt::test

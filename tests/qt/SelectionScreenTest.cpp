@@ -1,5 +1,6 @@
 #include "qt/Operator.h"
 #include "qt/ScreenComparison.h"
+#include "qt/ScreenReader.h"
 #include "qt/SelectionViews.h"
 #include "selection/SelectionBench.h"
 
@@ -126,6 +127,12 @@ TEST(ListScreen, KnowsItsKeysCell)
     EXPECT_EQ(screen.bench.tool.jgexGrid.Row(), 4);
 }
 
+TEST(ListScreen, AScreenReaderMakesSenseOfIt)
+{
+    const ListScreen screen;
+    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
+}
+
 TEST(SingleScreen, PicksOneParameter)
 {
     SingleBench bench;
@@ -136,7 +143,7 @@ TEST(SingleScreen, PicksOneParameter)
     hands.photograph("selection-single");
     EXPECT_EQ(bench.tool.GetSelection(), kCo);
     EXPECT_THAT(differences(bench.tool, view), IsEmpty());
-    EXPECT_THAT(withoutAccessibleName(view), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
 }
 
 } // namespace k7deval::qt::test

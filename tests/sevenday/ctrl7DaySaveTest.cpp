@@ -1,3 +1,5 @@
+#include "foundation/ExpectError.h"
+#include "report/PdfWriter.h"
 #include "sevenday/ToolBench.h"
 #include "support/TemporaryFolder.h"
 
@@ -258,6 +260,31 @@ TEST(Save, AnExportThatFailsWithoutADeletionGoesOnToThePreview)
     EXPECT_EQ(bench.services.boxes, Boxes());
     EXPECT_EQ(bench.services.opened, Lines{bench.path});
     EXPECT_EQ(bench.folder.names(), Lines());
+}
+
+TEST(Save, WritesTheReportThatAHostCanBuildToo)
+{
+    SaveBench bench;
+    bench.save();
+    EXPECT_EQ(contentOf(bench.path), pdfOf(*bench.tool.buildReport()));
+}
+
+TEST(Save, ABuiltReportIsThatOfTheResultsAsTheyAreNow)
+{
+    SaveBench bench(kPdf, siteWithDailyCals(7));
+    bench.back();
+    bench.setUp().chkShowSummary.Press();
+    bench.next();
+    bench.save();
+    EXPECT_EQ(contentOf(bench.path), pdfOf(*bench.tool.buildReport()));
+}
+
+TEST(Save, ABuiltReportRaisesWhatAWriterPosts)
+{
+    SaveBench bench;
+    bench.failing("DIServer.LookupService");
+    EXPECT_EQ(errorOf([&] { static_cast<void>(bench.tool.buildReport()); }), 440);
+    EXPECT_EQ(bench.messages->lines(), Lines());
 }
 
 TEST(Save, AFolderThatIsNotThereIsTheWritersFailure)

@@ -204,7 +204,7 @@ TEST(SiteDatabase, ACapacityNeedsAUnitAndANumberAboveZero)
             held.site.setCapacity("U1", capacity);
             ADD_FAILURE() << capacity;
         } catch (const Error& error) {
-            EXPECT_EQ(error.description(), "A capacity is a number of MW above 0.");
+            EXPECT_EQ(error.description(), "A capacity is a number of MW above 0, at most 999999.");
         }
     }
     try {

@@ -79,10 +79,9 @@ QStringList unitsOf(const QString& sitePath)
 
 ImportDialog::ImportDialog(const QString& sitePath, const Clock& clock, QWidget* parent)
     : QDialog(parent), sitePath_(sitePath), clock_(&clock), files_(new ImportList(this)),
-      report_(new ImportReportView(this)), add_(new QPushButton("&Add Files...", this)),
-      remove_(new QPushButton("&Remove", this)),
+      add_(new QPushButton("&Add Files...", this)), remove_(new QPushButton("&Remove", this)),
       leaveOut_(new QCheckBox("&Leave out single injections that can't be read", this)),
-      status_(new QLabel(this)), bar_(new QProgressBar(this)),
+      report_(new ImportReportView(this)), status_(new QLabel(this)), bar_(new QProgressBar(this)),
       cancel_(new QPushButton("Cancel", this)), buttons_(new QDialogButtonBox(this))
 {
     setWindowTitle("Import");
@@ -101,6 +100,7 @@ ImportDialog::ImportDialog(const QString& sitePath, const Clock& clock, QWidget*
                .boundedTo(screen()->availableGeometry().size()));
     readUnits();
     showWhatCanBeDone();
+    add_->setFocus();
 }
 
 /// The job ends before what it tells of.
@@ -168,10 +168,12 @@ QLayout* ImportDialog::makeProgress()
     cancel_->setAutoDefault(false);
     connect(cancel_, &QPushButton::clicked, this, [this] { cancel(); });
     auto* line = new QHBoxLayout;
-    line->addWidget(status_, 3);
-    line->addWidget(bar_, 2);
+    line->addWidget(bar_, 1);
     line->addWidget(cancel_);
-    return line;
+    auto* column = new QVBoxLayout;
+    column->addWidget(status_);
+    column->addLayout(line);
+    return column;
 }
 
 void ImportDialog::makeButtons()

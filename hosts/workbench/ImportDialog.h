@@ -66,11 +66,12 @@ private:
 
     QString sitePath_;
     const Clock* clock_;
+    // In the order of the tabulator.
     ImportList* files_;
-    ImportReportView* report_;
     QPushButton* add_;
     QPushButton* remove_;
     QCheckBox* leaveOut_;
+    ImportReportView* report_;
     QLabel* status_;
     QProgressBar* bar_;
     QPushButton* cancel_;

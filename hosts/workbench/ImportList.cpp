@@ -96,7 +96,7 @@ void ImportList::addRow(const File& file)
     if (file.kind.takesUnit)
         addUnit(row, file);
     if (file.kind.takesComponent)
-        addComponent(row, file);
+        addComponent(row);
     setState(row, State::Waiting);
 }
 
@@ -111,16 +111,29 @@ void ImportList::addUnit(int row, const File& file)
     unit->setAccessibleName("Unit of " + fileName(row));
     unit->setMinimumContentsLength(static_cast<int>(sitedb::kUnitIdentifierLength) + 2);
     makeField(*unit->lineEdit(), file.kind.needsUnit ? "needed" : "all");
-    setCellWidget(row, kUnit, unit);
+    setField(row, kUnit, *unit);
 }
 
-void ImportList::addComponent(int row, const File& /*file*/)
+void ImportList::addComponent(int row)
 {
     auto* component = new QLineEdit(this);
     component->setObjectName("component of " + fileName(row));
     component->setAccessibleName("Component of " + fileName(row) + ", optional");
     makeField(*component, "optional");
-    setCellWidget(row, kComponent, component);
+    setField(row, kComponent, *component);
+}
+
+void ImportList::setField(int row, int column, QWidget& field)
+{
+    QWidget* last = this;
+    for (int above = 0; above <= row; ++above) {
+        for (const int next : {kUnit, kComponent}) {
+            if (QWidget* held = cellWidget(above, next))
+                last = held;
+        }
+    }
+    setCellWidget(row, column, &field);
+    setTabOrder(last, &field);
 }
 
 bool ImportList::holds(const QString& path) const

@@ -52,7 +52,9 @@ protected:
 private:
     void addRow(const File& file);
     void addUnit(int row, const File& file);
-    void addComponent(int row, const File& file);
+    void addComponent(int row);
+    /// Shows a field in a row and puts it behind the fields above for the tabulator.
+    void setField(int row, int column, QWidget& field);
     [[nodiscard]] State state(int row) const;
     [[nodiscard]] QComboBox* unit(int row) const;
     [[nodiscard]] QLineEdit* component(int row) const;

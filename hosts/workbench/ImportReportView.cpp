@@ -26,10 +26,17 @@ QTextCharFormat lettersOf(QFont::Weight weight)
     return letters;
 }
 
-QTextBlockFormat indented(int steps)
+QTextBlockFormat headingBlock(double space)
 {
     QTextBlockFormat block;
-    block.setIndent(steps);
+    block.setTopMargin(space);
+    return block;
+}
+
+QTextBlockFormat lineBlock()
+{
+    QTextBlockFormat block;
+    block.setIndent(1);
     return block;
 }
 
@@ -43,6 +50,7 @@ ImportReportView::ImportReportView(QWidget* parent) : QTextEdit(parent)
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
     setAcceptDrops(false);
+    document()->setIndentWidth(fontMetrics().averageCharWidth() * 4.0);
     setPlaceholderText("What was taken of each file, and why one was refused.");
 }
 
@@ -67,15 +75,13 @@ void ImportReportView::tell(const QString& file, const QString& format,
 
 void ImportReportView::tell(const QString& heading, const QStringList& lines)
 {
-    constexpr int kStepsOfLines = 1;
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
     if (!document()->isEmpty())
-        end.insertBlock();
-    end.setBlockFormat(indented(0));
+        end.insertBlock(headingBlock(fontMetrics().lineSpacing() / 2.0));
     end.insertText(heading, lettersOf(QFont::Bold));
     for (const auto& line : lines) {
-        end.insertBlock(indented(kStepsOfLines));
+        end.insertBlock(lineBlock());
         end.insertText(line, lettersOf(QFont::Normal));
     }
     setTextCursor(end);

@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -24,8 +23,7 @@ namespace k7deval::workbench
 namespace
 {
 
-constexpr int kLettersWide = 64;
-constexpr int kLinesHigh = 24;
+constexpr int kLettersWide = 88;
 constexpr const char* kFaultOfCapacity = "This is no number of MW above 0 and up to 999999.";
 
 sitedb::SiteDatabase openSite(const QString& path, sitedb::OpenMode mode)
@@ -103,15 +101,18 @@ QWidget* SiteProperties::makeUnits(const std::vector<sitedb::UnitPower>& powers)
         addUnit(*rows, power);
     rows->setRowStretch(rows->rowCount(), 1);
     rows->setColumnStretch(2, 1);
-    auto* scroll = new QScrollArea(box);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(area);
-    scroll->setVisible(!powers.empty());
+    scroll_ = new QScrollArea(box);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(area);
+    // The ground of the box is seen through.
+    scroll_->viewport()->setAutoFillBackground(false);
+    area->setAutoFillBackground(false);
+    scroll_->setVisible(!powers.empty());
     auto* column = new QVBoxLayout(box);
     column->addWidget(words);
-    column->addWidget(scroll, 1);
+    column->addWidget(scroll_, 1);
     return box;
 }
 
@@ -185,6 +186,7 @@ void SiteProperties::write(const sitedb::SiteChanges& changes) const
 void SiteProperties::accept()
 {
     if (QLineEdit* field = fieldAtFault()) {
+        scroll_->ensureWidgetVisible(field);
         field->setFocus();
         field->selectAll();
         return;

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-class QFormLayout;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
+class QScrollArea;
 
 namespace k7deval::workbench
 {
@@ -51,6 +51,7 @@ private:
     std::string facilityHeld_;
     QLineEdit* facility_;
     QLabel* fault_; ///< Of the site as a whole.
+    QScrollArea* scroll_ = nullptr;
     std::vector<UnitRow> units_;
 };
 

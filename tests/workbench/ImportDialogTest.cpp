@@ -284,6 +284,33 @@ TEST(Import, TheUnitsOfAnImportCanBePickedAfterIt)
     EXPECT_EQ(bench.hands.view<QComboBox>("unit of load.csv").itemText(0), "U2");
 }
 
+TEST(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("load.csv", kLoad));
+    bench.add(
+        held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
+    bench.files().setFocus();
+    std::string order;
+    for (int step = 0; step < 9; ++step) {
+        bench.hands.press(Qt::Key_Tab);
+        order += QApplication::focusWidget()->objectName().toStdString() + "; ";
+    }
+    EXPECT_EQ(order, "unit of load.csv; unit of hours.csv; component of hours.csv; add; remove; "
+                     "leaveOut; report; import; close; ");
+}
+
+TEST(Import, NoPartKeepsADropFromTheDialog)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(
+        held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
+    for (const QWidget* part : bench.dialog->findChildren<QWidget*>())
+        EXPECT_FALSE(part->acceptDrops()) << part->objectName().toStdString();
+}
+
 TEST(Import, EveryPartHasAName)
 {
     SmallSite held;

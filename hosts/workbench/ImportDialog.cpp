@@ -18,7 +18,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -86,12 +85,10 @@ ImportDialog::ImportDialog(const QString& sitePath, const Clock& clock, QWidget*
 {
     setWindowTitle("Import");
     setAcceptDrops(true);
-    auto* panes = new QSplitter(Qt::Vertical, this);
-    panes->setChildrenCollapsible(false);
-    panes->addWidget(makeFilePane());
-    panes->addWidget(makeReportPane());
     auto* column = new QVBoxLayout(this);
-    column->addWidget(panes, 1);
+    column->addLayout(makeFiles(), 1);
+    column->addLayout(makeLeaveOut());
+    column->addLayout(makeReport(), 1);
     column->addLayout(makeProgress());
     column->addWidget(buttons_);
     makeButtons();
@@ -109,22 +106,21 @@ ImportDialog::~ImportDialog()
     job_.reset();
 }
 
-QWidget* ImportDialog::makeFilePane()
+QLayout* ImportDialog::makeFiles()
 {
-    auto* pane = new QWidget(this);
-    auto* heading = new QLabel("&Files to import into " + QFileInfo(sitePath_).fileName() + ":");
+    const QString site = QFileInfo(sitePath_).fileName();
+    auto* heading =
+        new QLabel(qt::withMnemonic("Files to import into " + site.toStdString() + ":", 'F'), this);
     heading->setBuddy(files_);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(add_);
     buttons->addWidget(remove_);
     buttons->addStretch();
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout;
     column->addWidget(heading);
     column->addWidget(files_, 1);
     column->addLayout(buttons);
-    column->addLayout(makeLeaveOut());
-    return pane;
+    return column;
 }
 
 /// The words stand under the text of the box.
@@ -144,16 +140,14 @@ QLayout* ImportDialog::makeLeaveOut()
     return column;
 }
 
-QWidget* ImportDialog::makeReportPane()
+QLayout* ImportDialog::makeReport()
 {
-    auto* pane = new QWidget(this);
-    auto* heading = new QLabel("Re&port:", pane);
+    auto* heading = new QLabel("Re&port:", this);
     heading->setBuddy(report_);
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout;
     column->addWidget(heading);
     column->addWidget(report_, 1);
-    return pane;
+    return column;
 }
 
 QLayout* ImportDialog::makeProgress()

@@ -47,9 +47,9 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    QWidget* makeFilePane();
-    QWidget* makeReportPane();
+    QLayout* makeFiles();
     QLayout* makeLeaveOut();
+    QLayout* makeReport();
     QLayout* makeProgress();
     void makeButtons();
 

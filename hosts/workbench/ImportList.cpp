@@ -19,7 +19,9 @@ namespace k7deval::workbench
 namespace
 {
 
-enum Column { kFile, kFormat, kUnit, kComponent, kState, kColumnCount };
+enum Column { kFile, kState, kFormat, kUnit, kComponent, kColumnCount };
+constexpr int kLongestName = 40;
+
 enum Role { kPathRole = Qt::UserRole, kStateRole };
 
 struct StateLook {
@@ -61,9 +63,10 @@ ImportList::ImportList(QWidget* parent) : QTableWidget(0, kColumnCount, parent)
 {
     setObjectName("files");
     setAccessibleName("Files to import");
-    setHorizontalHeaderLabels({"File", "Taken For", "Unit", "Component", "State"});
+    setHorizontalHeaderLabels({"File", "State", "Taken For", "Unit", "Component"});
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    horizontalHeader()->setSectionResizeMode(kFile, QHeaderView::Stretch);
+    horizontalHeader()->setMaximumSectionSize(fontMetrics().averageCharWidth() * kLongestName);
+    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     verticalHeader()->hide();

@@ -24,7 +24,7 @@ namespace
 {
 
 constexpr int kLettersWide = 88;
-constexpr const char* kFaultOfCapacity = "This is no number of MW above 0 and up to 999999.";
+constexpr const char* kFaultOfCapacity = "This is no number above 0 and up to 999999.";
 
 sitedb::SiteDatabase openSite(const QString& path, sitedb::OpenMode mode)
 {

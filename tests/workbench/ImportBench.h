@@ -63,11 +63,11 @@ struct ImportBench {
     {
         return hands.view<QTextEdit>("report").toPlainText().toStdString();
     }
-    /// What the list says of a file, a column after the other.
+    /// What the list says of a file: its name, what it was taken for, and its state.
     [[nodiscard]] QStringList row(int row) const
     {
         QStringList texts;
-        for (const int column : {0, 1, 4})
+        for (const int column : {0, 2, 1})
             texts << files().item(row, column)->text();
         return texts;
     }

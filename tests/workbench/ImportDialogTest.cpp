@@ -92,12 +92,12 @@ TEST(Import, AFileThatTakesNoUnitIsNotAskedForOne)
     ImportBench bench(held.path);
     bench.add(held.directory.write("spans.csv", kSpans));
     bench.add(held.directory.write("load.csv", kLoad));
-    EXPECT_EQ(bench.files().cellWidget(0, 2), nullptr);
+    EXPECT_EQ(bench.files().cellWidget(0, 3), nullptr);
     auto& unit = bench.hands.view<QComboBox>("unit of load.csv");
     EXPECT_EQ(unit.count(), 1);
     EXPECT_EQ(unit.itemText(0), "U1");
     EXPECT_EQ(unit.currentText(), "");
-    EXPECT_EQ(bench.files().cellWidget(1, 3), nullptr);
+    EXPECT_EQ(bench.files().cellWidget(1, 4), nullptr);
     bench.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
     EXPECT_EQ(bench.hands.view<QLineEdit>("component of hours.csv").text(), "");

@@ -97,8 +97,7 @@ TEST(SiteProperties, TellAtTheFieldWhatIsNoCapacityAndWriteNothing)
         bench.hands->enter("capacity of CS1", text);
         bench.hands->click("ok");
         EXPECT_TRUE(bench.dialog->isVisible());
-        EXPECT_EQ(bench.hands->text("fault of CS1"),
-                  "This is no number of MW above 0 and up to 999999.");
+        EXPECT_EQ(bench.hands->text("fault of CS1"), "This is no number above 0 and up to 999999.");
         EXPECT_EQ(bench.hands->text("fault of U1"), "");
         EXPECT_TRUE(bench.field("capacity of CS1").hasFocus());
         EXPECT_EQ(sitedb::test::dump(bench.held.site), before) << text;

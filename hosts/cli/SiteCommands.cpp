@@ -8,10 +8,10 @@
 #include "sevenday/ctrl7Day.h"
 #include "sitedb/CsvTable.h"
 #include "sitedb/Import.h"
+#include "sitedb/NewSite.h"
 #include "sitedb/SourceFile.h"
 
 #include <ostream>
-#include <system_error>
 
 namespace k7deval::cli
 {
@@ -32,31 +32,6 @@ void printReport(const std::string& file, const sitedb::ImportReport& report, st
     printLines(report.steppedOver, "  stepped over: ", out);
     printLines(report.leftOut, "  left out: ", out);
 }
-
-/// Takes a site away again that was made for an import which then took nothing.
-class NewSite
-{
-public:
-    explicit NewSite(const std::string& site) : path_(filePath(site))
-    {
-        std::error_code ignored;
-        keep_ = std::filesystem::exists(path_, ignored);
-    }
-    NewSite(const NewSite&) = delete;
-    NewSite& operator=(const NewSite&) = delete;
-    ~NewSite()
-    {
-        std::error_code ignored;
-        if (!keep_)
-            std::filesystem::remove(path_, ignored);
-    }
-
-    void keep() { keep_ = true; }
-
-private:
-    std::filesystem::path path_;
-    bool keep_ = false;
-};
 
 struct Capacity {
     std::string unit;
@@ -110,7 +85,7 @@ Status runImport(const ImportRequest& request, const Console& console)
         throw UsageError("There is nothing to import; name a file, the facility by --facility or a "
                          "capacity by --capacity.");
     const auto capacities = capacitiesOf(request.capacities);
-    NewSite newSite(request.site);
+    sitedb::NewSite newSite(filePath(request.site));
     auto site = openSite(request.site, sitedb::OpenMode::ReadWrite);
     sitedb::ImportOptions options;
     options.unit = request.unit;

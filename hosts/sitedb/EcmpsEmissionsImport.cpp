@@ -30,6 +30,7 @@ public:
         hours_.finish();
         calibrations_.finish();
         writer_.setOrisCode(*orisCode_);
+        tellAllIsRead(options_, file_, hours_.hours());
     }
 
     /// Whether the site holds anything of the file.
@@ -40,7 +41,7 @@ public:
 
     [[nodiscard]] ImportReport report() const
     {
-        ImportReport report{"ECMPS emissions data",
+        ImportReport report{format::kEcmpsEmissions,
                             {counted(hours_.hours(), "hour"),
                              counted(hours_.values(), "monitor value"),
                              counted(calibrations_.injections(), "calibration injection")},
@@ -81,11 +82,7 @@ private:
             throw node.error(node.shown() + " is no list");
     }
 
-    void tell(std::int64_t bytesRead)
-    {
-        if (options_.progress && !options_.progress({bytesRead, file_.size, hours_.hours()}))
-            throw ImportCancelled(file_.error("", "the import was cancelled").description());
-    }
+    void tell(std::int64_t bytesRead) { tellProgress(options_, file_, bytesRead, hours_.hours()); }
 
     const SourceFile& file_;
     const ImportOptions& options_;

@@ -62,7 +62,7 @@ ImportReport qaReport(const QaContent& content)
         for (const auto& injection : test.injections)
             ++(injection.gasLevelCode == 0 ? zeros : upscales);
     }
-    ImportReport report{"ECMPS QA data",
+    ImportReport report{format::kEcmpsQa,
                         {counted(content.tests.size(), "test"), counted(zeros, "zero injection"),
                          counted(upscales, "upscale injection")},
                         content.steppedOver,
@@ -91,6 +91,7 @@ ImportReport takeEcmpsQa(sql::Connection& connection, const SourceFile& file,
         importer.take(test);
     writer.setOrisCode(content.orisCode);
     writer.log(file, report, options.time);
+    tellAllIsRead(options, file);
     transaction.commit();
     return report;
 }

@@ -58,13 +58,13 @@ ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
     writer.addLoad(unit);
     writer.addOperatingTime(unit);
     LoadImporter importer(table, file, connection, unit);
-    for (const auto& row : table.rows())
-        importer.take(row);
-    ImportReport report{"hourly load",
+    takeRows(table, file, options, [&](const CsvRow& row) { importer.take(row); });
+    ImportReport report{format::kHourlyLoad,
                         importer.counts(),
                         otherColumns(table, {"date", "hour", "gross_load_mw"}),
                         {}};
     writer.log(file, report, options.time);
+    tellAllIsRead(options, file, table.rows().size());
     transaction.commit();
     return report;
 }

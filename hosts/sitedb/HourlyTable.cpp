@@ -10,6 +10,7 @@ namespace
 {
 
 constexpr int kLastHour = 23;
+constexpr std::size_t kRowsBetweenProgress = 1000;
 
 } // namespace
 
@@ -37,6 +38,21 @@ void HourlyTable::add(const CsvRow& row, PID pid, const std::string& what, const
     if (outcome != HourWriter::Outcome::Taken)
         throw file_.error("line " + std::to_string(row.line) + ": date and hour",
                           HourWriter::fault(outcome, what, hour));
+}
+
+// A table is held in memory: what tells how far its import is are the rows.
+void takeRows(const CsvTable& table, const SourceFile& file, const ImportOptions& options,
+              const std::function<void(const CsvRow&)>& take)
+{
+    const std::size_t count = table.rows().size();
+    for (std::size_t index = 0; index < count; ++index) {
+        if (index % kRowsBetweenProgress == 0)
+            tellProgress(options, file,
+                         file.size * static_cast<std::int64_t>(index) /
+                             static_cast<std::int64_t>(count),
+                         index);
+        take(table.rows()[index]);
+    }
 }
 
 std::vector<std::string> otherColumns(const CsvTable& table, const std::set<std::string>& used)

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -34,6 +35,11 @@ private:
     std::size_t day_;
     std::size_t hour_;
 };
+
+/// Takes the rows one after the other and tells now and then how far that is. Raises
+/// ImportCancelled when it is to end.
+void takeRows(const CsvTable& table, const SourceFile& file, const ImportOptions& options,
+              const std::function<void(const CsvRow&)>& take);
 
 /// What an import says of the columns of a table that it does not use.
 std::vector<std::string> otherColumns(const CsvTable& table, const std::set<std::string>& used);

@@ -30,34 +30,103 @@ bool isMonitoringPlan(std::string_view content)
            content.find(R"("locations")") != std::string_view::npos;
 }
 
-ImportReport takeFile(sql::Connection& connection, const SourceFile& file,
-                      const ImportOptions& options)
+using Take = ImportReport (*)(sql::Connection&, const std::filesystem::path&, SourceFile&,
+                              const ImportOptions&);
+using TakeContent = ImportReport (*)(sql::Connection&, const SourceFile&, const ImportOptions&);
+
+template <TakeContent take>
+ImportReport takeWhole(sql::Connection& connection, const std::filesystem::path& path,
+                       SourceFile& file, const ImportOptions& options)
 {
-    if (isJson(file.content))
-        return isMonitoringPlan(file.content) ? takeMonitoringPlan(connection, file, options)
-                                              : takeEcmpsQa(connection, file, options);
+    readContent(path, file);
+    return take(connection, file, options);
+}
+
+ImportReport takeStreamed(sql::Connection& connection, const std::filesystem::path& path,
+                          SourceFile& file, const ImportOptions& options)
+{
+    return takeEcmpsEmissions(connection, path, file, options);
+}
+
+/// A format and its import of a file that was identified.
+struct Format {
+    FileKind kind;
+    Take take;
+};
+
+FileKind bringingUnits(const char* name)
+{
+    FileKind kind{name};
+    kind.bringsUnits = true;
+    return kind;
+}
+
+FileKind ofUnit(const char* name)
+{
+    FileKind kind{name};
+    kind.takesUnit = true;
+    kind.needsUnit = true;
+    return kind;
+}
+
+Format locationSpans()
+{
+    FileKind kind = bringingUnits(format::kLocationSpans);
+    kind.takesUnit = true;
+    return {kind, takeWhole<takeLocationSpans>};
+}
+
+Format monitorHourly()
+{
+    FileKind kind = ofUnit(format::kMonitorHourly);
+    kind.takesComponent = true;
+    return {kind, takeWhole<takeMonitorHourly>};
+}
+
+Format formatOfJson(const std::filesystem::path& path, SourceFile& file)
+{
+    readContent(path, file);
+    if (isMonitoringPlan(file.content))
+        return {bringingUnits(format::kMonitoringPlan), takeWhole<takeMonitoringPlan>};
+    return {FileKind{format::kEcmpsQa}, takeWhole<takeEcmpsQa>};
+}
+
+Format formatOfTable(const SourceFile& file)
+{
     const auto header = CsvTable::headerOf(file);
     if (hasColumns(header, {"unit_id", "component_id", "span_value"}))
-        return takeSpanTable(connection, file, options);
+        return {bringingUnits(format::kSpanTable), takeWhole<takeSpanTable>};
     if (hasColumns(header, {"oris", "location", "component_type_cd", "span_value"}))
-        return takeLocationSpans(connection, file, options);
+        return locationSpans();
     if (hasColumns(header, {"date", "hour", "gross_load_mw"}))
-        return takeHourlyLoad(connection, file, options);
+        return {ofUnit(format::kHourlyLoad), takeWhole<takeHourlyLoad>};
     if (hasColumns(header, {"date", "hour", "parameter", "modc"}))
-        return takeMonitorHourly(connection, file, options);
+        return monitorHourly();
     throw file.error("", "this is none of the files that can be imported");
 }
 
+/// Leaves some of the content, or all of it, in the file.
+Format formatOf(const std::filesystem::path& path, SourceFile& file)
+{
+    if (isEcmpsEmissions(path, file))
+        return {FileKind{format::kEcmpsEmissions}, takeStreamed};
+    readBeginning(path, file);
+    return isJson(file.content) ? formatOfJson(path, file) : formatOfTable(file);
+}
+
 } // namespace
+
+FileKind kindOf(const std::filesystem::path& path)
+{
+    SourceFile file = findSourceFile(path);
+    return formatOf(path, file).kind;
+}
 
 ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
                         const ImportOptions& options)
 {
     SourceFile file = identifySourceFile(path);
-    if (isEcmpsEmissions(path, file))
-        return takeEcmpsEmissions(site.connection(), path, file, options);
-    readContent(path, file);
-    return takeFile(site.connection(), file, options);
+    return formatOf(path, file).take(site.connection(), path, file, options);
 }
 
 ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
@@ -100,6 +169,18 @@ ImportReport importEcmpsEmissions(SiteDatabase& site, const std::filesystem::pat
                                   const ImportOptions& options)
 {
     return takeEcmpsEmissions(site.connection(), path, identifySourceFile(path), options);
+}
+
+void tellProgress(const ImportOptions& options, const SourceFile& file, std::int64_t bytesRead,
+                  std::size_t hours)
+{
+    if (options.progress && !options.progress({bytesRead, file.size, hours}))
+        throw ImportCancelled(file.error("", "the import was cancelled").description());
+}
+
+void tellAllIsRead(const ImportOptions& options, const SourceFile& file, std::size_t hours)
+{
+    tellProgress(options, file, file.size, hours);
 }
 
 std::string counted(std::size_t count, const std::string& what)

@@ -34,7 +34,19 @@ public:
     using ImportError::ImportError;
 };
 
-/// How far the import of a large file is.
+/// What a file is, as far as that can be told before it is imported.
+struct FileKind {
+    std::string format; ///< As in the report of its import.
+    /// A monitoring plan or table of spans: other files may need the units and analyzers in it.
+    bool bringsUnits = false;
+    bool takesUnit = false;      ///< ImportOptions::unit is asked for or has a meaning.
+    bool needsUnit = false;      ///< ... and can't be left out.
+    bool takesComponent = false; ///< ImportOptions::component has a meaning.
+
+    friend bool operator==(const FileKind&, const FileKind&) = default;
+};
+
+/// How far the import of a file is.
 struct ImportProgress {
     std::int64_t bytesRead = 0; ///< Of the file as it lies on the disk.
     std::int64_t bytesTotal = 0;
@@ -52,8 +64,9 @@ struct ImportOptions {
     bool leaveOutUnreadable = false;
     /// The time of the import for the log; the zero date: not recorded.
     Date time;
-    /// Is told now and then how far the import of an emissions file is. False ends it with
-    /// ImportCancelled, and nothing is taken.
+    /// Is told how far the import is: of an emissions file and an hourly table now and then, of any
+    /// file before what was taken is kept for good. False ends the import with ImportCancelled, and
+    /// nothing is taken.
     std::function<bool(const ImportProgress&)> progress;
 };
 
@@ -63,6 +76,11 @@ struct ImportReport {
     std::vector<std::string> steppedOver; ///< What the file holds that a site does not keep.
     std::vector<std::string> leftOut;     ///< Why injections were left out, a sentence each.
 };
+
+/// Tells what a file is from its content. Raises the ImportError of an import for a file that is
+/// none of those that can be imported. Of a table it reads the beginning, of an emissions file as
+/// much as tells it, however large it is.
+FileKind kindOf(const std::filesystem::path& path);
 
 /// Imports a file, plain or gzip, whose format is told from its content.
 ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,

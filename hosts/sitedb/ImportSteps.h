@@ -15,6 +15,18 @@
 namespace k7deval::sitedb
 {
 
+/// What the formats are called in reports and in the log.
+namespace format
+{
+inline constexpr const char* kEcmpsQa = "ECMPS QA data";
+inline constexpr const char* kSpanTable = "span table";
+inline constexpr const char* kMonitoringPlan = "monitoring plan";
+inline constexpr const char* kLocationSpans = "spans of locations";
+inline constexpr const char* kHourlyLoad = "hourly load";
+inline constexpr const char* kMonitorHourly = "hours of a monitor";
+inline constexpr const char* kEcmpsEmissions = "ECMPS emissions data";
+} // namespace format
+
 ImportReport takeEcmpsQa(sql::Connection& connection, const SourceFile& file,
                          const ImportOptions& options);
 ImportReport takeSpanTable(sql::Connection& connection, const SourceFile& file,
@@ -32,6 +44,12 @@ ImportReport takeEcmpsEmissions(sql::Connection& connection, const std::filesyst
                                 const SourceFile& file, const ImportOptions& options);
 /// Whether a file of any size is an ECMPS emissions file.
 bool isEcmpsEmissions(const std::filesystem::path& path, const SourceFile& file);
+
+/// Tells how far the import of a file is. Raises ImportCancelled when it is to end.
+void tellProgress(const ImportOptions& options, const SourceFile& file, std::int64_t bytesRead,
+                  std::size_t hours);
+/// The same ahead of the end of the transaction.
+void tellAllIsRead(const ImportOptions& options, const SourceFile& file, std::size_t hours = 0);
 
 /// "1 unit", "2 units".
 std::string counted(std::size_t count, const std::string& what);

@@ -142,14 +142,14 @@ ImportReport takeMonitorHourly(sql::Connection& connection, const SourceFile& fi
     SiteWriter writer(connection);
     writer.checkIsNew(file);
     MonitorHourlyImporter importer(table, file, connection, options);
-    for (const auto& row : table.rows())
-        importer.take(row);
+    takeRows(table, file, options, [&](const CsvRow& row) { importer.take(row); });
     ImportReport report{
-        "hours of a monitor",
+        format::kMonitorHourly,
         importer.counts(),
         otherColumns(table, {"date", "hour", "parameter", "modc", kValueColumn, kMatsValueColumn}),
         {}};
     writer.log(file, report, options.time);
+    tellAllIsRead(options, file, table.rows().size());
     transaction.commit();
     return report;
 }

@@ -223,9 +223,10 @@ ImportReport take(sql::Connection& connection, const SourceFile& file, const Pla
         importer.take(location);
     writer.setOrisCode(content.orisCode);
     if (!content.facility.empty() && !writer.facilityName())
-        writer.setLookup(kLookupTable, kFacilityNameEntry, content.facility);
+        writer.setFacilityName(content.facility);
     ImportReport report{format, importer.counts(), content.steppedOver, {}};
     writer.log(file, report, options.time);
+    tellAllIsRead(options, file);
     transaction.commit();
     return report;
 }
@@ -236,14 +237,14 @@ ImportReport takeMonitoringPlan(sql::Connection& connection, const SourceFile& f
                                 const ImportOptions& options)
 {
     SiteWriter(connection).checkIsNew(file);
-    return take(connection, file, readMonitoringPlan(file), "monitoring plan", options);
+    return take(connection, file, readMonitoringPlan(file), format::kMonitoringPlan, options);
 }
 
 // The table may come again for another of its locations.
 ImportReport takeLocationSpans(sql::Connection& connection, const SourceFile& file,
                                const ImportOptions& options)
 {
-    return take(connection, file, readLocationSpans(file, options.unit), "spans of locations",
+    return take(connection, file, readLocationSpans(file, options.unit), format::kLocationSpans,
                 options);
 }
 

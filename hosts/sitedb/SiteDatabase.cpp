@@ -1,5 +1,6 @@
 #include "sitedb/SiteDatabase.h"
 
+#include "sitedb/CsvTable.h"
 #include "sitedb/PlainText.h"
 #include "sitedb/Schema.h"
 #include "sitedb/SiteIds.h"
@@ -8,11 +9,34 @@
 #include "sitedb/StatusWords.h"
 #include "sitedb/sql/SqliteConnection.h"
 
-#include <cmath>
 #include <utility>
 
 namespace k7deval::sitedb
 {
+
+namespace
+{
+
+void changeCapacity(SiteWriter& writer, const UnitCapacity& capacity)
+{
+    if (capacity.megawatts && !isCapacity(*capacity.megawatts))
+        throw Error(errors::kInvalidCall, "A capacity is a number of MW above 0, at most " +
+                                              numberText(kHighestLoad) + ".");
+    const auto unit = writer.findUnit(capacity.unit);
+    if (!unit)
+        throw Error(errors::kInvalidCall, "The site has no unit " + capacity.unit + ".");
+    if (capacity.megawatts)
+        writer.setCapacity(*unit, *capacity.megawatts);
+    else
+        writer.removeConstant(capacityPID(*unit));
+}
+
+} // namespace
+
+bool isCapacity(double megawatts)
+{
+    return megawatts > 0 && megawatts <= kHighestLoad;
+}
 
 SiteDatabase::SiteDatabase(std::shared_ptr<sql::Connection> connection)
     : connection_(std::move(connection))
@@ -39,24 +63,42 @@ std::shared_ptr<DIServer> SiteDatabase::server() const
     return std::make_shared<SiteServer>(connection_);
 }
 
-void SiteDatabase::setFacilityName(const std::string& name)
+std::optional<std::string> SiteDatabase::facilityName() const
+{
+    return SiteWriter(*connection_).facilityName();
+}
+
+std::vector<UnitPower> SiteDatabase::unitPowers() const
+{
+    SiteWriter tables(*connection_);
+    std::vector<UnitPower> powers;
+    for (const auto& unit : server()->Units()) {
+        const std::int32_t number = PIDPart(unit->PID(), pidpart::kUnit);
+        powers.push_back({unit->Name(0), tables.constant(capacityPID(number)),
+                          tables.constant(maximumLoadPID(number))});
+    }
+    return powers;
+}
+
+void SiteDatabase::change(const SiteChanges& changes)
 {
     sql::Transaction transaction(*connection_);
-    SiteWriter(*connection_).setLookup(kLookupTable, kFacilityNameEntry, name);
+    SiteWriter writer(*connection_);
+    if (changes.facilityName)
+        writer.setFacilityName(*changes.facilityName);
+    for (const auto& capacity : changes.capacities)
+        changeCapacity(writer, capacity);
     transaction.commit();
+}
+
+void SiteDatabase::setFacilityName(const std::string& name)
+{
+    change({name, {}});
 }
 
 void SiteDatabase::setCapacity(const std::string& unitIdentifier, double megawatts)
 {
-    if (!std::isfinite(megawatts) || megawatts <= 0)
-        throw Error(errors::kInvalidCall, "A capacity is a number of MW above 0.");
-    sql::Transaction transaction(*connection_);
-    SiteWriter writer(*connection_);
-    const auto unit = writer.findUnit(unitIdentifier);
-    if (!unit)
-        throw Error(errors::kInvalidCall, "The site has no unit " + unitIdentifier + ".");
-    writer.setCapacity(*unit, megawatts);
-    transaction.commit();
+    change({std::nullopt, {{unitIdentifier, megawatts}}});
 }
 
 } // namespace k7deval::sitedb

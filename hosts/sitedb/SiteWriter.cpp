@@ -268,6 +268,14 @@ void SiteWriter::setConstant(PID pid, const std::string& name, double megawatts)
                         std::int64_t{status::kMeasured});
 }
 
+void SiteWriter::removeConstant(PID pid)
+{
+    for (const char* command :
+         {"DELETE FROM constant WHERE pid = $1", "DELETE FROM attribute WHERE pid = $1",
+          "DELETE FROM parameter WHERE pid = $1"})
+        connection_.execute(command, std::int64_t{pid});
+}
+
 void SiteWriter::checkOrisCode(const SourceFile& file, const std::string& place, std::int32_t code)
 {
     const auto held = orisCode();
@@ -300,6 +308,15 @@ std::optional<std::string> SiteWriter::facilityName()
                                          " WHERE lookup_table = $1 AND lookup_key = $2");
     row->with(std::string(kLookupTable), std::string(kFacilityNameEntry));
     return row->step() ? std::optional(row->text(0)) : std::nullopt;
+}
+
+void SiteWriter::setFacilityName(const std::string& name)
+{
+    if (!name.empty())
+        setLookup(kLookupTable, kFacilityNameEntry, name);
+    else
+        connection_.execute("DELETE FROM lookup WHERE lookup_table = $1 AND lookup_key = $2",
+                            std::string(kLookupTable), std::string(kFacilityNameEntry));
 }
 
 void SiteWriter::setLookup(const std::string& table, const std::string& key,

@@ -75,6 +75,8 @@ public:
     [[nodiscard]] std::optional<double> constant(PID pid);
     /// Makes or changes a constant of a unit, in MW.
     void setConstant(PID pid, const std::string& name, double megawatts);
+    /// Takes a constant away, where there is one.
+    void removeConstant(PID pid);
 
     /// A configuration attribute that is a text, or nothing.
     [[nodiscard]] std::optional<std::string> attributeText(PID pid, std::int32_t id);
@@ -82,6 +84,8 @@ public:
 
     /// The name that stands on reports, or nothing.
     [[nodiscard]] std::optional<std::string> facilityName();
+    /// An empty name is none.
+    void setFacilityName(const std::string& name);
 
     /// The ORIS code that the site's units carry, or nothing.
     [[nodiscard]] std::optional<std::int32_t> orisCode();

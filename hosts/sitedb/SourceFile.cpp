@@ -16,6 +16,8 @@ namespace
 // A year of hourly data of a large plant is a few MB as a table; anything near this is not meant
 // for a site. ECMPS emissions files may be as large, but are not held in memory.
 constexpr std::size_t kLargestContent = std::size_t{512} << 20U;
+// More than the header of any table.
+constexpr std::size_t kBeginning = std::size_t{256} << 10U;
 constexpr std::size_t kChunk = std::size_t{64} << 10U;
 
 void checkIsFile(const std::filesystem::path& path, const SourceFile& file)
@@ -47,6 +49,20 @@ void measure(const std::filesystem::path& path, SourceFile& file)
     file.crc = static_cast<std::int64_t>(sum);
 }
 
+/// Reads until there is more than that, or all.
+void readUpTo(std::size_t size, const std::filesystem::path& path, SourceFile& file)
+{
+    file.content.clear();
+    SourceStream stream(path, file);
+    std::vector<char> chunk(kChunk);
+    for (std::streamsize count = -1; count != 0 && file.content.size() <= size;) {
+        count = stream.sgetn(chunk.data(), static_cast<std::streamsize>(chunk.size()));
+        file.content.append(chunk.data(), static_cast<std::size_t>(count));
+    }
+    if (file.content.empty())
+        throw file.error("", "the file is empty");
+}
+
 } // namespace
 
 ImportError SourceFile::error(std::string_view place, std::string_view what, int number) const
@@ -58,27 +74,31 @@ ImportError SourceFile::error(std::string_view place, std::string_view what, int
     return ImportError(sentence, number);
 }
 
-SourceFile identifySourceFile(const std::filesystem::path& path)
+SourceFile findSourceFile(const std::filesystem::path& path)
 {
     SourceFile file;
     file.name = utf8Text(path.filename());
     checkIsFile(path, file);
+    return file;
+}
+
+SourceFile identifySourceFile(const std::filesystem::path& path)
+{
+    SourceFile file = findSourceFile(path);
     measure(path, file);
     return file;
 }
 
 void readContent(const std::filesystem::path& path, SourceFile& file)
 {
-    SourceStream stream(path, file);
-    std::vector<char> chunk(kChunk);
-    for (std::streamsize count = -1; count != 0;) {
-        count = stream.sgetn(chunk.data(), static_cast<std::streamsize>(chunk.size()));
-        file.content.append(chunk.data(), static_cast<std::size_t>(count));
-        if (file.content.size() > kLargestContent)
-            throw file.error("", "the file is too large");
-    }
-    if (file.content.empty())
-        throw file.error("", "the file is empty");
+    readUpTo(kLargestContent, path, file);
+    if (file.content.size() > kLargestContent)
+        throw file.error("", "the file is too large");
+}
+
+void readBeginning(const std::filesystem::path& path, SourceFile& file)
+{
+    readUpTo(kBeginning, path, file);
 }
 
 SourceFile readSourceFile(const std::filesystem::path& path)

@@ -24,14 +24,21 @@ struct SourceFile {
                                     int number = errors::kInvalidCall) const;
 };
 
+/// The name alone. Raises ImportError for a file that is not there or can't be read.
+SourceFile findSourceFile(const std::filesystem::path& path);
+
 /// What identifies a file of any size; its content is left empty. Raises ImportError for a file
 /// that is not there, is empty or can't be read.
 SourceFile identifySourceFile(const std::filesystem::path& path);
 
-/// Reads and, where it is gzip, unpacks the content of an identified file. Raises ImportError for a
+/// Reads and, where it is gzip, unpacks the content of a found file. Raises ImportError for a
 /// file without content or with more than is held in memory, and for a damaged or cut-off gzip
 /// file.
 void readContent(const std::filesystem::path& path, SourceFile& file);
+
+/// Reads and, where it is gzip, unpacks the first lines of a found file, of a small one all that it
+/// has; raises ImportError as readContent does.
+void readBeginning(const std::filesystem::path& path, SourceFile& file);
 
 /// Both steps at once.
 SourceFile readSourceFile(const std::filesystem::path& path);

@@ -128,8 +128,9 @@ ImportReport takeSpanTable(sql::Connection& connection, const SourceFile& file,
     SpanTableImporter importer(writer, table);
     for (const auto& row : table.rows())
         importer.take(row);
-    ImportReport report{"span table", importer.counts(), {}, {}};
+    ImportReport report{format::kSpanTable, importer.counts(), {}, {}};
     writer.log(file, report, options.time);
+    tellAllIsRead(options, file);
     transaction.commit();
     return report;
 }

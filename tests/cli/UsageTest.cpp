@@ -160,7 +160,7 @@ TEST_F(Usage, ImportsOnlyWhatItKnows)
          "The site has no unit GT9."},
         {"a capacity of nothing",
          {"import", "--site", "{tests}", "--capacity", "GT4=0"},
-         "A capacity is a number of MW above 0."},
+         "A capacity is a number of MW above 0, at most 999999."},
         {"a file that is not there",
          {"import", "--site", site, "{folder}/none.csv"},
          "none.csv: there is no such file."},

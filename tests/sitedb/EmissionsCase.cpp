@@ -2,6 +2,7 @@
 
 #include "sitedb/CsvTable.h"
 #include "sitedb/SiteQueries.h"
+#include "sitedb/TimeText.h"
 #include "sitedb/sql/Connection.h"
 
 namespace k7deval::sitedb::test
@@ -41,6 +42,21 @@ std::string emissionsOf(const std::vector<json>& hours)
 {
     return json{{"orisCode", 54}, {"year", 2021}, {"quarter", 1}, {"hourlyOperatingData", hours}}
         .dump();
+}
+
+std::string emissionsOfUnits(int units, int hours)
+{
+    std::string text = R"({"orisCode": 54, "year": 2021, "quarter": 1, "hourlyOperatingData": [)";
+    const std::int64_t first = wholeSeconds(makeDate(2021, 1, 1));
+    for (int hour = 0; hour < hours; ++hour) {
+        const auto day = isoDate(dateFromSeconds(first + hour / 24 * std::int64_t{86'400}));
+        json entry = emissionsHour(day, hour % 24, hour % 100);
+        for (int unit = 1; unit <= units; ++unit) {
+            entry["unitId"] = "U" + std::to_string(unit);
+            text += (text.back() == '[' ? "" : ",") + entry.dump();
+        }
+    }
+    return text + "]}";
 }
 
 ImportReport importEmissions(EmptySite& held, const std::string& text, const ImportOptions& options)

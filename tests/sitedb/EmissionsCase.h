@@ -22,6 +22,9 @@ nlohmann::json emissionsHour(const std::string& day, int hour, double value);
 /// An emissions file of these hours.
 std::string emissionsOf(const std::vector<nlohmann::json>& hours);
 
+/// A file of so many hours from 2021-01-01 on of each of several units, "U1" and so on.
+std::string emissionsOfUnits(int units, int hours);
+
 /// Imports a text as emissions.json.
 ImportReport importEmissions(EmptySite& held, const std::string& text,
                              const ImportOptions& options = {});

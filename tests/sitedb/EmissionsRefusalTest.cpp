@@ -387,12 +387,12 @@ TEST(EmissionsProgress, TellsBytesAndHoursUpToTheEnd)
     importEmissions(held, text, options);
     ASSERT_GE(told.size(), 2U);
     for (std::size_t index = 1; index < told.size(); ++index) {
-        EXPECT_GT(told[index].bytesRead, told[index - 1].bytesRead);
+        EXPECT_GE(told[index].bytesRead, told[index - 1].bytesRead);
         EXPECT_GE(told[index].hours, told[index - 1].hours);
     }
     EXPECT_EQ(told.back().bytesRead, static_cast<std::int64_t>(text.size()));
     EXPECT_EQ(told.back().bytesTotal, static_cast<std::int64_t>(text.size()));
-    EXPECT_GT(told.back().hours, 0U);
+    EXPECT_EQ(told.back().hours, 480U);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "sitedb/ImportCase.h"
+#include "sitedb/PlanCase.h"
 #include "sitedb/SiteQueries.h"
 
 #include "sitedb/sql/Connection.h"
@@ -65,6 +65,17 @@ TEST(SiteDatabase, TheFacilityNameCanBeSetAnew)
     held.site.setFacilityName("Old");
     held.site.setFacilityName("Bethpage \xE2\x80\x93 O'Neill");
     EXPECT_EQ(facilityName(*held.site.server()), "Bethpage \xE2\x80\x93 O'Neill");
+}
+
+TEST(SiteDatabase, AnEmptyFacilityNameIsNone)
+{
+    EmptySite held;
+    EXPECT_EQ(held.site.facilityName(), std::nullopt);
+    held.site.setFacilityName("Old");
+    EXPECT_EQ(held.site.facilityName(), "Old");
+    held.site.setFacilityName("");
+    EXPECT_EQ(held.site.facilityName(), std::nullopt);
+    EXPECT_EQ(facilityName(*held.site.server()), "<Facility Name>");
 }
 
 TEST(SiteDatabase, AFileThatIsNotThereIsNotRead)
@@ -204,7 +215,7 @@ TEST(SiteDatabase, ACapacityNeedsAUnitAndANumberAboveZero)
             held.site.setCapacity("U1", capacity);
             ADD_FAILURE() << capacity;
         } catch (const Error& error) {
-            EXPECT_EQ(error.description(), "A capacity is a number of MW above 0.");
+            EXPECT_EQ(error.description(), "A capacity is a number of MW above 0, at most 999999.");
         }
     }
     try {
@@ -215,6 +226,40 @@ TEST(SiteDatabase, ACapacityNeedsAUnitAndANumberAboveZero)
         EXPECT_EQ(error.description(), "The site has no unit U9.");
     }
     EXPECT_EQ(dump(held.site), before);
+}
+
+TEST(SiteDatabase, TellsTheCapacityOfEachUnitAndTheMaximumLoadOfItsPlan)
+{
+    EmptySite held;
+    importText(held, "plan.json", smallPlan());
+    held.site.setCapacity("CS1", 84.5);
+    const std::vector<UnitPower> powers{{"U1", std::nullopt, 150}, {"CS1", 84.5, std::nullopt}};
+    EXPECT_EQ(held.site.unitPowers(), powers);
+}
+
+TEST(SiteDatabase, ACapacityCanBeTakenBack)
+{
+    EmptySite held;
+    importText(held, "plan.json", smallPlan());
+    const std::string before = dump(held.site);
+    held.site.setCapacity("U1", 140);
+    EXPECT_NE(dump(held.site), before);
+    held.site.change({std::nullopt, {{"U1", std::nullopt}}});
+    EXPECT_EQ(dump(held.site), before);
+    held.site.change({std::nullopt, {{"U1", std::nullopt}}});
+    EXPECT_EQ(dump(held.site), before);
+}
+
+TEST(SiteDatabase, MakesAllChangesOrNone)
+{
+    SmallSite held;
+    const std::string before = dump(held.site);
+    EXPECT_THROW(held.site.change({"Other", {{"U1", 80}, {"U9", 80}}}), Error);
+    EXPECT_THROW(held.site.change({"Other", {{"U1", 80}, {"U1", 1'000'000}}}), Error);
+    EXPECT_EQ(dump(held.site), before);
+    held.site.change({"Other", {{"U1", 999'999}}});
+    EXPECT_EQ(held.site.facilityName(), "Other");
+    EXPECT_EQ(held.site.unitPowers().front().capacity, 999'999);
 }
 
 struct WordCase {

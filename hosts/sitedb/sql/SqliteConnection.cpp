@@ -187,6 +187,34 @@ private:
     Dialect dialect_{"REAL", " STRICT", " STRICT, WITHOUT ROWID"};
 };
 
+Database openFile(const std::filesystem::path& path, const std::string& name, int flags)
+{
+    sqlite3* opened = nullptr;
+    const int code = sqlite3_open_v2(utf8Text(path).c_str(), &opened, flags, nullptr);
+    Database database(opened);
+    if (code != SQLITE_OK)
+        fail(name, opened, code);
+    sqlite3_busy_timeout(opened, kBusyMilliseconds);
+    return database;
+}
+
+/// The extended code of a first look at the tables.
+int lookAtTables(sqlite3* database)
+{
+    sqlite3_exec(database, "SELECT 1 FROM sqlite_master", nullptr, nullptr, nullptr);
+    return sqlite3_extended_errcode(database);
+}
+
+// A program that ended while it wrote has left its journal, which only those who may write can
+// roll back.
+Database openReadable(const std::filesystem::path& path, const std::string& name)
+{
+    Database database = openFile(path, name, SQLITE_OPEN_READONLY);
+    if (lookAtTables(database.get()) == SQLITE_READONLY_ROLLBACK)
+        lookAtTables(openFile(path, name, SQLITE_OPEN_READWRITE).get());
+    return database;
+}
+
 } // namespace
 
 std::shared_ptr<Connection> openSqlite(const std::filesystem::path& path, SqliteMode mode)
@@ -194,14 +222,9 @@ std::shared_ptr<Connection> openSqlite(const std::filesystem::path& path, Sqlite
     const std::string name = utf8Text(path.filename());
     if (mode == SqliteMode::ReadOnly && !std::filesystem::exists(path))
         throw Error(errors::kFileNotFound, name + ": there is no such file.");
-    const int flags = mode == SqliteMode::ReadOnly ? SQLITE_OPEN_READONLY
-                                                   : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    sqlite3* opened = nullptr;
-    const int code = sqlite3_open_v2(utf8Text(path).c_str(), &opened, flags, nullptr);
-    Database database(opened);
-    if (code != SQLITE_OK)
-        fail(name, opened, code);
-    sqlite3_busy_timeout(opened, kBusyMilliseconds);
+    Database database = mode == SqliteMode::ReadOnly
+                            ? openReadable(path, name)
+                            : openFile(path, name, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     auto connection = std::make_shared<SqliteConnection>(std::move(database), name);
     connection->execute("PRAGMA foreign_keys = ON");
     return connection;

@@ -1,0 +1,324 @@
+#include "workbench/ImportDialog.h"
+#include "workbench/ImportBench.h"
+#include "workbench/ImportNames.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QUrl>
+
+namespace k7deval::workbench::test
+{
+
+namespace
+{
+
+using qt::test::settle;
+using sitedb::test::EmptySite;
+using sitedb::test::SmallSite;
+using sitedb::test::TemporaryDirectory;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* kSpans =
+    "unit_id,component_id,component_type,span_scale,span_value,units\nU2,010,NOX,H,100,PPM\n";
+constexpr const char* kLoad = "date,hour,gross_load_mw\n2020-01-01,0,10\n2020-01-01,1,0\n";
+
+void drop(QWidget& target, const std::vector<std::filesystem::path>& files)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const auto& file : files)
+        urls << QUrl::fromLocalFile(QString::fromStdString(file.string()));
+    data.setUrls(urls);
+    const QPoint spot = target.rect().center();
+    QDragEnterEvent enter(spot, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted())
+        return;
+    QDropEvent drop(spot, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &drop);
+    settle();
+}
+
+QStringList unitsIn(const std::filesystem::path& site)
+{
+    QStringList units;
+    for (const auto& power :
+         sitedb::SiteDatabase::open(site, sitedb::OpenMode::ReadOnly).unitPowers())
+        units << QString::fromStdString(power.unit);
+    return units;
+}
+
+} // namespace
+
+TEST(Import, TakesDroppedFilesIntoANewSite)
+{
+    const TemporaryDirectory directory;
+    const auto site = directory / "plant.k7site";
+    ImportBench bench(site);
+    bench.hands.photograph("import-empty");
+    drop(*bench.dialog,
+         {sitedb::test::sampleFile("hourly_load_GT3.csv.gz"),
+          sitedb::test::sampleFile("ecmps_qa_50292.json"), sitedb::test::sampleFile("spans.csv")});
+    ASSERT_EQ(bench.files().rowCount(), 3);
+    EXPECT_EQ(bench.row(0), QStringList({"spans.csv", "span table", "waiting"}));
+    EXPECT_EQ(bench.row(1), QStringList({"hourly_load_GT3.csv.gz", "hourly load", "waiting"}));
+    EXPECT_EQ(bench.row(2), QStringList({"ecmps_qa_50292.json", "ECMPS QA data", "waiting"}));
+    bench.hands.type("unit of hourly_load_GT3.csv.gz", "GT3");
+    bench.hands.click("leaveOut");
+    bench.import();
+    for (int row = 0; row < 3; ++row)
+        EXPECT_EQ(bench.row(row)[2], "taken");
+    EXPECT_EQ(bench.hands.text("status"), "3 files taken.");
+    EXPECT_THAT(bench.report(), HasSubstr("Taken: spans.csv (span table)\n4 units\n16 analyzers\n"
+                                          "17 spans\n"));
+    EXPECT_THAT(bench.report(), HasSubstr("Stepped over: The column \"heat_input_mmbtu\".\n"));
+    EXPECT_THAT(bench.report(), HasSubstr("Left out: ecmps_qa_50292.json: testSummaryData[1]"));
+    EXPECT_TRUE(bench.dialog->hasTaken());
+    EXPECT_EQ(unitsIn(site), QStringList({"GT1", "GT2", "GT3", "GT4"}));
+    bench.hands.photograph("import-taken");
+}
+
+TEST(Import, AFileThatTakesNoUnitIsNotAskedForOne)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("spans.csv", kSpans));
+    bench.add(held.directory.write("load.csv", kLoad));
+    EXPECT_EQ(bench.files().cellWidget(0, 3), nullptr);
+    auto& unit = bench.hands.view<QComboBox>("unit of load.csv");
+    EXPECT_EQ(unit.count(), 1);
+    EXPECT_EQ(unit.itemText(0), "U1");
+    EXPECT_EQ(unit.currentText(), "");
+    EXPECT_EQ(bench.files().cellWidget(1, 4), nullptr);
+    bench.add(
+        held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
+    EXPECT_EQ(bench.hands.view<QLineEdit>("component of hours.csv").text(), "");
+}
+
+TEST(Import, ARefusedFileCanBeCorrectedAndIsTakenAlone)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("spans.csv", kSpans));
+    bench.add(held.directory.write("load.csv", kLoad));
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "taken");
+    EXPECT_EQ(bench.row(1)[2], "refused");
+    EXPECT_EQ(bench.hands.text("status"), "1 file taken, 1 refused.");
+    EXPECT_THAT(bench.report(),
+                HasSubstr("Refused, nothing was taken: load.csv (hourly load)\n"
+                          "load.csv: unit: the unit that the load belongs to has to be named."));
+    bench.hands.photograph("import-refused");
+    bench.hands.pick("unit of load.csv", "U2");
+    bench.hands.pressMnemonic(Qt::Key_I);
+    bench.waitForEnd();
+    EXPECT_EQ(bench.row(1)[2], "taken");
+    EXPECT_EQ(bench.hands.text("status"), "1 file taken.");
+    EXPECT_THAT(bench.report(), HasSubstr("Taken: load.csv (hourly load)\n2 hours\n1 hour with"));
+    EXPECT_FALSE(bench.hands.view<QPushButton>("import").isEnabled());
+    EXPECT_EQ(sitedb::test::count(held.site, "SELECT COUNT(*) FROM import_log"), 3);
+}
+
+TEST(Import, AQaFileIsRefusedUnlessUnreadableInjectionsAreLeftOut)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write(
+        "qa.json",
+        sitedb::test::patchedQa(
+            "replace", "/testSummaryData/1/calibrationInjectionData/0/zeroInjectionHour", "24")));
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "refused");
+    EXPECT_THAT(bench.report(), HasSubstr("24 is no hour from 0 to 23."));
+    EXPECT_FALSE(bench.dialog->hasTaken());
+    bench.hands.click("leaveOut");
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "taken");
+    EXPECT_THAT(bench.report(), HasSubstr("1 injection left out\n"));
+    EXPECT_TRUE(bench.dialog->hasTaken());
+}
+
+TEST(Import, AFileOfNoKnownFormatIsNotAddedButTold)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    const auto notes = held.directory.write("notes.txt", "Dear operator\n");
+    drop(*bench.dialog, {notes, held.directory.write("load.csv", kLoad)});
+    EXPECT_EQ(bench.files().rowCount(), 1);
+    EXPECT_EQ(bench.report(), "Not added: notes.txt\nnotes.txt: this is none of the files that can "
+                              "be imported.");
+}
+
+TEST(Import, AFileIsOnTheListOnceAndCanBeRemoved)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    const auto file = held.directory.write("load.csv", kLoad);
+    bench.add(file);
+    bench.add(file);
+    ASSERT_EQ(bench.files().rowCount(), 1);
+    EXPECT_FALSE(bench.hands.view<QPushButton>("remove").isEnabled());
+    bench.files().setFocus();
+    bench.files().selectRow(0);
+    bench.hands.pressMnemonic(Qt::Key_R);
+    EXPECT_EQ(bench.files().rowCount(), 0);
+    EXPECT_FALSE(bench.hands.view<QPushButton>("import").isEnabled());
+}
+
+TEST(Import, ProgressIsSeenAndCancelledInTheMiddleNothingOfTheFileIsKept)
+{
+    LongImport task;
+    ImportBench bench(task.held.path);
+    bench.add(task.file);
+    bench.importUpToTheMiddle();
+    EXPECT_THAT(bench.hands.text("status"),
+                testing::MatchesRegex("emissions.json: .*B of .* MB, .* hours"));
+    EXPECT_FALSE(bench.hands.view<QPushButton>("add").isEnabled());
+    bench.hands.photograph("import-progress");
+    bench.hands.click("cancel");
+    bench.waitForEnd();
+    task.expectSiteAsItWas();
+    EXPECT_EQ(bench.row(0)[2], "cancelled");
+    EXPECT_EQ(bench.hands.text("status"), "0 files taken, then cancelled.");
+    EXPECT_EQ(bench.report(),
+              "Cancelled, nothing was taken: emissions.json (ECMPS emissions data)");
+    EXPECT_FALSE(bench.dialog->hasTaken());
+    EXPECT_TRUE(bench.hands.view<QPushButton>("import").isEnabled());
+}
+
+TEST(Import, FilesTakenBeforeACancelStayAndThoseBehindWait)
+{
+    LongImport task;
+    ImportBench bench(task.held.path);
+    bench.add(task.held.directory.write("spans.csv", kSpans));
+    bench.add(task.file);
+    bench.add(task.held.directory.write("qa.json", sitedb::test::smallQa()));
+    bench.importUpToTheMiddle();
+    bench.hands.click("cancel");
+    bench.waitForEnd();
+    EXPECT_EQ(bench.row(0)[2], "taken");
+    EXPECT_EQ(bench.row(1)[2], "cancelled");
+    EXPECT_EQ(bench.row(2)[2], "waiting");
+    EXPECT_EQ(bench.hands.text("status"), "1 file taken, then cancelled.");
+    EXPECT_TRUE(bench.dialog->hasTaken());
+}
+
+TEST(Import, ClosingTheDialogInTheMiddleLeavesTheSiteAsItWas)
+{
+    LongImport task;
+    ImportBench bench(task.held.path);
+    bench.add(task.file);
+    bench.importUpToTheMiddle();
+    bench.hands.press(Qt::Key_Escape);
+    EXPECT_FALSE(bench.dialog->isVisible());
+    task.expectSiteAsItWas();
+    EXPECT_FALSE(bench.dialog->hasTaken());
+}
+
+TEST(Import, TheEndOfTheDialogInTheMiddleLeavesTheSiteAsItWas)
+{
+    LongImport task;
+    ImportBench bench(task.held.path);
+    bench.add(task.file);
+    bench.importUpToTheMiddle();
+    bench.dialog.reset();
+    task.expectSiteAsItWas();
+    settle();
+}
+
+TEST(Import, TheSiteCanBeOpenForReadingMeanwhile)
+{
+    SmallSite held;
+    const auto server = sitedb::SiteDatabase::open(held.path, sitedb::OpenMode::ReadOnly).server();
+    ASSERT_EQ(server->Units().size(), 1U);
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("spans.csv", kSpans));
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "taken");
+    EXPECT_EQ(server->Units().size(), 2U);
+}
+
+TEST(Import, ANewSiteIsRemovedWhenNothingWasTaken)
+{
+    const TemporaryDirectory directory;
+    const auto site = directory / "plant.k7site";
+    ImportBench bench(site);
+    bench.add(directory.write("load.csv", kLoad));
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "refused");
+    EXPECT_FALSE(std::filesystem::exists(site));
+    bench.hands.type("unit of load.csv", "U1");
+    bench.import();
+    EXPECT_EQ(unitsIn(site), QStringList("U1"));
+}
+
+TEST(Import, AFileThatIsNoSiteIsToldAndLeftAlone)
+{
+    const TemporaryDirectory directory;
+    const auto site = directory.write("plant.k7site", "no site");
+    ImportBench bench(site);
+    bench.add(directory.write("spans.csv", kSpans));
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "waiting");
+    EXPECT_EQ(bench.hands.text("status"), "0 files taken, the site can't be used.");
+    EXPECT_THAT(bench.report(), HasSubstr("plant.k7site: the file is no site database."));
+    EXPECT_EQ(sitedb::test::readFile(site), "no site");
+}
+
+TEST(Import, TheUnitsOfAnImportCanBePickedAfterIt)
+{
+    EmptySite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("load.csv", kLoad));
+    bench.add(held.directory.write("spans.csv", kSpans));
+    bench.import();
+    EXPECT_EQ(bench.row(0)[2], "refused");
+    EXPECT_EQ(bench.hands.view<QComboBox>("unit of load.csv").itemText(0), "U2");
+}
+
+TEST(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("load.csv", kLoad));
+    bench.add(
+        held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
+    bench.files().setFocus();
+    std::string order;
+    for (int step = 0; step < 9; ++step) {
+        bench.hands.press(Qt::Key_Tab);
+        order += QApplication::focusWidget()->objectName().toStdString() + "; ";
+    }
+    EXPECT_EQ(order, "unit of load.csv; unit of hours.csv; component of hours.csv; add; remove; "
+                     "leaveOut; report; import; close; ");
+}
+
+TEST(Import, NoPartKeepsADropFromTheDialog)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(
+        held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
+    for (const QWidget* part : bench.dialog->findChildren<QWidget*>())
+        EXPECT_FALSE(part->acceptDrops()) << part->objectName().toStdString();
+}
+
+TEST(Import, EveryPartHasAName)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("load.csv", kLoad));
+    bench.add(
+        held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
+    EXPECT_EQ(namelessParts(*bench.dialog), QStringList());
+}
+
+} // namespace k7deval::workbench::test

@@ -8,6 +8,7 @@
 #include <QAbstractTableModel>
 #include <QFontMetricsF>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTableView>
 
@@ -69,6 +70,14 @@ public:
         forward(
             *view_, [&] { grid_->Edit(index.row() + 1, value.toInt() == Qt::Checked); }, [] {});
         return true;
+    }
+
+    /// Turns the mark of a row over; a heading has none.
+    void toggle(int row)
+    {
+        const QModelIndex mark = index(row, kCheckColumn);
+        if (const auto ticked = tick(mark))
+            setData(mark, *ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
     }
 
     /// Asks for all rows anew.
@@ -176,6 +185,17 @@ void forwardMouse(QTableView& view, screen::Grid& model, const Refresh& refresh)
     });
 }
 
+/// The space bar also ticks a row whose text has the keys; on the mark itself the view does.
+void tickByKey(QTableView& view, GridRows& rows)
+{
+    new EventWatch(view, QEvent::KeyPress, [&view, &rows](const QEvent& event) {
+        const QModelIndex current = view.currentIndex();
+        if (static_cast<const QKeyEvent&>(event).key() == Qt::Key_Space && current.isValid() &&
+            current.column() == kTextColumn)
+            rows.toggle(current.row());
+    });
+}
+
 } // namespace
 
 void bind(QTableView& view, screen::Grid& model)
@@ -188,6 +208,7 @@ void bind(QTableView& view, screen::Grid& model)
         view, model,
         [rows](QTableView& table, const screen::Grid& grid) { showGrid(table, *rows, grid); });
     forwardMouse(view, model, refresh);
+    tickByKey(view, *rows);
     QObject::connect(
         view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
         [&view, &model](const QModelIndex& current) {

@@ -72,14 +72,6 @@ public:
         return true;
     }
 
-    /// Turns the mark of a row over; a heading has none.
-    void toggle(int row)
-    {
-        const QModelIndex mark = index(row, kCheckColumn);
-        if (const auto ticked = tick(mark))
-            setData(mark, *ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-    }
-
     /// Asks for all rows anew.
     void readAgain()
     {
@@ -185,14 +177,13 @@ void forwardMouse(QTableView& view, screen::Grid& model, const Refresh& refresh)
     });
 }
 
-/// The space bar also ticks a row whose text has the keys; on the mark itself the view does.
-void tickByKey(QTableView& view, GridRows& rows)
+/// The space bar ticks a mark that has the keys, so it also does in a row whose text has them.
+void tickByKey(QTableView& view)
 {
-    new EventWatch(view, QEvent::KeyPress, [&view, &rows](const QEvent& event) {
+    new EventWatch(view, QEvent::KeyPress, [&view](const QEvent& event) {
         const QModelIndex current = view.currentIndex();
-        if (static_cast<const QKeyEvent&>(event).key() == Qt::Key_Space && current.isValid() &&
-            current.column() == kTextColumn)
-            rows.toggle(current.row());
+        if (static_cast<const QKeyEvent&>(event).key() == Qt::Key_Space && current.isValid())
+            view.setCurrentIndex(current.siblingAtColumn(kCheckColumn));
     });
 }
 
@@ -208,7 +199,7 @@ void bind(QTableView& view, screen::Grid& model)
         view, model,
         [rows](QTableView& table, const screen::Grid& grid) { showGrid(table, *rows, grid); });
     forwardMouse(view, model, refresh);
-    tickByKey(view, *rows);
+    tickByKey(view);
     QObject::connect(
         view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
         [&view, &model](const QModelIndex& current) {

@@ -11,6 +11,8 @@
 #include <QComboBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace k7deval::workbench
 {
 
@@ -89,22 +91,35 @@ void CalibrationsPage::fill()
     calibrations_.SetShowUnitCombo(true);
     calibrations_.SetParamList(calibrations);
     calibrations_.cmbUnit.SetVisible(false);
-    if (calibrations_.cmbPID.ListCount() > 0)
-        calibrations_.cmbPID.SetListIndex(0);
-    proposePeriod(calibrations);
+    propose(calibrations);
 }
 
-/// The year up to the newest injection of all.
-void CalibrationsPage::proposePeriod(const DIParameterList& calibrations)
+/// The calibration with the newest injection of all, and the year up to it.
+void CalibrationsPage::propose(const DIParameterList& calibrations)
 {
     std::optional<Date> newest;
+    PID proposed = calibrations.front()->PID();
     for (const auto& calibration : calibrations) {
         const Date since = newest.value_or(beginningOfData());
-        newest = std::max(newest, newestInjection(*server_, *calibration, *regional_, since));
+        const auto found = newestInjection(*server_, *calibration, *regional_, since);
+        if (found > newest) {
+            newest = found;
+            proposed = calibration->PID();
+        }
     }
+    select(proposed);
     const Date last = dateOnly(newest.value_or(endOfData()));
     const Date yearBefore = DateAddExact("m", -kMonthsProposed, last);
     pane_->setPeriod({DateAddExact("d", 1, yearBefore), last});
+}
+
+void CalibrationsPage::select(PID calibration)
+{
+    screen::ComboBox& list = calibrations_.cmbPID;
+    const auto& pids = list.ItemDataList();
+    const auto found = std::ranges::find(pids, calibration);
+    if (found != pids.end())
+        list.SetListIndex(static_cast<std::int32_t>(found - pids.begin()));
 }
 
 void CalibrationsPage::show(const Period& period)

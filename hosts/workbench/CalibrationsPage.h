@@ -25,7 +25,8 @@ public:
 
 private:
     void fill();
-    void proposePeriod(const DIParameterList& calibrations);
+    void propose(const DIParameterList& calibrations);
+    void select(PID calibration);
     void show(const Period& period);
     void sayThatNothingIsThere(DIParameter& calibration, const Period& period);
 

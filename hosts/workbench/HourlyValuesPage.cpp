@@ -98,17 +98,9 @@ void HourlyValuesPage::proposePeriod(const DIParameterList& parameters)
     pane_->setPeriod({DateAddExact("d", 1 - kDaysProposed, last), last});
 }
 
-std::vector<PID> HourlyValuesPage::tickedParameters() const
-{
-    std::vector<PID> pids;
-    for (const PID pid : parameters_.GetSelection().value_or(std::vector<PID>()))
-        pids.push_back(pid);
-    return pids;
-}
-
 void HourlyValuesPage::show(const Period& period)
 {
-    const std::vector<PID> pids = tickedParameters();
+    const auto pids = parameters_.GetSelection().value_or(std::vector<PID>());
     if (pids.empty()) {
         pane_->say("Tick one or more parameters and press Show.");
         return;

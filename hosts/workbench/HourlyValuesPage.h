@@ -8,11 +8,10 @@
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 namespace k7deval::workbench
 {
-
-class HourTable;
 
 /// The hourly values of the parameters that are ticked.
 class HourlyValuesPage final : public QWidget
@@ -30,7 +29,6 @@ private:
     void proposePeriod(const DIParameterList& parameters);
     void show(const Period& period);
     void sayThatNothingIsThere(const std::vector<PID>& pids, const Period& period);
-    [[nodiscard]] std::vector<PID> tickedParameters() const;
 
     std::shared_ptr<DIServer> server_;
     const RegionalSettings* regional_;

@@ -2,7 +2,6 @@
 
 #include "foundation/RegionalSettings.h"
 #include "foundation/UtilityFunctions.h"
-#include "histogram/Quarters.h"
 #include "qt/Texts.h"
 #include "sevenday/CalibrationTables.h"
 
@@ -10,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace k7deval::workbench
 {
@@ -18,6 +18,24 @@ namespace
 {
 
 constexpr int kFirstYear = 1990;
+constexpr int kMonthsPerYear = 12;
+
+using Find = std::function<std::optional<Date>(Date start, Date end)>;
+
+/// Searches the time up to the end of the present year, the newest year first, then stretches that
+/// double in length: data that is up to date is found in the first, and a parameter without any
+/// costs a few.
+std::optional<Date> findBackward(Date firstDay, const Find& find)
+{
+    Date end = DateAddExact("h", 1, endOfData());
+    for (int years = 1; end > firstDay; years *= 2) {
+        const Date start = std::max(firstDay, DateAddExact("m", -kMonthsPerYear * years, end));
+        if (const auto found = find(start, end))
+            return found;
+        end = start;
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -40,16 +58,17 @@ Date endOfData()
 
 std::optional<Date> newestValue(DIParameter& parameter, Date firstDay)
 {
-    std::optional<Date> newest;
-    histogram::walkQuarters(parameter, endOfData(), firstDay, [&](const DIDataSet& hours) {
+    return findBackward(firstDay, [&](Date start, Date end) {
+        DIDataSet hours;
+        hours.Init(start, static_cast<std::int32_t>(hourBoundariesBetween(start, end)), "h", 1, 0);
+        parameter.ReadData(hours);
         const auto values = hours.Values();
-        for (std::size_t slot = values.size(); slot > 0 && !newest; --slot) {
+        for (std::size_t slot = values.size(); slot > 0; --slot) {
             if (std::isfinite(values[slot - 1]))
-                newest = DateAddExact("h", static_cast<double>(slot - 1), hours.StartTime());
+                return std::optional(DateAddExact("h", static_cast<double>(slot - 1), start));
         }
-        return !newest;
+        return std::optional<Date>();
     });
-    return newest;
 }
 
 DIRecordList readInjections(DIServer& server, DIParameter& calibration, Date start, Date end,
@@ -70,10 +89,12 @@ DIRecordList readInjections(DIServer& server, DIParameter& calibration, Date sta
 std::optional<Date> newestInjection(DIServer& server, DIParameter& calibration,
                                     const RegionalSettings& regional, Date firstDay)
 {
-    std::optional<Date> newest;
-    for (const auto& record : readInjections(server, calibration, firstDay, endOfData(), regional))
-        newest = std::max(newest.value_or(firstDay), present(record).RunTime());
-    return newest;
+    return findBackward(firstDay, [&](Date start, Date end) {
+        std::optional<Date> newest;
+        for (const auto& record : readInjections(server, calibration, start, end, regional))
+            newest = std::max(newest, std::optional(present(record).RunTime()));
+        return newest;
+    });
 }
 
 } // namespace k7deval::workbench

@@ -19,8 +19,7 @@ Date beginningOfData();
 /// The last hour of the present year.
 Date endOfData();
 
-/// The newest hour with a value from a day on, if there is one. Reads backward by quarters of the
-/// year until it finds it.
+/// The newest hour with a value from a day on, if there is one.
 std::optional<Date> newestValue(DIParameter& parameter, Date firstDay = beginningOfData());
 
 /// The injections of a calibration in a range of time, both ends included.

@@ -254,6 +254,17 @@ TEST(DataScreen, FollowsTheStyleOfTheRegion)
                 ElementsAre("01.03.2024", "00:00", "12,5", "valid, status 0"));
 }
 
+TEST(DataScreen, ProposesTheCalibrationWithTheNewestInjection)
+{
+    const DataScreen screen;
+    screen.showCalibrations();
+    EXPECT_EQ(screen.hands.view<QComboBox>("cmbPID").currentText(), "GT3 NOX 310/L Calibration");
+    EXPECT_EQ(screen.text("calibrationFirstDay"), "5/10/2020");
+    screen.hands.click("calibrationShow");
+    EXPECT_EQ(screen.hands.text("calibrationLine"), "14 injections");
+    EXPECT_EQ(screen.cell(kInjections, 13, 0), "5/9/2021 5:21 PM");
+}
+
 TEST(DataScreen, ShowsTheInjectionsOfAnAnalyzer)
 {
     const DataScreen screen;

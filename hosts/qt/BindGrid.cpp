@@ -8,6 +8,7 @@
 #include <QAbstractTableModel>
 #include <QFontMetricsF>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTableView>
 
@@ -176,6 +177,16 @@ void forwardMouse(QTableView& view, screen::Grid& model, const Refresh& refresh)
     });
 }
 
+/// The space bar ticks a mark that has the keys, so it also does in a row whose text has them.
+void tickByKey(QTableView& view)
+{
+    new EventWatch(view, QEvent::KeyPress, [&view](const QEvent& event) {
+        const QModelIndex current = view.currentIndex();
+        if (static_cast<const QKeyEvent&>(event).key() == Qt::Key_Space && current.isValid())
+            view.setCurrentIndex(current.siblingAtColumn(kCheckColumn));
+    });
+}
+
 } // namespace
 
 void bind(QTableView& view, screen::Grid& model)
@@ -188,6 +199,7 @@ void bind(QTableView& view, screen::Grid& model)
         view, model,
         [rows](QTableView& table, const screen::Grid& grid) { showGrid(table, *rows, grid); });
     forwardMouse(view, model, refresh);
+    tickByKey(view);
     QObject::connect(
         view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
         [&view, &model](const QModelIndex& current) {

@@ -9,16 +9,17 @@ SiteStatusCodes::SiteStatusCodes(std::shared_ptr<sql::Connection> connection)
     : connection_(std::move(connection))
 {
     const auto rows =
-        connection_->prepare("SELECT word, valid, excluded, offline FROM status_word");
+        connection_->prepare("SELECT word, valid, excluded, offline, meaning FROM status_word");
     while (rows->step())
         words_[rows->int32(0)] = {rows->integer(1) != 0, rows->integer(2) != 0,
-                                  rows->integer(3) != 0};
+                                  rows->integer(3) != 0, rows->text(4)};
 }
 
-SiteStatusCodes::Meaning SiteStatusCodes::meaning(std::int32_t status) const
+const SiteStatusCodes::Meaning& SiteStatusCodes::meaning(std::int32_t status) const
 {
+    static const Meaning unknown;
     const auto found = words_.find(status);
-    return found == words_.end() ? Meaning{} : found->second;
+    return found == words_.end() ? unknown : found->second;
 }
 
 bool SiteStatusCodes::IsValid(std::int32_t status)

@@ -1,5 +1,6 @@
 #include "foundation/TextFunctions.h"
 #include "foundation/UtilityFunctions.h"
+#include "sevenday/CalibrationTables.h"
 #include "sevenday/DriftTest.h"
 #include "sevenday/NumberedLine.h"
 
@@ -16,9 +17,6 @@ struct DriftTest::InjectionRecords {
 
 namespace
 {
-
-constexpr const char* kCalibrationTables =
-    "K7CAL,K7PMCAL,K7PS9SINGLEINJCALCHK,K7PS9TRIPLEINJCALCHK";
 
 /// Sorts the keys ascending by insertion.
 Array<std::string> sortedKeys(const std::vector<std::string>& keys)

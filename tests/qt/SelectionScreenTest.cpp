@@ -100,6 +100,20 @@ TEST(ListScreen, TicksWithMouseAndKeys)
     EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kCo));
 }
 
+TEST(ListScreen, TheSpaceBarTicksARowByItsName)
+{
+    const ListScreen screen;
+    QTest::mouseClick(screen.table().viewport(), Qt::LeftButton, {},
+                      screen.table().visualRect(screen.cell(1, 1)).center());
+    screen.hands.press(Qt::Key_Space);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox));
+    screen.hands.press(Qt::Key_Down);
+    screen.hands.press(Qt::Key_Space);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox, kCo));
+    screen.hands.press(Qt::Key_Space);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox));
+}
+
 TEST(ListScreen, ADoubleClickOnANameTicksIt)
 {
     const ListScreen screen;

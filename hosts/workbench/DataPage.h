@@ -1,0 +1,31 @@
+#pragma once
+
+#include "foundation/DataInterface.h"
+#include "foundation/RegionalSettings.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QTabWidget;
+
+namespace k7deval::workbench
+{
+
+/// The data of a site as the tools see it: hourly values and injections of calibrations.
+class DataPage final : public QWidget
+{
+public:
+    /// Regional settings outlive the page.
+    explicit DataPage(const RegionalSettings& regional, QWidget* parent = nullptr);
+
+    /// Shows the data of another site; of none for nothing. What the data raises is told to the
+    /// user.
+    void setServer(const std::shared_ptr<DIServer>& server);
+
+private:
+    const RegionalSettings* regional_;
+    QTabWidget* pages_;
+};
+
+} // namespace k7deval::workbench

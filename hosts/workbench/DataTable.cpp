@@ -78,8 +78,9 @@ QVariant DataTable::data(const QModelIndex& index, int role) const
 
 QVariant DataTable::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    // A row goes by its time, for those who are told where they are.
     if (orientation != Qt::Horizontal)
-        return {};
+        return role == Qt::DisplayRole ? cell(section, 0, Reader::User) : QVariant();
     if (role == Qt::DisplayRole)
         return heading(section, Reader::User);
     if (role == Qt::TextAlignmentRole)

@@ -5,8 +5,10 @@
 #include "qt/UserAction.h"
 #include "sitedb/SiteDatabase.h"
 #include "workbench/HelpWindow.h"
+#include "workbench/ImportDialog.h"
 #include "workbench/MessagePanel.h"
 #include "workbench/Region.h"
+#include "workbench/SiteProperties.h"
 #include "workbench/StartPage.h"
 #include "workbench/ToolTabs.h"
 
@@ -36,8 +38,6 @@ namespace
 constexpr int kLinesOfMessages = 7;
 constexpr QSize kFirstSize(1180, 720);
 constexpr const char* kSiteFilter = "Sites (*.site);;All files (*)";
-constexpr const char* kImportFilter =
-    "EPA files (*.json *.json.gz *.csv *.csv.gz *.gz);;All files (*)";
 
 const qt::Refresh kNothingToRefresh = [] {};
 
@@ -271,9 +271,29 @@ void MainWindow::offerSite(const QString& path)
     settings_->addRecentSite(path);
 }
 
-void MainWindow::importFiles(const QStringList& /*paths*/) {}
+void MainWindow::importFiles(const QStringList& paths)
+{
+    if (site_.isEmpty()) {
+        QMessageBox::information(this, "Import Files",
+                                 "Open a site first, or make a new one, to take the files into.");
+        return;
+    }
+    ImportDialog dialog(site_, *clock_, this);
+    dialog.addFiles(paths);
+    dialog.exec();
+    if (dialog.hasTaken())
+        showAgain();
+}
 
-void MainWindow::askForProperties() {}
+void MainWindow::askForProperties()
+{
+    const auto ask = [this] {
+        SiteProperties dialog(site_, regional_, this);
+        if (dialog.exec() == QDialog::Accepted)
+            showAgain();
+    };
+    qt::forward(*this, ask, kNothingToRefresh);
+}
 
 void MainWindow::listRecentSites()
 {

@@ -1,10 +1,12 @@
 #include "workbench/ToolTabs.h"
 
 #include "qt/UserAction.h"
+#include "workbench/DataPage.h"
 #include "workbench/MessagePanel.h"
 #include "workbench/ToolPages.h"
 
 #include <QScrollArea>
+#include <QTabBar>
 
 #include <utility>
 
@@ -53,6 +55,8 @@ ToolTabs::ToolTabs(const screen::Surroundings& surroundings, MessagePanel& messa
     : QTabWidget(parent), surroundings_(surroundings), messages_(&messages)
 {
     setObjectName("tools");
+    setAccessibleName("Tools");
+    tabBar()->setAccessibleName("Tools");
     setDocumentMode(true);
 }
 
@@ -145,13 +149,20 @@ template <class Page> void ToolTabs::addHistogram(Tool tool)
     page->tool().SetDIServer(server_);
 }
 
-void ToolTabs::addData() {}
+void ToolTabs::addData()
+{
+    auto* page = new DataPage(surroundings_.regional);
+    addPage(Tool::Data, *page);
+    page->setServer(server_);
+}
 
 /// On a small desktop a tool is seen in part and can be scrolled.
 void ToolTabs::addPage(Tool tool, QWidget& page)
 {
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
+    // It follows the field that has the keys.
+    scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidgetResizable(true);
     scroll->setWidget(&page);
     setCurrentIndex(addTab(scroll, titleOf(tool)));

@@ -18,7 +18,7 @@ class MessagePanel;
 
 /// What a site can be looked at with.
 enum class Tool { Drift, Load, Range, Data };
-inline constexpr std::array<Tool, 3> kTools{Tool::Drift, Tool::Load, Tool::Range};
+inline constexpr std::array<Tool, 4> kTools{Tool::Drift, Tool::Load, Tool::Range, Tool::Data};
 
 /// The title of a tool's tab.
 QString titleOf(Tool tool);

@@ -117,7 +117,10 @@ Faults faultsForAScreenReader(const QWidget& screen)
             continue;
         if (const auto* label = qobject_cast<const QLabel*>(view))
             checkLabel(*label, screen, faults);
-        if (view->focusPolicy() != Qt::NoFocus && !isInnerPart(*view) && !isEmptyLabel(*view))
+        // What hands the focus on, such as tabs to their bar, is never read out itself.
+        const bool takesFocus =
+            view->focusPolicy() != Qt::NoFocus && view->focusProxy() == nullptr;
+        if (takesFocus && !isInnerPart(*view) && !isEmptyLabel(*view))
             check(*view, faults);
     }
     return faults;

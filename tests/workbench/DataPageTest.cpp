@@ -2,7 +2,7 @@
 #include "foundation/DateText.h"
 #include "foundation/NumberText.h"
 #include "qt/Operator.h"
-#include "qt/ScreenComparison.h"
+#include "qt/ScreenReader.h"
 #include "sitedb/CsvTable.h"
 #include "sitedb/SampleSite.h"
 #include "sitedb/SourceFile.h"
@@ -34,10 +34,10 @@ namespace
 using k7deval::test::SiteData;
 using k7deval::testing::contentOf;
 using k7deval::testing::TemporaryFolder;
+using qt::test::faultsForAScreenReader;
 using qt::test::Operator;
 using qt::test::settle;
 using qt::test::whenDialogComes;
-using qt::test::withoutAccessibleName;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -162,20 +162,6 @@ void nameFile(const std::string& path, const std::function<void()>& afterwards)
 std::string clipboard()
 {
     return QApplication::clipboard()->text().toStdString();
-}
-
-/// The kinds of the parts on view that take the keys and can't be found by a name.
-std::vector<std::string> withoutName(const QWidget& screen)
-{
-    std::vector<std::string> kinds;
-    for (const QWidget* part : screen.findChildren<QWidget*>()) {
-        // The field of a list belongs to the list.
-        const bool takesKeys = (part->focusPolicy() & Qt::TabFocus) != 0 && part->isVisible() &&
-                               qobject_cast<const QComboBox*>(part->parent()) == nullptr;
-        if (takesKeys && part->objectName().isEmpty())
-            kinds.emplace_back(part->metaObject()->className());
-    }
-    return kinds;
 }
 
 } // namespace
@@ -470,12 +456,10 @@ TEST(DataScreen, AllThatTakesTheKeysIsNamed)
     const DataScreen screen;
     screen.tick("GT3", {"Load"});
     screen.hands.click("hourlyShow");
-    EXPECT_THAT(withoutAccessibleName(screen.page), IsEmpty());
-    EXPECT_THAT(withoutName(screen.page), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(screen.page), IsEmpty());
     screen.showCalibrations();
     screen.hands.click("calibrationShow");
-    EXPECT_THAT(withoutAccessibleName(screen.page), IsEmpty());
-    EXPECT_THAT(withoutName(screen.page), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(screen.page), IsEmpty());
 }
 
 TEST(StatusText, TellsTheMethodOfAMonitorsHour)

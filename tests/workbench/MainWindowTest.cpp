@@ -1,6 +1,7 @@
 #include "workbench/MainWindow.h"
 #include "qt/Operator.h"
 #include "qt/QtServices.h"
+#include "qt/ScreenReader.h"
 #include "sitedb/SampleSite.h"
 #include "support/FakeServices.h"
 #include "support/FakeSite.h"
@@ -124,7 +125,7 @@ struct Workbench {
     }
 };
 
-const QStringList kAllTools{"7-Day Drift", "Load Evaluation", "Range Evaluation"};
+const QStringList kAllTools{"7-Day Drift", "Load Evaluation", "Range Evaluation", "Data"};
 
 } // namespace
 
@@ -173,10 +174,10 @@ TEST(Workbench, AClosedToolCanBeOpenedAgain)
     Workbench bench;
     bench.at(1).click("cmdClose");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(bench.titles(), QStringList({"7-Day Drift", "Range Evaluation"}));
+    EXPECT_EQ(bench.titles(), QStringList({"7-Day Drift", "Range Evaluation", "Data"}));
     bench.choose({"Tools", "2 Load Evaluation"});
     EXPECT_EQ(bench.titles().last(), "Load Evaluation");
-    EXPECT_GT(bench.at(2).view<QComboBox>("cmbUnit").count(), 0);
+    EXPECT_GT(bench.at(3).view<QComboBox>("cmbUnit").count(), 0);
 }
 
 TEST(Workbench, APostedLineStandsWithItsTime)
@@ -342,6 +343,21 @@ TEST(Workbench, ToolsAreReachedByTheirNumbers)
     EXPECT_EQ(bench.tabs().currentIndex(), 2);
     QTest::keyClick(bench.window.windowHandle(), Qt::Key_2, Qt::ControlModifier);
     EXPECT_EQ(bench.tabs().currentIndex(), 1);
+}
+
+TEST(Workbench, AScreenReaderFindsItsWay)
+{
+    const Workbench bench;
+    for (int tab = 0; tab < bench.tabs().count(); ++tab) {
+        bench.tabs().setCurrentIndex(tab);
+        settle();
+        EXPECT_THAT(qt::test::faultsForAScreenReader(bench.window), testing::IsEmpty());
+    }
+    bench.choose({"Help", "Help on This Tool"});
+    EXPECT_THAT(qt::test::faultsForAScreenReader(*bench.window.findChild<QDialog*>("help")),
+                testing::IsEmpty());
+    const Workbench empty("");
+    EXPECT_THAT(qt::test::faultsForAScreenReader(empty.window), testing::IsEmpty());
 }
 
 TEST(Workbench, HelpIsOnTheToolOnView)

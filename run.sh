@@ -33,7 +33,7 @@ cli)
     ;;
 screenshots)
     quietly scripts/sample-round.sh $programs/cli/k7deval out
-    $programs/workbench/k7deval-screenshots out "$2"
+    $programs/workbench/k7deval-screenshots out data/bethpage "$2"
     ;;
 desktop)
     quietly scripts/sample-round.sh $programs/cli/k7deval out

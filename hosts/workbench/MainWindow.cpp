@@ -60,7 +60,7 @@ bool isSite(const QString& path)
 QString lineOf(DIServer& server, const QString& path)
 {
     const QString name = qt::toQString(facilityName(server));
-    return (name.startsWith('<') ? QString() : name + "   ") + QDir::toNativeSeparators(path);
+    return (name.startsWith('<') ? QString() : name + "   ") + QFileInfo(path).fileName();
 }
 
 sitedb::SiteDatabase openDatabase(const QString& path, sitedb::OpenMode mode)
@@ -269,6 +269,8 @@ void MainWindow::openSite(const QString& path)
 void MainWindow::offerSite(const QString& path)
 {
     settings_->addRecentSite(path);
+    if (!server_)
+        showSite(nullptr);
 }
 
 void MainWindow::importFiles(const QStringList& paths)
@@ -338,6 +340,7 @@ void MainWindow::showSite(std::shared_ptr<DIServer> server)
     toolsMenu_->setEnabled(hasUnits);
     setWindowTitle(server_ ? QFileInfo(site_).completeBaseName() + " - K7DEval" : "K7DEval");
     siteLine_->setText(server_ ? lineOf(*server_, site_) : "No site");
+    siteLine_->setToolTip(QDir::toNativeSeparators(site_));
     if (hasUnits) {
         centre_->setCurrentWidget(tools_);
         tools_->open(server_);

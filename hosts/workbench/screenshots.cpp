@@ -2,19 +2,28 @@
 #include "foundation/Error.h"
 #include "qt/QtServices.h"
 #include "qt/Texts.h"
+#include "workbench/HelpWindow.h"
+#include "workbench/ImportDialog.h"
 #include "workbench/MainWindow.h"
+#include "workbench/SiteProperties.h"
 #include "workbench/ToolPages.h"
 #include "workbench/ToolTabs.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 
 #include <cstdlib>
 #include <iostream>
 
 /// Pictures of the desktop program at work on the sample sites, for documentation and for those who
-/// judge its looks: k7deval-screenshots SITES FOLDER
+/// judge its looks: k7deval-screenshots SITES DATA FOLDER, of which DATA has the files of a site to
+/// import
 namespace k7deval::workbench
 {
 
@@ -24,12 +33,19 @@ namespace
 /// A small office screen.
 constexpr QSize kScreen(1366, 768);
 
+/// What the program remembers, whoever runs it.
+struct Memory {
+    explicit Memory(const QString& file) : settings(file) { settings.setRegion("en-US"); }
+
+    Settings settings;
+};
+
 /// One window, and the folder that its pictures go to.
 class Studio
 {
 public:
-    Studio(const QString& sites, const QString& folder)
-        : sites_(sites), folder_(folder), settings_(scratch_.filePath("settings.ini"))
+    Studio(const QString& sites, const QString& data, const QString& folder)
+        : sites_(sites), data_(data), folder_(folder)
     {
         for (const char* site : {"flint-creek", "crystal-river", "barrett", "bethpage"})
             window_.offerSite(pathOf(site));
@@ -54,6 +70,7 @@ public:
     }
 
 private:
+    [[nodiscard]] QString fileOf(const QString& name) const { return QDir(data_).filePath(name); }
     [[nodiscard]] QString pathOf(const QString& site) const
     {
         return QDir(sites_).filePath(site + ".site");
@@ -107,9 +124,13 @@ private:
         dialog.show();
         dialog.addFiles({fileOf("hourly_load_GT4.csv.gz"), fileOf("ecmps_qa_50292.json"),
                          fileOf("spans.csv"), fileOf("tests.csv")});
+        dialog.findChild<QComboBox*>("unit of hourly_load_GT4.csv.gz")->setEditText("GT4");
+        dialog.findChild<QCheckBox*>("leaveOut")->setChecked(true);
         take("import", dialog);
         dialog.findChild<QPushButton*>("import")->click();
-        waitUntil([&] { return dialog.hasTaken() && !dialog.isImporting(); });
+        const auto* cancel = dialog.findChild<QPushButton*>("cancel");
+        while (cancel->isEnabled() && cancel->isVisible())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         take("import-report", dialog);
     }
 
@@ -117,6 +138,12 @@ private:
     {
         window_.tools().goTo(Tool::Data);
         QWidget& page = *window_.tools().page(Tool::Data);
+        auto& rows = *page.findChild<QTableView*>("jgexGrid")->model();
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            const QString name = rows.index(row, 1).data().toString();
+            if (name == "Load" || name == "Operating Time")
+                rows.setData(rows.index(row, 0), Qt::Checked, Qt::CheckStateRole);
+        }
         page.findChild<QPushButton*>("hourlyShow")->click();
         take("data-hours", window_);
         page.findChild<QTabWidget*>("dataPages")->setCurrentIndex(1);
@@ -148,12 +175,13 @@ private:
     }
 
     QString sites_;
+    QString data_;
     QString folder_;
     QTemporaryDir scratch_;
-    Settings settings_;
+    Memory memory_{scratch_.filePath("settings.ini")};
     qt::QtServices services_;
     SystemClock clock_;
-    MainWindow window_{services_, clock_, settings_};
+    MainWindow window_{services_, clock_, memory_.settings};
 };
 
 } // namespace
@@ -166,12 +194,12 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 3 || !QDir().mkpath(arguments[2])) {
-        std::cerr << "usage: k7deval-screenshots SITES FOLDER\n";
+    if (arguments.size() != 4 || !QDir().mkpath(arguments[3])) {
+        std::cerr << "usage: k7deval-screenshots SITES DATA FOLDER\n";
         return EXIT_FAILURE;
     }
     try {
-        k7deval::workbench::Studio(arguments[1], arguments[2]).takeAll();
+        k7deval::workbench::Studio(arguments[1], arguments[2], arguments[3]).takeAll();
     } catch (const std::exception& failure) {
         std::cerr << failure.what() << '\n';
         return EXIT_FAILURE;

@@ -269,7 +269,8 @@ TEST(Workbench, ANewSiteIsEmptyAndAsksForFiles)
     bench.choose({"File", "New Site..."});
     EXPECT_TRUE(QFileInfo::exists(path));
     EXPECT_EQ(bench.label("startTitle").text(), "plant.site has no units yet");
-    EXPECT_EQ(bench.label("siteLine").text(), path);
+    EXPECT_EQ(bench.label("siteLine").text(), "plant.site");
+    EXPECT_EQ(bench.label("siteLine").toolTip(), path);
     EXPECT_TRUE(bench.entry({"File", "Import Files..."}).isEnabled());
     EXPECT_FALSE(bench.entry({"Tools"}).isEnabled());
 }

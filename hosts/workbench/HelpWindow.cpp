@@ -32,7 +32,7 @@ constexpr std::array<Topic, 5> kTopics{{{"sites", "Sites and files"},
 
 QUrl urlOf(const QString& topic)
 {
-    return QUrl("qrc:/k7deval/help/" + topic + ".html");
+    return {"qrc:/k7deval/help/" + topic + ".html"};
 }
 
 QListWidget* makeTopics(QWidget* parent)

@@ -20,6 +20,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 /// Pictures of the desktop program at work on the sample sites, for documentation and for those who
 /// judge its looks: k7deval-screenshots SITES DATA FOLDER, of which DATA has the files of a site to
@@ -44,8 +45,8 @@ struct Memory {
 class Studio
 {
 public:
-    Studio(const QString& sites, const QString& data, const QString& folder)
-        : sites_(sites), data_(data), folder_(folder)
+    Studio(QString sites, QString data, QString folder)
+        : sites_(std::move(sites)), data_(std::move(data)), folder_(std::move(folder))
     {
         for (const char* site : {"flint-creek", "crystal-river", "barrett", "bethpage"})
             window_.offerSite(pathOf(site));

@@ -51,7 +51,7 @@ ImportReport takeStreamed(sql::Connection& connection, const std::filesystem::pa
 /// A format and its import of a file that was identified.
 struct Format {
     FileKind kind;
-    Take take;
+    Take take = nullptr;
 };
 
 FileKind bringingUnits(const char* name)

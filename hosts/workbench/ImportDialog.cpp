@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace k7deval::workbench
 {
@@ -76,8 +77,8 @@ QStringList unitsOf(const QString& sitePath)
 
 } // namespace
 
-ImportDialog::ImportDialog(const QString& sitePath, const Clock& clock, QWidget* parent)
-    : QDialog(parent), sitePath_(sitePath), clock_(&clock), files_(new ImportList(this)),
+ImportDialog::ImportDialog(QString sitePath, const Clock& clock, QWidget* parent)
+    : QDialog(parent), sitePath_(std::move(sitePath)), clock_(&clock), files_(new ImportList(this)),
       add_(new QPushButton("&Add Files...", this)), remove_(new QPushButton("&Remove", this)),
       leaveOut_(new QCheckBox("&Leave out single injections that can't be read", this)),
       report_(new ImportReportView(this)), status_(new QLabel(this)), bar_(new QProgressBar(this)),

@@ -28,7 +28,7 @@ class ImportDialog final : public QDialog
 {
 public:
     /// The clock outlives the dialog.
-    ImportDialog(const QString& sitePath, const Clock& clock, QWidget* parent);
+    ImportDialog(QString sitePath, const Clock& clock, QWidget* parent);
     ImportDialog(const ImportDialog&) = delete;
     ImportDialog& operator=(const ImportDialog&) = delete;
     ~ImportDialog() override;

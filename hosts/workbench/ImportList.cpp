@@ -25,7 +25,7 @@ constexpr int kLongestName = 40;
 enum Role { kPathRole = Qt::UserRole, kStateRole };
 
 struct StateLook {
-    const char* text;
+    const char* text = "";
     std::optional<QStyle::StandardPixmap> icon;
 };
 

@@ -45,8 +45,8 @@ void showFault(QLabel& fault, const QString& sentence)
 
 } // namespace
 
-SiteProperties::SiteProperties(const QString& sitePath, RegionalSettings regional, QWidget* parent)
-    : QDialog(parent), sitePath_(sitePath), regional_(std::move(regional)),
+SiteProperties::SiteProperties(QString sitePath, RegionalSettings regional, QWidget* parent)
+    : QDialog(parent), sitePath_(std::move(sitePath)), regional_(std::move(regional)),
       facility_(new QLineEdit(this)), fault_(makeFault(this, "siteFault"))
 {
     const auto site = openSite(sitePath_, sitedb::OpenMode::ReadOnly);

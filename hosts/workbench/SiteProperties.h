@@ -23,7 +23,7 @@ class SiteProperties final : public QDialog
 {
 public:
     /// Reads the site; raises Error when that can't be done.
-    SiteProperties(const QString& sitePath, RegionalSettings regional, QWidget* parent);
+    SiteProperties(QString sitePath, RegionalSettings regional, QWidget* parent);
 
     /// Stays open, with a sentence at the field, when something can't be written.
     void accept() override;

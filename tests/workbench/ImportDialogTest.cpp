@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -155,6 +156,19 @@ TEST(Import, AFileOfNoKnownFormatIsNotAddedButTold)
     EXPECT_EQ(bench.files().rowCount(), 1);
     EXPECT_EQ(bench.report(), "Not added: notes.txt\nnotes.txt: this is none of the files that can "
                               "be imported.");
+}
+
+TEST(Import, TheReportCanBeCopiedWithTheKeys)
+{
+    SmallSite held;
+    ImportBench bench(held.path);
+    bench.add(held.directory.write("notes.txt", "Dear operator\n"));
+    auto& report = bench.hands.view<QTextEdit>("report");
+    bench.hands.pressMnemonic(Qt::Key_P);
+    ASSERT_TRUE(report.hasFocus());
+    QTest::keyClick(&report, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&report, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), bench.report());
 }
 
 TEST(Import, AFileIsOnTheListOnceAndCanBeRemoved)

@@ -5,6 +5,7 @@
 #include "qt/SelectionViews.h"
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
+#include "workbench/Hourglass.h"
 #include "workbench/InjectionTable.h"
 #include "workbench/SiteReading.h"
 
@@ -20,8 +21,6 @@ namespace
 {
 
 constexpr int kMonthsProposed = 12;
-
-const qt::Refresh kNothingToRefresh = [] {};
 
 /// A calibration parameter that the lists of analyzers show.
 bool isListed(DIParameter& parameter, const RegionalSettings& regional)
@@ -66,7 +65,7 @@ CalibrationsPage::CalibrationsPage(std::shared_ptr<DIServer> server,
     pane_->say("Open a site to see its data.");
     if (server_)
         qt::forward(
-            *this, [this] { fill(); }, kNothingToRefresh);
+            *this, [this] { fill(); }, [] {});
 }
 
 /// The pane goes first: it has the view of the list.
@@ -78,6 +77,7 @@ CalibrationsPage::~CalibrationsPage()
 
 void CalibrationsPage::fill()
 {
+    const Hourglass pointer;
     const DIParameterList calibrations = listedCalibrations(*server_, *regional_);
     if (calibrations.empty()) {
         pane_->setReachable(false);

@@ -26,7 +26,7 @@ void DataPage::setServer(const std::shared_ptr<DIServer>& server)
     const int shown = pages_->currentIndex();
     while (pages_->count() > 0)
         delete pages_->widget(0);
-    pages_->addTab(new HourlyValuesPage(server, *regional_, pages_), "&Hourly Values");
+    pages_->addTab(new HourlyValuesPage(server, *regional_, pages_), "Ho&urly Values");
     pages_->addTab(new CalibrationsPage(server, *regional_, pages_), "Cali&brations");
     pages_->setCurrentIndex(std::max(shown, 0));
 }

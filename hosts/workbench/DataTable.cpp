@@ -50,11 +50,21 @@ QString quoted(QString field)
     return needsQuotes ? '"' + field.replace('"', "\"\"") + '"' : field;
 }
 
+int alignmentOf(bool isNumber)
+{
+    return static_cast<int>((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
 } // namespace
+
+bool isMissing(const Variant& value)
+{
+    return isNull(value) || std::holds_alternative<Empty>(value);
+}
 
 QString cellText(const Variant& value, Reader reader, const RegionalSettings& regional)
 {
-    if (isNull(value) || std::holds_alternative<Empty>(value))
+    if (isMissing(value))
         return {};
     return qt::toQString(reader == Reader::User ? toText(value, regional) : programText(value));
 }
@@ -71,8 +81,7 @@ QVariant DataTable::data(const QModelIndex& index, int role) const
     if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole)
         return explanation(index.row(), index.column());
     if (role == Qt::TextAlignmentRole)
-        return QVariant((isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft) |
-                        Qt::AlignVCenter);
+        return alignmentOf(isNumber(index.column()));
     return {};
 }
 
@@ -84,7 +93,7 @@ QVariant DataTable::headerData(int section, Qt::Orientation orientation, int rol
     if (role == Qt::DisplayRole)
         return heading(section, Reader::User);
     if (role == Qt::TextAlignmentRole)
-        return QVariant((isNumber(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return alignmentOf(isNumber(section));
     return {};
 }
 

@@ -16,6 +16,8 @@ namespace k7deval::workbench
 /// point and dates as in 2018-05-04 10:13.
 enum class Reader { User, Program };
 
+/// Whether there is no value: Null, or never given.
+bool isMissing(const Variant& value);
 /// A value as a cell shows it; nothing for a missing one.
 QString cellText(const Variant& value, Reader reader, const RegionalSettings& regional);
 

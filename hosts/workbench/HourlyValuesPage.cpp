@@ -6,6 +6,7 @@
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
 #include "workbench/HourTable.h"
+#include "workbench/Hourglass.h"
 #include "workbench/SiteReading.h"
 
 #include <QTableView>
@@ -19,8 +20,6 @@ namespace
 
 constexpr int kDaysProposed = 31;
 constexpr int kHoursPerDay = 24;
-
-const qt::Refresh kNothingToRefresh = [] {};
 
 /// "8,784 hours"
 QString countText(int count, const QString& what, const RegionalSettings& regional)
@@ -61,7 +60,7 @@ HourlyValuesPage::HourlyValuesPage(std::shared_ptr<DIServer> server,
     pane_->say("Open a site to see its data.");
     if (server_)
         qt::forward(
-            *this, [this] { fill(); }, kNothingToRefresh);
+            *this, [this] { fill(); }, [] {});
 }
 
 /// The pane goes first: it has the view of the list.
@@ -73,6 +72,7 @@ HourlyValuesPage::~HourlyValuesPage()
 
 void HourlyValuesPage::fill()
 {
+    const Hourglass pointer;
     const DIParameterList parameters = server_->ParametersOfInterval("h");
     if (parameters.empty()) {
         pane_->setReachable(false);

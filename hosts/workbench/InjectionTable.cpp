@@ -17,14 +17,9 @@ namespace
 /// The style of a date with hours and minutes.
 constexpr std::int32_t kDateWithMinutes = 10;
 
-bool isThere(const Variant& value)
-{
-    return !isNull(value) && !std::holds_alternative<Empty>(value);
-}
-
 Variant driftOf(const InjectionRow& row, const RegionalSettings& regional)
 {
-    if (!isThere(row.reference) || !isThere(row.measured))
+    if (isMissing(row.reference) || isMissing(row.measured))
         return Null{};
     clsStrippedCal injection;
     injection.ReferenceValue = toSingle(row.reference, regional);
@@ -35,7 +30,7 @@ Variant driftOf(const InjectionRow& row, const RegionalSettings& regional)
 /// As the record names it; the kind of gas for one without a name.
 std::string gasLevelOf(DIRecord& record)
 {
-    const std::string text = record.GasLevelText();
+    std::string text = record.GasLevelText();
     if (!text.empty())
         return text;
     return record.GasLevelCode() == 0 ? "zero gas" : "upscale gas";
@@ -52,7 +47,7 @@ public:
 
     const QString& of(const Variant& sourceTag)
     {
-        const PID pid = isThere(sourceTag) ? toInt32(sourceTag, *regional_) : 0;
+        const PID pid = isMissing(sourceTag) ? 0 : toInt32(sourceTag, *regional_);
         const auto found = names_.find(pid);
         return found != names_.end() ? found->second
                                      : names_.emplace(pid, nameOf(pid)).first->second;
@@ -108,7 +103,7 @@ struct Writing {
     }
     [[nodiscard]] QString yesOrNo(const Variant& value) const
     {
-        if (!isThere(value))
+        if (isMissing(value))
             return {};
         return toBoolean(value, regional) ? "yes" : "no";
     }

@@ -8,6 +8,7 @@
 #include "qt/QtServices.h"
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
+#include "workbench/Hourglass.h"
 
 #include <QAction>
 #include <QApplication>
@@ -38,18 +39,6 @@ constexpr int kMostYears = 10;
 constexpr int kMonthsPerYear = 12;
 constexpr int kWidthOfLeft = 30;  ///< In letters.
 constexpr int kMostOfColumn = 40; ///< In letters.
-
-const qt::Refresh kNothingToRefresh = [] {};
-
-/// The pointer of a program at work, while it is.
-class Hourglass
-{
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-};
 
 /// The dialog itself asks about a file that is there.
 QString askForFile(QWidget& over)
@@ -83,9 +72,8 @@ QString Period::text(const RegionalSettings& regional) const
     return qt::toQString("from " + ShortDate(first, regional) + " to " + ShortDate(last, regional));
 }
 
-QueryPane::QueryPane(const QString& name, const RegionalSettings& regional, Ask ask,
-                     QWidget* parent)
-    : QWidget(parent), name_(name), regional_(&regional), ask_(std::move(ask))
+QueryPane::QueryPane(QString name, const RegionalSettings& regional, Ask ask, QWidget* parent)
+    : QWidget(parent), name_(std::move(name)), regional_(&regional), ask_(std::move(ask))
 {
     auto* halves = new QSplitter(this);
     halves->setChildrenCollapsible(false);
@@ -255,7 +243,7 @@ void QueryPane::askForData()
         const Hourglass pointer;
         ask_(*asked);
     };
-    qt::forward(*this, show, kNothingToRefresh);
+    qt::forward(*this, show, [] {});
 }
 
 std::optional<Period> QueryPane::period()
@@ -333,7 +321,7 @@ void QueryPane::save()
             const Hourglass pointer;
             replaceFile(path.toStdString(), csvText(*table_));
         },
-        kNothingToRefresh);
+        [] {});
 }
 
 } // namespace k7deval::workbench

@@ -39,7 +39,7 @@ public:
     /// name: ahead of the names of all parts of the screen, "hourly". ask: run when the user wants
     /// to see the data of days that are all right; what it raises is told to him. Regional settings
     /// outlive the pane.
-    QueryPane(const QString& name, const RegionalSettings& regional, Ask ask, QWidget* parent);
+    QueryPane(QString name, const RegionalSettings& regional, Ask ask, QWidget* parent);
 
     /// Puts what is chosen from at the left, above the days. The mnemonic of the caption leads to
     /// its last part, and the keys go on from there to the days.

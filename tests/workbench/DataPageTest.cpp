@@ -449,6 +449,11 @@ TEST(DataScreen, IsWorkedByKeysAlone)
     EXPECT_EQ(table.currentIndex().column(), 2);
     screen.hands.press(Qt::Key_Tab);
     EXPECT_FALSE(table.hasFocus());
+    const auto& pages = screen.hands.view<QTabWidget>("dataPages");
+    screen.hands.pressMnemonic(Qt::Key_B);
+    EXPECT_EQ(pages.currentIndex(), 1);
+    screen.hands.pressMnemonic(Qt::Key_U);
+    EXPECT_EQ(pages.currentIndex(), 0);
 }
 
 TEST(DataScreen, AllThatTakesTheKeysIsNamed)

@@ -21,6 +21,8 @@ public:
     Modal& operator=(const Modal&) = delete;
     ~Modal() { delete dialog_.data(); }
 
+    /// Whether the dialog is still there.
+    explicit operator bool() const { return !dialog_.isNull(); }
     Dialog* operator->() const { return dialog_.data(); }
     Dialog& operator*() const { return *dialog_; }
     /// Asks, and says what was answered: the result of the dialog, or that of a rejected one when

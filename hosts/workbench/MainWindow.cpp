@@ -1,6 +1,7 @@
 #include "workbench/MainWindow.h"
 
 #include "foundation/FileFunctions.h"
+#include "qt/Modal.h"
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
 #include "sitedb/SiteDatabase.h"
@@ -280,18 +281,19 @@ void MainWindow::importFiles(const QStringList& paths)
                                  "Open a site first, or make a new one, to take the files into.");
         return;
     }
-    ImportDialog dialog(site_, *clock_, this);
-    dialog.addFiles(paths);
-    dialog.exec();
-    if (dialog.hasTaken())
+    qt::Modal<ImportDialog> dialog(site_, *clock_, this);
+    dialog->addFiles(paths);
+    static_cast<void>(dialog.ask());
+    // The window may be gone, and the dialog with it.
+    if (dialog && dialog->hasTaken())
         showAgain();
 }
 
 void MainWindow::askForProperties()
 {
     const auto ask = [this] {
-        SiteProperties dialog(site_, regional_, this);
-        if (dialog.exec() == QDialog::Accepted)
+        qt::Modal<SiteProperties> dialog(site_, regional_, this);
+        if (dialog.ask() == QDialog::Accepted)
             showAgain();
     };
     qt::forward(*this, ask, kNothingToRefresh);

@@ -31,8 +31,8 @@ public:
 private:
     struct UnitRow {
         sitedb::UnitPower held;
-        QLineEdit* capacity;
-        QLabel* fault;
+        QLineEdit* capacity = nullptr;
+        QLabel* fault = nullptr;
     };
 
     QLabel* makeFault(QWidget* parent, const QString& name);

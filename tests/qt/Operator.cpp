@@ -5,10 +5,14 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <QWindow>
 
 #include <algorithm>
@@ -110,6 +114,23 @@ void Operator::photograph(const std::string& name) const
 void settle()
 {
     QApplication::processEvents();
+}
+
+void dropFiles(QWidget& target, const std::vector<std::filesystem::path>& files)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const auto& file : files)
+        urls << QUrl::fromLocalFile(QString::fromStdString(file.string()));
+    data.setUrls(urls);
+    const QPoint spot = target.rect().center();
+    QDragEnterEvent enter(spot, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted())
+        return;
+    QDropEvent drop(spot, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &drop);
+    settle();
 }
 
 void whenDialogComes(std::function<void(QDialog&)> deal)

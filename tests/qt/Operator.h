@@ -2,10 +2,12 @@
 
 #include <QWidget>
 
+#include <filesystem>
 #include <functional>
 #include <ostream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 class QDialog;
 
@@ -61,6 +63,9 @@ private:
 
 /// Lets the event loop deal with what waits.
 void settle();
+
+/// Drops files on a part of the screen, if it takes them.
+void dropFiles(QWidget& target, const std::vector<std::filesystem::path>& files);
 
 /// Does something with the next dialog that comes up, over whatever runs then. Each dialog has to
 /// be dealt with so that the program goes on.

@@ -118,8 +118,7 @@ Faults faultsForAScreenReader(const QWidget& screen)
         if (const auto* label = qobject_cast<const QLabel*>(view))
             checkLabel(*label, screen, faults);
         // What hands the focus on, such as tabs to their bar, is never read out itself.
-        const bool takesFocus =
-            view->focusPolicy() != Qt::NoFocus && view->focusProxy() == nullptr;
+        const bool takesFocus = view->focusPolicy() != Qt::NoFocus && view->focusProxy() == nullptr;
         if (takesFocus && !isInnerPart(*view) && !isEmptyLabel(*view))
             check(*view, faults);
     }

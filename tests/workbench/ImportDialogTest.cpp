@@ -7,12 +7,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
-#include <QUrl>
 
 namespace k7deval::workbench::test
 {
@@ -20,6 +16,7 @@ namespace k7deval::workbench::test
 namespace
 {
 
+using qt::test::dropFiles;
 using qt::test::settle;
 using sitedb::test::EmptySite;
 using sitedb::test::SmallSite;
@@ -30,23 +27,6 @@ using testing::Not;
 constexpr const char* kSpans =
     "unit_id,component_id,component_type,span_scale,span_value,units\nU2,010,NOX,H,100,PPM\n";
 constexpr const char* kLoad = "date,hour,gross_load_mw\n2020-01-01,0,10\n2020-01-01,1,0\n";
-
-void drop(QWidget& target, const std::vector<std::filesystem::path>& files)
-{
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const auto& file : files)
-        urls << QUrl::fromLocalFile(QString::fromStdString(file.string()));
-    data.setUrls(urls);
-    const QPoint spot = target.rect().center();
-    QDragEnterEvent enter(spot, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&target, &enter);
-    if (!enter.isAccepted())
-        return;
-    QDropEvent drop(spot, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&target, &drop);
-    settle();
-}
 
 QStringList unitsIn(const std::filesystem::path& site)
 {
@@ -65,9 +45,9 @@ TEST(Import, TakesDroppedFilesIntoANewSite)
     const auto site = directory / "plant.k7site";
     ImportBench bench(site);
     bench.hands.photograph("import-empty");
-    drop(*bench.dialog,
-         {sitedb::test::sampleFile("hourly_load_GT3.csv.gz"),
-          sitedb::test::sampleFile("ecmps_qa_50292.json"), sitedb::test::sampleFile("spans.csv")});
+    dropFiles(*bench.dialog, {sitedb::test::sampleFile("hourly_load_GT3.csv.gz"),
+                              sitedb::test::sampleFile("ecmps_qa_50292.json"),
+                              sitedb::test::sampleFile("spans.csv")});
     ASSERT_EQ(bench.files().rowCount(), 3);
     EXPECT_EQ(bench.row(0), QStringList({"spans.csv", "span table", "waiting"}));
     EXPECT_EQ(bench.row(1), QStringList({"hourly_load_GT3.csv.gz", "hourly load", "waiting"}));
@@ -152,7 +132,7 @@ TEST(Import, AFileOfNoKnownFormatIsNotAddedButTold)
     SmallSite held;
     ImportBench bench(held.path);
     const auto notes = held.directory.write("notes.txt", "Dear operator\n");
-    drop(*bench.dialog, {notes, held.directory.write("load.csv", kLoad)});
+    dropFiles(*bench.dialog, {notes, held.directory.write("load.csv", kLoad)});
     EXPECT_EQ(bench.files().rowCount(), 1);
     EXPECT_EQ(bench.report(), "Not added: notes.txt\nnotes.txt: this is none of the files that can "
                               "be imported.");

@@ -1,13 +1,10 @@
 #include "workbench/MainWindow.h"
-#include "qt/Operator.h"
 #include "qt/QtServices.h"
 #include "qt/ScreenReader.h"
-#include "sitedb/SampleSite.h"
-#include "support/FakeServices.h"
-#include "support/FakeSite.h"
 #include "workbench/MessagePanel.h"
 #include "workbench/Region.h"
 #include "workbench/ToolTabs.h"
+#include "workbench/Workbench.h"
 
 #include <gmock/gmock.h>
 
@@ -17,23 +14,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTreeWidget>
-
-#include <algorithm>
-#include <memory>
 
 namespace k7deval::workbench::test
 {
@@ -41,89 +29,9 @@ namespace k7deval::workbench::test
 namespace
 {
 
-using k7deval::test::FakeServices;
-using k7deval::test::FixedClock;
 using qt::test::Operator;
 using qt::test::settle;
 using qt::test::whenDialogComes;
-using sitedb::test::SampleSite;
-
-std::string sampleSite()
-{
-    static const SampleSite sample;
-    return (sample.directory / "bethpage.k7site").string();
-}
-
-/// What the program remembers, gone with the test.
-struct Memory {
-    QTemporaryDir folder;
-    Settings settings{folder.filePath("settings.ini")};
-
-    Memory() { settings.setRegion("en-US"); }
-};
-
-/// An operator at the program with the sample open, on 2 May 2024.
-struct Workbench {
-    explicit Workbench(const std::string& site = sampleSite(),
-                       std::shared_ptr<Memory> known = std::make_shared<Memory>())
-        : memory(std::move(known))
-    {
-        window.resize(1000, 760);
-        window.show();
-        if (!site.empty())
-            window.openSite(QString::fromStdString(site));
-        settle();
-    }
-
-    std::shared_ptr<Memory> memory;
-    FakeServices services;
-    FixedClock clock{makeDate(2024, 5, 2, 9, 30)};
-    MainWindow window{services, clock, memory->settings};
-
-    [[nodiscard]] QTabWidget& tabs() const { return *window.findChild<QTabWidget*>("tools"); }
-    [[nodiscard]] QStringList titles() const
-    {
-        QStringList titles;
-        for (int tab = 0; tab < tabs().count(); ++tab)
-            titles << tabs().tabText(tab);
-        return titles;
-    }
-    /// The hands of the operator in a tab.
-    [[nodiscard]] Operator at(int tab)
-    {
-        tabs().setCurrentIndex(tab);
-        return Operator(*tabs().widget(tab));
-    }
-    /// The entry of a menu, by the texts on the way to it; std::runtime_error when there is none.
-    [[nodiscard]] QAction& entry(const QStringList& way) const
-    {
-        QList<QAction*> actions = window.menuBar()->actions();
-        QAction* found = nullptr;
-        for (const QString& text : way) {
-            const auto at = std::ranges::find_if(actions, [&](const QAction* action) {
-                return QString(action->text()).remove('&') == text;
-            });
-            if (at == actions.end())
-                throw std::runtime_error("no such entry: " + text.toStdString());
-            found = *at;
-            if (found->menu() != nullptr) {
-                emit found->menu()->aboutToShow();
-                actions = found->menu()->actions();
-            }
-        }
-        return *found;
-    }
-    void choose(const QStringList& way) const
-    {
-        entry(way).trigger();
-        settle();
-    }
-    [[nodiscard]] QLabel& label(const char* name) const { return *window.findChild<QLabel*>(name); }
-    [[nodiscard]] QTableWidget& messages() const
-    {
-        return *window.findChild<QTableWidget*>("messages");
-    }
-};
 
 const QStringList kAllTools{"7-Day Drift", "Load Evaluation", "Range Evaluation", "Data"};
 

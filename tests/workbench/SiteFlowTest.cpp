@@ -1,0 +1,140 @@
+#include "sitedb/EmissionsCase.h"
+#include "workbench/ImportBench.h"
+#include "workbench/Workbench.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace k7deval::workbench::test
+{
+
+namespace
+{
+
+using qt::test::dropFiles;
+using qt::test::Operator;
+using qt::test::settle;
+using qt::test::whenDialogComes;
+using sitedb::test::sampleFile;
+
+constexpr const char* kSpansOfU2 =
+    "unit_id,component_id,component_type,span_scale,span_value,units\nU2,010,NOX,H,100,PPM\n";
+
+/// Takes all files of the import dialog that comes, and closes it.
+void importAllWhenAsked()
+{
+    whenDialogComes([](QDialog& dialog) {
+        const Operator hands(dialog);
+        hands.click("import");
+        const auto& bar = hands.view<QProgressBar>("progress");
+        if (!QTest::qWaitFor([&] { return !bar.isVisible(); }, kLongest))
+            throw std::runtime_error("the import does not end");
+        hands.click("close");
+    });
+}
+
+/// The text of the message box that comes, which is closed.
+std::shared_ptr<QString> textOfNextBox()
+{
+    auto text = std::make_shared<QString>();
+    whenDialogComes([text](QDialog& dialog) {
+        *text = dynamic_cast<QMessageBox&>(dialog).text();
+        dialog.accept();
+    });
+    return text;
+}
+
+} // namespace
+
+TEST(SiteFlow, AnEmptySiteIsFilledByDroppingFilesOnTheWindow)
+{
+    Workbench bench("");
+    bench.window.newSite(bench.memory->folder.filePath("plant.site"));
+    importAllWhenAsked();
+    dropFiles(bench.window, {sampleFile("spans.csv")});
+    EXPECT_EQ(bench.tabs().count(), 4);
+    EXPECT_EQ(bench.tabs().currentIndex(), 0);
+    const auto& units = bench.at(1).view<QComboBox>("cmbUnit");
+    EXPECT_EQ(units.count(), 4);
+    EXPECT_EQ(units.itemText(0), "GT1");
+}
+
+TEST(SiteFlow, AnImportLeavesTheOperatorAtHisTool)
+{
+    sitedb::test::SmallSite held;
+    Workbench bench(held.path.string());
+    bench.tabs().setCurrentIndex(2);
+    importAllWhenAsked();
+    dropFiles(bench.window, {held.directory.write("spans.csv", kSpansOfU2)});
+    EXPECT_EQ(bench.tabs().currentIndex(), 2);
+    EXPECT_GE(bench.at(2).view<QComboBox>("cmbUnit").findText("U2"), 0);
+}
+
+TEST(SiteFlow, AnImportThatTookNothingLeavesTheToolsAlone)
+{
+    const sitedb::test::SmallSite held;
+    Workbench bench(held.path.string());
+    const Operator hands = bench.at(0);
+    hands.enter("txtToDate", "1/15/2023");
+    whenDialogComes([](QDialog& dialog) { dialog.reject(); });
+    bench.window.importFiles({});
+    EXPECT_EQ(bench.at(0).view<QLineEdit>("txtToDate").text(), "1/15/2023");
+}
+
+TEST(SiteFlow, ADroppedSiteIsOpened)
+{
+    const sitedb::test::SmallSite held;
+    Workbench bench("");
+    const auto site = held.directory / "other.site";
+    std::filesystem::copy_file(held.path, site);
+    dropFiles(bench.window, {site});
+    EXPECT_EQ(bench.window.windowTitle(), "other - K7DEval");
+    EXPECT_EQ(bench.tabs().count(), 4);
+}
+
+TEST(SiteFlow, FilesDroppedWithoutASiteAreAskedToWait)
+{
+    Workbench bench("");
+    const auto told = textOfNextBox();
+    dropFiles(bench.window, {sampleFile("spans.csv")});
+    EXPECT_EQ(*told, "Open a site first, or make a new one, to take the files into.");
+}
+
+TEST(SiteFlow, TheFacilityOfTheSiteIsShown)
+{
+    sitedb::test::SmallSite held;
+    const Workbench bench(held.path.string());
+    whenDialogComes([](QDialog& dialog) {
+        const Operator hands(dialog);
+        hands.type("facility", "Plant of the North");
+        hands.press(Qt::Key_Return);
+    });
+    bench.choose({"File", "Site Properties..."});
+    EXPECT_THAT(bench.label("siteLine").text().toStdString(),
+                testing::StartsWith("Plant of the North   "));
+}
+
+// As when the desktop's session ends.
+TEST(SiteFlow, ClosingTheProgramDuringAnImportLeavesTheSiteAsItWas)
+{
+    LongImport source;
+    Workbench bench(source.held.path.string());
+    bool wasInTheMiddle = false;
+    whenDialogComes([&](QDialog& dialog) {
+        const Operator hands(dialog);
+        hands.click("import");
+        const auto& bar = hands.view<QProgressBar>("progress");
+        wasInTheMiddle = QTest::qWaitFor([&] { return bar.value() > 50; }, kLongest);
+        QApplication::closeAllWindows();
+    });
+    dropFiles(bench.window, {source.file});
+    EXPECT_TRUE(wasInTheMiddle);
+    EXPECT_FALSE(bench.window.isVisible());
+    source.expectSiteAsItWas();
+}
+
+} // namespace k7deval::workbench::test

@@ -140,6 +140,16 @@ TEST(LoadScreen, AScreenReaderMakesSenseOfIt)
     EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
 }
 
+TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
+{
+    LoadBench bench;
+    {
+        ctrlMaxMWView view(bench.tool);
+        Operator(view).type("txtCapacity", "abc");
+    }
+    EXPECT_EQ(bench.tool.txtCapacity.Text(), "abc");
+}
+
 TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)
 {
     LoadBench bench;

@@ -143,10 +143,10 @@ TEST(LoadScreen, AScreenReaderMakesSenseOfIt)
 TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
 {
     LoadBench bench;
-    {
-        ctrlMaxMWView view(bench.tool);
-        Operator(view).type("txtCapacity", "abc");
-    }
+    QWidget window;
+    auto* view = new ctrlMaxMWView(bench.tool, &window);
+    Operator(window).type("txtCapacity", "abc");
+    delete view;
     EXPECT_EQ(bench.tool.txtCapacity.Text(), "abc");
 }
 

@@ -69,7 +69,10 @@ public:
 
     [[nodiscard]] bool isValid() const override { return !chart_.isNull(); }
     [[nodiscard]] QObject* object() const override { return nullptr; }
-    [[nodiscard]] QWindow* window() const override { return table()->window(); }
+    [[nodiscard]] QWindow* window() const override
+    {
+        return isValid() ? table()->window() : nullptr;
+    }
     [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override
     {
         return nullptr;
@@ -191,7 +194,7 @@ public:
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override
     {
         const auto* cell = dynamic_cast<const ChartCell*>(child);
-        if (cell != nullptr)
+        if (cell != nullptr && cell->parent() == this)
             return indexOf({cell->rowIndex(), cell->columnIndex()});
         const int index = QAccessibleWidget::indexOfChild(child);
         return index < 0 ? -1 : kCellCount + index;

@@ -9,7 +9,7 @@ namespace k7deval::qt
 {
 
 /// Runs a function at the events of one kind that an object gets, before it deals with them itself.
-/// Belongs to the object.
+/// Belongs to the object. Events that come while the object goes are not watched any more.
 class EventWatch final : public QObject
 {
 public:
@@ -18,6 +18,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    const QMetaObject* kind_;
     QEvent::Type type_;
     std::function<void(const QEvent&)> run_;
 };

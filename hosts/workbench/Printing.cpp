@@ -167,6 +167,8 @@ void nameFields(const QPrintPreviewDialog& dialog)
 
 void printPages(const ReportDocument& document, QPrinter& printer)
 {
+    if (document.Pages().Count() == 0)
+        throw Error(errors::kInvalidCall);
     printer.setFullPage(true);
     QPainter painter;
     if (!painter.begin(&printer))

@@ -21,8 +21,8 @@ void printReport(const ReportDocument& document, QWidget* over);
 void previewReport(const ReportDocument& document, QWidget* over);
 
 /// Draws the pages that a printer is set to, at their true size in the middle of the paper; moved,
-/// or else drawn smaller, where the printer would cut something off. Error 440 when the printer
-/// fails.
+/// or else drawn smaller, where the printer would cut something off. Error 5 for a document without
+/// pages, error 440 when the printer fails.
 void printPages(const ReportDocument& document, QPrinter& printer);
 
 /// The report of a tool as it is now; nothing when there is none.

@@ -140,6 +140,16 @@ TEST(LoadScreen, AScreenReaderMakesSenseOfIt)
     EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
 }
 
+TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
+{
+    LoadBench bench;
+    QWidget window;
+    auto* view = new ctrlMaxMWView(bench.tool, &window);
+    Operator(window).type("txtCapacity", "abc");
+    delete view;
+    EXPECT_EQ(bench.tool.txtCapacity.Text(), "abc");
+}
+
 TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)
 {
     LoadBench bench;

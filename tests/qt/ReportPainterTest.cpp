@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdlib>
 
 /// What is drawn on a screen or a printer, beside what a PDF reader draws of the same document.
 namespace k7deval::qt::test
@@ -96,8 +95,6 @@ Difference difference(const ReportDocument& document)
     const auto width = static_cast<int>(page.Width());
     const auto height = static_cast<int>(page.Height());
     const QImage image = painted(page);
-    if (const char* shots = std::getenv("K7DEVAL_SCREENS"); shots != nullptr)
-        image.save(QString(shots) + "/report-painted.png");
     Difference found;
     for (int top = 0; top + kSquare <= height; top += kSquare) {
         for (int left = 0; left + kSquare <= width; left += kSquare) {

@@ -38,9 +38,12 @@ std::string nameOf(const QWidget& view)
                                        : view.objectName().toStdString();
 }
 
-/// Such as the line of a list with an edit field: the reader gets the whole.
+/// Such as the line of a list with an edit field, of which the reader gets the whole, or a frame
+/// that hands the focus on.
 bool isInnerPart(const QWidget& view)
 {
+    if (view.focusProxy() != nullptr)
+        return true;
     const QWidget* whole = view.parentWidget();
     const auto* area = qobject_cast<const QAbstractScrollArea*>(whole);
     return (area != nullptr && area->viewport() == &view) ||

@@ -1,4 +1,5 @@
 #include "workbench/Printing.h"
+#include "foundation/ExpectError.h"
 #include "load/ctrlMaxMW.h"
 #include "qt/Operator.h"
 #include "qt/ScreenReader.h"
@@ -20,8 +21,6 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTest>
-
-#include <filesystem>
 
 namespace k7deval::workbench::test
 {
@@ -217,12 +216,14 @@ TEST(PrintPages, APrinterThatFailsIsAnError)
     const NumberedPages report(1);
     FilePrinter file;
     file.printer.setOutputFileName(QString::fromStdString(file.folder.file("nowhere/x.pdf")));
-    try {
-        printPages(report.document, file.printer);
-        FAIL() << "no error";
-    } catch (const Error& error) {
-        EXPECT_EQ(error.number(), 440);
-    }
+    EXPECT_EQ(errorOf([&] { printPages(report.document, file.printer); }), 440);
+}
+
+TEST(PrintPages, ADocumentWithoutPagesIsAnError)
+{
+    FilePrinter file;
+    EXPECT_EQ(errorOf([&] { printPages(ReportDocument(), file.printer); }), 5);
+    EXPECT_THAT(file.folder.names(), IsEmpty());
 }
 
 TEST(PrintPreview, ShowsAllPagesOnTheirPaper)

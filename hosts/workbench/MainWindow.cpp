@@ -23,6 +23,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -112,6 +113,9 @@ void MainWindow::addFileMenu()
     import_ = file.addAction("&Import Files...", QKeySequence("Ctrl+I"), this,
                              [this] { importFiles({}); });
     properties_ = file.addAction("Site &Properties...", this, [this] { askForProperties(); });
+    file.addSeparator();
+    file.addAction("P&rint...", QKeySequence::Print, this, [this] { pressOnPage("cmdPrint"); });
+    file.addAction("Print Pre&view...", this, [this] { pressOnPage("cmdPrintPreview"); });
     file.addSeparator();
     file.addAction("&Quit", QKeySequence::Quit, this, &QWidget::close);
 }
@@ -311,6 +315,15 @@ void MainWindow::listRecentSites()
     recentMenu_->setEnabled(number > 0);
     recentMenu_->addSeparator();
     recentMenu_->addAction("&Clear List", this, [this] { settings_->clearRecentSites(); });
+}
+
+/// A button that can't be pressed now does nothing here, either.
+void MainWindow::pressOnPage(const QString& name)
+{
+    auto* page = tools_->isVisible() ? tools_->currentWidget() : nullptr;
+    auto* button = page == nullptr ? nullptr : page->findChild<QPushButton*>(name);
+    if (button != nullptr && button->isVisible())
+        button->click();
 }
 
 /// The tools keep to the region that they were made for, so they are made anew.

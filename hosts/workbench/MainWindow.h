@@ -66,6 +66,8 @@ private:
     void askForNewSite();
     void askForProperties();
     void listRecentSites();
+    /// Presses a button of the tool on view, if it has one of that name.
+    void pressOnPage(const QString& name);
     void takeRegion(const QString& name);
     /// Shows the site anew as it is now, on the same tool.
     void showAgain();

@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -267,6 +268,35 @@ TEST(Workbench, AScreenReaderFindsItsWay)
                 testing::IsEmpty());
     const Workbench empty("");
     EXPECT_THAT(qt::test::faultsForAScreenReader(empty.window), testing::IsEmpty());
+}
+
+TEST(Workbench, PrintsTheToolOnViewFromItsMenu)
+{
+    Workbench bench;
+    const Operator hands = bench.at(1);
+    hands.enter("txtMinSafe", "30");
+    hands.enter("txtCapacity", "84");
+    const auto titleOfPreview = [&bench] {
+        auto title = std::make_shared<QString>();
+        whenDialogComes([title](QDialog& dialog) {
+            *title = dialog.windowTitle();
+            dialog.reject();
+        });
+        bench.choose({"File", "Print Preview..."});
+        return *title;
+    };
+    hands.click("cmdCalculate");
+    EXPECT_TRUE(titleOfPreview().startsWith("Print Preview - ")) << titleOfPreview().toStdString();
+}
+
+TEST(Workbench, PrintsNothingWhereThereIsNoResult)
+{
+    Workbench bench;
+    bench.at(0);
+    bench.choose({"File", "Print..."});
+    bench.tabs().setCurrentIndex(3);
+    bench.choose({"File", "Print Preview..."});
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST(Workbench, HelpIsOnTheToolOnView)

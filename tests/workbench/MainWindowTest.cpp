@@ -291,8 +291,7 @@ TEST(Workbench, PrintsTheToolOnViewFromItsMenu)
 
 TEST(Workbench, PrintsNothingWhereThereIsNoResult)
 {
-    Workbench bench;
-    bench.at(0);
+    const Workbench bench;
     bench.choose({"File", "Print..."});
     bench.tabs().setCurrentIndex(3);
     bench.choose({"File", "Print Preview..."});

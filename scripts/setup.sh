@@ -4,7 +4,7 @@
 build_packages=(
     ca-certificates cmake ninja-build g++ ccache
     libpugixml-dev libhpdf-dev libsqlite3-dev zlib1g-dev nlohmann-json3-dev libcli11-dev
-    fonts-dejavu-core pybind11-dev python3-dev qt6-base-dev
+    fonts-dejavu-core fonts-urw-base35 pybind11-dev python3-dev qt6-base-dev
 )
 test_packages=(
     clang-format clang-tidy git libgtest-dev libgmock-dev librapidcheck-dev poppler-utils python3 python3-numpy

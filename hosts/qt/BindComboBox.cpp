@@ -43,13 +43,24 @@ void showEntries(QComboBox& view, const screen::ComboBox& model)
     fitWidth(view);
 }
 
+/// A text that stays keeps its cursor: the first key typed into the text of an entry deselects it.
+void showText(QComboBox& view, const QString& text, const QString& before, int cursor)
+{
+    if (view.currentText() != text)
+        view.setEditText(text);
+    if (text == before)
+        view.lineEdit()->setCursorPosition(cursor);
+}
+
 void showComboBox(QComboBox& view, const screen::ComboBox& model)
 {
+    const QString before = view.currentText();
+    const int cursor = view.isEditable() ? view.lineEdit()->cursorPosition() : 0;
     showEntries(view, model);
     if (view.currentIndex() != model.ListIndex())
         view.setCurrentIndex(model.ListIndex());
-    if (view.isEditable() && view.currentText() != toQString(model.Text()))
-        view.setEditText(toQString(model.Text()));
+    if (view.isEditable())
+        showText(view, toQString(model.Text()), before, cursor);
 }
 
 /// The toolkit's own readings of a typed text, to complete it or to pick the entry that it equals,

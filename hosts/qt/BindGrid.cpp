@@ -160,17 +160,15 @@ void showGrid(QTableView& view, GridRows& rows, const screen::Grid& model)
 
 void forwardMouse(QTableView& view, screen::Grid& model, const Refresh& refresh)
 {
-    const auto mouseDown = [&view, &model](const QModelIndex& index) {
+    // Not the signal of the view, which a press on a mark does not raise.
+    const auto mouseDown = [&view, &model](const QEvent& event) {
+        const auto& press = static_cast<const QMouseEvent&>(event);
+        const QModelIndex index = view.indexAt(press.position().toPoint());
         forward(
             view, [&] { model.MouseDown(index.row() + 1, index.column() + 1); }, [] {});
     };
-    QObject::connect(&view, &QTableView::pressed, &view, mouseDown);
-    new EventWatch(*view.viewport(), QEvent::MouseButtonPress,
-                   [&view, mouseDown](const QEvent& event) {
-                       const auto at = static_cast<const QMouseEvent&>(event).position().toPoint();
-                       if (!view.indexAt(at).isValid())
-                           mouseDown({});
-                   });
+    for (const QEvent::Type kind : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick})
+        new EventWatch(*view.viewport(), kind, mouseDown);
     QObject::connect(&view, &QTableView::doubleClicked, &view, [&view, &model, refresh] {
         forward(
             view, [&model] { model.DoubleClick(); }, refresh);
@@ -198,6 +196,10 @@ void bind(QTableView& view, screen::Grid& model)
     const Refresh refresh = mirror<QTableView, screen::Grid>(
         view, model,
         [rows](QTableView& table, const screen::Grid& grid) { showGrid(table, *rows, grid); });
+    new EventWatch(view, QEvent::FontChange, [&view, &model, refresh](const QEvent&) {
+        handInWidths(view, model);
+        refresh();
+    });
     forwardMouse(view, model, refresh);
     tickByKey(view);
     QObject::connect(

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace k7deval::qt
 {
 
@@ -51,6 +53,17 @@ void showLook(QLabel& view, const screen::Label& model)
     view.setToolTip(toQString(model.ToolTipText()));
 }
 
+/// The limit holds for what is typed: a longer text by code is shown whole.
+void showText(QLineEdit& view, const screen::TextBox& model)
+{
+    const QString text = toQString(model.Text());
+    const int limit = model.MaxLength() == 0 ? kUnlimited : model.MaxLength();
+    view.setMaxLength(std::max(limit, static_cast<int>(text.size())));
+    // Setting the same text would move the cursor.
+    if (view.text() != text)
+        view.setText(text);
+}
+
 /// Another window, a menu or a list on top does not take the user out of a field.
 bool isLeaving(Qt::FocusReason reason)
 {
@@ -64,6 +77,19 @@ void leaveFieldFor(QWidget& button)
 {
     if (!button.hasFocus())
         button.setFocus(Qt::ShortcutFocusReason);
+}
+
+/// The tabulator goes to the selected option, or to the first while there is none.
+void keepOneTabStop(const QRadioButton& changed)
+{
+    const auto options =
+        changed.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto selected = std::find_if(options.begin(), options.end(),
+                                       [](const auto* option) { return option->isChecked(); });
+    for (QRadioButton* option : options) {
+        const bool isStop = option == (selected == options.end() ? options.front() : *selected);
+        option->setFocusPolicy(isStop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 template <class View, class Model>
@@ -126,13 +152,7 @@ void bind(QLabel& view, screen::Image& model)
 
 void bind(QLineEdit& view, screen::TextBox& model)
 {
-    view.setMaxLength(model.MaxLength() == 0 ? kUnlimited : model.MaxLength());
-    const Refresh refresh =
-        mirror<QLineEdit, screen::TextBox>(view, model, [](QLineEdit& edit, const auto& box) {
-            // Setting the same text would move the cursor.
-            if (edit.text() != toQString(box.Text()))
-                edit.setText(toQString(box.Text()));
-        });
+    const Refresh refresh = mirror<QLineEdit, screen::TextBox>(view, model, showText);
     QObject::connect(&view, &QLineEdit::textEdited, &view,
                      [&view, &model, refresh](const QString& text) {
                          forward(
@@ -173,6 +193,7 @@ void bind(QRadioButton& view, screen::OptionButton& model, char mnemonic)
             option.setAutoExclusive(false);
             option.setChecked(shown.isSelected());
             option.setAutoExclusive(true);
+            keepOneTabStop(option);
         });
     forwardClicks(view, model, refresh);
 }

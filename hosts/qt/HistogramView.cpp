@@ -59,7 +59,7 @@ void HistogramView::addButtons()
     buttons_->addStretch(1);
     buttons_->addWidget(makeView(*this, tool_->cmdCalculate, 'C'));
     buttons_->addWidget(makeView(*this, tool_->cmdSave, 'S'));
-    lastBesideSave_ = makeView(*this, tool_->chkPreview, 'v');
+    lastBesideSave_ = makeView(*this, tool_->chkPreview, 'A');
     buttons_->addWidget(lastBesideSave_);
     buttons_->addWidget(makeView(*this, tool_->cmdClose, 'l'));
     halves_->addLayout(buttons_, 1, 0, 1, 2);

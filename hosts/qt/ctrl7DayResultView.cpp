@@ -137,6 +137,7 @@ QWidget* ctrl7DayResultView::summary()
     makeReadable(*text);
     enlarge(*text, *box);
     auto* scroll = new QScrollArea(box);
+    scroll->setObjectName("summary");
     scroll->setAccessibleName(toQString(page_->fraSummary.Caption()));
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);

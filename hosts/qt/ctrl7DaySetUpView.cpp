@@ -2,7 +2,7 @@
 
 #include "qt/Binding.h"
 #include "qt/DateField.h"
-#include "qt/Texts.h"
+#include "qt/EventWatch.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -77,9 +77,9 @@ QWidget* ctrl7DaySetUpView::interval()
         rows->addWidget(day.text, row, 1);
         rows->addWidget(day.calendar, row, 2);
     };
-    addDay(0, page_->lblFromDate, 'F',
+    addDay(0, page_->lblFromDate, 'R',
            makeDateField(*box, page_->txtFromDate, page_->cmdFromDate, "First day"));
-    addDay(1, page_->lblToDate, 'T',
+    addDay(1, page_->lblToDate, 'O',
            makeDateField(*box, page_->txtToDate, page_->cmdToDate, "Last day"));
     return box;
 }
@@ -88,7 +88,7 @@ QWidget* ctrl7DaySetUpView::criteria()
 {
     auto* box = makeView(*this, page_->fraCriteria);
     auto* column = new QVBoxLayout(box);
-    column->addWidget(makeView(*box, page_->chkManualCals, 'M'));
+    column->addWidget(makeView(*box, page_->chkManualCals, 'l'));
     column->addWidget(makeView(*box, page_->chk6of7, '6'));
     return box;
 }
@@ -112,13 +112,29 @@ QWidget* ctrl7DaySetUpView::specification()
     rows->addWidget(makeView(*box, page_->chkUseAPS, 'A'), 0, 2, 1, 2);
     addSpecification(*rows, 1, *box, {page_->opt05Span, '5', page_->lbl05Span});
     addSpecification(*rows, 2, *box, {page_->opt005Absolute, '0', page_->lbl005Absolute});
-    addSpecification(*rows, 3, *box, {page_->optOtherSpan, 'O', page_->lblOtherSpan});
+    addSpecification(*rows, 3, *box, {page_->optOtherSpan, 0, page_->lblOtherSpan});
     addLimit(*rows, 3, *box, page_->lblOtherSpanValue, page_->txtOtherSpanValue);
-    addSpecification(*rows, 4, *box, {page_->optOtherAbsolute, 'h', page_->lblOtherAbsolute});
+    addSpecification(*rows, 4, *box, {page_->optOtherAbsolute, 0, page_->lblOtherAbsolute});
     addLimit(*rows, 4, *box, page_->lblOtherAbsoluteValue, page_->txtOtherAbsoluteValue);
     addSpecification(*rows, 5, *box, {page_->optPS9GC, '9', page_->lblPS9GC});
     rows->setColumnStretch(3, 1);
     return box;
+}
+
+/// The label names that of its two fields which is on view.
+void ctrl7DaySetUpView::addStack(QGroupBox& box, QGridLayout& rows, int row)
+{
+    auto* stack = makeView(box, page_->txtStackID);
+    auto* name = makeView(box, page_->lblStackID, *stack, 'k');
+    auto* stacks = makeView(box, page_->cmbStackID);
+    rows.addWidget(name, row, 0);
+    for (QWidget* field : {static_cast<QWidget*>(stack), static_cast<QWidget*>(stacks)}) {
+        rows.addWidget(field, row, 1);
+        const auto nameIt = [name, field] { name->setBuddy(field); };
+        if (!field->isHidden())
+            nameIt();
+        new EventWatch(*field, QEvent::ShowToParent, [nameIt](const QEvent&) { nameIt(); });
+    }
 }
 
 QWidget* ctrl7DaySetUpView::testInformation()
@@ -131,13 +147,9 @@ QWidget* ctrl7DaySetUpView::testInformation()
         rows->addWidget(field, row++, 1);
     };
     add(page_->lblORIS, 'C', makeView(*box, page_->txtORIS));
-    auto* stack = makeView(*box, page_->txtStackID);
-    add(page_->lblStackID, 'k', stack);
-    auto* stacks = makeView(*box, page_->cmbStackID);
-    stacks->setAccessibleName(toQString(page_->lblStackID.Caption()));
-    rows->addWidget(stacks, 1, 1);
+    addStack(*box, *rows, row++);
     add(page_->lblComponentID, 'D', makeView(*box, page_->txtComponentID));
-    add(page_->lblTestReason, 'R', makeView(*box, page_->cmbTestReason));
+    add(page_->lblTestReason, 's', makeView(*box, page_->cmbTestReason));
     add(page_->lblTestNumber, 'm', makeView(*box, page_->txtTestNumber));
     rows->setRowStretch(row, 1);
     // These are short texts, however wide the screen.

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QGridLayout;
+class QGroupBox;
 
 namespace k7deval::qt
 {
@@ -21,6 +22,7 @@ private:
     QWidget* criteria();
     QWidget* display();
     QWidget* specification();
+    void addStack(QGroupBox& box, QGridLayout& rows, int row);
     QWidget* testInformation();
 
     ctrl7DaySetUp* page_;

@@ -15,12 +15,12 @@ namespace k7deval::qt
 namespace
 {
 
-/// The room of a page stays while another is on view, so that the window keeps its size.
-void keepRoom(QWidget& page)
+/// The room of a part stays while another in its place is on view, so that nothing else moves.
+void keepRoom(QWidget& part)
 {
-    QSizePolicy policy = page.sizePolicy();
+    QSizePolicy policy = part.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
-    page.setSizePolicy(policy);
+    part.setSizePolicy(policy);
 }
 
 } // namespace
@@ -44,11 +44,17 @@ ctrl7DayView::ctrl7DayView(ctrl7Day& tool, QWidget* parent)
 void ctrl7DayView::addButtons(ctrl7Day& tool)
 {
     // One place for the last two, of which one is ever on view.
-    ownButtons_ = {makeView(*this, tool.chkPreview, 'v'), makeView(*this, tool.cmdBack, 'B'),
+    ownButtons_ = {makeView(*this, tool.chkPreview, 'A'), makeView(*this, tool.cmdBack, 'B'),
                    makeView(*this, tool.cmdNext, 'N'), makeView(*this, tool.cmdSave, 'S')};
+    auto* lastPlace = new QGridLayout;
     buttons_->addStretch(1);
-    for (QWidget* button : ownButtons_)
-        buttons_->addWidget(button);
+    buttons_->addWidget(ownButtons_[0]);
+    buttons_->addWidget(ownButtons_[1]);
+    buttons_->addLayout(lastPlace);
+    for (QWidget* button : {ownButtons_[2], ownButtons_[3]}) {
+        keepRoom(*button);
+        lastPlace->addWidget(button, 0, 0);
+    }
 }
 
 /// Behind the button that saves they would move it from under the mouse that pressed Next.

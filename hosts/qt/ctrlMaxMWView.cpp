@@ -55,7 +55,7 @@ void ctrlMaxMWView::addPeriod(ctrlMaxMW& tool) const
     const DateField to = makeDateField(*box, tool.txtTo, tool.cmdTo, "Last day");
     days->addWidget(from.text, 1);
     days->addWidget(from.calendar);
-    days->addWidget(makeView(*box, tool.lblTo, *to.text, 't'));
+    days->addWidget(makeView(*box, tool.lblTo, *to.text, 'o'));
     days->addWidget(to.text, 1);
     days->addWidget(to.calendar);
     rows->addLayout(days, 4, 1, 1, 2);

@@ -123,6 +123,27 @@ TEST(Binding, TypingTheTextOfAnEntryIsNoPick)
     EXPECT_EQ(bench.screen.typings, 3);
 }
 
+TEST(Binding, TypingIntoTheTextOfAnEntryKeepsTheCursor)
+{
+    Bench bench;
+    bench.screen.list.SetListIndex(1);
+    auto& list = bench.hands.view<QComboBox>("list");
+    list.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&list, Qt::Key_Home);
+    QTest::keyClicks(&list, "12");
+    EXPECT_EQ(bench.screen.list.Text(), "12two");
+    EXPECT_EQ(bench.screen.list.ListIndex(), -1);
+}
+
+TEST(Binding, ATextByCodeMayBeLongerThanWhatCanBeTyped)
+{
+    Bench bench;
+    bench.screen.field.SetText("123456");
+    EXPECT_EQ(bench.hands.view<QLineEdit>("field").text(), "123456");
+    bench.hands.type("field", "98765");
+    EXPECT_EQ(bench.screen.field.Text(), "9876");
+}
+
 TEST(Binding, ShowsWhatTheModelMadeOfAPress)
 {
     Bench bench;

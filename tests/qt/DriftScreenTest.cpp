@@ -1,8 +1,5 @@
-#include "qt/Operator.h"
-#include "qt/ScreenComparison.h"
+#include "qt/DriftScreen.h"
 #include "qt/ScreenReader.h"
-#include "qt/ctrl7DayView.h"
-#include "sevenday/ToolBench.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -29,49 +26,6 @@ using k7deval::test::ToolBench;
 using k7deval::testing::TemporaryFolder;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-/// Seven days of passed calibrations, on the third of which one failed before it passed.
-std::shared_ptr<SiteData> siteWithOneFailure()
-{
-    auto site = siteWithDailyCals(7);
-    addCal(*site, {.time = march(3, 6), .spanMeasured = 190});
-    addCal(*site, {.time = march(4, 21), .online = false});
-    return site;
-}
-
-struct DriftScreen {
-    explicit DriftScreen(std::shared_ptr<SiteData> site = siteWithDailyCals(7))
-        : bench(std::move(site))
-    {
-    }
-
-    ToolBench bench;
-    ctrl7DayView view{bench.tool};
-    Operator hands{view};
-
-    [[nodiscard]] QLabel& label(const std::string& name) const { return hands.view<QLabel>(name); }
-    [[nodiscard]] QTreeWidget& tree() const { return hands.view<QTreeWidget>("tvwCalTimes"); }
-    [[nodiscard]] std::vector<std::string> differences() const
-    {
-        settle();
-        return test::differences(bench.tool, view);
-    }
-    void clickEntry(QTreeWidgetItem& entry) const
-    {
-        tree().scrollToItem(&entry);
-        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {},
-                          tree().visualItemRect(&entry).center());
-        settle();
-    }
-};
-
-QTreeWidgetItem& entryOf(const DriftScreen& screen, const QString& text)
-{
-    const auto found = screen.tree().findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
-    if (found.size() != 1)
-        throw std::runtime_error("no such entry: " + text.toStdString());
-    return *found.front();
-}
 
 } // namespace
 

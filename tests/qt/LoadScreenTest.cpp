@@ -150,6 +150,82 @@ TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
     EXPECT_EQ(bench.tool.txtCapacity.Text(), "abc");
 }
 
+TEST(LoadScreen, EvaluatesDates)
+{
+    LoadScreen screen;
+    screen.hands.click("optTimeSelect");
+    screen.bench.services.dateAnswer = makeDate(2024, 1, 1);
+    screen.hands.click("cmdFrom");
+    screen.hands.enter("txtTo", "2024-01-01");
+    screen.hands.click("cmdCalculate");
+    screen.hands.photograph("load-dates");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtFrom").text(), "1/1/2024");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, AQuarterFromTheListLeavesTheResults)
+{
+    const LoadScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.pick("cmbQTR", "Q3");
+    screen.hands.pick("cmbYear", "2022");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
+    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, ALeftFieldTakesTheResultsOffTheScreenButNotTheButton)
+{
+    const LoadScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.type("txtMinSafe", "10");
+    screen.hands.click("chkPreview");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "");
+    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(LoadScreen, TheHourglassIsSeenDuringTheWork)
+{
+    LoadScreen screen;
+    std::vector<Qt::CursorShape> seen;
+    screen.bench.tool.Changed.Connect([&] { seen.push_back(screen.view.cursor().shape()); });
+    screen.hands.click("cmdCalculate");
+    EXPECT_THAT(seen, ElementsAre(Qt::WaitCursor, Qt::ArrowCursor));
+}
+
+TEST(LoadScreen, TheTabulatorReadsTheScreen)
+{
+    const LoadScreen screen;
+    const QStringList below{"cmdCalculate", "chkPreview", "cmdClose"};
+    const QStringList range{"cmbUnit", "cmbParam", "chkShowPID", "txtMinSafe", "txtCapacity"};
+    const QStringList way = screen.hands.walk("cmbUnit");
+    EXPECT_EQ(way.mid(0, 11), range + QStringList({"optTimeEnd", "cmbYear", "cmbQTR"}) + below);
+    screen.hands.click("optTimeSelect");
+    EXPECT_EQ(screen.hands.walk("cmbUnit").mid(0, 13),
+              range + QStringList({"optTimeSelect", "txtFrom", "cmdFrom", "txtTo", "cmdTo"}) +
+                  below);
+}
+
+TEST(LoadScreen, CloseIsTheHostsBusiness)
+{
+    LoadScreen screen;
+    int closings = 0;
+    screen.bench.tool.CloseClicked.Connect([&closings] { ++closings; });
+    screen.hands.click("cmdClose");
+    EXPECT_EQ(closings, 1);
+    EXPECT_TRUE(screen.view.isVisible());
+}
+
+TEST(LoadScreen, AToolWithoutASiteIsEmpty)
+{
+    k7deval::test::LoadTool bench;
+    ctrlMaxMWView view(bench.tool);
+    const Operator hands(view);
+    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+}
+
 TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)
 {
     LoadBench bench;

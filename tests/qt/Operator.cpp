@@ -97,6 +97,22 @@ void Operator::pressMnemonic(Qt::Key letter) const
     settle();
 }
 
+QStringList Operator::walk(const std::string& first, Qt::Key key) const
+{
+    constexpr int kFar = 100;
+    auto& start = view<QWidget>(first);
+    start.setFocus(Qt::TabFocusReason);
+    QStringList names;
+    do {
+        names << QApplication::focusWidget()->objectName();
+        press(key);
+    } while (QApplication::focusWidget() != &start && names.size() < kFar);
+    if (names.size() == kFar)
+        throw std::runtime_error("no way back to " + first + ", but to " +
+                                 names.back().toStdString());
+    return names;
+}
+
 std::string Operator::text(const std::string& label) const
 {
     return view<QLabel>(label).text().toStdString();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 
 #include <filesystem>
@@ -50,6 +51,10 @@ public:
     void press(Qt::Key key) const;
     /// Presses Alt and a letter.
     void pressMnemonic(Qt::Key letter) const;
+
+    /// Goes on from a part by the tabulator, or backwards by Key_Backtab, until that part comes
+    /// round again. The names on the way, that part first; std::runtime_error if it doesn't come.
+    [[nodiscard]] QStringList walk(const std::string& first, Qt::Key key = Qt::Key_Tab) const;
 
     /// What a label says.
     [[nodiscard]] std::string text(const std::string& label) const;

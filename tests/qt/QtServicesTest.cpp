@@ -6,10 +6,13 @@
 #include <gmock/gmock.h>
 
 #include <QCalendarWidget>
+#include <QComboBox>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
+#include <QTextBrowser>
 #include <QWindow>
 
 namespace k7deval::qt::test
@@ -32,8 +35,9 @@ std::optional<screen::SaveAnswer> save(const std::string& name, int entry)
 {
     whenDialogComes([&](QDialog& dialog) {
         auto& files = dynamic_cast<QFileDialog&>(dialog);
-        files.selectNameFilter(files.nameFilters()[entry]);
-        emit files.filterSelected(files.nameFilters()[entry]);
+        auto* filters = files.findChild<QComboBox*>("fileTypeCombo");
+        for (int row = 0; row < entry; ++row)
+            QTest::keyClick(filters, Qt::Key_Down);
         auto* field = files.findChild<QLineEdit*>("fileNameEdit");
         // Key by key the dialog would offer to complete the name.
         field->insert(QString::fromStdString(name));
@@ -136,6 +140,17 @@ TEST(QtServices, ACalendarThatIsLeftHasNoDate)
 {
     whenDialogComes([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_FALSE(QtServices().PickDate("", makeDate(2024, 2, 28), -1, -1, -1).has_value());
+}
+
+TEST(QtServices, ADocumentGoesToTheProgramForIt)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("a b.txt"), "text");
+    QTextBrowser program;
+    QDesktopServices::setUrlHandler("file", &program, "setSource");
+    QtServices().OpenDocument(folder.file("a b.txt"), 0, 0, 0, 1);
+    QDesktopServices::unsetUrlHandler("file");
+    EXPECT_EQ(program.source().toLocalFile().toStdString(), folder.file("a b.txt"));
 }
 
 TEST(QtServices, AFileThatIsNotThereCannotBeOpened)

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -69,6 +70,83 @@ TEST(RangeScreen, TypingALimitTakesTheResultsOffTheScreen)
     screen.hands.type("txtMPC", "48");
     EXPECT_EQ(screen.hands.text("lblHeader"), "");
     EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+}
+
+TEST(RangeScreen, ALimitThatIsOffIsNotCounted)
+{
+    const RangeScreen screen;
+    screen.hands.click("chkMEC");
+    screen.hands.click("chkMPC");
+    screen.hands.click("cmdCalculate");
+    EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  N/A");
+    EXPECT_EQ(screen.hands.text("lblAboveMPC"), "Hours above MPC:  N/A");
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+
+    screen.hands.click("chkMEC");
+    screen.hands.click("cmdCalculate");
+    EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  0") << "it was not counted";
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, AGasInPercentHasNoLimits)
+{
+    const RangeScreen screen;
+    screen.hands.pick("cmbParam", "CO2");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtMEC").text(), "N/A");
+    EXPECT_FALSE(screen.hands.view<QCheckBox>("chkMPC").isChecked());
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, BadInputIsPutBackWhenTheFieldIsLeft)
+{
+    const RangeScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.type("txtRange", "abc");
+    screen.hands.click("chkShowPID");
+    EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "50");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 NOX") << "the results stay";
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, AFieldThatIsLeftForTheButtonThatSavesTakesItAway)
+{
+    RangeScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.type("txtRange", "60");
+    screen.hands.click("cmdSave");
+    EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+    EXPECT_THAT(screen.bench.services.filters, IsEmpty()) << "nobody asked for a file";
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, AYearIsTypedOrPicked)
+{
+    const RangeScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.pick("cmbYear", "2023");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 NOX") << "a pick leaves the results";
+    screen.hands.type("cmbYear", "2022");
+    EXPECT_EQ(screen.hands.text("lblHeader"), "");
+    EXPECT_EQ(screen.bench.tool.cmbYear.ListIndex(), -1);
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(RangeScreen, TheTabulatorReadsTheScreen)
+{
+    const RangeScreen screen;
+    EXPECT_EQ(screen.hands.walk("cmbUnit").mid(0, 13),
+              QStringList({"cmbUnit", "cmbParam", "chkShowPID", "cmbScale", "txtRange", "chkMEC",
+                           "txtMEC", "chkMPC", "txtMPC", "cmbYear", "cmbQTR", "cmdCalculate",
+                           "chkPreview"}));
+}
+
+TEST(RangeScreen, AToolWithoutASiteIsEmpty)
+{
+    k7deval::test::RangeTool bench;
+    ctrlRangeEvalView view(bench.tool);
+    const Operator hands(view);
+    EXPECT_EQ(hands.view<QLineEdit>("txtRange").text(), "Text1");
+    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
 }
 
 TEST(RangeScreen, AScreenReaderMakesSenseOfIt)

@@ -56,6 +56,15 @@ struct ListScreen {
                           {rect.left() + rect.height() / 2, rect.center().y()});
         settle();
     }
+    void doubleTick(int row) const
+    {
+        tick(row);
+        const QRect rect = table().visualRect(cell(row, 0));
+        const QPoint mark(rect.left() + rect.height() / 2, rect.center().y());
+        QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, mark);
+        QTest::mouseRelease(table().viewport(), Qt::LeftButton, {}, mark);
+        settle();
+    }
     void doubleClick(int row, int column) const
     {
         const QPoint spot = table().visualRect(cell(row, column)).center();
@@ -123,6 +132,91 @@ TEST(ListScreen, ADoubleClickOnANameTicksIt)
     EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kLoad));
 }
 
+TEST(ListScreen, ADoubleClickOnAMarkTicksAndUnticks)
+{
+    const ListScreen screen;
+    screen.doubleClick(2, 1);
+    screen.doubleTick(1);
+    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kCo));
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(ListScreen, APressBesideTheRowsTicksNothing)
+{
+    const ListScreen screen;
+    screen.table().setCurrentIndex(screen.cell(1, 1));
+    const QPoint below(20, screen.table().viewport()->height() - 5);
+    ASSERT_FALSE(screen.table().indexAt(below).isValid());
+    QTest::mouseClick(screen.table().viewport(), Qt::LeftButton, {}, below);
+    QTest::mouseDClick(screen.table().viewport(), Qt::LeftButton, {}, below);
+    EXPECT_THAT(selectionOf(screen.bench.tool), IsEmpty());
+}
+
+TEST(ListScreen, ShowsPIDsWhenTheHostWantsThem)
+{
+    ListScreen screen;
+    const QString header = screen.text(0);
+    screen.bench.tool.SetShowPIDNumber(true);
+    EXPECT_EQ(screen.text(1), "[1-100-0-75-00] NOx");
+    EXPECT_EQ(screen.text(0), header);
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(ListScreen, SeveralRowsCanBeSelectedWhenTheHostAllowsIt)
+{
+    ListScreen screen;
+    const auto selectThree = [&screen] {
+        screen.table().setFocus();
+        screen.table().setCurrentIndex(screen.cell(1, 1));
+        QTest::keyClick(&screen.table(), Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(&screen.table(), Qt::Key_Down, Qt::ShiftModifier);
+        return screen.table().selectionModel()->selectedRows().size();
+    };
+    EXPECT_EQ(selectThree(), 1);
+    screen.bench.tool.SetMultiSelect(true);
+    EXPECT_EQ(selectThree(), 3);
+}
+
+TEST(ListScreen, TicksOfTheHostAreSeen)
+{
+    ListScreen screen;
+    screen.bench.tool.SelectAll();
+    EXPECT_EQ(screen.cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    screen.bench.tool.SetOffsetUnits(false);
+    EXPECT_EQ(screen.table().model()->rowCount(), 5);
+    EXPECT_EQ(screen.table().columnSpan(0, 0), 1);
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(ListScreen, AFilterOfOneUnitIsTakenAway)
+{
+    ListScreen screen;
+    screen.bench.list({kNox, kCo});
+    EXPECT_FALSE(screen.hands.view<QWidget>("cmbUnit").isVisible());
+    settle();
+    EXPECT_EQ(screen.table().height(), screen.view.height());
+    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+}
+
+TEST(ListScreen, AHeaderFillsTheWidthInOtherLetters)
+{
+    ListScreen screen;
+    const auto before = screen.text(0).size();
+    QFont large = screen.view.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    screen.view.setFont(large);
+    screen.view.resize(301, 300);
+    settle();
+    EXPECT_LT(screen.text(0).size(), before * 3 / 4);
+}
+
+TEST(ListScreen, TheTabulatorGoesOnFromTheList)
+{
+    const ListScreen screen;
+    EXPECT_EQ(screen.hands.walk("cmbUnit"), QStringList({"cmbUnit", "jgexGrid"}));
+}
+
 TEST(ListScreen, TheFilterShowsOneUnit)
 {
     const ListScreen screen;
@@ -158,6 +252,32 @@ TEST(SingleScreen, PicksOneParameter)
     EXPECT_EQ(bench.tool.GetSelection(), kCo);
     EXPECT_THAT(differences(bench.tool, view), IsEmpty());
     EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
+    EXPECT_EQ(hands.walk("cmbUnit"), QStringList({"cmbUnit", "cmbPID"}));
+}
+
+TEST(SingleScreen, AnotherUnitLeavesNothingToPick)
+{
+    SingleBench bench;
+    bench.filtered().list(kFiveParameters);
+    bench.tool.SetShowPIDNumber(true);
+    SingleParamSelectView view(bench.tool);
+    const Operator hands(view);
+    EXPECT_EQ(hands.view<QComboBox>("cmbPID").itemText(0), "GT1 NOx 1-100-0-75-00");
+    hands.pick("cmbUnit", "GT2");
+    EXPECT_EQ(hands.view<QComboBox>("cmbPID").count(), 0);
+    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+}
+
+TEST(SingleScreen, WithoutAFilterItHasOneBox)
+{
+    SingleBench bench;
+    bench.filtered(false).list(kFiveParameters);
+    SingleParamSelectView view(bench.tool);
+    const Operator hands(view);
+    EXPECT_FALSE(hands.view<QWidget>("cmbUnit").isVisible());
+    hands.type("cmbPID", "CO");
+    EXPECT_EQ(bench.tool.cmbPID.ListIndex(), -1);
+    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
 }
 
 } // namespace k7deval::qt::test

@@ -1,17 +1,9 @@
-#include "qt/Operator.h"
-#include "sitedb/SampleSite.h"
-#include "support/FakeServices.h"
-#include "support/FakeSite.h"
-#include "workbench/MainWindow.h"
+#include "workbench/Workbench.h"
 
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
 #include <QGroupBox>
-#include <QLabel>
-#include <QMenuBar>
-#include <QTabWidget>
-#include <QTemporaryDir>
 
 #include <map>
 #include <string>
@@ -24,7 +16,6 @@ namespace
 {
 
 using qt::test::Operator;
-using qt::test::settle;
 using ::testing::IsEmpty;
 
 /// What stands on a window with a letter underlined: labels of fields, buttons, boxes and menus.
@@ -69,67 +60,37 @@ std::vector<std::string> sharedLetters(const MainWindow& window)
     return shared;
 }
 
-/// An operator at the program with the sample open.
-struct Program {
-    Program()
-    {
-        settings.setRegion("en-US");
-        window.resize(1366, 768);
-        window.show();
-        window.openSite(QString::fromStdString((site.directory / "bethpage.k7site").string()));
-        settle();
-    }
-
-    sitedb::test::SampleSite site;
-    QTemporaryDir folder;
-    Settings settings{folder.filePath("settings.ini")};
-    k7deval::test::FakeServices services;
-    k7deval::test::FixedClock clock{makeDate(2021, 5, 2, 9, 30)};
-    MainWindow window{services, clock, settings};
-
-    [[nodiscard]] Operator at(int tab) const
-    {
-        auto& tabs = *window.findChild<QTabWidget*>("tools");
-        tabs.setCurrentIndex(tab);
-        return Operator(*tabs.widget(tab));
-    }
-};
-
 } // namespace
 
 TEST(Mnemonics, NoTwoOnViewShareALetter)
 {
-    const Program program;
-    const auto photograph = [&program](const char* name) {
-        Operator(*program.window.window()).photograph(name);
+    Workbench bench;
+    bench.window.resize(1366, 768);
+    const auto look = [&bench](const char* name) {
+        Operator(*bench.window.window()).photograph(name);
+        EXPECT_THAT(sharedLetters(bench.window), IsEmpty()) << name;
     };
-    const Operator drift = program.at(0);
-    photograph("window-drift-setup");
-    EXPECT_THAT(sharedLetters(program.window), IsEmpty()) << "7-Day, set-up";
+    const Operator drift = bench.at(0);
+    look("window-drift-setup");
     drift.click("cmdNext");
     ASSERT_TRUE(drift.view<QWidget>("cmdPrint").isVisible());
-    photograph("window-drift-results");
-    EXPECT_THAT(sharedLetters(program.window), IsEmpty()) << "7-Day, results";
+    look("window-drift-results");
     for (const int tab : {1, 2}) {
-        const Operator hands = program.at(tab);
-        hands.click("cmdCalculate");
-        ASSERT_TRUE(hands.view<QWidget>("cmdPrint").isVisible());
-        photograph(tab == 1 ? "window-load" : "window-range");
-        EXPECT_THAT(sharedLetters(program.window), IsEmpty()) << "tool " << tab;
+        bench.at(tab).click("cmdCalculate");
+        ASSERT_TRUE(bench.at(tab).view<QWidget>("cmdPrint").isVisible());
+        look(tab == 1 ? "window-load" : "window-range");
     }
-    static_cast<void>(program.at(3));
-    photograph("window-data");
-    EXPECT_THAT(sharedLetters(program.window), IsEmpty()) << "data";
+    static_cast<void>(bench.at(3));
+    look("window-data");
 }
 
 TEST(Mnemonics, ALetterOfAMenuOpensItFromATool)
 {
-    const Program program;
-    const Operator hands = program.at(0);
-    hands.view<QWidget>("txtFromDate").setFocus();
-    const Operator window(*program.window.window());
+    Workbench bench;
+    bench.at(0).view<QWidget>("txtFromDate").setFocus();
+    const Operator window(*bench.window.window());
     window.pressMnemonic(Qt::Key_F);
-    const QAction* open = program.window.menuBar()->activeAction();
+    const QAction* open = bench.window.menuBar()->activeAction();
     ASSERT_NE(open, nullptr);
     EXPECT_EQ(open->text(), "&File");
     window.press(Qt::Key_Escape);

@@ -132,7 +132,8 @@ TEST(DriftSession, EachKindOfDayHasItsPicture)
         const QIcon icon = screen.tree().topLevelItem(day)->icon(0);
         const QImage legend =
             screen.hands.view<QLabel>(legends[day]).pixmap(Qt::ReturnByValue).toImage();
-        EXPECT_EQ(icon.pixmap(legend.size()).toImage(), legend) << legends[day];
+        const QSize size = legend.deviceIndependentSize().toSize();
+        EXPECT_EQ(icon.pixmap(size, legend.devicePixelRatio()).toImage(), legend) << legends[day];
         EXPECT_EQ(std::count(pictures.begin(), pictures.end(), legend), 0) << legends[day];
         pictures.push_back(legend);
     }

@@ -218,6 +218,15 @@ TEST(LoadScreen, CloseIsTheHostsBusiness)
     EXPECT_TRUE(screen.view.isVisible());
 }
 
+TEST(LoadScreen, GrowsWithLargeLetters)
+{
+    const LargeLetters letters;
+    const LoadScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.photograph("load-large");
+    EXPECT_THAT(cutOff(screen.view), IsEmpty());
+}
+
 TEST(LoadScreen, AToolWithoutASiteIsEmpty)
 {
     k7deval::test::LoadTool bench;

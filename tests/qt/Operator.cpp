@@ -31,6 +31,17 @@ QPoint spotOf(const QWidget& view)
     return hasMark ? QPoint(view.height() / 2, view.height() / 2) : view.rect().center();
 }
 
+/// What the text of a label or button takes. Several lines find theirs.
+QSize roomFor(const QWidget& part)
+{
+    const auto* label = qobject_cast<const QLabel*>(&part);
+    if (label != nullptr && !label->wordWrap())
+        return label->minimumSizeHint();
+    const auto* button = qobject_cast<const QAbstractButton*>(&part);
+    return button == nullptr ? QSize()
+                             : button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+}
+
 } // namespace
 
 Operator::Operator(QWidget& screen) : screen_(&screen)
@@ -125,6 +136,30 @@ void Operator::photograph(const std::string& name) const
         return;
     settle();
     screen_->grab().save(folder + "/" + QString::fromStdString(name) + ".png");
+}
+
+LargeLetters::LargeLetters() : before_(QApplication::font())
+{
+    QFont large = before_;
+    large.setPointSizeF(before_.pointSizeF() * 2);
+    QApplication::setFont(large);
+}
+
+LargeLetters::~LargeLetters()
+{
+    QApplication::setFont(before_);
+}
+
+std::vector<std::string> cutOff(const QWidget& screen)
+{
+    std::vector<std::string> names;
+    for (const QWidget* part : screen.findChildren<QWidget*>()) {
+        const QSize needed = roomFor(*part);
+        const bool isSmall = part->width() < needed.width() || part->height() < needed.height();
+        if (part->isVisible() && isSmall)
+            names.push_back(part->objectName().toStdString());
+    }
+    return names;
 }
 
 void settle()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QStringList>
 #include <QWidget>
 
@@ -65,6 +66,22 @@ public:
 private:
     QWidget* screen_;
 };
+
+/// Letters twice as large on all screens, for the time of a test.
+class LargeLetters
+{
+public:
+    LargeLetters();
+    LargeLetters(const LargeLetters&) = delete;
+    LargeLetters& operator=(const LargeLetters&) = delete;
+    ~LargeLetters();
+
+private:
+    QFont before_;
+};
+
+/// The labels and buttons on view that have less room than their texts need.
+std::vector<std::string> cutOff(const QWidget& screen);
 
 /// Lets the event loop deal with what waits.
 void settle();

@@ -140,6 +140,15 @@ TEST(RangeScreen, TheTabulatorReadsTheScreen)
                            "chkPreview"}));
 }
 
+TEST(RangeScreen, GrowsWithLargeLetters)
+{
+    const LargeLetters letters;
+    const RangeScreen screen;
+    screen.hands.click("cmdCalculate");
+    screen.hands.photograph("range-large");
+    EXPECT_THAT(cutOff(screen.view), IsEmpty());
+}
+
 TEST(RangeScreen, AToolWithoutASiteIsEmpty)
 {
     k7deval::test::RangeTool bench;

@@ -217,6 +217,14 @@ TEST(ListScreen, AHeaderFillsTheWidthInOtherLetters)
     EXPECT_LT(screen.text(0).size(), before * 3 / 4);
 }
 
+TEST(ListScreen, GrowsWithLargeLetters)
+{
+    const LargeLetters letters;
+    const ListScreen screen;
+    screen.hands.photograph("selection-large");
+    EXPECT_GE(screen.table().rowHeight(1), screen.view.fontMetrics().height());
+}
+
 TEST(ListScreen, TheTabulatorGoesOnFromTheList)
 {
     const ListScreen screen;

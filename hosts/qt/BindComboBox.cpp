@@ -5,6 +5,7 @@
 #include "qt/UserAction.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -17,6 +18,28 @@ namespace
 
 constexpr int kFewestLetters = 6;
 constexpr int kMostLetters = 26;
+
+/// Keeps the wheel from picking in a list that the user is not in: he scrolls the screen past it.
+class WheelGuard final : public QObject
+{
+public:
+    explicit WheelGuard(QComboBox& list) : QObject(&list), list_(&list)
+    {
+        list.setFocusPolicy(Qt::StrongFocus);
+        list.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        const bool isKept = event->type() == QEvent::Wheel && !list_->hasFocus();
+        if (isKept)
+            event->ignore();
+        return isKept;
+    }
+
+private:
+    QComboBox* list_;
+};
 
 /// A list is as wide as its longest entry, within reason, and its layout may make it wider. The
 /// toolkit's own way of following the entries would take that width back.
@@ -80,6 +103,7 @@ void bind(QComboBox& view, screen::ComboBox& model)
 {
     if (model.HasEditField())
         makeEditable(view);
+    new WheelGuard(view);
     view.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     const Refresh refresh = mirror<QComboBox, screen::ComboBox>(view, model, showComboBox);
     QObject::connect(&view, &QComboBox::activated, &view, [&view, &model, refresh](int row) {

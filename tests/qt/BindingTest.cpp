@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <optional>
 
@@ -109,6 +111,26 @@ TEST(Binding, APickOfTheSameEntryIsAPick)
     settle();
     QTest::keyClick(list.view(), Qt::Key_Return);
     settle();
+    EXPECT_EQ(bench.screen.picks, 2);
+}
+
+TEST(Binding, TheWheelPicksOnlyInTheListThatTheUserIsIn)
+{
+    Bench bench;
+    bench.screen.list.SetListIndex(0);
+    auto& list = bench.hands.view<QComboBox>("list");
+    const auto turn = [&list] {
+        const QPointF middle = list.rect().center();
+        QWheelEvent wheel(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&list, &wheel);
+    };
+    bench.hands.view<QLineEdit>("field").setFocus();
+    turn();
+    EXPECT_EQ(bench.screen.list.ListIndex(), 0);
+    list.setFocus();
+    turn();
+    EXPECT_EQ(bench.screen.list.ListIndex(), 1);
     EXPECT_EQ(bench.screen.picks, 2);
 }
 

@@ -153,6 +153,18 @@ TEST(DriftSession, ADriftAboveItsLimitIsRed)
     EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
+TEST(DriftSession, ADayOfSeveralCalibrationsHasNoDetails)
+{
+    const Results screen(siteWithOneFailure());
+    entryOf(screen, "3/3/2024").setExpanded(true);
+    screen.clickEntry(entryOf(screen, "3/3/2024 06:15"));
+    screen.clickEntry(entryOf(screen, "3/3/2024"));
+    EXPECT_EQ(screen.label("lblCalTimeData").text(), "");
+    EXPECT_EQ(screen.label("lblSpanDriftData").text(), "");
+    EXPECT_TRUE(screen.label("lblCalResultLabel").font().bold()) << "as it was";
+    EXPECT_THAT(screen.differences(), IsEmpty());
+}
+
 TEST(DriftSession, SavingTakesThePlaceOfNext)
 {
     const DriftScreen screen;

@@ -58,8 +58,10 @@ void showText(QLineEdit& view, const screen::TextBox& model)
 {
     const QString text = toQString(model.Text());
     const int limit = model.MaxLength() == 0 ? kUnlimited : model.MaxLength();
-    view.setMaxLength(std::max(limit, static_cast<int>(text.size())));
-    // Setting the same text would move the cursor.
+    // Setting the same limit or text would move the cursor.
+    if (const int needed = std::max(limit, static_cast<int>(text.size()));
+        needed != view.maxLength())
+        view.setMaxLength(needed);
     if (view.text() != text)
         view.setText(text);
 }

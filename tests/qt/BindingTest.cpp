@@ -157,6 +157,18 @@ TEST(Binding, TypingIntoTheTextOfAnEntryKeepsTheCursor)
     EXPECT_EQ(bench.screen.list.ListIndex(), -1);
 }
 
+TEST(Binding, TypingInTheMiddleOfAFieldKeepsTheCursor)
+{
+    Bench bench;
+    bench.screen.field.SetText("ad");
+    auto& field = bench.hands.view<QLineEdit>("field");
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Home);
+    QTest::keyClick(&field, Qt::Key_Right);
+    QTest::keyClicks(&field, "bc");
+    EXPECT_EQ(bench.screen.field.Text(), "abcd");
+}
+
 TEST(Binding, ATextByCodeMayBeLongerThanWhatCanBeTyped)
 {
     Bench bench;

@@ -84,6 +84,22 @@ TEST(Mnemonics, NoTwoOnViewShareALetter)
     look("window-data");
 }
 
+TEST(Mnemonics, TheTabulatorGoesRoundTheWindow)
+{
+    Workbench bench;
+    const Operator drift = bench.at(0);
+    drift.click("cmdNext");
+    EXPECT_EQ(drift.walk("cmdPrint").mid(0, 5),
+              QStringList({"cmdPrint", "cmdPrintPreview", "chkPreview", "cmdBack", "cmdSave"}));
+    const Operator load = bench.at(1);
+    load.click("cmdCalculate");
+    const QStringList way = load.walk("cmdCalculate");
+    EXPECT_EQ(way.mid(0, 6), QStringList({"cmdCalculate", "cmdSave", "chkPreview", "cmdPrint",
+                                          "cmdPrintPreview", "cmdClose"}));
+    EXPECT_TRUE(way.contains("messages"));
+    EXPECT_EQ(way.count("cmbUnit"), 1);
+}
+
 TEST(Mnemonics, ALetterOfAMenuOpensItFromATool)
 {
     Workbench bench;

@@ -65,10 +65,12 @@ TEST(ChartView, PaintsItsBarsInTheColourOfTheDesktop)
 {
     const Chart chart;
     const QImage image = const_cast<ChartView&>(chart.view).grab().toImage();
-    EXPECT_EQ(image.pixelColor(chart.view.barRect(10).center()),
-              chart.view.palette().color(QPalette::Highlight));
-    EXPECT_EQ(image.pixelColor(chart.view.barRect(10).center() + QPoint(30, 0)),
-              chart.view.palette().color(QPalette::Window));
+    const QPointF middle = chart.view.barRect(10).center();
+    const auto colorAt = [&image](const QPointF& spot) {
+        return image.pixelColor((spot * image.devicePixelRatio()).toPoint());
+    };
+    EXPECT_EQ(colorAt(middle), chart.view.palette().color(QPalette::Highlight));
+    EXPECT_EQ(colorAt(middle + QPointF(30, 0)), chart.view.palette().color(QPalette::Window));
 }
 
 TEST(ChartView, TextsStandAtTheirMarksAndDoNotOverlap)

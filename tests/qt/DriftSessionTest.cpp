@@ -167,6 +167,8 @@ TEST(DriftSession, ADayOfSeveralCalibrationsHasNoDetails)
 
 TEST(DriftSession, SavingTakesThePlaceOfNext)
 {
+    // So large that the captions, and not the least width of a button, decide.
+    const LargeLetters letters;
     const DriftScreen screen;
     const auto place = [&screen](const char* name) {
         return screen.hands.view<QWidget>(name).geometry();

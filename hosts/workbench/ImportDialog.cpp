@@ -2,6 +2,7 @@
 
 #include "foundation/FileFunctions.h"
 #include "qt/Texts.h"
+#include "workbench/DroppedFiles.h"
 #include "workbench/ImportList.h"
 #include "workbench/ImportReportView.h"
 
@@ -14,7 +15,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
-#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -48,16 +48,6 @@ QString countedFiles(std::ptrdiff_t count)
 QString sizeText(std::int64_t bytes)
 {
     return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
-}
-
-QStringList localFiles(const QMimeData& data)
-{
-    QStringList paths;
-    for (const auto& url : data.urls()) {
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    }
-    return paths;
 }
 
 /// The units of a site; none of one that can't be read, which its import will tell.
@@ -347,13 +337,13 @@ void ImportDialog::done(int result)
 
 void ImportDialog::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!isImporting_ && !localFiles(*event->mimeData()).isEmpty())
+    if (!isImporting_ && !droppedFiles(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void ImportDialog::dropEvent(QDropEvent* event)
 {
-    addFiles(localFiles(*event->mimeData()));
+    addFiles(droppedFiles(*event->mimeData()));
     event->acceptProposedAction();
 }
 

@@ -5,6 +5,7 @@
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
 #include "sitedb/SiteDatabase.h"
+#include "workbench/DroppedFiles.h"
 #include "workbench/HelpWindow.h"
 #include "workbench/ImportDialog.h"
 #include "workbench/MessagePanel.h"
@@ -22,7 +23,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
@@ -42,16 +42,6 @@ constexpr QSize kFirstSize(1180, 720);
 constexpr const char* kSiteFilter = "Sites (*.site);;All files (*)";
 
 const qt::Refresh kNothingToRefresh = [] {};
-
-QStringList pathsOf(const QMimeData& dropped)
-{
-    QStringList paths;
-    for (const QUrl& url : dropped.urls()) {
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    }
-    return paths;
-}
 
 bool isSite(const QString& path)
 {
@@ -198,14 +188,14 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!pathsOf(*event->mimeData()).isEmpty())
+    if (!droppedFiles(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 /// The desktop waits for the end of a drop, so what it leads to is done behind it.
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const QStringList paths = pathsOf(*event->mimeData());
+    const QStringList paths = droppedFiles(*event->mimeData());
     event->acceptProposedAction();
     const auto take = [this, paths] {
         const auto site = std::ranges::find_if(paths, isSite);

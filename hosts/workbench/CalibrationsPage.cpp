@@ -50,10 +50,10 @@ QString lineAbout(const InjectionTable& table)
 } // namespace
 
 CalibrationsPage::CalibrationsPage(std::shared_ptr<DIServer> server,
-                                   const RegionalSettings& regional, QWidget* parent)
-    : QWidget(parent), server_(std::move(server)), regional_(&regional),
+                                   const screen::Surroundings& surroundings, QWidget* parent)
+    : QWidget(parent), server_(std::move(server)), surroundings_(surroundings),
       pane_(new QueryPane(
-          "calibration", regional, [this](const Period& period) { show(period); }, this))
+          "calibration", surroundings, [this](const Period& period) { show(period); }, this))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -78,7 +78,7 @@ CalibrationsPage::~CalibrationsPage()
 void CalibrationsPage::fill()
 {
     const Hourglass pointer;
-    const DIParameterList calibrations = listedCalibrations(*server_, *regional_);
+    const DIParameterList calibrations = listedCalibrations(*server_, surroundings_.regional);
     if (calibrations.empty()) {
         pane_->setReachable(false);
         pane_->say("The site has no calibrations.");
@@ -101,14 +101,15 @@ void CalibrationsPage::propose(const DIParameterList& calibrations)
     PID proposed = calibrations.front()->PID();
     for (const auto& calibration : calibrations) {
         const Date since = newest.value_or(beginningOfData());
-        const auto found = newestInjection(*server_, *calibration, *regional_, since);
+        const auto found = newestInjection(*server_, *calibration, surroundings_.regional,
+                                           surroundings_.clock.now(), since);
         if (found > newest) {
             newest = found;
             proposed = calibration->PID();
         }
     }
     select(proposed);
-    const Date last = dateOnly(newest.value_or(endOfData()));
+    const Date last = dateOnly(newest.value_or(endOfData(surroundings_.clock.now())));
     const Date yearBefore = DateAddExact("m", -kMonthsProposed, last);
     pane_->setPeriod({DateAddExact("d", 1, yearBefore), last});
 }
@@ -131,12 +132,12 @@ void CalibrationsPage::show(const Period& period)
     const auto calibration = present(server_->Parameters()).Item(calibrations_.GetSelection(), -1);
     const Date end = DateAddExact("s", -1, DateAddExact("d", 1, period.last));
     const DIRecordList records =
-        readInjections(*server_, present(calibration), period.first, end, *regional_);
+        readInjections(*server_, present(calibration), period.first, end, surroundings_.regional);
     if (records.empty()) {
         sayThatNothingIsThere(*calibration, period);
         return;
     }
-    auto table = std::make_unique<InjectionTable>(*server_, records, *regional_);
+    auto table = std::make_unique<InjectionTable>(*server_, records, surroundings_.regional);
     const QString line = lineAbout(*table);
     pane_->show(std::move(table), line, 0);
 }
@@ -144,10 +145,11 @@ void CalibrationsPage::show(const Period& period)
 void CalibrationsPage::sayThatNothingIsThere(DIParameter& calibration, const Period& period)
 {
     const QString name = nameWithUnit(*server_, calibration);
-    const auto newest = newestInjection(*server_, calibration, *regional_);
-    pane_->say(name + " has no injection " + period.text(*regional_) + "." +
+    const auto newest =
+        newestInjection(*server_, calibration, surroundings_.regional, surroundings_.clock.now());
+    pane_->say(name + " has no injection " + period.text(surroundings_.regional) + "." +
                (newest ? "\nIts newest injection is of " +
-                             qt::toQString(ShortDate(*newest, *regional_)) + "."
+                             qt::toQString(ShortDate(*newest, surroundings_.regional)) + "."
                        : QString("\nIt has none at all.")));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
-#include "foundation/RegionalSettings.h"
+#include "screen/Services.h"
 #include "selection/SingleParamSelect.h"
 #include "workbench/QueryPane.h"
 
@@ -17,7 +17,7 @@ class CalibrationsPage final : public QWidget
 {
 public:
     /// On the data of a site; empty without one. Regional settings outlive the page.
-    CalibrationsPage(std::shared_ptr<DIServer> server, const RegionalSettings& regional,
+    CalibrationsPage(std::shared_ptr<DIServer> server, const screen::Surroundings& surroundings,
                      QWidget* parent);
     CalibrationsPage(const CalibrationsPage&) = delete;
     CalibrationsPage& operator=(const CalibrationsPage&) = delete;
@@ -31,7 +31,7 @@ private:
     void sayThatNothingIsThere(DIParameter& calibration, const Period& period);
 
     std::shared_ptr<DIServer> server_;
-    const RegionalSettings* regional_;
+    screen::Surroundings surroundings_;
     SingleParamSelect calibrations_;
     QueryPane* pane_;
 };

@@ -9,8 +9,8 @@
 namespace k7deval::workbench
 {
 
-DataPage::DataPage(const RegionalSettings& regional, QWidget* parent)
-    : QWidget(parent), regional_(&regional), pages_(new QTabWidget(this))
+DataPage::DataPage(const screen::Surroundings& surroundings, QWidget* parent)
+    : QWidget(parent), surroundings_(surroundings), pages_(new QTabWidget(this))
 {
     pages_->setObjectName("dataPages");
     pages_->setAccessibleName("Kind of data");
@@ -26,8 +26,8 @@ void DataPage::setServer(const std::shared_ptr<DIServer>& server)
     const int shown = pages_->currentIndex();
     while (pages_->count() > 0)
         delete pages_->widget(0);
-    pages_->addTab(new HourlyValuesPage(server, *regional_, pages_), "Ho&urly Values");
-    pages_->addTab(new CalibrationsPage(server, *regional_, pages_), "Cali&brations");
+    pages_->addTab(new HourlyValuesPage(server, surroundings_, pages_), "Ho&urly Values");
+    pages_->addTab(new CalibrationsPage(server, surroundings_, pages_), "Cali&brations");
     pages_->setCurrentIndex(std::max(shown, 0));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
-#include "foundation/RegionalSettings.h"
+#include "screen/Services.h"
 
 #include <QWidget>
 
@@ -16,15 +16,15 @@ namespace k7deval::workbench
 class DataPage final : public QWidget
 {
 public:
-    /// Regional settings outlive the page.
-    explicit DataPage(const RegionalSettings& regional, QWidget* parent = nullptr);
+    /// What the surroundings refer to outlives the page.
+    explicit DataPage(const screen::Surroundings& surroundings, QWidget* parent = nullptr);
 
     /// Shows the data of another site; of none for nothing. What the data raises is told to the
     /// user.
     void setServer(const std::shared_ptr<DIServer>& server);
 
 private:
-    const RegionalSettings* regional_;
+    screen::Surroundings surroundings_;
     QTabWidget* pages_;
 };
 

@@ -45,10 +45,10 @@ QString lineAbout(const HourTable& table, const std::vector<QString>& withoutVal
 } // namespace
 
 HourlyValuesPage::HourlyValuesPage(std::shared_ptr<DIServer> server,
-                                   const RegionalSettings& regional, QWidget* parent)
-    : QWidget(parent), server_(std::move(server)), regional_(&regional),
+                                   const screen::Surroundings& surroundings, QWidget* parent)
+    : QWidget(parent), server_(std::move(server)), surroundings_(surroundings),
       pane_(new QueryPane(
-          "hourly", regional, [this](const Period& period) { show(period); }, this))
+          "hourly", surroundings, [this](const Period& period) { show(period); }, this))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -89,12 +89,13 @@ void HourlyValuesPage::fill()
 /// The month up to the newest value of all.
 void HourlyValuesPage::proposePeriod(const DIParameterList& parameters)
 {
+    const Date now = surroundings_.clock.now();
     std::optional<Date> newest;
     for (const auto& parameter : parameters) {
         const Date since = newest ? dateOnly(*newest) : beginningOfData();
-        newest = std::max(newest, newestValue(present(parameter), since));
+        newest = std::max(newest, newestValue(present(parameter), now, since));
     }
-    const Date last = dateOnly(newest.value_or(endOfData()));
+    const Date last = dateOnly(newest.value_or(endOfData(now)));
     pane_->setPeriod({DateAddExact("d", 1 - kDaysProposed, last), last});
 }
 
@@ -115,13 +116,14 @@ void HourlyValuesPage::show(const Period& period)
             withoutValue.push_back(series.back().name);
     }
     const auto codes = server_->StatusCodes();
-    auto table = std::make_unique<HourTable>(std::move(series), present(codes), *regional_);
+    auto table =
+        std::make_unique<HourTable>(std::move(series), present(codes), surroundings_.regional);
     if (!table->hasContent()) {
         sayThatNothingIsThere(pids, period);
         return;
     }
     const HourTable& shown = *table;
-    pane_->show(std::move(table), lineAbout(shown, withoutValue, *regional_),
+    pane_->show(std::move(table), lineAbout(shown, withoutValue, surroundings_.regional),
                 HourTable::kTimeColumns);
     for (int column = 0; column < shown.columns(); ++column) {
         if (HourTable::isStatus(column))
@@ -131,13 +133,13 @@ void HourlyValuesPage::show(const Period& period)
 
 void HourlyValuesPage::sayThatNothingIsThere(const std::vector<PID>& pids, const Period& period)
 {
-    QString sentence = "No hour " + period.text(*regional_) + " has a value.";
+    QString sentence = "No hour " + period.text(surroundings_.regional) + " has a value.";
     for (const PID pid : pids) {
         const auto parameter = present(server_->Parameters()).Item(pid, -1);
-        const auto newest = newestValue(present(parameter));
+        const auto newest = newestValue(present(parameter), surroundings_.clock.now());
         const QString name = nameWithUnit(*server_, *parameter);
         sentence += newest ? "\nThe newest value of " + name + " is of " +
-                                 qt::toQString(ShortDate(*newest, *regional_)) + "."
+                                 qt::toQString(ShortDate(*newest, surroundings_.regional)) + "."
                            : "\n" + name + " has no value at all.";
     }
     pane_->say(sentence);

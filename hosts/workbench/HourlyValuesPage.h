@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
-#include "foundation/RegionalSettings.h"
+#include "screen/Services.h"
 #include "selection/ParamSelect.h"
 #include "workbench/QueryPane.h"
 
@@ -18,7 +18,7 @@ class HourlyValuesPage final : public QWidget
 {
 public:
     /// On the data of a site; empty without one. Regional settings outlive the page.
-    HourlyValuesPage(std::shared_ptr<DIServer> server, const RegionalSettings& regional,
+    HourlyValuesPage(std::shared_ptr<DIServer> server, const screen::Surroundings& surroundings,
                      QWidget* parent);
     HourlyValuesPage(const HourlyValuesPage&) = delete;
     HourlyValuesPage& operator=(const HourlyValuesPage&) = delete;
@@ -31,7 +31,7 @@ private:
     void sayThatNothingIsThere(const std::vector<PID>& pids, const Period& period);
 
     std::shared_ptr<DIServer> server_;
-    const RegionalSettings* regional_;
+    screen::Surroundings surroundings_;
     ParamSelect parameters_;
     QueryPane* pane_;
 };

@@ -5,7 +5,6 @@
 #include "foundation/FileReplacement.h"
 #include "foundation/UtilityFunctions.h"
 #include "qt/Modal.h"
-#include "qt/QtServices.h"
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
 #include "workbench/Hourglass.h"
@@ -13,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QDate>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -65,6 +63,11 @@ void layOut(QTableView& view)
     view.verticalHeader()->setHighlightSections(false);
 }
 
+std::int32_t yearOf(Date day)
+{
+    return dateParts(day).year;
+}
+
 } // namespace
 
 QString Period::text(const RegionalSettings& regional) const
@@ -72,8 +75,9 @@ QString Period::text(const RegionalSettings& regional) const
     return qt::toQString("from " + ShortDate(first, regional) + " to " + ShortDate(last, regional));
 }
 
-QueryPane::QueryPane(QString name, const RegionalSettings& regional, Ask ask, QWidget* parent)
-    : QWidget(parent), name_(std::move(name)), regional_(&regional), ask_(std::move(ask))
+QueryPane::QueryPane(QString name, const screen::Surroundings& surroundings, Ask ask,
+                     QWidget* parent)
+    : QWidget(parent), name_(std::move(name)), surroundings_(surroundings), ask_(std::move(ask))
 {
     auto* halves = new QSplitter(this);
     halves->setChildrenCollapsible(false);
@@ -192,8 +196,8 @@ void QueryPane::setChoice(QWidget& choice, const QString& caption, QWidget& last
 
 void QueryPane::setPeriod(const Period& period)
 {
-    firstDay_->setText(qt::toQString(ShortDate(period.first, *regional_)));
-    lastDay_->setText(qt::toQString(ShortDate(period.last, *regional_)));
+    firstDay_->setText(qt::toQString(ShortDate(period.first, surroundings_.regional)));
+    lastDay_->setText(qt::toQString(ShortDate(period.last, surroundings_.regional)));
 }
 
 void QueryPane::setReachable(bool isReachable)
@@ -265,29 +269,34 @@ std::optional<Period> QueryPane::period()
     return Period{*first, *last};
 }
 
+Date QueryPane::today() const
+{
+    return dateOnly(surroundings_.clock.now());
+}
+
 std::optional<Date> QueryPane::dayIn(QLineEdit& field)
 {
     const auto day =
-        readDateText(field.text().toStdString(), *regional_, QDate::currentDate().year());
+        readDateText(field.text().toStdString(), surroundings_.regional, yearOf(today()));
     if (day)
         return dateOnly(*day);
-    const Date example = makeDate(QDate::currentDate().year(), 12, 31);
+    const Date example = makeDate(yearOf(today()), 12, 31);
     tell(QString("\"%1\" is no day. Write it like %2.")
-             .arg(field.text(), qt::toQString(ShortDate(example, *regional_))),
+             .arg(field.text(), qt::toQString(ShortDate(example, surroundings_.regional))),
          field);
     return std::nullopt;
 }
 
 void QueryPane::pickDay(QLineEdit& field)
 {
-    const QDate today = QDate::currentDate();
-    const Date shown = readDateText(field.text().toStdString(), *regional_, today.year())
-                           .value_or(makeDate(today.year(), today.month(), today.day()));
+    const Date shown =
+        readDateText(field.text().toStdString(), surroundings_.regional, yearOf(today()))
+            .value_or(today());
     const QPointer<QLineEdit> guard(&field);
     const auto picked =
-        qt::QtServices().PickDate(field.accessibleName().toStdString(), shown, -1, -1, -1);
+        surroundings_.services.PickDate(field.accessibleName().toStdString(), shown, -1, -1, -1);
     if (picked && guard)
-        field.setText(qt::toQString(ShortDate(*picked, *regional_)));
+        field.setText(qt::toQString(ShortDate(*picked, surroundings_.regional)));
 }
 
 void QueryPane::tell(const QString& sentence, QLineEdit& field)

@@ -2,6 +2,7 @@
 
 #include "foundation/Date.h"
 #include "foundation/RegionalSettings.h"
+#include "screen/Services.h"
 #include "workbench/DataTable.h"
 
 #include <QWidget>
@@ -39,7 +40,7 @@ public:
     /// name: ahead of the names of all parts of the screen, "hourly". ask: run when the user wants
     /// to see the data of days that are all right; what it raises is told to him. Regional settings
     /// outlive the pane.
-    QueryPane(QString name, const RegionalSettings& regional, Ask ask, QWidget* parent);
+    QueryPane(QString name, const screen::Surroundings& surroundings, Ask ask, QWidget* parent);
 
     /// Puts what is chosen from at the left, above the days. The mnemonic of the caption leads to
     /// its last part, and the keys go on from there to the days.
@@ -64,6 +65,7 @@ private:
     void addTableActions(QPushButton& copy, QPushButton& save);
 
     void askForData();
+    [[nodiscard]] Date today() const;
     [[nodiscard]] std::optional<Date> dayIn(QLineEdit& field);
     [[nodiscard]] std::optional<Period> period();
     void pickDay(QLineEdit& field);
@@ -73,7 +75,7 @@ private:
 
     QString name_;
     QWidgetList keyOrder_; ///< The parts behind the choice in the order of the keys.
-    const RegionalSettings* regional_;
+    screen::Surroundings surroundings_;
     Ask ask_;
     QVBoxLayout* leftColumn_ = nullptr; ///< Left free at its top for the choice.
     QLineEdit* firstDay_ = nullptr;

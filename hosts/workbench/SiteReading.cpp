@@ -5,8 +5,6 @@
 #include "qt/Texts.h"
 #include "sevenday/CalibrationTables.h"
 
-#include <QDate>
-
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -25,9 +23,9 @@ using Find = std::function<std::optional<Date>(Date start, Date end)>;
 /// Searches the time up to the end of the present year, the newest year first, then stretches that
 /// double in length: data that is up to date is found in the first, and a parameter without any
 /// costs a few.
-std::optional<Date> findBackward(Date firstDay, const Find& find)
+std::optional<Date> findBackward(Date now, Date firstDay, const Find& find)
 {
-    Date end = DateAddExact("h", 1, endOfData());
+    Date end = DateAddExact("h", 1, endOfData(now));
     for (int years = 1; end > firstDay; years *= 2) {
         const Date start = std::max(firstDay, DateAddExact("m", -kMonthsPerYear * years, end));
         if (const auto found = find(start, end))
@@ -51,14 +49,14 @@ Date beginningOfData()
     return makeDate(kFirstYear, 1, 1);
 }
 
-Date endOfData()
+Date endOfData(Date now)
 {
-    return makeDate(QDate::currentDate().year(), 12, 31, 23);
+    return makeDate(dateParts(now).year, 12, 31, 23);
 }
 
-std::optional<Date> newestValue(DIParameter& parameter, Date firstDay)
+std::optional<Date> newestValue(DIParameter& parameter, Date now, Date firstDay)
 {
-    return findBackward(firstDay, [&](Date start, Date end) {
+    return findBackward(now, firstDay, [&](Date start, Date end) {
         DIDataSet hours;
         hours.Init(start, static_cast<std::int32_t>(hourBoundariesBetween(start, end)), "h", 1, 0);
         parameter.ReadData(hours);
@@ -87,9 +85,9 @@ DIRecordList readInjections(DIServer& server, DIParameter& calibration, Date sta
 }
 
 std::optional<Date> newestInjection(DIServer& server, DIParameter& calibration,
-                                    const RegionalSettings& regional, Date firstDay)
+                                    const RegionalSettings& regional, Date now, Date firstDay)
 {
-    return findBackward(firstDay, [&](Date start, Date end) {
+    return findBackward(now, firstDay, [&](Date start, Date end) {
         std::optional<Date> newest;
         for (const auto& record : readInjections(server, calibration, start, end, regional))
             newest = std::max(newest, std::optional(present(record).RunTime()));

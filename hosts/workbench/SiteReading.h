@@ -17,17 +17,18 @@ QString nameWithUnit(DIServer& server, DIParameter& parameter);
 /// Data is looked for from here on: sources had no continuous monitors under 40 CFR 75 before.
 Date beginningOfData();
 /// The last hour of the present year.
-Date endOfData();
+Date endOfData(Date now);
 
 /// The newest hour with a value from a day on, if there is one.
-std::optional<Date> newestValue(DIParameter& parameter, Date firstDay = beginningOfData());
+std::optional<Date> newestValue(DIParameter& parameter, Date now,
+                                Date firstDay = beginningOfData());
 
 /// The injections of a calibration in a range of time, both ends included.
 DIRecordList readInjections(DIServer& server, DIParameter& calibration, Date start, Date end,
                             const RegionalSettings& regional);
 /// The run time of the newest injection of a calibration from a day on, if there is one.
 std::optional<Date> newestInjection(DIServer& server, DIParameter& calibration,
-                                    const RegionalSettings& regional,
+                                    const RegionalSettings& regional, Date now,
                                     Date firstDay = beginningOfData());
 
 } // namespace k7deval::workbench

@@ -151,7 +151,7 @@ template <class Page> void ToolTabs::addHistogram(Tool tool)
 
 void ToolTabs::addData()
 {
-    auto* page = new DataPage(surroundings_.regional);
+    auto* page = new DataPage(surroundings_);
     addPage(Tool::Data, *page);
     page->setServer(server_);
 }

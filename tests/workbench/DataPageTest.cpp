@@ -6,9 +6,9 @@
 #include "sitedb/CsvTable.h"
 #include "sitedb/SampleSite.h"
 #include "sitedb/SourceFile.h"
+#include "support/FakeServices.h"
 #include "support/FakeSite.h"
 #include "support/TemporaryFolder.h"
-#include "workbench/StatusText.h"
 
 #include <gmock/gmock.h>
 
@@ -61,7 +61,9 @@ struct DataScreen {
 
     RegionalSettings regional;
     std::shared_ptr<DIServer> server;
-    DataPage page{regional};
+    k7deval::test::FakeServices services;
+    k7deval::test::FixedClock clock{makeDate(2024, 5, 2, 9, 30)};
+    DataPage page{{services, clock, regional}};
     Operator hands{page};
 
     [[nodiscard]] QString text(const std::string& field) const
@@ -467,23 +469,18 @@ TEST(DataScreen, AllThatTakesTheKeysIsNamed)
     EXPECT_THAT(faultsForAScreenReader(screen.page), IsEmpty());
 }
 
-TEST(StatusText, TellsTheMethodOfAMonitorsHour)
+TEST(DataScreen, ADayIsPickedFromACalendarThatOpensAtTheOneShown)
 {
-    const auto codes = sitedb::test::sharedSample().server()->StatusCodes();
-    const auto brief = [&](std::int32_t word) {
-        return statusText(*codes, word).brief.toStdString();
-    };
-    EXPECT_EQ(brief(0), "no data");
-    EXPECT_EQ(brief(1), "valid");
-    EXPECT_EQ(brief(2), "off line");
-    EXPECT_EQ(brief(3), "left out");
-    EXPECT_EQ(brief(35), "valid, 200 % of the maximum potential concentration");
-    EXPECT_EQ(brief(101), "valid, MODC 01");
-    EXPECT_EQ(brief(106), "not valid, MODC 06");
-    EXPECT_EQ(brief(116), "left out, MODC 16");
-    EXPECT_EQ(brief(77), "not valid, status 77");
-    EXPECT_EQ(statusText(*codes, 106).full,
-              "Status 106: MODC 06: average of the hours before and after");
+    DataScreen screen;
+    screen.services.dateAnswer = makeDate(2021, 12, 24);
+    screen.hands.click("hourlyFirstCalendar");
+    EXPECT_EQ(screen.text("hourlyFirstDay"), "12/24/2021");
+    screen.hands.type("hourlyLastDay", "");
+    screen.hands.click("hourlyLastCalendar");
+    using Request = std::pair<std::string, Date>;
+    EXPECT_THAT(screen.services.dateRequests,
+                ::testing::ElementsAre(Request("First day", makeDate(2021, 12, 1)),
+                                       Request("Last day", makeDate(2024, 5, 2))));
 }
 
 } // namespace k7deval::workbench::test

@@ -16,7 +16,6 @@ namespace
 
 using k7deval::test::LoadBench;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 /// The screen of the load tool, with 4 hours in the first bin, 8 in the tenth and 1 in the last.
 struct ReadChart {

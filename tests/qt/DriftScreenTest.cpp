@@ -20,9 +20,7 @@ namespace
 using k7deval::test::addCal;
 using k7deval::test::march;
 using k7deval::test::operatedSite;
-using k7deval::test::SiteData;
 using k7deval::test::siteWithDailyCals;
-using k7deval::test::ToolBench;
 using k7deval::testing::TemporaryFolder;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;

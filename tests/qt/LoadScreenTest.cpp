@@ -19,11 +19,8 @@ namespace
 {
 
 using k7deval::test::failAt;
-using k7deval::test::FakeServices;
-using k7deval::test::kGT1Load;
 using k7deval::test::LoadBench;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 /// An operator at the load tool on GT1: ten hours of load on the bounds of bins and levels.

@@ -32,7 +32,6 @@ namespace
 {
 
 using k7deval::test::SiteData;
-using k7deval::testing::contentOf;
 using k7deval::testing::TemporaryFolder;
 using qt::test::faultsForAScreenReader;
 using qt::test::Operator;

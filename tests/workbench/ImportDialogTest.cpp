@@ -22,7 +22,6 @@ using sitedb::test::EmptySite;
 using sitedb::test::SmallSite;
 using sitedb::test::TemporaryDirectory;
 using testing::HasSubstr;
-using testing::Not;
 
 constexpr const char* kSpans =
     "unit_id,component_id,component_type,span_scale,span_value,units\nU2,010,NOX,H,100,PPM\n";

@@ -17,7 +17,6 @@ namespace
 
 using qt::test::dropFiles;
 using qt::test::Operator;
-using qt::test::settle;
 using qt::test::whenDialogComes;
 using sitedb::test::sampleFile;
 

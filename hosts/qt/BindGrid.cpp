@@ -23,8 +23,6 @@ namespace
 constexpr int kCheckColumn = 0;
 constexpr int kTextColumn = 1;
 constexpr int kColumns = 2;
-constexpr float kTwipsPerPixel = 15;
-
 /// The rows of a grid, asked of it whenever the view needs them. Rows and columns count from 0
 /// here and from 1 in the grid.
 class GridRows final : public QAbstractTableModel
@@ -67,8 +65,7 @@ public:
     {
         if (role != Qt::CheckStateRole || index.column() != kCheckColumn)
             return false;
-        forward(
-            *view_, [&] { grid_->Edit(index.row() + 1, value.toInt() == Qt::Checked); }, [] {});
+        forward(*view_, [&] { grid_->Edit(index.row() + 1, value.toInt() == Qt::Checked); });
         return true;
     }
 
@@ -142,7 +139,8 @@ void layOut(QTableView& view)
 void handInWidths(const QTableView& view, screen::Grid& model)
 {
     model.TextWidth = [metrics = QFontMetricsF(view.font())](const std::string& text) {
-        return static_cast<float>(metrics.horizontalAdvance(toQString(text))) * kTwipsPerPixel;
+        return static_cast<float>(metrics.horizontalAdvance(toQString(text))) *
+               kTwipsPerPixel;
     };
     const int scrollBar = view.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &view);
     model.ScrollBarWidth = static_cast<float>(scrollBar) * kTwipsPerPixel;
@@ -164,8 +162,7 @@ void forwardMouse(QTableView& view, screen::Grid& model, const Refresh& refresh)
     const auto mouseDown = [&view, &model](const QEvent& event) {
         const auto& press = static_cast<const QMouseEvent&>(event);
         const QModelIndex index = view.indexAt(press.position().toPoint());
-        forward(
-            view, [&] { model.MouseDown(index.row() + 1, index.column() + 1); }, [] {});
+        forward(view, [&] { model.MouseDown(index.row() + 1, index.column() + 1); });
     };
     for (const QEvent::Type kind : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick})
         new EventWatch(*view.viewport(), kind, mouseDown);
@@ -206,8 +203,7 @@ void bind(QTableView& view, screen::Grid& model)
         view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
         [&view, &model](const QModelIndex& current) {
             if (current.isValid())
-                forward(
-                    view, [&] { model.MoveTo(current.row() + 1, current.column() + 1); }, [] {});
+                forward(view, [&] { model.MoveTo(current.row() + 1, current.column() + 1); });
         });
 }
 

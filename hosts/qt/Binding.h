@@ -29,6 +29,9 @@ class QWidget;
 namespace k7deval::qt
 {
 
+/// Models measure in twips.
+inline constexpr float kTwipsPerPixel = 15;
+
 /// A screen or a page: seen or not, enabled or not, and its mouse pointer.
 void bind(QWidget& view, screen::Control& model);
 void bind(QGroupBox& view, screen::Frame& model);

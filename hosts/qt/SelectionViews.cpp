@@ -12,8 +12,6 @@ namespace k7deval::qt
 namespace
 {
 
-constexpr float kTwipsPerPixel = 15;
-
 template <class Control> void resizeLike(const QWidget& view, Control& control)
 {
     control.Resize(static_cast<float>(view.width()) * kTwipsPerPixel,

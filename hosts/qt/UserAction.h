@@ -16,6 +16,7 @@ void showError(QWidget* over, const Error& error);
 
 /// Hands an action of the user to the model. What it raises is told to the user. Then the view
 /// shows what the model made of it, also when that is nothing.
-void forward(QWidget& view, const std::function<void()>& action, const Refresh& refresh);
+void forward(
+    QWidget& view, const std::function<void()>& action, const Refresh& refresh = [] {});
 
 } // namespace k7deval::qt

@@ -59,8 +59,7 @@ HourlyValuesPage::HourlyValuesPage(std::shared_ptr<DIServer> server,
     pane_->setReachable(server_ != nullptr);
     pane_->say("Open a site to see its data.");
     if (server_)
-        qt::forward(
-            *this, [this] { fill(); }, [] {});
+        qt::forward(*this, [this] { fill(); });
 }
 
 /// The pane goes first: it has the view of the list.

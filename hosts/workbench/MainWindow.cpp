@@ -41,8 +41,6 @@ constexpr int kLinesOfMessages = 7;
 constexpr QSize kFirstSize(1180, 720);
 constexpr const char* kSiteFilter = "Sites (*.site);;All files (*)";
 
-const qt::Refresh kNothingToRefresh = [] {};
-
 bool isSite(const QString& path)
 {
     return path.endsWith(".site", Qt::CaseInsensitive);
@@ -75,7 +73,7 @@ MainWindow::MainWindow(screen::Services& services, const Clock& clock, Settings&
     siteLine_->setObjectName("siteLine");
     statusBar()->addPermanentWidget(siteLine_, 1);
     restoreLayout();
-    showSite(nullptr);
+    showSite();
 }
 
 /// The tools refer to what the window holds.
@@ -238,59 +236,66 @@ void MainWindow::newSite(const QString& path)
         openDatabase(path, sitedb::OpenMode::ReadWrite);
         isMade = true;
     };
-    qt::forward(*this, make, kNothingToRefresh);
+    qt::forward(*this, make);
     if (isMade)
         openSite(path);
 }
 
+MainWindow::Site MainWindow::readSite(const QString& path)
+{
+    auto server = openDatabase(path, sitedb::OpenMode::ReadOnly).server();
+    const QString line = lineOf(*server, path);
+    const bool hasUnits = !server->Units().empty();
+    return {QFileInfo(path).absoluteFilePath(), std::move(server), line, hasUnits};
+}
+
+/// A site that can't be read leaves the one before as it is.
 void MainWindow::openSite(const QString& path)
 {
-    std::shared_ptr<DIServer> server;
     const auto open = [&] {
         if (!QFileInfo::exists(path))
             settings_->removeRecentSite(path);
-        server = openDatabase(path, sitedb::OpenMode::ReadOnly).server();
+        site_ = readSite(path);
+        settings_->setFolderOf(site_.path);
+        settings_->addRecentSite(site_.path);
+        showSite();
     };
-    qt::forward(*this, open, kNothingToRefresh);
-    if (server) {
-        site_ = QFileInfo(path).absoluteFilePath();
-        settings_->setFolderOf(site_);
-        settings_->addRecentSite(site_);
-    }
-    if (server || !server_)
-        showSite(server);
+    qt::forward(*this, open);
+    // What is gone is not offered again.
+    if (!site_.server)
+        showSite();
 }
 
 void MainWindow::offerSite(const QString& path)
 {
     settings_->addRecentSite(path);
-    if (!server_)
-        showSite(nullptr);
+    if (!site_.server)
+        showSite();
 }
 
 void MainWindow::importFiles(const QStringList& paths)
 {
-    if (site_.isEmpty()) {
+    if (!site_.server) {
         QMessageBox::information(this, "Import Files",
                                  "Open a site first, or make a new one, to take the files into.");
         return;
     }
-    qt::Modal<ImportDialog> dialog(site_, *clock_, this);
+    qt::Modal<ImportDialog> dialog(site_.path, *clock_, this);
     dialog->addFiles(paths);
     static_cast<void>(dialog.ask());
     // The window may be gone, and the dialog with it.
     if (dialog && dialog->hasTaken())
-        showAgain();
+        onSameTool([this] { openSite(site_.path); });
 }
 
 void MainWindow::askForProperties()
 {
     const auto ask = [this] {
-        qt::Modal<SiteProperties> dialog(site_, regional_, this);
+        qt::Modal<SiteProperties> dialog(site_.path, regional_, this);
         if (dialog.ask() == QDialog::Accepted)
-            showAgain();
+            onSameTool([this] { openSite(site_.path); });
     };
-    qt::forward(*this, ask, kNothingToRefresh);
+    qt::forward(*this, ask);
 }
 
 void MainWindow::listRecentSites()
@@ -320,41 +325,39 @@ void MainWindow::pressOnPage(const QString& name)
 void MainWindow::takeRegion(const QString& name)
 {
     settings_->setRegion(name);
+    onSameTool([this, name] {
+        tools_->close();
+        regional_ = settingsOfRegion(name);
+        showSite();
+    });
+}
+
+void MainWindow::onSameTool(const std::function<void()>& show)
+{
     const auto tool = tools_->current();
-    tools_->close();
-    regional_ = settingsOfRegion(name);
-    showSite(server_);
+    show();
     if (tool)
         tools_->goTo(*tool);
 }
 
-void MainWindow::showAgain()
+void MainWindow::showSite()
 {
-    const auto tool = tools_->current();
-    openSite(site_);
-    if (tool)
-        tools_->goTo(*tool);
-}
-
-void MainWindow::showSite(std::shared_ptr<DIServer> server)
-{
-    server_ = std::move(server);
-    const bool hasUnits = server_ && !server_->Units().empty();
-    import_->setEnabled(server_ != nullptr);
-    properties_->setEnabled(hasUnits);
-    toolsMenu_->setEnabled(hasUnits);
-    setWindowTitle(server_ ? QFileInfo(site_).completeBaseName() + " - K7DEval" : "K7DEval");
-    siteLine_->setText(server_ ? lineOf(*server_, site_) : "No site");
-    siteLine_->setToolTip(QDir::toNativeSeparators(site_));
-    if (hasUnits) {
+    const QFileInfo file(site_.path);
+    import_->setEnabled(site_.server != nullptr);
+    properties_->setEnabled(site_.server != nullptr);
+    toolsMenu_->setEnabled(site_.hasUnits);
+    setWindowTitle(site_.server ? file.completeBaseName() + " - K7DEval" : "K7DEval");
+    siteLine_->setText(site_.server ? site_.line : "No site");
+    siteLine_->setToolTip(QDir::toNativeSeparators(site_.path));
+    if (site_.hasUnits) {
         centre_->setCurrentWidget(tools_);
-        tools_->open(server_);
+        tools_->open(site_.server);
         return;
     }
     tools_->close();
     centre_->setCurrentWidget(start_);
-    if (server_)
-        start_->showEmptySite(QFileInfo(site_).fileName());
+    if (site_.server)
+        start_->showEmptySite(file.fileName());
     else
         start_->showWithoutSite(settings_->recentSites());
 }
@@ -364,7 +367,7 @@ void MainWindow::showHelp()
 {
     if (help_ == nullptr)
         help_ = new HelpWindow(this);
-    const auto tool = server_ ? tools_->current() : std::nullopt;
+    const auto tool = tools_->current();
     help_->showTopic(tool ? topicOf(*tool) : "sites");
 }
 

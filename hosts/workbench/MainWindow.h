@@ -8,6 +8,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 class QActionGroup;
@@ -69,9 +70,18 @@ private:
     /// Presses a button of the tool on view, if it has one of that name.
     void pressOnPage(const QString& name);
     void takeRegion(const QString& name);
-    /// Shows the site anew as it is now, on the same tool.
-    void showAgain();
-    void showSite(std::shared_ptr<DIServer> server);
+    /// What is known of a site when it is opened.
+    struct Site {
+        QString path; ///< Empty without a site.
+        std::shared_ptr<DIServer> server;
+        QString line; ///< What the status bar says of it.
+        bool hasUnits = false;
+    };
+    [[nodiscard]] static Site readSite(const QString& path);
+    /// Shows the site that is open, or how to get one.
+    void showSite();
+    /// Does something that shows the tools anew, and goes back to the tool on view.
+    void onSameTool(const std::function<void()>& show);
     void showHelp();
     void showAbout();
 
@@ -79,8 +89,7 @@ private:
     const Clock* clock_;
     Settings* settings_;
     RegionalSettings regional_;
-    QString site_; ///< The path of the open site; empty without one.
-    std::shared_ptr<DIServer> server_;
+    Site site_;
     QStackedWidget* centre_;
     StartPage* start_ = nullptr;
     ToolTabs* tools_ = nullptr;

@@ -27,8 +27,6 @@ namespace k7deval::workbench
 namespace
 {
 
-const qt::Refresh kNothingToRefresh = [] {};
-
 /// The paper that a page is laid out for.
 QPageLayout layoutOf(const ReportPage& page)
 {
@@ -214,8 +212,7 @@ void previewReport(const ReportDocument& document, QWidget* over)
     QPrintPreviewDialog& shown = *dialog;
     QObject::connect(&shown, &QPrintPreviewDialog::paintRequested, &shown,
                      [&shown, &document](QPrinter* target) {
-                         qt::forward(
-                             shown, [&] { printPages(document, *target); }, kNothingToRefresh);
+                         qt::forward(shown, [&] { printPages(document, *target); });
                      });
     static_cast<void>(dialog.ask());
 }

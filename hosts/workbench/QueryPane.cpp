@@ -247,7 +247,7 @@ void QueryPane::askForData()
         const Hourglass pointer;
         ask_(*asked);
     };
-    qt::forward(*this, show, [] {});
+    qt::forward(*this, show);
 }
 
 std::optional<Period> QueryPane::period()
@@ -324,13 +324,10 @@ void QueryPane::save()
     const QString path = askForFile(*this);
     if (path.isEmpty())
         return;
-    qt::forward(
-        *this,
-        [&] {
-            const Hourglass pointer;
-            replaceFile(path.toStdString(), csvText(*table_));
-        },
-        [] {});
+    qt::forward(*this, [&] {
+        const Hourglass pointer;
+        replaceFile(path.toStdString(), csvText(*table_));
+    });
 }
 
 } // namespace k7deval::workbench

@@ -16,8 +16,6 @@ namespace k7deval::workbench
 namespace
 {
 
-const qt::Refresh kNothingToRefresh = [] {};
-
 } // namespace
 
 QString titleOf(Tool tool)
@@ -129,7 +127,7 @@ void ToolTabs::addTool(Tool tool)
             return addData();
         }
     };
-    qt::forward(*this, add, kNothingToRefresh);
+    qt::forward(*this, add);
 }
 
 void ToolTabs::addDrift()

@@ -163,6 +163,7 @@ TEST(Workbench, ARecentSiteThatIsGoneIsToldAndForgotten)
     bench.window.openSite("/nowhere/lost.site");
     EXPECT_TRUE(told.startsWith("Error 53: ")) << told.toStdString();
     EXPECT_TRUE(bench.memory->settings.recentSites().isEmpty());
+    EXPECT_FALSE(bench.window.findChild<QListWidget*>("recentSites")->isVisible());
     EXPECT_EQ(bench.label("startTitle").text(), "No site is open");
 }
 

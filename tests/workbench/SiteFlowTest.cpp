@@ -1,4 +1,5 @@
 #include "sitedb/EmissionsCase.h"
+#include "sitedb/sql/Connection.h"
 #include "workbench/ImportBench.h"
 #include "workbench/Workbench.h"
 
@@ -115,6 +116,32 @@ TEST(SiteFlow, TheFacilityOfTheSiteIsShown)
     bench.choose({"File", "Site Properties..."});
     EXPECT_THAT(bench.label("siteLine").text().toStdString(),
                 testing::StartsWith("Plant of the North   "));
+}
+
+TEST(SiteFlow, ASiteThatCanNotBeReadIsToldAndLeavesTheOneBefore)
+{
+    const sitedb::test::SmallSite held;
+    sitedb::test::SmallSite damaged;
+    damaged.site.connection().execute("DROP TABLE lookup");
+    Workbench bench(held.path.string());
+    const auto told = textOfNextBox();
+    bench.window.openSite(QString::fromStdString(damaged.path.string()));
+    EXPECT_TRUE(told->contains("lookup")) << told->toStdString();
+    EXPECT_EQ(bench.tabs().count(), 4);
+    EXPECT_EQ(bench.label("siteLine").toolTip(), QString::fromStdString(held.path.string()));
+}
+
+TEST(SiteFlow, AnEmptySiteCanBeNamed)
+{
+    Workbench bench("");
+    bench.window.newSite(bench.memory->folder.filePath("plant.site"));
+    whenDialogComes([](QDialog& dialog) {
+        const Operator hands(dialog);
+        hands.type("facility", "Plant of the North");
+        hands.press(Qt::Key_Return);
+    });
+    bench.choose({"File", "Site Properties..."});
+    EXPECT_EQ(bench.label("siteLine").text(), "Plant of the North   plant.site");
 }
 
 // As when the desktop's session ends.

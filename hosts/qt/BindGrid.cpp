@@ -139,8 +139,7 @@ void layOut(QTableView& view)
 void handInWidths(const QTableView& view, screen::Grid& model)
 {
     model.TextWidth = [metrics = QFontMetricsF(view.font())](const std::string& text) {
-        return static_cast<float>(metrics.horizontalAdvance(toQString(text))) *
-               kTwipsPerPixel;
+        return static_cast<float>(metrics.horizontalAdvance(toQString(text))) * kTwipsPerPixel;
     };
     const int scrollBar = view.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &view);
     model.ScrollBarWidth = static_cast<float>(scrollBar) * kTwipsPerPixel;

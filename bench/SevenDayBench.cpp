@@ -40,7 +40,7 @@ PID analyzedPID(DIServer& server)
     for (const auto& parameter :
          server.ParametersOfUnit(PIDPart(unit, pidpart::kUnit), {kCalibrationType})) {
         if (PIDPart(parameter->PID(), pidpart::kParameterCode) == kNoxOfGT4Code)
-            return toInt32(parameter->GetAttribute(attribute::kMeasuredPID), regional);
+            return integerIn(parameter->GetAttribute(attribute::kMeasuredPID), regional);
     }
     return 0;
 }

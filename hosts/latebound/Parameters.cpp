@@ -43,7 +43,7 @@ DIDataSet Parameter::CurrentPoint(std::int32_t one, std::int32_t two, std::int32
     // A slot holds numbers only; any other value is as good as none.
     const Variant value = point.value("Value");
     if (IsNumeric(value, *point.region()))
-        slot.SetValue(toDouble(value, *point.region()));
+        slot.SetValue(doubleIn(value, *point.region()));
     slot.SetStatus(point.number("Status"));
     return set;
 }

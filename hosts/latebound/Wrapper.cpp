@@ -23,12 +23,12 @@ Variant Wrapper::value(const char* name, Arguments arguments) const
 
 std::int32_t Wrapper::number(const char* name, Arguments arguments) const
 {
-    return toInt32(value(name, arguments), *region_);
+    return integerIn(value(name, arguments), *region_);
 }
 
 bool Wrapper::flag(const char* name, Arguments arguments) const
 {
-    return toBoolean(value(name, arguments), *region_);
+    return booleanIn(value(name, arguments), *region_);
 }
 
 std::string Wrapper::text(const char* name, Arguments arguments) const
@@ -45,7 +45,7 @@ Date Wrapper::date(const char* name, Arguments arguments) const
         return {};
     if (const auto* text = std::get_if<std::string>(&result))
         return ToDate(*text, *region_, Date{});
-    return {toDouble(result, *region_)};
+    return {doubleIn(result, *region_)};
 }
 
 Wrapper Wrapper::member(const char* name, Arguments arguments) const

@@ -20,7 +20,7 @@ void setValue(const HostDataPoint& self, const py::object& value)
     if (value.is_none())
         self.slot().SetNull();
     else
-        self.slot().SetValue(toDouble(variantOf(value), RegionalSettings{}));
+        self.slot().SetValue(doubleIn(variantOf(value), RegionalSettings{}));
 }
 
 HostDataPoint pointAt(const std::shared_ptr<DIDataSet>& set, Date time)

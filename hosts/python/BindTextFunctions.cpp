@@ -22,7 +22,7 @@ std::string numberText(const py::object& value, const RegionalSettings& regional
     const Variant number = variantOf(value);
     if (const auto* single = std::get_if<float>(&number))
         return write(*single);
-    return write(toDouble(number, regional));
+    return write(doubleIn(number, regional));
 }
 
 void bindNumberTexts(py::module_& module, const HostStateHandle& state)

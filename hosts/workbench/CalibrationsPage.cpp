@@ -29,7 +29,7 @@ bool isListed(DIParameter& parameter, const RegionalSettings& regional)
     if (isNull(table) || toText(table, regional) != kCalibrationTable)
         return false;
     const Variant leftOut = parameter.GetAttribute(attribute::kLeftOutOfLists);
-    return isNull(leftOut) || !toBoolean(leftOut, regional);
+    return isNull(leftOut) || !booleanIn(leftOut, regional);
 }
 
 DIParameterList listedCalibrations(DIServer& server, const RegionalSettings& regional)

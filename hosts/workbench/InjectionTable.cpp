@@ -22,8 +22,8 @@ Variant driftOf(const InjectionRow& row, const RegionalSettings& regional)
     if (isMissing(row.reference) || isMissing(row.measured))
         return Null{};
     clsStrippedCal injection;
-    injection.ReferenceValue = toSingle(row.reference, regional);
-    injection.MeasuredValue = toSingle(row.measured, regional);
+    injection.ReferenceValue = singleIn(row.reference, regional);
+    injection.MeasuredValue = singleIn(row.measured, regional);
     return injection.Drift();
 }
 
@@ -47,7 +47,7 @@ public:
 
     const QString& of(const Variant& sourceTag)
     {
-        const PID pid = isMissing(sourceTag) ? 0 : toInt32(sourceTag, *regional_);
+        const PID pid = isMissing(sourceTag) ? 0 : integerIn(sourceTag, *regional_);
         const auto found = names_.find(pid);
         return found != names_.end() ? found->second
                                      : names_.emplace(pid, nameOf(pid)).first->second;
@@ -105,7 +105,7 @@ struct Writing {
     {
         if (isMissing(value))
             return {};
-        return toBoolean(value, regional) ? "yes" : "no";
+        return booleanIn(value, regional) ? "yes" : "no";
     }
 };
 

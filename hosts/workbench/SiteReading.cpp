@@ -78,7 +78,7 @@ DIRecordList readInjections(DIServer& server, DIParameter& calibration, Date sta
     query.siteKey = server.SiteKey();
     query.start = start;
     query.end = end;
-    query.pid = toInt32(calibration.GetAttribute(attribute::kMeasuredPID), regional);
+    query.pid = integerIn(calibration.GetAttribute(attribute::kMeasuredPID), regional);
     query.scale = scaleName == nullptr ? std::string() : *scaleName;
     query.tables = kCalibrationTables;
     return present(server.RecordStore()).ReadRangeRecords(query);

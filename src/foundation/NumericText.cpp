@@ -65,7 +65,7 @@ std::string_view trimmed(std::string_view text)
 }
 
 // What may stand around the digits: one sign or pair of parentheses, and one currency mark.
-struct Surroundings {
+struct SignAndCurrency {
     bool sign = false;
     bool negative = false;
     bool currency = false;
@@ -93,11 +93,11 @@ std::optional<NumericText> NumericText::read(std::string_view text,
                                              const RegionalSettings& settings)
 {
     text = trimmed(text);
-    Surroundings surroundings;
-    while (surroundings.takeOne(text, settings)) {
+    SignAndCurrency found;
+    while (found.takeOne(text, settings)) {
     }
     NumericText number;
-    number.negative_ = surroundings.negative;
+    number.negative_ = found.negative;
     if (!number.readDigits(text, settings))
         return std::nullopt;
     return number;

@@ -86,31 +86,31 @@ bool IsNumeric(const Variant& value, const RegionalSettings& settings)
     return std::visit(NumericTest{settings}, value);
 }
 
-float toSingle(const Variant& value, const RegionalSettings& settings)
+float singleIn(const Variant& value, const RegionalSettings& settings)
 {
     if (const auto* single = std::get_if<float>(&value))
         return *single;
-    return ToSingle(toDouble(value, settings));
+    return ToSingle(doubleIn(value, settings));
 }
 
-double toDouble(const Variant& value, const RegionalSettings& settings)
+double doubleIn(const Variant& value, const RegionalSettings& settings)
 {
     return std::visit(DoubleReader{settings}, value);
 }
 
-std::int32_t toInt32(const Variant& value, const RegionalSettings& settings)
+std::int32_t integerIn(const Variant& value, const RegionalSettings& settings)
 {
-    return ToInt32(toDouble(value, settings));
+    return ToInt32(doubleIn(value, settings));
 }
 
-bool toBoolean(const Variant& value, const RegionalSettings& settings)
+bool booleanIn(const Variant& value, const RegionalSettings& settings)
 {
     if (const auto* text = std::get_if<std::string>(&value)) {
         const std::string upper = upperCase(*text);
         if (upper == "TRUE" || upper == "FALSE")
             return upper == "TRUE";
     }
-    return toDouble(value, settings) != 0;
+    return doubleIn(value, settings) != 0;
 }
 
 std::string toText(const Variant& value, const RegionalSettings& settings)

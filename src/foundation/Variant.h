@@ -41,10 +41,10 @@ bool IsNumeric(const Variant& value, const RegionalSettings& settings);
 
 /// Conversions of a value to a plain type. Error 94 for Null, 13 for a text that does not fit,
 /// 6 for a number outside the type's range. Texts are read under the settings' region.
-float toSingle(const Variant& value, const RegionalSettings& settings);
-double toDouble(const Variant& value, const RegionalSettings& settings);
-std::int32_t toInt32(const Variant& value, const RegionalSettings& settings);
-bool toBoolean(const Variant& value, const RegionalSettings& settings);
+float singleIn(const Variant& value, const RegionalSettings& settings);
+double doubleIn(const Variant& value, const RegionalSettings& settings);
+std::int32_t integerIn(const Variant& value, const RegionalSettings& settings);
+bool booleanIn(const Variant& value, const RegionalSettings& settings);
 /// Numbers in general number form, booleans as "True" or "False", dates as short date and long
 /// time.
 std::string toText(const Variant& value, const RegionalSettings& settings);

@@ -141,7 +141,7 @@ void ctrlMaxMW::lookUpCapacity(std::int32_t unit)
         const Variant value = constant.CurrentPoint(0, 0, 0).ItemByIndex(1).Value();
         if (!IsNumeric(value, surroundings_.regional))
             return false;
-        evaluation_.CapacityValue = toSingle(value, surroundings_.regional);
+        evaluation_.CapacityValue = singleIn(value, surroundings_.regional);
         txtCapacity.SetText(numberText(evaluation_.CapacityValue));
         return true;
     };

@@ -31,10 +31,10 @@ std::int32_t scaleOf(const Variant& text)
 bool qualifies(DIParameter& calibration, const RegionalSettings& regional)
 {
     const Variant leftOut = calibration.GetAttribute(attribute::kLeftOutOfLists);
-    if (isNull(leftOut) || toBoolean(leftOut, regional))
+    if (isNull(leftOut) || booleanIn(leftOut, regional))
         return false;
     const Variant use = calibration.GetAttribute(attribute::kRangeUse);
-    if (isNull(use) || toInt32(use, regional) != 0)
+    if (isNull(use) || integerIn(use, regional) != 0)
         return false;
     const Variant table = calibration.GetAttribute(attribute::kRecordTable);
     return !isNull(table) && toText(table, regional) == kCalibrationTable;
@@ -100,7 +100,7 @@ float readSpan(DIServer& server, DIParameter& calibration, const RegionalSetting
     if (records.empty() || records.front() == nullptr)
         return kSpanWhenUnknown;
     const Variant span = records.front()->Span();
-    return IsNumeric(span, regional) ? toSingle(span, regional) : kSpanWhenUnknown;
+    return IsNumeric(span, regional) ? singleIn(span, regional) : kSpanWhenUnknown;
 }
 
 } // namespace

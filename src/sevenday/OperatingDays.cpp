@@ -39,7 +39,7 @@ void DriftTest::addDaysByHour(DIDataSet& hours)
         if (dateParts(t).hour == 0)
             blnUndetermined = false;
         const Variant value = hours.ItemByTime(t).Value();
-        const bool blnOperated = !isNull(value) && toDouble(value, *regional_) > 0;
+        const bool blnOperated = !isNull(value) && doubleIn(value, *regional_) > 0;
         blnUndetermined = blnUndetermined || isNull(value);
         addHour(t, blnOperated, blnUndetermined);
         t = DateAddExact("h", 1, t);

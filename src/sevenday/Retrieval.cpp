@@ -93,7 +93,7 @@ void DriftTest::findOperatingTime(const InjectionRecords& records)
 {
     const auto operatingTimeOf = [this](PID pid) {
         const auto parameter = present(DIServer->Parameters()).Item(pid, -1);
-        return toInt32(present(parameter).GetLinkedPID(attribute::kOperatingTimePID), *regional_);
+        return integerIn(present(parameter).GetLinkedPID(attribute::kOperatingTimePID), *regional_);
     };
     lngOpTimePID = operatingTimeOf(UnitPID(lngAnalyzedPID));
 
@@ -112,26 +112,26 @@ PID DriftTest::linkedObject(const InjectionRecords& records)
         records.colUpscaleRecords.empty() ? records.colZeroRecords : records.colUpscaleRecords;
     if (source.empty())
         return 0;
-    const PID sourceTag = toInt32(source.front()->SourceTagID(), *regional_);
+    const PID sourceTag = integerIn(source.front()->SourceTagID(), *regional_);
     const auto parameter = present(DIServer->Parameters()).Item(sourceTag, -1);
-    return toInt32(present(parameter).GetLinkedPID(attribute::kLinkedObjectPID), *regional_);
+    return integerIn(present(parameter).GetLinkedPID(attribute::kLinkedObjectPID), *regional_);
 }
 
 std::shared_ptr<cls7DayAnalyzerCal> DriftTest::newRun(DIRecord& record) const
 {
     auto run = std::make_shared<cls7DayAnalyzerCal>();
     run->CalTime = record.RunTime();
-    run->InstrumentSpan = toSingle(record.Span(), *regional_);
+    run->InstrumentSpan = singleIn(record.Span(), *regional_);
     run->IsOnline = record.CalStatus() != kOfflineCalibration;
-    run->ManualCal = toBoolean(record.Manual(), *regional_);
+    run->ManualCal = booleanIn(record.Manual(), *regional_);
     return run;
 }
 
 std::shared_ptr<clsStrippedCal> DriftTest::newInjection(DIRecord& record) const
 {
     auto injection = std::make_shared<clsStrippedCal>();
-    injection->MeasuredValue = toSingle(record.MeasuredValue(), *regional_);
-    injection->ReferenceValue = toSingle(record.ReferenceValue(), *regional_);
+    injection->MeasuredValue = singleIn(record.MeasuredValue(), *regional_);
+    injection->ReferenceValue = singleIn(record.ReferenceValue(), *regional_);
     injection->GasLevel = upperCase(record.GasLevelText());
     const Date end = record.InjectionEnd();
     injection->InjectionEndTime = IsNoDate(end) ? record.RunTime() : end;

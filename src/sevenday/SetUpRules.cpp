@@ -75,7 +75,7 @@ void ctrl7DaySetUp::listAnalyzers(PID unit)
         if (!isText(present(parameter).GetAttribute(attribute::kRecordTable), kCalibrationTable))
             continue;
         const Variant leftOut = parameter->GetAttribute(attribute::kLeftOutOfLists);
-        if (isNull(leftOut) || !toBoolean(leftOut, surroundings_.regional))
+        if (isNull(leftOut) || !booleanIn(leftOut, surroundings_.regional))
             listAnalyzer(*parameter);
     }
 }
@@ -103,7 +103,7 @@ void ctrl7DaySetUp::listAnalyzer(DIParameter& parameter)
 std::string ctrl7DaySetUp::analyzerName(DIParameter& parameter) const
 {
     const PID measured =
-        toInt32(parameter.GetAttribute(attribute::kMeasuredPID), surroundings_.regional);
+        integerIn(parameter.GetAttribute(attribute::kMeasuredPID), surroundings_.regional);
     const auto source = present(server_->Parameters()).Item(measured, -1);
     return present(source).Name(0) + scaleSuffix(parameter.GetAttribute(attribute::kScale));
 }
@@ -112,10 +112,10 @@ void ctrl7DaySetUp::takeUnitFacts(PID unit)
 {
     const auto parameter = present(server_->Parameters()).Item(unit, -1);
     DIParameter& facts = present(parameter);
-    SetOrisCode(toInt32(facts.GetAttribute(attribute::kOrisCode), surroundings_.regional));
+    SetOrisCode(integerIn(facts.GetAttribute(attribute::kOrisCode), surroundings_.regional));
     SetStackID(trimRight(textOf(facts.GetAttribute(attribute::kUnitIdentifier))));
     const Variant severalStacks = facts.GetAttribute(attribute::kSeveralStacks);
-    if (!isNull(severalStacks) && toBoolean(severalStacks, surroundings_.regional))
+    if (!isNull(severalStacks) && booleanIn(severalStacks, surroundings_.regional))
         SetStackID(textOf(facts.GetAttribute(attribute::kStackIdentifiers)));
 }
 

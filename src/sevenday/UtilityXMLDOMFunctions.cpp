@@ -69,7 +69,7 @@ std::string booleanText(const Variant& value, const RegionalSettings& settings)
     if (std::holds_alternative<Empty>(value) || !IsNumeric(value, settings))
         return {};
     try {
-        return toBoolean(value, settings) ? "1" : "0";
+        return booleanIn(value, settings) ? "1" : "0";
     } catch (const Error&) {
         return {};
     }

@@ -84,7 +84,7 @@ std::string ctrl7DaySetUp::textOf(const Variant& value) const
 
 PID ctrl7DaySetUp::AnalyzedPID() const
 {
-    return toInt32(selectedAttribute(attribute::kMeasuredPID), surroundings_.regional);
+    return integerIn(selectedAttribute(attribute::kMeasuredPID), surroundings_.regional);
 }
 
 std::string ctrl7DaySetUp::AnalyzedScale() const
@@ -96,7 +96,7 @@ std::string ctrl7DaySetUp::AnalyzedPrecision() const
 {
     const std::string format = "0.000000";
     const std::int64_t decimals =
-        toInt32(selectedAttribute(attribute::kDecimals), surroundings_.regional);
+        integerIn(selectedAttribute(attribute::kDecimals), surroundings_.regional);
     if (decimals < -2)
         throw Error(errors::kInvalidCall);
     return format.substr(0, static_cast<std::size_t>(decimals + 2));

@@ -36,73 +36,73 @@ TEST(Variant, NullDatesAndOtherTextsAreNotNumeric)
 
 TEST(Variant, ATextIsReadUnderTheRegion)
 {
-    EXPECT_EQ(toDouble(kText, kUs), 1.5);
-    EXPECT_EQ(toDouble(kText, kGerman), 15);
+    EXPECT_EQ(doubleIn(kText, kUs), 1.5);
+    EXPECT_EQ(doubleIn(kText, kGerman), 15);
     EXPECT_FALSE(IsNumeric(Variant(std::string("1,2,3")), kGerman));
 }
 
 TEST(Variant, EveryTypeHasItsNumber)
 {
-    EXPECT_EQ(toDouble(Empty{}, kUs), 0);
-    EXPECT_EQ(toDouble(true, kUs), -1);
-    EXPECT_EQ(toDouble(false, kUs), 0);
-    EXPECT_EQ(toDouble(std::uint8_t{200}, kUs), 200);
-    EXPECT_EQ(toDouble(std::int16_t{-5}, kUs), -5);
-    EXPECT_EQ(toDouble(0.1F, kUs), static_cast<double>(0.1F));
-    EXPECT_EQ(toDouble(Currency{-12345}, kUs), -1.2345);
-    EXPECT_EQ(toDouble(Date{45361.5}, kUs), 45361.5);
+    EXPECT_EQ(doubleIn(Empty{}, kUs), 0);
+    EXPECT_EQ(doubleIn(true, kUs), -1);
+    EXPECT_EQ(doubleIn(false, kUs), 0);
+    EXPECT_EQ(doubleIn(std::uint8_t{200}, kUs), 200);
+    EXPECT_EQ(doubleIn(std::int16_t{-5}, kUs), -5);
+    EXPECT_EQ(doubleIn(0.1F, kUs), static_cast<double>(0.1F));
+    EXPECT_EQ(doubleIn(Currency{-12345}, kUs), -1.2345);
+    EXPECT_EQ(doubleIn(Date{45361.5}, kUs), 45361.5);
 }
 
 TEST(Variant, NullHasNoValueToUse)
 {
-    EXPECT_EQ(errorOf([] { return toSingle(Null{}, kUs); }), errors::kInvalidUseOfNull);
-    EXPECT_EQ(errorOf([] { return toDouble(Null{}, kUs); }), errors::kInvalidUseOfNull);
-    EXPECT_EQ(errorOf([] { return toInt32(Null{}, kUs); }), errors::kInvalidUseOfNull);
-    EXPECT_EQ(errorOf([] { return toBoolean(Null{}, kUs); }), errors::kInvalidUseOfNull);
+    EXPECT_EQ(errorOf([] { return singleIn(Null{}, kUs); }), errors::kInvalidUseOfNull);
+    EXPECT_EQ(errorOf([] { return doubleIn(Null{}, kUs); }), errors::kInvalidUseOfNull);
+    EXPECT_EQ(errorOf([] { return integerIn(Null{}, kUs); }), errors::kInvalidUseOfNull);
+    EXPECT_EQ(errorOf([] { return booleanIn(Null{}, kUs); }), errors::kInvalidUseOfNull);
     EXPECT_EQ(errorOf([] { return toText(Null{}, kUs); }), errors::kInvalidUseOfNull);
 }
 
 TEST(Variant, ATextThatIsNoNumberDoesNotFit)
 {
     const Variant text(std::string("abc"));
-    EXPECT_EQ(errorOf([&] { return toSingle(text, kUs); }), errors::kTypeMismatch);
-    EXPECT_EQ(errorOf([&] { return toInt32(text, kUs); }), errors::kTypeMismatch);
-    EXPECT_EQ(errorOf([&] { return toBoolean(text, kUs); }), errors::kTypeMismatch);
+    EXPECT_EQ(errorOf([&] { return singleIn(text, kUs); }), errors::kTypeMismatch);
+    EXPECT_EQ(errorOf([&] { return integerIn(text, kUs); }), errors::kTypeMismatch);
+    EXPECT_EQ(errorOf([&] { return booleanIn(text, kUs); }), errors::kTypeMismatch);
 }
 
 TEST(Variant, ANumberOutsideTheTypeOverflows)
 {
-    EXPECT_EQ(errorOf([] { return toSingle(1e39, kUs); }), errors::kOverflow);
-    EXPECT_EQ(errorOf([] { return toInt32(3e9, kUs); }), errors::kOverflow);
-    EXPECT_EQ(errorOf([] { return toInt32(3e9F, kUs); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return singleIn(1e39, kUs); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return integerIn(3e9, kUs); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return integerIn(3e9F, kUs); }), errors::kOverflow);
 }
 
 TEST(Variant, ASingleComesBackAsItIs)
 {
-    EXPECT_EQ(toSingle(0.1F, kUs), 0.1F);
-    EXPECT_EQ(toSingle(0.1, kUs), 0.1F);
-    EXPECT_EQ(toSingle(std::string("0.1"), kUs), 0.1F);
+    EXPECT_EQ(singleIn(0.1F, kUs), 0.1F);
+    EXPECT_EQ(singleIn(0.1, kUs), 0.1F);
+    EXPECT_EQ(singleIn(std::string("0.1"), kUs), 0.1F);
 }
 
 TEST(Variant, AnIntegerIsTheNearestHalvesToEven)
 {
-    EXPECT_EQ(toInt32(2.5, kUs), 2);
-    EXPECT_EQ(toInt32(3.5F, kUs), 4);
-    EXPECT_EQ(toInt32(true, kUs), -1);
-    EXPECT_EQ(toInt32(std::int32_t{-2147483647}, kUs), -2147483647);
+    EXPECT_EQ(integerIn(2.5, kUs), 2);
+    EXPECT_EQ(integerIn(3.5F, kUs), 4);
+    EXPECT_EQ(integerIn(true, kUs), -1);
+    EXPECT_EQ(integerIn(std::int32_t{-2147483647}, kUs), -2147483647);
 }
 
 TEST(Variant, AnythingButZeroIsTrue)
 {
-    EXPECT_TRUE(toBoolean(true, kUs));
-    EXPECT_TRUE(toBoolean(std::int32_t{5}, kUs));
-    EXPECT_TRUE(toBoolean(-0.5, kUs));
-    EXPECT_TRUE(toBoolean(std::string("True"), kUs));
-    EXPECT_TRUE(toBoolean(std::string("1"), kUs));
-    EXPECT_FALSE(toBoolean(std::string("FALSE"), kUs));
-    EXPECT_FALSE(toBoolean(std::string("0"), kUs));
-    EXPECT_FALSE(toBoolean(Empty{}, kUs));
-    EXPECT_FALSE(toBoolean(0.0F, kUs));
+    EXPECT_TRUE(booleanIn(true, kUs));
+    EXPECT_TRUE(booleanIn(std::int32_t{5}, kUs));
+    EXPECT_TRUE(booleanIn(-0.5, kUs));
+    EXPECT_TRUE(booleanIn(std::string("True"), kUs));
+    EXPECT_TRUE(booleanIn(std::string("1"), kUs));
+    EXPECT_FALSE(booleanIn(std::string("FALSE"), kUs));
+    EXPECT_FALSE(booleanIn(std::string("0"), kUs));
+    EXPECT_FALSE(booleanIn(Empty{}, kUs));
+    EXPECT_FALSE(booleanIn(0.0F, kUs));
 }
 
 TEST(Variant, TextIsTheGeneralForm)

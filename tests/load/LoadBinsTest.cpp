@@ -72,8 +72,8 @@ constexpr RangeText kRanges[] = {
     {"-3E+37", "3E+37"},
 };
 
-struct BinsBench : LoadBench {
-    BinsBench(const std::string& minimum, const std::string& capacity)
+struct BinsRig : LoadRig {
+    BinsRig(const std::string& minimum, const std::string& capacity)
     {
         range(minimum, capacity).specify("1/1/2024", "3/31/2024");
     }
@@ -86,14 +86,14 @@ struct BinsBench : LoadBench {
     }
 };
 
-void expectHour(BinsBench& bench, const HourCase& expected)
+void expectHour(BinsRig& rig, const HourCase& expected)
 {
-    bench.evaluate({expected.value});
+    rig.evaluate({expected.value});
     histogram::HourBins bins{};
     if (expected.bin > 0)
         bins.at(static_cast<std::size_t>(expected.bin)) = 1;
-    EXPECT_EQ(countsOf(bench.results()), expected.counts) << expected.value;
-    EXPECT_EQ(bench.results().Bins, bins) << expected.value;
+    EXPECT_EQ(countsOf(rig.results()), expected.counts) << expected.value;
+    EXPECT_EQ(rig.results().Bins, bins) << expected.value;
 }
 
 /// A value and its nearest neighbours.
@@ -118,9 +118,9 @@ std::vector<double> criticalValues(const LoadModel& model)
     return values;
 }
 
-void expectModel(const BinsBench& bench, const LoadModel& model, const std::string& what)
+void expectModel(const BinsRig& rig, const LoadModel& model, const std::string& what)
 {
-    const LoadEvaluation& results = bench.results();
+    const LoadEvaluation& results = rig.results();
     EXPECT_EQ(results.LowThreshold, model.low) << what;
     EXPECT_EQ(results.HighThreshold, model.high) << what;
     EXPECT_EQ(countsOf(results), model.counts) << what;
@@ -154,35 +154,35 @@ TEST(LoadModel, WritesSixDecimals)
 
 TEST(LoadHours, FallIntoTheBinsAndLevelsOfARangeFromZero)
 {
-    BinsBench bench("0", "100");
+    BinsRig rig("0", "100");
     for (const HourCase& expected : kOfAHundred)
-        expectHour(bench, expected);
+        expectHour(rig, expected);
 }
 
 TEST(LoadHours, FallIntoTheBinsAndLevelsOfARangeAboveAMinimum)
 {
-    BinsBench bench("150", "750");
+    BinsRig rig("150", "750");
     for (const HourCase& expected : kOfSixHundred)
-        expectHour(bench, expected);
+        expectHour(rig, expected);
 }
 
 TEST(LoadHours, AreSinglesBeforeAllElse)
 {
-    BinsBench bench("0", "100");
-    bench.evaluate({100.000001, 30.0000001, -1e-60});
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.low = 2, .high = 1}));
+    BinsRig rig("0", "100");
+    rig.evaluate({100.000001, 30.0000001, -1e-60});
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 2, .high = 1}));
 }
 
 TEST(LoadHours, OnAndBesideEveryEdgeAreAsDefined)
 {
     for (const RangeText& range : kRanges) {
-        BinsBench bench(range.minimum, range.capacity);
+        BinsRig rig(range.minimum, range.capacity);
         LoadModel model = modelOf(range);
         const auto values = criticalValues(model);
         for (const double value : values)
             model.take(value);
-        bench.evaluate(values);
-        expectModel(bench, model, textOf(range));
+        rig.evaluate(values);
+        expectModel(rig, model, textOf(range));
     }
 }
 
@@ -202,27 +202,27 @@ TEST(LoadHours, EachOnItsOwnIsAsDefined)
 
 TEST(LoadThresholds, AreKeptToSixDecimals)
 {
-    BinsBench bench("0.1234567", "1.1234567");
-    bench.evaluate({});
-    EXPECT_EQ(bench.results().LowThreshold, 0.423457F);
-    EXPECT_EQ(bench.results().HighThreshold, 0.723457F);
+    BinsRig rig("0.1234567", "1.1234567");
+    rig.evaluate({});
+    EXPECT_EQ(rig.results().LowThreshold, 0.423457F);
+    EXPECT_EQ(rig.results().HighThreshold, 0.723457F);
 }
 
 TEST(LoadThresholds, OfATinyRangeVanish)
 {
-    BinsBench bench("0", "0.000001");
-    bench.evaluate({0.0000009});
-    EXPECT_EQ(bench.results().LowThreshold, 0);
-    EXPECT_EQ(bench.results().HighThreshold, 0.000001F);
-    EXPECT_EQ(countsOf(bench.results()), kMid);
+    BinsRig rig("0", "0.000001");
+    rig.evaluate({0.0000009});
+    EXPECT_EQ(rig.results().LowThreshold, 0);
+    EXPECT_EQ(rig.results().HighThreshold, 0.000001F);
+    EXPECT_EQ(countsOf(rig.results()), kMid);
 }
 
 TEST(LoadRange, TooWideForASingleIsAnOverflow)
 {
-    BinsBench bench("-3E+38", "3E+38");
-    EXPECT_EQ(errorOf([&] { bench.evaluate({0}); }), 6);
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
+    BinsRig rig("-3E+38", "3E+38");
+    EXPECT_EQ(errorOf([&] { rig.evaluate({0}); }), 6);
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
 }
 
 RC_GTEST_PROP(LoadHoursProperties, AnyHoursOfAnyRangeAreAsDefined, ())
@@ -241,11 +241,11 @@ RC_GTEST_PROP(LoadHoursProperties, AnyHoursOfAnyRangeAreAsDefined, ())
         values.push_back(share / 100'000.0 * double(model.range) + double(model.minSafe));
         model.take(values.back());
     }
-    BinsBench bench(minimum, capacity);
-    bench.evaluate(values);
-    RC_ASSERT(countsOf(bench.results()) == model.counts);
-    RC_ASSERT(bench.results().Bins == model.bins);
-    RC_ASSERT(bench.results().MaxObserved == model.maxObserved);
+    BinsRig rig(minimum, capacity);
+    rig.evaluate(values);
+    RC_ASSERT(countsOf(rig.results()) == model.counts);
+    RC_ASSERT(rig.results().Bins == model.bins);
+    RC_ASSERT(rig.results().MaxObserved == model.maxObserved);
 }
 
 RC_GTEST_PROP(LoadHoursProperties, TheBinOfAnySingleIsAsDefined, ())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <array>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "load/LoadReportBench.h"
+#include "load/LoadReportRig.h"
 
 #include <gtest/gtest.h>
 
@@ -79,16 +79,16 @@ void expectCount(const ReportTextItem& text, const std::string& count, int bar, 
 
 TEST(LoadReportChart, StandsBetweenDashedMarks)
 {
-    ReportBench bench;
-    bench.inBin(3, 12).calculate();
-    expectLinesOfAChart(bench.page());
+    ReportRig rig;
+    rig.inBin(3, 12).calculate();
+    expectLinesOfAChart(rig.page());
 }
 
 TEST(LoadReportChart, HasItsLinesWithoutAnyBar)
 {
-    ReportBench bench;
-    bench.calculate();
-    const ReportPage& page = bench.page();
+    ReportRig rig;
+    rig.calculate();
+    const ReportPage& page = rig.page();
     expectLinesOfAChart(page);
     EXPECT_TRUE(rectanglesOf(page).empty());
     EXPECT_TRUE(upwardTexts(page).empty());
@@ -96,30 +96,30 @@ TEST(LoadReportChart, HasItsLinesWithoutAnyBar)
 
 TEST(LoadReportChart, HoursBeyondTheRangeMakeNoBar)
 {
-    ReportBench bench;
-    bench.hours({1, 2, 150, 160}).calculate();
-    const ReportPage& page = bench.page();
+    ReportRig rig;
+    rig.hours({1, 2, 150, 160}).calculate();
+    const ReportPage& page = rig.page();
     expectLinesOfAChart(page);
     EXPECT_TRUE(rectanglesOf(page).empty());
 }
 
 TEST(LoadReportChart, HasABarForEveryBinRelativeToTheFullest)
 {
-    ReportBench bench;
-    bench.inBin(1, 10).inBin(2, 5).inBin(12, 7).inBin(20, 1).calculate();
-    const auto bars = rectanglesOf(bench.page());
+    ReportRig rig;
+    rig.inBin(1, 10).inBin(2, 5).inBin(12, 7).inBin(20, 1).calculate();
+    const auto bars = rectanglesOf(rig.page());
     ASSERT_EQ(bars.size(), 20U);
     for (int number = 1; number <= 20; ++number) {
-        const auto hours = bench.results().Bins.at(static_cast<std::size_t>(number));
+        const auto hours = rig.results().Bins.at(static_cast<std::size_t>(number));
         expectBar(bars[static_cast<std::size_t>(number) - 1], number, hours / 10.0 * kHeight);
     }
 }
 
 TEST(LoadReportChart, CountsTheHoursOfEveryBarThatHasAny)
 {
-    ReportBench bench;
-    bench.inBin(1, 10).inBin(2, 5).inBin(12, 7).inBin(20, 1).calculate();
-    const auto texts = upwardTexts(bench.page());
+    ReportRig rig;
+    rig.inBin(1, 10).inBin(2, 5).inBin(12, 7).inBin(20, 1).calculate();
+    const auto texts = upwardTexts(rig.page());
     ASSERT_EQ(texts.size(), 4U);
     expectCount(texts[0], "10", 1, kHeight, At::Inside);
     expectCount(texts[1], "5", 2, 0.5 * kHeight, At::Above);
@@ -130,10 +130,10 @@ TEST(LoadReportChart, CountsTheHoursOfEveryBarThatHasAny)
 TEST(LoadReportChart, ACountThatWouldReachOverTheChartStandsInItsBar)
 {
     // Three digits are 16.68 points long; at 1000 hours to the top an hour is 0.38555 points.
-    ReportBench bench;
-    bench.specify("1/1/2024", "12/31/2024");
-    bench.inBin(4, 956).inBin(5, 957).inBin(6, 1000).calculate();
-    const auto texts = upwardTexts(bench.page());
+    ReportRig rig;
+    rig.specify("1/1/2024", "12/31/2024");
+    rig.inBin(4, 956).inBin(5, 957).inBin(6, 1000).calculate();
+    const auto texts = upwardTexts(rig.page());
     ASSERT_EQ(texts.size(), 3U);
     expectCount(texts[0], "956", 4, 0.956 * kHeight, At::Above);
     expectCount(texts[1], "957", 5, 0.957 * kHeight, At::Inside);
@@ -142,9 +142,9 @@ TEST(LoadReportChart, ACountThatWouldReachOverTheChartStandsInItsBar)
 
 TEST(LoadReportChart, OneHourAmongThousandsIsCountedToo)
 {
-    ReportBench bench;
-    bench.inBin(10, 1).inBin(11, 2000).calculate();
-    const ReportPage& page = bench.page();
+    ReportRig rig;
+    rig.inBin(10, 1).inBin(11, 2000).calculate();
+    const ReportPage& page = rig.page();
     expectBar(rectanglesOf(page)[9], 10, kHeight / 2000);
     expectCount(upwardTexts(page)[0], "1", 10, kHeight / 2000, At::Above);
 }

@@ -1,4 +1,4 @@
-#include "load/LoadReportBench.h"
+#include "load/LoadReportRig.h"
 #include "support/PdfImage.h"
 #include "support/PdfText.h"
 #include "support/TemporaryFolder.h"
@@ -20,8 +20,8 @@ using testing::PdfPage;
 using testing::PdfWord;
 
 /// A saved report with bars in bins 6, 7 and 20: full, half and an eighth high.
-struct PdfBench : ReportBench {
-    PdfBench()
+struct PdfRig : ReportRig {
+    PdfRig()
     {
         services.saveAnswer = screen::SaveAnswer{path, 1};
         inBin(6, 800).inBin(7, 400).inBin(20, 100).calculate();
@@ -46,14 +46,14 @@ constexpr int kDark = 100;
 
 TEST(LoadReportPdf, IsAValidFile)
 {
-    const PdfBench bench;
-    EXPECT_NO_THROW(testing::requireValidPdf(bench.path));
+    const PdfRig rig;
+    EXPECT_NO_THROW(testing::requireValidPdf(rig.path));
 }
 
 TEST(LoadReportPdf, BearsItsInformation)
 {
-    const PdfBench bench;
-    auto information = testing::pdfInformation(bench.path);
+    const PdfRig rig;
+    auto information = testing::pdfInformation(rig.path);
     EXPECT_EQ(information["Title"], "Load Evalution");
     EXPECT_EQ(information["Subject"], "Load Evaluation");
     EXPECT_EQ(information["Author"], "Kelvo Load Evaluation");
@@ -63,8 +63,8 @@ TEST(LoadReportPdf, BearsItsInformation)
 
 TEST(LoadReportPdf, HasItsWordsInTheirPlaces)
 {
-    const PdfBench bench;
-    const auto pages = testing::pdfPages(bench.path);
+    const PdfRig rig;
+    const auto pages = testing::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 1U);
     const PdfPage& page = pages[0];
     EXPECT_EQ(page.width, 792);
@@ -81,8 +81,8 @@ TEST(LoadReportPdf, HasItsWordsInTheirPlaces)
 
 TEST(LoadReportPdf, ReadsAsItsRows)
 {
-    const PdfBench bench;
-    const std::string text = testing::pdfPlainText(bench.path);
+    const PdfRig rig;
+    const std::string text = testing::pdfPlainText(rig.path);
     for (const char* row :
          {"Bethpage", "Load summary ending the last day of 2024 Q1", "GT1 GT1 Load",
           "61.5% Low Op Load", "30.8% Mid Op Load", "7.7% High Op Load", "800 Hours", "400 Hours",
@@ -93,8 +93,8 @@ TEST(LoadReportPdf, ReadsAsItsRows)
 
 TEST(LoadReportPdf, TheCountsReadUpwardOverTheMiddleOfTheirBars)
 {
-    const PdfBench bench;
-    const auto pages = testing::pdfPages(bench.path);
+    const PdfRig rig;
+    const auto pages = testing::pdfPages(rig.path);
     struct Count {
         int bar;
         double bottom;
@@ -117,8 +117,8 @@ TEST(LoadReportPdf, TheCountsReadUpwardOverTheMiddleOfTheirBars)
 
 TEST(LoadReportPdf, TheBarsAreGreyAsHighAsTheirHours)
 {
-    const PdfBench bench;
-    const PdfImage image = PdfImage::render(bench.path);
+    const PdfRig rig;
+    const PdfImage image = PdfImage::render(rig.path);
     const double height = kChartTop - kChartBottom;
     const PdfImage::Pixel grey{kBar, kBar, kBar};
     const PdfImage::Pixel white{kWhite, kWhite, kWhite};
@@ -133,8 +133,8 @@ TEST(LoadReportPdf, TheBarsAreGreyAsHighAsTheirHours)
 
 TEST(LoadReportPdf, TheMarksAndTheBaseLieOverTheBars)
 {
-    const PdfBench bench;
-    const PdfImage image = PdfImage::render(bench.path);
+    const PdfRig rig;
+    const PdfImage image = PdfImage::render(rig.path);
     // The 30% mark runs between bars 6 and 7.
     EXPECT_LT(image.darkest(251, kChartBottom + 20, 253, kChartBottom + 60), kDark);
     EXPECT_LT(image.darkest(467, kChartBottom + 20, 469, kChartBottom + 60), kDark);
@@ -147,8 +147,8 @@ TEST(LoadReportPdf, TheMarksAndTheBaseLieOverTheBars)
 
 TEST(LoadReportPdf, TheMarksAreDashedAndTheBaseIsNot)
 {
-    const PdfBench bench;
-    const PdfImage image = PdfImage::render(bench.path);
+    const PdfRig rig;
+    const PdfImage image = PdfImage::render(rig.path);
     int gaps = 0;
     for (double y = kChartBottom + 20; y < kChartBottom + 80; y += 0.25)
         gaps += image.darkest(467.5, y, 468.5, y) == kWhite ? 1 : 0;
@@ -160,22 +160,22 @@ TEST(LoadReportPdf, TheMarksAreDashedAndTheBaseIsNot)
 
 TEST(LoadReportPdf, OfTheSameScreenIsTheSameFile)
 {
-    PdfBench bench;
-    const std::string first = testing::contentOf(bench.path);
-    bench.services.answers = {screen::MsgBoxAnswer::Yes};
-    bench.tool.cmdSave.Press();
-    EXPECT_EQ(testing::contentOf(bench.path), first);
+    PdfRig rig;
+    const std::string first = testing::contentOf(rig.path);
+    rig.services.answers = {screen::MsgBoxAnswer::Yes};
+    rig.tool.cmdSave.Press();
+    EXPECT_EQ(testing::contentOf(rig.path), first);
 }
 
 TEST(LoadReportPdf, KeepsNamesOfAnyScript)
 {
-    ReportBench bench;
-    bench.site->facilityName = "Kraftwerk Łódź";
+    ReportRig rig;
+    rig.site->facilityName = "Kraftwerk Łódź";
     const testing::TemporaryFolder folder;
     const std::string path = folder.file("Load.pdf");
-    bench.calculate();
-    bench.services.saveAnswer = screen::SaveAnswer{path, 1};
-    bench.tool.cmdSave.Press();
+    rig.calculate();
+    rig.services.saveAnswer = screen::SaveAnswer{path, 1};
+    rig.tool.cmdSave.Press();
     EXPECT_NE(testing::pdfPlainText(path).find("Kraftwerk Łódź"), std::string::npos);
 }
 

@@ -1,4 +1,4 @@
-#include "load/LoadReportBench.h"
+#include "load/LoadReportRig.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -23,8 +23,8 @@ bool isNear(double a, double b)
 }
 
 /// A site whose load has so many hours in each bin, from the first on.
-struct BarsBench : ReportBench {
-    explicit BarsBench(const std::vector<int>& hoursOfBins) : counts(hoursOfBins)
+struct BarsRig : ReportRig {
+    explicit BarsRig(const std::vector<int>& hoursOfBins) : counts(hoursOfBins)
     {
         for (std::size_t i = 0; i < counts.size(); ++i)
             inBin(static_cast<int>(i) + 1, static_cast<std::size_t>(counts[i]));
@@ -49,13 +49,13 @@ RC_GTEST_PROP(LoadReportProperties, EveryBinHasItsBarAndEveryBarWithHoursItsCoun
 {
     const auto counts = anyCounts();
     RC_PRE(std::any_of(counts.begin(), counts.end(), [](int n) { return n > 0; }));
-    const BarsBench bench(counts);
-    const auto bars = rectanglesOf(bench.sheet());
-    const auto texts = upwardTexts(bench.sheet());
+    const BarsRig rig(counts);
+    const auto bars = rectanglesOf(rig.sheet());
+    const auto texts = upwardTexts(rig.sheet());
     RC_ASSERT(bars.size() == 20U);
     auto text = texts.begin();
     for (std::size_t i = 0; i < 20; ++i) {
-        const double height = double(counts[i]) / bench.peak() * (kChartTop - kChartBottom);
+        const double height = double(counts[i]) / rig.peak() * (kChartTop - kChartBottom);
         RC_ASSERT(isNear(bars[i].X(), 36 + kBarWidth * double(i)));
         RC_ASSERT(isNear(bars[i].Height(), height));
         if (counts[i] == 0)
@@ -72,9 +72,9 @@ RC_GTEST_PROP(LoadReportProperties, CountsStandOverTheirBarsOrEndUnderTheirTops,
 {
     const auto counts = anyCounts();
     RC_PRE(std::any_of(counts.begin(), counts.end(), [](int n) { return n > 0; }));
-    const BarsBench bench(counts);
-    const auto bars = rectanglesOf(bench.sheet());
-    for (const ReportTextItem& text : upwardTexts(bench.sheet())) {
+    const BarsRig rig(counts);
+    const auto bars = rectanglesOf(rig.sheet());
+    for (const ReportTextItem& text : upwardTexts(rig.sheet())) {
         const auto bar = static_cast<std::size_t>((text.X() - 36) / kBarWidth);
         const double top = double(bars[bar].Y()) + double(bars[bar].Height());
         const double length = widthOf(text.Text());
@@ -89,12 +89,12 @@ RC_GTEST_PROP(LoadReportProperties, CountsStandOverTheirBarsOrEndUnderTheirTops,
 RC_GTEST_PROP(LoadReportProperties, TheHoursOfTheLevelsAreThoseOfTheBars, ())
 {
     const auto counts = anyCounts();
-    const BarsBench bench(counts);
+    const BarsRig rig(counts);
     const auto sum = [&](int first, int last) {
         return std::to_string(std::accumulate(counts.begin() + first, counts.begin() + last, 0)) +
                " Hours";
     };
-    RC_ASSERT(textsAt(bench.sheet(), kHoursY) == (Lines{sum(0, 6), sum(6, 12), sum(12, 20)}));
+    RC_ASSERT(textsAt(rig.sheet(), kHoursY) == (Lines{sum(0, 6), sum(6, 12), sum(12, 20)}));
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "load/LoadReportBench.h"
+#include "load/LoadReportRig.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,8 @@ namespace
 constexpr std::size_t kTexts = 21;
 
 /// 3 low hours, 2 mid, 1 high, 4 under the minimum and 1 over the capacity.
-struct SixHoursBench : ReportBench {
-    explicit SixHoursBench(const std::string& region = "en-US") : ReportBench(region)
+struct SixHoursRig : ReportRig {
+    explicit SixHoursRig(const std::string& region = "en-US") : ReportRig(region)
     {
         hours({10, 20, 30, 50, 70, 110, 1, 2, 3, 4, 150.5});
         calculate();
@@ -33,19 +33,19 @@ Lines writtenAt(const ReportPage& page, double y)
 
 TEST(LoadReport, TellsWhoMadeItAndWhatItIs)
 {
-    SixHoursBench bench;
-    bench.document = bench.tool.buildReport();
-    EXPECT_EQ(bench.document->Author(), "Kelvo Load Evaluation");
-    EXPECT_EQ(bench.document->Creator(), "Kelvo Load Evaluation");
-    EXPECT_EQ(bench.document->Subject(), "Load Evaluation");
-    EXPECT_EQ(bench.document->Title(), "Load Evalution");
+    SixHoursRig rig;
+    rig.document = rig.tool.buildReport();
+    EXPECT_EQ(rig.document->Author(), "Kelvo Load Evaluation");
+    EXPECT_EQ(rig.document->Creator(), "Kelvo Load Evaluation");
+    EXPECT_EQ(rig.document->Subject(), "Load Evaluation");
+    EXPECT_EQ(rig.document->Title(), "Load Evalution");
 }
 
 TEST(LoadReport, IsOneLandscapePage)
 {
-    SixHoursBench bench;
-    const ReportPage& page = bench.page();
-    EXPECT_EQ(bench.document->Pages().Count(), 1);
+    SixHoursRig rig;
+    const ReportPage& page = rig.page();
+    EXPECT_EQ(rig.document->Pages().Count(), 1);
     EXPECT_EQ(page.Height(), 612);
     EXPECT_EQ(page.Width(), 792);
 }
@@ -68,8 +68,8 @@ TEST(LoadReport, TheRowsStandWhereTheirHeightsPutThem)
 
 TEST(LoadReport, HasFacilityTitlePeriodAndParameterOnTheCentreLine)
 {
-    SixHoursBench bench;
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    const ReportPage& page = rig.page();
     expectText(page, centred("Bethpage", 392, kFacilityY, 6, 14));
     expectText(page, centred("Load Evaluation Summary", 392, kTitleY, 6, 12));
     expectText(page, centred("Load summary ending the last day of 2024 Q1", 392, kPeriodY, 6, 12));
@@ -78,8 +78,8 @@ TEST(LoadReport, HasFacilityTitlePeriodAndParameterOnTheCentreLine)
 
 TEST(LoadReport, HasTheLevelsOverTheirThirdsOfTheChart)
 {
-    SixHoursBench bench;
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    const ReportPage& page = rig.page();
     expectText(page, centred("50.0% Low Op Load", 144, kPercentsY));
     expectText(page, centred("33.3% Mid Op Load", 360, kPercentsY));
     expectText(page, centred("16.7% High Op Load", 612, kPercentsY));
@@ -90,8 +90,8 @@ TEST(LoadReport, HasTheLevelsOverTheirThirdsOfTheChart)
 
 TEST(LoadReport, HasTheScaleUnderTheChart)
 {
-    SixHoursBench bench;
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    const ReportPage& page = rig.page();
     expectText(page, {"10", 5, 10, 36, kValuesY});
     expectText(page, centred("40", 252, kValuesY));
     expectText(page, centred("70", 468, kValuesY));
@@ -104,32 +104,32 @@ TEST(LoadReport, HasTheScaleUnderTheChart)
 
 TEST(LoadReport, HasTheHoursBeyondTheRangeAtItsFoot)
 {
-    SixHoursBench bench;
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    const ReportPage& page = rig.page();
     expectText(page, {"4 hour(s) under 10", 5, 10, 36, kBeyondY});
     expectText(page, rightAligned("1 hour(s) over 110 - Maximum 150.5", 756, kBeyondY));
 }
 
 TEST(LoadReport, TheFooterHangsBelowItsRuleWithTheTimeOfTheReport)
 {
-    SixHoursBench bench;
-    bench.clock.set(makeDate(2024, 5, 11, 9, 5));
-    expectText(bench.page(),
+    SixHoursRig rig;
+    rig.clock.set(makeDate(2024, 5, 11, 9, 5));
+    expectText(rig.page(),
                {"Load Evaluation Summary 5/11/2024 9:05 AM", 7, 8, 36, 49.1 - kFooterHeight});
 }
 
 TEST(LoadReport, HasNoOtherTexts)
 {
-    SixHoursBench bench;
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    const ReportPage& page = rig.page();
     EXPECT_EQ(countTexts(page), kTexts + upwardTexts(page).size());
     EXPECT_EQ(upwardTexts(page).size(), 6U) << "each hour has a bin of its own";
 }
 
 TEST(LoadReport, IsWrittenAsTheRegionDoes)
 {
-    SixHoursBench bench("de-DE");
-    const ReportPage& page = bench.page();
+    SixHoursRig rig("de-DE");
+    const ReportPage& page = rig.page();
     expectText(page, {"Load Evaluation Summary 10.05.2024 14:30", 7, 8, 36, 41.7});
     expectText(page, centred("33,3% Mid Op Load", 360, kPercentsY));
     expectText(page, rightAligned("1 hour(s) over 110 - Maximum 150,5", 756, kBeyondY));
@@ -138,35 +138,34 @@ TEST(LoadReport, IsWrittenAsTheRegionDoes)
 TEST(LoadReport, AFacilityWithoutANameHasAStandIn)
 {
     for (const std::optional<std::string>& name : {std::optional<std::string>(), {""}}) {
-        SixHoursBench bench;
-        bench.site->facilityName = name;
-        expectText(bench.page(), centred("<Facility Name>", 392, kFacilityY, 6, 14));
+        SixHoursRig rig;
+        rig.site->facilityName = name;
+        expectText(rig.page(), centred("<Facility Name>", 392, kFacilityY, 6, 14));
     }
 }
 
 TEST(LoadReport, OfSpecifiedDatesNamesThem)
 {
-    ReportBench bench;
-    bench.specify("1/15/2024", "2/20/2024").calculate();
-    expectText(bench.page(),
+    ReportRig rig;
+    rig.specify("1/15/2024", "2/20/2024").calculate();
+    expectText(rig.page(),
                centred("Load summary from 1/15/2024 to 2/20/2024", 392, kPeriodY, 6, 12));
 }
 
 TEST(LoadReport, OfSpecifiedDatesNamesWhatStandsInTheBoxes)
 {
-    ReportBench bench;
-    bench.specify("1/15/2024", "2/20/2024").calculate();
-    bench.tool.txtTo.Type("the end");
-    expectText(bench.page(),
-               centred("Load summary from 1/15/2024 to the end", 392, kPeriodY, 6, 12));
+    ReportRig rig;
+    rig.specify("1/15/2024", "2/20/2024").calculate();
+    rig.tool.txtTo.Type("the end");
+    expectText(rig.page(), centred("Load summary from 1/15/2024 to the end", 392, kPeriodY, 6, 12));
 }
 
 TEST(LoadReport, NamesAQuarterThatWasPickedAfterTheCalculation)
 {
-    SixHoursBench bench;
-    bench.tool.cmbQTR.Pick(2);
-    bench.tool.cmbYear.Pick(1);
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    rig.tool.cmbQTR.Pick(2);
+    rig.tool.cmbYear.Pick(1);
+    const ReportPage& page = rig.page();
     expectText(page, centred("Load summary ending the last day of 2023 Q3", 392, kPeriodY, 6, 12));
     expectText(page, centred("3 Hours", 144, kHoursY));
     expectText(page, centred("GT1 GT1 Load", 392, kHeaderY, 6, 12));
@@ -174,11 +173,11 @@ TEST(LoadReport, NamesAQuarterThatWasPickedAfterTheCalculation)
 
 TEST(LoadReport, FromAClearedScreenHasTheHoursOfTheLastEvaluationAndNoCaptions)
 {
-    SixHoursBench bench;
-    const std::size_t counts = upwardTexts(bench.page()).size();
-    bench.tool.txtCapacity.Leave();
-    ASSERT_TRUE(bench.tool.cmdSave.Enabled());
-    const ReportPage& page = bench.page();
+    SixHoursRig rig;
+    const std::size_t counts = upwardTexts(rig.page()).size();
+    rig.tool.txtCapacity.Leave();
+    ASSERT_TRUE(rig.tool.cmdSave.Enabled());
+    const ReportPage& page = rig.page();
     EXPECT_EQ(writtenAt(page, kHeaderY), Lines());
     EXPECT_EQ(writtenAt(page, kPercentsY), Lines());
     EXPECT_EQ(writtenAt(page, kHoursY), (Lines{"3 Hours", "2 Hours", "1 Hours"}));
@@ -192,8 +191,8 @@ TEST(LoadReport, FromAClearedScreenHasTheHoursOfTheLastEvaluationAndNoCaptions)
 
 TEST(LoadReport, BeforeAnyEvaluationHasNoHours)
 {
-    ReportBench bench;
-    const ReportPage& page = bench.page();
+    ReportRig rig;
+    const ReportPage& page = rig.page();
     expectText(page, centred("0 Hours", 144, kHoursY));
     expectText(page, centred("0 Hours", 360, kHoursY));
     expectText(page, centred("0 Hours", 612, kHoursY));
@@ -202,24 +201,24 @@ TEST(LoadReport, BeforeAnyEvaluationHasNoHours)
 
 TEST(LoadReport, WithoutHoursInTheRangeHasDashes)
 {
-    ReportBench bench;
-    bench.calculate();
-    const ReportPage& page = bench.page();
+    ReportRig rig;
+    rig.calculate();
+    const ReportPage& page = rig.page();
     EXPECT_EQ(writtenAt(page, kPercentsY), (Lines{"-----", "-----", "-----"}));
     expectText(page, rightAligned("0 hours(s) over 110", 756, kBeyondY));
 }
 
 TEST(LoadReport, LongTextsKeepTheirMiddleAndTheColumnsTheirPlaces)
 {
-    ReportBench bench;
+    ReportRig rig;
     const std::string unit(60, 'W');
-    bench.site->parameter(kGT1).name = unit;
-    bench.site->facilityName = std::string(70, 'M');
-    bench.tool.SetDIServer(serve(bench.site));
-    bench.hours({20});
-    enter(bench.tool.txtCapacity, "110");
-    bench.calculate();
-    const ReportPage& page = bench.page();
+    rig.site->parameter(kGT1).name = unit;
+    rig.site->facilityName = std::string(70, 'M');
+    rig.tool.SetDIServer(serve(rig.site));
+    rig.hours({20});
+    enter(rig.tool.txtCapacity, "110");
+    rig.calculate();
+    const ReportPage& page = rig.page();
     expectText(page, centred(std::string(70, 'M'), 392, kFacilityY, 6, 14));
     expectText(page, centred(unit + " GT1 Load", 392, kHeaderY, 6, 12));
     expectText(page, centred("100.0% Low Op Load", 144, kPercentsY));
@@ -228,33 +227,33 @@ TEST(LoadReport, LongTextsKeepTheirMiddleAndTheColumnsTheirPlaces)
 
 TEST(LoadReport, ManyHoursAreInGeneralForm)
 {
-    ReportBench bench;
-    bench.specify("1/1/2023", "12/31/2023");
-    bench.load().fill(makeDate(2023, 1, 1), makeDate(2023, 12, 31, 23), 20);
-    bench.calculate();
-    expectText(bench.page(), centred("8760 Hours", 144, kHoursY));
+    ReportRig rig;
+    rig.specify("1/1/2023", "12/31/2023");
+    rig.load().fill(makeDate(2023, 1, 1), makeDate(2023, 12, 31, 23), 20);
+    rig.calculate();
+    expectText(rig.page(), centred("8760 Hours", 144, kHoursY));
 }
 
 TEST(LoadReport, WithoutDataCannotBeMade)
 {
-    LoadTool bench;
-    EXPECT_EQ(errorOf([&] { static_cast<void>(bench.tool.buildReport()); }), 91);
+    LoadTool rig;
+    EXPECT_EQ(errorOf([&] { static_cast<void>(rig.tool.buildReport()); }), 91);
 }
 
 TEST(LoadReport, LooksTheFacilityUpInTheSitesTable)
 {
-    SixHoursBench bench;
-    bench.site->calls.clear();
-    bench.page();
-    EXPECT_EQ(bench.site->countCalls("DIServer.LookupService"), 1U);
-    EXPECT_EQ(bench.site->countCalls("DILookups.Find"), 1U);
-    EXPECT_EQ(bench.site->countCalls("DIParameter.ReadData"), 0U);
+    SixHoursRig rig;
+    rig.site->calls.clear();
+    rig.page();
+    EXPECT_EQ(rig.site->countCalls("DIServer.LookupService"), 1U);
+    EXPECT_EQ(rig.site->countCalls("DILookups.Find"), 1U);
+    EXPECT_EQ(rig.site->countCalls("DIParameter.ReadData"), 0U);
 }
 
 TEST(LoadReport, LeavesTheScreenAsItIs)
 {
-    SixHoursBench bench;
-    EXPECT_EQ(bench.changesBy([&] { bench.page(); }), Lines());
+    SixHoursRig rig;
+    EXPECT_EQ(rig.changesBy([&] { rig.page(); }), Lines());
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -38,15 +38,15 @@ Reads quartersBackFrom(int year, int number, int count)
     return reads;
 }
 
-struct WalkBench : LoadBench {
-    explicit WalkBench(Date now = makeDate(2024, 5, 10)) : LoadBench(siteOfLoads(), now) {}
-    WalkBench& hour(const Date& time, std::optional<double> value = 50, std::int32_t status = 0)
+struct WalkRig : LoadRig {
+    explicit WalkRig(Date now = makeDate(2024, 5, 10)) : LoadRig(siteOfLoads(), now) {}
+    WalkRig& hour(const Date& time, std::optional<double> value = 50, std::int32_t status = 0)
     {
         load().set(time, value, status);
         return *this;
     }
     /// The middle of a quarter is one hour of load.
-    WalkBench& hourOf(int year, int number, double value = 50)
+    WalkRig& hourOf(int year, int number, double value = 50)
     {
         return hour(makeDate(year, 3 * number - 1, 15, 12), value);
     }
@@ -91,208 +91,208 @@ const DatesCase kDates[] = {
 
 TEST(LoadQuarters, FourWithDataAreReadFromTheSelectedOneBackward)
 {
-    WalkBench bench;
-    bench.load().fill(makeDate(2020, 1, 1), makeDate(2024, 12, 31, 23), 50);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 4));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = (91 + 92 + 92 + 91) * kHoursADay}));
+    WalkRig rig;
+    rig.load().fill(makeDate(2020, 1, 1), makeDate(2024, 12, 31, 23), 50);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 4));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = (91 + 92 + 92 + 91) * kHoursADay}));
 }
 
 TEST(LoadQuarters, ALeapDayHasItsHours)
 {
     EXPECT_EQ(quarter(2024, 1).count, 2184);
     EXPECT_EQ(quarter(2023, 1).count, 2160);
-    WalkBench bench(makeDate(2023, 5, 10));
-    EXPECT_EQ(bench.readsOfCalculation().front(), quarter(2023, 1));
+    WalkRig rig(makeDate(2023, 5, 10));
+    EXPECT_EQ(rig.readsOfCalculation().front(), quarter(2023, 1));
 }
 
 TEST(LoadQuarters, AnyQuarterAndYearCanBeTheNewest)
 {
     for (int number = 1; number <= 4; ++number) {
-        WalkBench bench;
-        bench.tool.cmbQTR.Pick(number - 1);
-        bench.tool.cmbYear.Pick(2);
-        EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2022, number, 12)) << number;
+        WalkRig rig;
+        rig.tool.cmbQTR.Pick(number - 1);
+        rig.tool.cmbYear.Pick(2);
+        EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2022, number, 12)) << number;
     }
 }
 
 TEST(LoadQuarters, TwelveAreReadAtMost)
 {
-    WalkBench bench;
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
-    EXPECT_EQ(countsOf(bench.results()), HourCounts());
-    EXPECT_FALSE(bench.tool.NeedsEvaluation());
+    WalkRig rig;
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
+    EXPECT_EQ(countsOf(rig.results()), HourCounts());
+    EXPECT_FALSE(rig.tool.NeedsEvaluation());
 }
 
 TEST(LoadQuarters, DataInTheTwoNewestAloneIsSoughtForInTwelve)
 {
-    WalkBench bench;
-    bench.hourOf(2024, 1).hourOf(2023, 4).hourOf(2021, 1);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 2}));
+    WalkRig rig;
+    rig.hourOf(2024, 1).hourOf(2023, 4).hourOf(2021, 1);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 2}));
 }
 
 TEST(LoadQuarters, EmptyOnesBetweenAreSkippedAndTheFourthWithDataIsTheLast)
 {
-    WalkBench bench;
-    bench.hourOf(2024, 1).hourOf(2023, 3).hourOf(2022, 4).hourOf(2022, 2).hourOf(2022, 1);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 8));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 4}));
+    WalkRig rig;
+    rig.hourOf(2024, 1).hourOf(2023, 3).hourOf(2022, 4).hourOf(2022, 2).hourOf(2022, 1);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 8));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 4}));
 }
 
 TEST(LoadQuarters, TheSelectedOneCountsAmongTheTwelveAlsoWhenItIsEmpty)
 {
-    WalkBench bench;
-    bench.hourOf(2021, 2).hourOf(2021, 1);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 1})) << "2021 Q2 is the twelfth";
+    WalkRig rig;
+    rig.hourOf(2021, 2).hourOf(2021, 1);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 1})) << "2021 Q2 is the twelfth";
 }
 
 TEST(LoadQuarters, TheFourthWithDataMayBeTheTwelfth)
 {
-    WalkBench bench;
-    bench.hourOf(2023, 2).hourOf(2022, 2).hourOf(2021, 3).hourOf(2021, 2).hourOf(2021, 1);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 4}));
+    WalkRig rig;
+    rig.hourOf(2023, 2).hourOf(2022, 2).hourOf(2021, 3).hourOf(2021, 2).hourOf(2021, 1);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 12));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 4}));
 }
 
 TEST(LoadQuarters, OneValidHourMakesAQuarterOneWithDataWhateverItsValue)
 {
-    WalkBench bench;
-    bench.hourOf(2024, 1, -5).hourOf(2023, 4, 500).hourOf(2023, 3, 0).hourOf(2023, 2, 100);
-    bench.hourOf(2023, 1, 50);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 4));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.low = 1, .high = 1, .over = 1, .under = 1}));
+    WalkRig rig;
+    rig.hourOf(2024, 1, -5).hourOf(2023, 4, 500).hourOf(2023, 3, 0).hourOf(2023, 2, 100);
+    rig.hourOf(2023, 1, 50);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 4));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 1, .high = 1, .over = 1, .under = 1}));
 }
 
 TEST(LoadQuarters, HoursThatAreNotUsedMakeNone)
 {
-    WalkBench bench;
-    bench.hour(makeDate(2024, 2, 1), 50, 1).hour(makeDate(2024, 2, 2), 50, 2);
-    bench.hour(makeDate(2024, 2, 3), std::nullopt, 0);
-    bench.hourOf(2023, 4).hourOf(2023, 3).hourOf(2023, 2).hourOf(2023, 1);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2024, 1, 5));
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 4}));
+    WalkRig rig;
+    rig.hour(makeDate(2024, 2, 1), 50, 1).hour(makeDate(2024, 2, 2), 50, 2);
+    rig.hour(makeDate(2024, 2, 3), std::nullopt, 0);
+    rig.hourOf(2023, 4).hourOf(2023, 3).hourOf(2023, 2).hourOf(2023, 1);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2024, 1, 5));
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 4}));
 }
 
 TEST(LoadQuarters, ReachFromTheFirstHourToTheLast)
 {
-    WalkBench bench;
-    bench.hour(makeDate(2024, 4, 1, 0)).hour(makeDate(2024, 3, 31, 23), 10);
-    bench.hour(makeDate(2024, 1, 1, 0), 70).hour(makeDate(2023, 12, 31, 23), -1);
-    bench.calculate();
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.low = 1, .high = 1, .under = 1}));
+    WalkRig rig;
+    rig.hour(makeDate(2024, 4, 1, 0)).hour(makeDate(2024, 3, 31, 23), 10);
+    rig.hour(makeDate(2024, 1, 1, 0), 70).hour(makeDate(2023, 12, 31, 23), -1);
+    rig.calculate();
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 1, .high = 1, .under = 1}));
 }
 
 TEST(LoadQuarters, OfYearsLongAgoAreReadAlike)
 {
     for (const auto& [year, first] : {std::pair("1900", 1900), {"1850", 1850}, {"150", 150}}) {
-        WalkBench bench;
-        bench.tool.cmbYear.Type(year);
-        EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(first, 1, 12)) << year;
+        WalkRig rig;
+        rig.tool.cmbYear.Type(year);
+        EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(first, 1, 12)) << year;
     }
 }
 
 TEST(LoadQuarters, BeforeTheFirstYearThereAreNone)
 {
-    WalkBench bench;
-    bench.tool.cmbYear.Type("100");
-    EXPECT_EQ(errorOf([&] { bench.calculate(); }), 5);
-    EXPECT_EQ(bench.takeReads(), quartersBackFrom(100, 1, 1));
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
+    WalkRig rig;
+    rig.tool.cmbYear.Type("100");
+    EXPECT_EQ(errorOf([&] { rig.calculate(); }), 5);
+    EXPECT_EQ(rig.takeReads(), quartersBackFrom(100, 1, 1));
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
 }
 
 TEST(LoadQuarters, TheLastDayOfTheLastYearHasNoNextOne)
 {
-    WalkBench bench;
-    bench.tool.cmbYear.Type("9999");
-    bench.tool.cmbQTR.Pick(3);
-    EXPECT_EQ(errorOf([&] { bench.calculate(); }), 5);
-    bench.tool.cmbQTR.Pick(2);
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(9999, 3, 12));
+    WalkRig rig;
+    rig.tool.cmbYear.Type("9999");
+    rig.tool.cmbQTR.Pick(3);
+    EXPECT_EQ(errorOf([&] { rig.calculate(); }), 5);
+    rig.tool.cmbQTR.Pick(2);
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(9999, 3, 12));
 }
 
 TEST(LoadDateWalk, ReadsTheQuartersThatTheDatesTouch)
 {
     for (const DatesCase& dates : kDates) {
-        WalkBench bench;
-        bench.specify(dates.from, dates.to);
-        EXPECT_EQ(bench.readsOfCalculation(), dates.reads) << dates.from << " to " << dates.to;
-        EXPECT_FALSE(bench.tool.NeedsEvaluation());
+        WalkRig rig;
+        rig.specify(dates.from, dates.to);
+        EXPECT_EQ(rig.readsOfCalculation(), dates.reads) << dates.from << " to " << dates.to;
+        EXPECT_FALSE(rig.tool.NeedsEvaluation());
     }
 }
 
 TEST(LoadDateWalk, TakesEveryHourOfItsDaysAndNoOther)
 {
     for (const DatesCase& dates : kDates) {
-        WalkBench bench;
-        bench.load().fill(makeDate(2023, 1, 1), makeDate(2024, 12, 31, 23), 50);
-        bench.specify(dates.from, dates.to).calculate();
+        WalkRig rig;
+        rig.load().fill(makeDate(2023, 1, 1), makeDate(2024, 12, 31, 23), 50);
+        rig.specify(dates.from, dates.to).calculate();
         std::int32_t hours = 0;
         for (const ReadRequest& read : dates.reads)
             hours += read.count;
-        EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = hours}))
+        EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = hours}))
             << dates.from << " to " << dates.to;
     }
 }
 
 TEST(LoadDateWalk, EmptyQuartersDoNotEndIt)
 {
-    WalkBench bench;
-    bench.hourOf(2023, 1, 10).hourOf(2024, 1, 70);
-    bench.specify("2/1/2023", "3/31/2024").calculate();
-    EXPECT_EQ(bench.takeReads().size(), 5U);
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.low = 1, .high = 1}));
+    WalkRig rig;
+    rig.hourOf(2023, 1, 10).hourOf(2024, 1, 70);
+    rig.specify("2/1/2023", "3/31/2024").calculate();
+    EXPECT_EQ(rig.takeReads().size(), 5U);
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 1, .high = 1}));
 }
 
 TEST(LoadDateWalk, FiveQuartersWithDataAreAllTaken)
 {
-    WalkBench bench;
+    WalkRig rig;
     for (const auto& [year, number] :
          {std::pair(2024, 1), {2023, 4}, {2023, 3}, {2023, 2}, {2023, 1}})
-        bench.hourOf(year, number);
-    bench.specify("1/1/2023", "3/31/2024").calculate();
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 5}));
+        rig.hourOf(year, number);
+    rig.specify("1/1/2023", "3/31/2024").calculate();
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 5}));
 }
 
 TEST(LoadDateWalk, ReversedDatesOfYearsAreReadByQuarters)
 {
-    WalkBench bench;
-    bench.specify("12/31/2023", "1/1/2019");
-    EXPECT_EQ(bench.readsOfCalculation(), quartersBackFrom(2023, 4, 20));
+    WalkRig rig;
+    rig.specify("12/31/2023", "1/1/2019");
+    EXPECT_EQ(rig.readsOfCalculation(), quartersBackFrom(2023, 4, 20));
 }
 
 TEST(LoadWalk, ReadsTheParameterThatIsPicked)
 {
     auto site =
         siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), hourlyNamed(131'017'512, "Steam")});
-    LoadBench bench(site);
-    enter(bench.tool.txtCapacity, "100");
-    bench.tool.cmbParam.Pick(1);
-    bench.specify("1/1/2024", "1/2/2024").calculate();
-    EXPECT_EQ(bench.takeReads(), (Reads{{131'017'512, makeDate(2024, 1, 1), 48}}));
+    LoadRig rig(site);
+    enter(rig.tool.txtCapacity, "100");
+    rig.tool.cmbParam.Pick(1);
+    rig.specify("1/1/2024", "1/2/2024").calculate();
+    EXPECT_EQ(rig.takeReads(), (Reads{{131'017'512, makeDate(2024, 1, 1), 48}}));
 }
 
 TEST(LoadWalk, ReadsIntoOneSet)
 {
-    WalkBench bench;
-    bench.calculate();
-    const std::set<const DIDataSet*> sets(bench.site->readSets.begin(), bench.site->readSets.end());
-    EXPECT_EQ(bench.site->readSets.size(), 12U);
+    WalkRig rig;
+    rig.calculate();
+    const std::set<const DIDataSet*> sets(rig.site->readSets.begin(), rig.site->readSets.end());
+    EXPECT_EQ(rig.site->readSets.size(), 12U);
     EXPECT_EQ(sets.size(), 1U);
 }
 
 TEST(LoadWalk, AsksWhetherTheParameterExistsBeforeItIsFetched)
 {
-    WalkBench bench;
-    bench.site->calls.clear();
-    bench.calculate();
-    const auto& calls = bench.site->calls;
+    WalkRig rig;
+    rig.site->calls.clear();
+    rig.calculate();
+    const auto& calls = rig.site->calls;
     const auto at = [&](const char* call) {
         return std::find(calls.begin(), calls.end(), call) - calls.begin();
     };
     EXPECT_LT(at("DIParameters.Exists"), at("DIParameters.Item"));
     EXPECT_LT(at("DIParameters.Item"), at("DIParameter.ReadData"));
-    EXPECT_EQ(bench.site->countCalls("DIParameter.ReadData"), 12U);
+    EXPECT_EQ(rig.site->countCalls("DIParameter.ReadData"), 12U);
 }
 
 } // namespace k7deval::test

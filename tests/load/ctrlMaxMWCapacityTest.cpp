@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -73,73 +73,70 @@ std::shared_ptr<SiteData> siteOfConstants(const std::vector<Constant>& constants
 TEST(LoadCapacity, APlainConstantCountsMoreThanOneOfAProgram)
 {
     for (const CapacityCase& expected : kCapacities) {
-        LoadTool bench;
-        enter(bench.tool.txtCapacity, "250");
-        bench.tool.SetDIServer(serve(siteOfConstants(expected.constants)));
-        EXPECT_EQ(bench.tool.txtCapacity.Text(), expected.capacity) << expected.what;
+        LoadTool rig;
+        enter(rig.tool.txtCapacity, "250");
+        rig.tool.SetDIServer(serve(siteOfConstants(expected.constants)));
+        EXPECT_EQ(rig.tool.txtCapacity.Text(), expected.capacity) << expected.what;
     }
 }
 
 TEST(LoadCapacity, IsASingle)
 {
     for (const double value : {0.1, 100.0, 1234567.89}) {
-        const LoadBench bench(siteOfConstants({{kPlain, value}}));
-        EXPECT_EQ(bench.results().CapacityValue, static_cast<float>(value));
+        const LoadRig rig(siteOfConstants({{kPlain, value}}));
+        EXPECT_EQ(rig.results().CapacityValue, static_cast<float>(value));
     }
 }
 
 TEST(LoadCapacity, IsWrittenAsTheRegionDoes)
 {
-    const LoadBench bench(siteOfConstants({{kPlain, 187.5}}), makeDate(2024, 5, 10), "de-DE");
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "187,5");
+    const LoadRig rig(siteOfConstants({{kPlain, 187.5}}), makeDate(2024, 5, 10), "de-DE");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "187,5");
 }
 
 TEST(LoadCapacity, StaysFromAnotherUnitThatHadOne)
 {
-    LoadBench bench;
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "100");
-    EXPECT_EQ(bench.results().CapacityValue, 100);
+    LoadRig rig;
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "100");
+    EXPECT_EQ(rig.results().CapacityValue, 100);
 }
 
 TEST(LoadCapacity, OfTheUserStaysForAUnitWithoutOneAndGoesForAUnitWithOne)
 {
-    LoadBench bench;
-    enter(bench.tool.txtCapacity, "250");
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "250");
-    EXPECT_EQ(bench.results().CapacityValue, 250);
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "100");
-    EXPECT_EQ(bench.results().CapacityValue, 100);
+    LoadRig rig;
+    enter(rig.tool.txtCapacity, "250");
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "250");
+    EXPECT_EQ(rig.results().CapacityValue, 250);
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "100");
+    EXPECT_EQ(rig.results().CapacityValue, 100);
 }
 
 TEST(LoadCapacity, CanBeEnteredAtAnyTime)
 {
-    LoadBench bench;
-    EXPECT_TRUE(bench.tool.txtCapacity.isReachable());
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_TRUE(bench.tool.txtCapacity.isReachable());
+    LoadRig rig;
+    EXPECT_TRUE(rig.tool.txtCapacity.isReachable());
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_TRUE(rig.tool.txtCapacity.isReachable());
 }
 
 TEST(LoadCapacity, OutOfASinglesRangeIsAnOverflow)
 {
-    LoadTool bench;
-    EXPECT_EQ(errorOf([&] {
-                  bench.tool.SetDIServer(serve(siteOfConstants({{kPlain, 1e39}})));
-              }),
-              6);
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "0");
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
+    LoadTool rig;
+    EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(siteOfConstants({{kPlain, 1e39}}))); }), 6);
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "0");
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
 }
 
 TEST(LoadCapacity, AFailureOfAConstantReachesTheHostUnderTheHourglass)
 {
-    LoadBench bench;
-    failAt(*bench.site, "DIParameter.CurrentPoint");
-    EXPECT_EQ(errorOf([&] { bench.tool.cmbUnit.Pick(0); }), 440);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "100");
+    LoadRig rig;
+    failAt(*rig.site, "DIParameter.CurrentPoint");
+    EXPECT_EQ(errorOf([&] { rig.tool.cmbUnit.Pick(0); }), 440);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "100");
 }
 
 } // namespace k7deval::test

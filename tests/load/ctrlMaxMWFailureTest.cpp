@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ namespace k7deval::test
 namespace
 {
 
-using Action = std::function<void(LoadBench&)>;
+using Action = std::function<void(LoadRig&)>;
 
 std::shared_ptr<SiteData> siteWithHours()
 {
@@ -26,18 +26,18 @@ std::shared_ptr<SiteData> siteWithHours()
 /// How many calls an action makes.
 std::size_t callsOf(const Action& prepare, const Action& action)
 {
-    LoadBench bench(siteWithHours());
-    prepare(bench);
-    bench.site->calls.clear();
-    action(bench);
-    return bench.site->calls.size();
+    LoadRig rig(siteWithHours());
+    prepare(rig);
+    rig.site->calls.clear();
+    action(rig);
+    return rig.site->calls.size();
 }
 
 /// Call number `at`, from 0, of those to come fails.
-void failCall(LoadBench& bench, std::size_t at)
+void failCall(LoadRig& rig, std::size_t at)
 {
-    bench.site->calls.clear();
-    bench.site->failure = [at](const std::string&, std::size_t index) {
+    rig.site->calls.clear();
+    rig.site->failure = [at](const std::string&, std::size_t index) {
         return index == at ? std::optional(Error(440, "the line is down")) : std::nullopt;
     };
 }
@@ -49,83 +49,83 @@ void atEveryCall(const Action& prepare, const Action& action, const Action& expe
     EXPECT_GT(calls, 0U);
     for (std::size_t at = 0; at < calls; ++at) {
         SCOPED_TRACE("failure at call " + std::to_string(at));
-        LoadBench bench(siteWithHours());
-        prepare(bench);
-        failCall(bench, at);
-        expectation(bench);
+        LoadRig rig(siteWithHours());
+        prepare(rig);
+        failCall(rig, at);
+        expectation(rig);
     }
 }
 
-const Action kNothing = [](LoadBench&) {};
-const Action kCalculate = [](LoadBench& bench) { bench.calculate(); };
-const Action kPickTheOtherUnit = [](LoadBench& bench) { bench.tool.cmbUnit.Pick(1); };
-const Action kShowPID = [](LoadBench& bench) { bench.tool.chkShowPID.Press(); };
+const Action kNothing = [](LoadRig&) {};
+const Action kCalculate = [](LoadRig& rig) { rig.calculate(); };
+const Action kPickTheOtherUnit = [](LoadRig& rig) { rig.tool.cmbUnit.Pick(1); };
+const Action kShowPID = [](LoadRig& rig) { rig.tool.chkShowPID.Press(); };
 
 /// The action fails for the host to see, under the hourglass.
-void expectFailure(LoadBench& bench, const Action& action)
+void expectFailure(LoadRig& rig, const Action& action)
 {
-    EXPECT_EQ(errorOf([&] { action(bench); }), 440);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_EQ(errorOf([&] { action(rig); }), 440);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
 }
 
 /// The same action without a failure gives what it gives on a new tool.
-void expectRecovery(LoadBench& bench, const Action& action)
+void expectRecovery(LoadRig& rig, const Action& action)
 {
-    bench.site->failure = nullptr;
-    action(bench);
-    LoadBench fresh(siteWithHours());
+    rig.site->failure = nullptr;
+    action(rig);
+    LoadRig fresh(siteWithHours());
     action(fresh);
-    EXPECT_EQ(changesBetween(snapshotOf(fresh.tool), snapshotOf(bench.tool)), Lines());
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
-    EXPECT_EQ(bench.tool.NeedsEvaluation(), fresh.tool.NeedsEvaluation());
-    EXPECT_EQ(bench.results().Bins, fresh.results().Bins);
+    EXPECT_EQ(changesBetween(snapshotOf(fresh.tool), snapshotOf(rig.tool)), Lines());
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
+    EXPECT_EQ(rig.tool.NeedsEvaluation(), fresh.tool.NeedsEvaluation());
+    EXPECT_EQ(rig.results().Bins, fresh.results().Bins);
 }
 
 } // namespace
 
 TEST(LoadFailure, OfACalculationIsTheHostsAndTheNextOneIsWhole)
 {
-    atEveryCall(kNothing, kCalculate, [](LoadBench& bench) {
-        expectFailure(bench, kCalculate);
-        EXPECT_FALSE(bench.tool.cmdSave.Enabled());
-        expectRecovery(bench, kCalculate);
+    atEveryCall(kNothing, kCalculate, [](LoadRig& rig) {
+        expectFailure(rig, kCalculate);
+        EXPECT_FALSE(rig.tool.cmdSave.Enabled());
+        expectRecovery(rig, kCalculate);
     });
 }
 
 TEST(LoadFailure, OfTheEvaluationLeavesItToBeDone)
 {
-    LoadBench bench(siteWithHours());
-    failAt(*bench.site, "DIParameter.ReadData");
-    expectFailure(bench, kCalculate);
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
+    LoadRig rig(siteWithHours());
+    failAt(*rig.site, "DIParameter.ReadData");
+    expectFailure(rig, kCalculate);
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
 }
 
 TEST(LoadFailure, OfTheHeaderComesAfterTheEvaluation)
 {
-    LoadBench bench(siteWithHours());
-    failAt(*bench.site, "DIParameter.Name");
-    expectFailure(bench, kCalculate);
-    EXPECT_FALSE(bench.tool.NeedsEvaluation());
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 49}));
-    EXPECT_NE(bench.tool.lblBar[10].ToolTipText(), "") << "the bars stand by then";
-    EXPECT_EQ(bench.tool.lblMax.Caption(), "") << "the texts do not";
+    LoadRig rig(siteWithHours());
+    failAt(*rig.site, "DIParameter.Name");
+    expectFailure(rig, kCalculate);
+    EXPECT_FALSE(rig.tool.NeedsEvaluation());
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 49}));
+    EXPECT_NE(rig.tool.lblBar[10].ToolTipText(), "") << "the bars stand by then";
+    EXPECT_EQ(rig.tool.lblMax.Caption(), "") << "the texts do not";
 }
 
 TEST(LoadFailure, OfAUnitsPickIsTheHostsAndTheNextOneIsWhole)
 {
-    atEveryCall(kNothing, kPickTheOtherUnit, [](LoadBench& bench) {
-        expectFailure(bench, kPickTheOtherUnit);
-        expectRecovery(bench, kPickTheOtherUnit);
+    atEveryCall(kNothing, kPickTheOtherUnit, [](LoadRig& rig) {
+        expectFailure(rig, kPickTheOtherUnit);
+        expectRecovery(rig, kPickTheOtherUnit);
     });
 }
 
 TEST(LoadFailure, OfShowingPIDsIsTheHostsAndLeavesTheResults)
 {
-    atEveryCall(kCalculate, kShowPID, [](LoadBench& bench) {
-        EXPECT_EQ(errorOf([&] { kShowPID(bench); }), 440);
-        EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
-        EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 GT1 Load");
-        EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    atEveryCall(kCalculate, kShowPID, [](LoadRig& rig) {
+        EXPECT_EQ(errorOf([&] { kShowPID(rig); }), 440);
+        EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
+        EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 GT1 Load");
+        EXPECT_TRUE(rig.tool.cmdSave.Enabled());
     });
 }
 
@@ -133,34 +133,34 @@ TEST(LoadFailure, OfAReportNeverReachesTheHost)
 {
     const testing::TemporaryFolder folder;
     const std::string path = folder.file("Load.pdf");
-    const Action save = [&](LoadBench& bench) {
-        bench.services.saveAnswer = screen::SaveAnswer{path, 1};
-        bench.services.answers = {screen::MsgBoxAnswer::Yes};
-        bench.tool.cmdSave.Press();
+    const Action save = [&](LoadRig& rig) {
+        rig.services.saveAnswer = screen::SaveAnswer{path, 1};
+        rig.services.answers = {screen::MsgBoxAnswer::Yes};
+        rig.tool.cmdSave.Press();
     };
-    const Action calculated = [](LoadBench& bench) {
-        bench.calculate();
-        bench.services.boxes.clear();
+    const Action calculated = [](LoadRig& rig) {
+        rig.calculate();
+        rig.services.boxes.clear();
     };
-    atEveryCall(calculated, save, [&](LoadBench& bench) {
+    atEveryCall(calculated, save, [&](LoadRig& rig) {
         std::filesystem::remove(path);
-        EXPECT_EQ(errorOf([&] { save(bench); }), 0);
-        EXPECT_TRUE(bench.services.boxes.empty());
+        EXPECT_EQ(errorOf([&] { save(rig); }), 0);
+        EXPECT_TRUE(rig.services.boxes.empty());
         EXPECT_EQ(folder.names(), Lines());
-        EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+        EXPECT_TRUE(rig.tool.cmdSave.Enabled());
     });
 }
 
 TEST(LoadFailure, OfAnotherKindKeepsItsText)
 {
-    LoadBench bench(siteWithHours());
-    bench.site->failure = [](const std::string& call, std::size_t) -> std::optional<Error> {
+    LoadRig rig(siteWithHours());
+    rig.site->failure = [](const std::string& call, std::size_t) -> std::optional<Error> {
         if (call == "DIParameter.ReadData")
             throw Error(1234, "no such archive");
         return std::nullopt;
     };
     try {
-        bench.calculate();
+        rig.calculate();
         ADD_FAILURE() << "the failure did not reach the host";
     } catch (const Error& error) {
         EXPECT_EQ(error.number(), 1234);

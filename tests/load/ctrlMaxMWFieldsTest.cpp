@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,9 @@ namespace
 {
 
 /// The load tool after a calculation, with specified dates: 1 January to 31 March 2024.
-struct CalculatedBench : LoadBench {
-    explicit CalculatedBench(const std::string& region = "en-US")
-        : LoadBench(siteOfLoads(), makeDate(2024, 5, 10, 14, 30), region)
+struct CalculatedRig : LoadRig {
+    explicit CalculatedRig(const std::string& region = "en-US")
+        : LoadRig(siteOfLoads(), makeDate(2024, 5, 10, 14, 30), region)
     {
         tool.optTimeSelect.Press();
         hours({10, 50, 90}).calculate();
@@ -112,11 +112,11 @@ TEST(LoadNumbers, ANumberIsTakenAndStaysAsItWasTyped)
 {
     for (const NumberField& field : kNumberFields) {
         for (const NumberCase& number : kNumbers) {
-            CalculatedBench bench;
-            enter(bench.tool.*field.box, number.typed);
-            EXPECT_EQ(bench.results().*field.value, number.value) << of(field.name, number.typed);
-            EXPECT_EQ((bench.tool.*field.box).Text(), number.typed);
-            EXPECT_TRUE(bench.isStaleButSavable()) << of(field.name, number.typed);
+            CalculatedRig rig;
+            enter(rig.tool.*field.box, number.typed);
+            EXPECT_EQ(rig.results().*field.value, number.value) << of(field.name, number.typed);
+            EXPECT_EQ((rig.tool.*field.box).Text(), number.typed);
+            EXPECT_TRUE(rig.isStaleButSavable()) << of(field.name, number.typed);
         }
     }
 }
@@ -125,80 +125,80 @@ TEST(LoadNumbers, AnyOtherTextGivesWayToTheLastNumberAndResultsStay)
 {
     for (const NumberField& field : kNumberFields) {
         for (const char* typed : kNoNumbers) {
-            CalculatedBench bench;
-            bench.range("12.5", "80").calculate();
-            const Lines changes = bench.changesBy([&] { enter(bench.tool.*field.box, typed); });
+            CalculatedRig rig;
+            rig.range("12.5", "80").calculate();
+            const Lines changes = rig.changesBy([&] { enter(rig.tool.*field.box, typed); });
             EXPECT_EQ(changes, Lines()) << of(field.name, typed);
-            EXPECT_TRUE(bench.isUntouched()) << of(field.name, typed);
+            EXPECT_TRUE(rig.isUntouched()) << of(field.name, typed);
         }
     }
 }
 
 TEST(LoadNumbers, AnyOtherTextAfterAStaleOneChangesNothingEither)
 {
-    LoadBench bench;
-    enter(bench.tool.txtMinSafe, "12.50");
-    enter(bench.tool.txtMinSafe, "x");
-    EXPECT_EQ(bench.tool.txtMinSafe.Text(), "12.5") << "in general form";
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    enter(rig.tool.txtMinSafe, "12.50");
+    enter(rig.tool.txtMinSafe, "x");
+    EXPECT_EQ(rig.tool.txtMinSafe.Text(), "12.5") << "in general form";
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadNumbers, TheLastNumberComesBackAsASingleInGeneralForm)
 {
-    LoadBench bench;
-    enter(bench.tool.txtCapacity, "1234567.89");
-    enter(bench.tool.txtCapacity, "x");
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "1234568");
-    enter(bench.tool.txtCapacity, "123456789");
-    enter(bench.tool.txtCapacity, "x");
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "1.234568E+08");
+    LoadRig rig;
+    enter(rig.tool.txtCapacity, "1234567.89");
+    enter(rig.tool.txtCapacity, "x");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "1234568");
+    enter(rig.tool.txtCapacity, "123456789");
+    enter(rig.tool.txtCapacity, "x");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "1.234568E+08");
 }
 
 TEST(LoadNumbers, LeavingAnUnchangedNumberMakesResultsStaleToo)
 {
     for (const NumberField& field : kNumberFields) {
-        CalculatedBench bench;
-        (bench.tool.*field.box).Leave();
-        EXPECT_TRUE(bench.isStaleButSavable()) << field.name;
+        CalculatedRig rig;
+        (rig.tool.*field.box).Leave();
+        EXPECT_TRUE(rig.isStaleButSavable()) << field.name;
     }
 }
 
 TEST(LoadNumbers, TypingAloneChangesNothing)
 {
     for (const NumberField& field : kNumberFields) {
-        CalculatedBench bench;
-        const float before = bench.results().*field.value;
-        (bench.tool.*field.box).Type("77");
-        EXPECT_TRUE(bench.isUntouched()) << field.name;
-        EXPECT_EQ(bench.results().*field.value, before) << field.name;
+        CalculatedRig rig;
+        const float before = rig.results().*field.value;
+        (rig.tool.*field.box).Type("77");
+        EXPECT_TRUE(rig.isUntouched()) << field.name;
+        EXPECT_EQ(rig.results().*field.value, before) << field.name;
     }
 }
 
 TEST(LoadNumbers, OutOfASinglesRangeIsAnOverflow)
 {
     for (const NumberField& field : kNumberFields) {
-        CalculatedBench bench;
-        const float before = bench.results().*field.value;
-        EXPECT_EQ(errorOf([&] { enter(bench.tool.*field.box, "1e39"); }), 6) << field.name;
-        EXPECT_EQ(bench.results().*field.value, before) << field.name;
-        EXPECT_EQ((bench.tool.*field.box).Text(), "1e39") << field.name;
-        EXPECT_TRUE(bench.isUntouched()) << field.name;
+        CalculatedRig rig;
+        const float before = rig.results().*field.value;
+        EXPECT_EQ(errorOf([&] { enter(rig.tool.*field.box, "1e39"); }), 6) << field.name;
+        EXPECT_EQ(rig.results().*field.value, before) << field.name;
+        EXPECT_EQ((rig.tool.*field.box).Text(), "1e39") << field.name;
+        EXPECT_TRUE(rig.isUntouched()) << field.name;
     }
 }
 
 TEST(LoadNumbers, AreReadAndWrittenAsTheRegionDoes)
 {
     for (const NumberField& field : kNumberFields) {
-        CalculatedBench bench("de-DE");
-        enter(bench.tool.*field.box, "12,5");
-        EXPECT_EQ(bench.results().*field.value, 12.5F) << field.name;
-        enter(bench.tool.*field.box, "x");
-        EXPECT_EQ((bench.tool.*field.box).Text(), "12,5") << field.name;
-        enter(bench.tool.*field.box, "1.000,5");
-        EXPECT_EQ(bench.results().*field.value, 1000.5F) << field.name;
-        enter(bench.tool.*field.box, "12.5");
-        EXPECT_EQ(bench.results().*field.value, 125) << field.name << ": points group digits";
+        CalculatedRig rig("de-DE");
+        enter(rig.tool.*field.box, "12,5");
+        EXPECT_EQ(rig.results().*field.value, 12.5F) << field.name;
+        enter(rig.tool.*field.box, "x");
+        EXPECT_EQ((rig.tool.*field.box).Text(), "12,5") << field.name;
+        enter(rig.tool.*field.box, "1.000,5");
+        EXPECT_EQ(rig.results().*field.value, 1000.5F) << field.name;
+        enter(rig.tool.*field.box, "12.5");
+        EXPECT_EQ(rig.results().*field.value, 125) << field.name << ": points group digits";
     }
 }
 
@@ -206,11 +206,11 @@ TEST(LoadDates, ADateIsTakenAndRewrittenAsAShortDate)
 {
     for (const DateField& field : kDateFields) {
         for (const DateCase& date : kDates) {
-            CalculatedBench bench;
-            enter(bench.tool.*field.box, date.typed);
-            EXPECT_EQ((bench.tool.*field.box).Text(), date.shown) << of(field.name, date.typed);
-            EXPECT_EQ((bench.tool.*field.date)(), date.date) << of(field.name, date.typed);
-            EXPECT_TRUE(bench.isStaleButSavable()) << of(field.name, date.typed);
+            CalculatedRig rig;
+            enter(rig.tool.*field.box, date.typed);
+            EXPECT_EQ((rig.tool.*field.box).Text(), date.shown) << of(field.name, date.typed);
+            EXPECT_EQ((rig.tool.*field.date)(), date.date) << of(field.name, date.typed);
+            EXPECT_TRUE(rig.isStaleButSavable()) << of(field.name, date.typed);
         }
     }
 }
@@ -219,10 +219,10 @@ TEST(LoadDates, AnyOtherTextGivesWayToTheLastDateAndResultsStay)
 {
     for (const DateField& field : kDateFields) {
         for (const char* typed : kNoDates) {
-            CalculatedBench bench;
-            const Lines changes = bench.changesBy([&] { enter(bench.tool.*field.box, typed); });
+            CalculatedRig rig;
+            const Lines changes = rig.changesBy([&] { enter(rig.tool.*field.box, typed); });
             EXPECT_EQ(changes, Lines()) << of(field.name, typed);
-            EXPECT_TRUE(bench.isUntouched()) << of(field.name, typed);
+            EXPECT_TRUE(rig.isUntouched()) << of(field.name, typed);
         }
     }
 }
@@ -230,198 +230,197 @@ TEST(LoadDates, AnyOtherTextGivesWayToTheLastDateAndResultsStay)
 TEST(LoadDates, LeavingAnUnchangedDateMakesResultsStaleToo)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        const Date before = (bench.tool.*field.date)();
-        (bench.tool.*field.box).Leave();
-        EXPECT_TRUE(bench.isStaleButSavable()) << field.name;
-        EXPECT_EQ((bench.tool.*field.date)(), before) << field.name;
+        CalculatedRig rig;
+        const Date before = (rig.tool.*field.date)();
+        (rig.tool.*field.box).Leave();
+        EXPECT_TRUE(rig.isStaleButSavable()) << field.name;
+        EXPECT_EQ((rig.tool.*field.date)(), before) << field.name;
     }
 }
 
 TEST(LoadDates, TypingAloneChangesNothing)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        const Date before = (bench.tool.*field.date)();
-        (bench.tool.*field.box).Type("2/5/2024");
-        EXPECT_TRUE(bench.isUntouched()) << field.name;
-        EXPECT_EQ((bench.tool.*field.date)(), before) << field.name;
+        CalculatedRig rig;
+        const Date before = (rig.tool.*field.date)();
+        (rig.tool.*field.box).Type("2/5/2024");
+        EXPECT_TRUE(rig.isUntouched()) << field.name;
+        EXPECT_EQ((rig.tool.*field.date)(), before) << field.name;
     }
 }
 
 TEST(LoadDates, AreReadAndWrittenAsTheRegionDoes)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench("de-DE");
-        enter(bench.tool.*field.box, "5.2.24");
-        EXPECT_EQ((bench.tool.*field.box).Text(), "05.02.2024") << field.name;
-        EXPECT_EQ((bench.tool.*field.date)(), makeDate(2024, 2, 5)) << field.name;
-        enter(bench.tool.*field.box, "x");
-        EXPECT_EQ((bench.tool.*field.box).Text(), "05.02.2024") << field.name;
+        CalculatedRig rig("de-DE");
+        enter(rig.tool.*field.box, "5.2.24");
+        EXPECT_EQ((rig.tool.*field.box).Text(), "05.02.2024") << field.name;
+        EXPECT_EQ((rig.tool.*field.date)(), makeDate(2024, 2, 5)) << field.name;
+        enter(rig.tool.*field.box, "x");
+        EXPECT_EQ((rig.tool.*field.box).Text(), "05.02.2024") << field.name;
     }
 }
 
 TEST(LoadDates, TheOtherDateStaysAsItIs)
 {
-    CalculatedBench bench;
-    enter(bench.tool.txtFrom, "2/5/2024");
-    EXPECT_EQ(bench.tool.txtTo.Text(), "3/31/2024");
-    EXPECT_EQ(bench.tool.EndDate(), makeDate(2024, 3, 31));
-    enter(bench.tool.txtTo, "2/10/2024");
-    EXPECT_EQ(bench.tool.txtFrom.Text(), "2/5/2024");
-    EXPECT_EQ(bench.tool.StartDate(), makeDate(2024, 2, 5));
+    CalculatedRig rig;
+    enter(rig.tool.txtFrom, "2/5/2024");
+    EXPECT_EQ(rig.tool.txtTo.Text(), "3/31/2024");
+    EXPECT_EQ(rig.tool.EndDate(), makeDate(2024, 3, 31));
+    enter(rig.tool.txtTo, "2/10/2024");
+    EXPECT_EQ(rig.tool.txtFrom.Text(), "2/5/2024");
+    EXPECT_EQ(rig.tool.StartDate(), makeDate(2024, 2, 5));
 }
 
 TEST(LoadCalendar, OpensAtTheDateOfItsBox)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        enter(bench.tool.*field.box, "2/5/2024");
-        (bench.tool.*field.button).Press();
-        ASSERT_EQ(bench.services.dateRequests.size(), 1U) << field.name;
-        EXPECT_EQ(bench.services.dateRequests[0].first, field.title);
-        EXPECT_EQ(bench.services.dateRequests[0].second, makeDate(2024, 2, 5)) << field.name;
+        CalculatedRig rig;
+        enter(rig.tool.*field.box, "2/5/2024");
+        (rig.tool.*field.button).Press();
+        ASSERT_EQ(rig.services.dateRequests.size(), 1U) << field.name;
+        EXPECT_EQ(rig.services.dateRequests[0].first, field.title);
+        EXPECT_EQ(rig.services.dateRequests[0].second, makeDate(2024, 2, 5)) << field.name;
     }
 }
 
 TEST(LoadCalendar, APickedDateGoesIntoTheBoxAndThereIsNothingToSave)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        bench.services.dateAnswer = makeDate(2023, 11, 7);
-        (bench.tool.*field.button).Press();
-        EXPECT_EQ((bench.tool.*field.box).Text(), "11/7/2023") << field.name;
-        EXPECT_EQ((bench.tool.*field.date)(), makeDate(2023, 11, 7)) << field.name;
-        EXPECT_TRUE(bench.tool.NeedsEvaluation()) << field.name;
-        EXPECT_TRUE(isCleared(bench.tool)) << field.name;
-        EXPECT_FALSE(bench.tool.cmdSave.Enabled()) << field.name;
+        CalculatedRig rig;
+        rig.services.dateAnswer = makeDate(2023, 11, 7);
+        (rig.tool.*field.button).Press();
+        EXPECT_EQ((rig.tool.*field.box).Text(), "11/7/2023") << field.name;
+        EXPECT_EQ((rig.tool.*field.date)(), makeDate(2023, 11, 7)) << field.name;
+        EXPECT_TRUE(rig.tool.NeedsEvaluation()) << field.name;
+        EXPECT_TRUE(isCleared(rig.tool)) << field.name;
+        EXPECT_FALSE(rig.tool.cmdSave.Enabled()) << field.name;
     }
 }
 
 TEST(LoadCalendar, TheTimeOfAPickedDateIsLost)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        bench.services.dateAnswer = makeDate(2023, 11, 7, 23, 59, 59);
-        (bench.tool.*field.button).Press();
-        EXPECT_EQ((bench.tool.*field.box).Text(), "11/7/2023") << field.name;
-        EXPECT_EQ((bench.tool.*field.date)(), makeDate(2023, 11, 7)) << field.name;
+        CalculatedRig rig;
+        rig.services.dateAnswer = makeDate(2023, 11, 7, 23, 59, 59);
+        (rig.tool.*field.button).Press();
+        EXPECT_EQ((rig.tool.*field.box).Text(), "11/7/2023") << field.name;
+        EXPECT_EQ((rig.tool.*field.date)(), makeDate(2023, 11, 7)) << field.name;
     }
 }
 
 TEST(LoadCalendar, TheSameDateMakesResultsStaleToo)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        bench.services.dateAnswer = (bench.tool.*field.date)();
-        (bench.tool.*field.button).Press();
-        EXPECT_TRUE(bench.tool.NeedsEvaluation()) << field.name;
-        EXPECT_TRUE(isCleared(bench.tool)) << field.name;
-        EXPECT_FALSE(bench.tool.cmdSave.Enabled()) << field.name;
+        CalculatedRig rig;
+        rig.services.dateAnswer = (rig.tool.*field.date)();
+        (rig.tool.*field.button).Press();
+        EXPECT_TRUE(rig.tool.NeedsEvaluation()) << field.name;
+        EXPECT_TRUE(isCleared(rig.tool)) << field.name;
+        EXPECT_FALSE(rig.tool.cmdSave.Enabled()) << field.name;
     }
 }
 
 TEST(LoadCalendar, WithoutAPickedDateTheDateStaysAsItWas)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        const Date before = (bench.tool.*field.date)();
-        const std::string text = (bench.tool.*field.box).Text();
-        (bench.tool.*field.button).Press();
-        EXPECT_EQ((bench.tool.*field.date)(), before) << field.name;
-        EXPECT_EQ((bench.tool.*field.box).Text(), text) << field.name;
+        CalculatedRig rig;
+        const Date before = (rig.tool.*field.date)();
+        const std::string text = (rig.tool.*field.box).Text();
+        (rig.tool.*field.button).Press();
+        EXPECT_EQ((rig.tool.*field.date)(), before) << field.name;
+        EXPECT_EQ((rig.tool.*field.box).Text(), text) << field.name;
     }
 }
 
 TEST(LoadCalendar, AFailureReachesTheHostAndChangesNothing)
 {
     for (const DateField& field : kDateFields) {
-        CalculatedBench bench;
-        bench.services.dateError = Error(440);
-        const Lines changes = bench.changesBy([&] {
-            EXPECT_EQ(errorOf([&] { (bench.tool.*field.button).Press(); }), 440) << field.name;
+        CalculatedRig rig;
+        rig.services.dateError = Error(440);
+        const Lines changes = rig.changesBy([&] {
+            EXPECT_EQ(errorOf([&] { (rig.tool.*field.button).Press(); }), 440) << field.name;
         });
         EXPECT_EQ(changes, Lines()) << field.name;
-        EXPECT_TRUE(bench.isUntouched()) << field.name;
+        EXPECT_TRUE(rig.isUntouched()) << field.name;
     }
 }
 
 TEST(LoadCalendar, CannotBeOpenedWhileFourQuartersAreLookedFor)
 {
-    LoadBench bench;
-    bench.tool.cmdFrom.Press();
-    bench.tool.cmdTo.Press();
-    EXPECT_TRUE(bench.services.dateRequests.empty());
+    LoadRig rig;
+    rig.tool.cmdFrom.Press();
+    rig.tool.cmdTo.Press();
+    EXPECT_TRUE(rig.services.dateRequests.empty());
 }
 
 TEST(LoadShowPID, PutsThePIDAheadOfEveryName)
 {
-    LoadBench bench(
+    LoadRig rig(
         siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), hourlyNamed(131'017'512, "Steam")}));
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(),
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(),
               (Lines{"[1-602-0-75-01] GT1 Load", "[1-310-1-75-12] Steam"}));
-    EXPECT_EQ(bench.tool.cmbParam.ItemDataList(),
-              (std::vector<std::int32_t>{kGT1Load, 131'017'512}));
-    EXPECT_EQ(bench.tool.cmbParam.ListIndex(), 0);
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(), (Lines{"GT1 Load", "Steam"}));
+    EXPECT_EQ(rig.tool.cmbParam.ItemDataList(), (std::vector<std::int32_t>{kGT1Load, 131'017'512}));
+    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 0);
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"GT1 Load", "Steam"}));
 }
 
 TEST(LoadShowPID, LeavesResultsOnTheScreen)
 {
-    CalculatedBench bench;
-    const Lines changes = bench.changesBy([&] { bench.tool.chkShowPID.Press(); });
-    EXPECT_TRUE(bench.isUntouched());
+    CalculatedRig rig;
+    const Lines changes = rig.changesBy([&] { rig.tool.chkShowPID.Press(); });
+    EXPECT_TRUE(rig.isUntouched());
     EXPECT_EQ(changes.size(), 3U) << "the box, the list and its text";
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "[1-602-0-75-01] GT1 Load");
-    EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 GT1 Load");
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-602-0-75-01] GT1 Load");
+    EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 GT1 Load");
 }
 
 TEST(LoadShowPID, KeepsThePickedRow)
 {
-    LoadBench bench(
+    LoadRig rig(
         siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), hourlyNamed(131'017'512, "Steam")}));
-    bench.tool.cmbParam.Pick(1);
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.ListIndex(), 1);
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "[1-310-1-75-12] Steam");
+    rig.tool.cmbParam.Pick(1);
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 1);
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-310-1-75-12] Steam");
 }
 
 TEST(LoadShowPID, RowsOfParametersThatAreGoneKeepTheirText)
 {
-    LoadBench bench(
+    LoadRig rig(
         siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), hourlyNamed(131'017'512, "Steam")}));
-    bench.site->parameters.pop_back();
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(), (Lines{"[1-602-0-75-01] GT1 Load", "Steam"}));
-    bench.site->parameters.pop_back();
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(), (Lines{"[1-602-0-75-01] GT1 Load", "Steam"}));
+    rig.site->parameters.pop_back();
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"[1-602-0-75-01] GT1 Load", "Steam"}));
+    rig.site->parameters.pop_back();
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"[1-602-0-75-01] GT1 Load", "Steam"}));
 }
 
 TEST(LoadShowPID, TakesTheNamesAsTheyAreNow)
 {
-    LoadBench bench;
-    bench.site->parameter(kGT1Load).name = "Gross Load";
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"[1-602-0-75-01] Gross Load"});
+    LoadRig rig;
+    rig.site->parameter(kGT1Load).name = "Gross Load";
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"[1-602-0-75-01] Gross Load"});
 }
 
 TEST(LoadShowPID, WithoutDataDoesNothing)
 {
-    LoadTool bench;
-    bench.tool.chkShowPID.Press();
-    EXPECT_TRUE(bench.tool.chkShowPID.isChecked());
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
+    LoadTool rig;
+    rig.tool.chkShowPID.Press();
+    EXPECT_TRUE(rig.tool.chkShowPID.isChecked());
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
 }
 
 TEST(LoadShowPID, AfterTheDataWasTakenAwayDoesNothing)
 {
-    LoadBench bench;
-    bench.tool.SetDIServer(nullptr);
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
+    LoadRig rig;
+    rig.tool.SetDIServer(nullptr);
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -105,38 +105,38 @@ bool liesIn(const screen::Container& container, const std::string& name)
 
 TEST(LoadToolLook, TheToolHasAFixedSizeWithItsResultsOnTheRight)
 {
-    const LoadTool bench;
-    EXPECT_EQ(bench.tool.Place().Width, 12300);
-    EXPECT_EQ(bench.tool.Place().Height, 4830);
-    EXPECT_EQ(bench.tool.fraResults.Place(), (Geometry{6240, 120, 6000, 4020}));
+    const LoadTool rig;
+    EXPECT_EQ(rig.tool.Place().Width, 12300);
+    EXPECT_EQ(rig.tool.Place().Height, 4830);
+    EXPECT_EQ(rig.tool.fraResults.Place(), (Geometry{6240, 120, 6000, 4020}));
 }
 
 TEST(LoadToolLook, EveryResultTextHasItsPlaceAndAlignment)
 {
-    const LoadTool bench;
+    const LoadTool rig;
     for (const LabelCase& expected : kLabels) {
-        const auto& label = found<screen::Label>(bench.tool, expected.name);
+        const auto& label = found<screen::Label>(rig.tool, expected.name);
         EXPECT_EQ(label.Place().Left, expected.left) << expected.name;
         EXPECT_EQ(label.Place().Top, expected.top) << expected.name;
         EXPECT_EQ(label.Place().Width, expected.width) << expected.name;
         EXPECT_EQ(label.Alignment(), expected.alignment) << expected.name;
-        EXPECT_TRUE(liesIn(bench.tool.fraResults, expected.name)) << expected.name;
+        EXPECT_TRUE(liesIn(rig.tool.fraResults, expected.name)) << expected.name;
     }
 }
 
 TEST(LoadToolLook, FourDottedMarksStandOnASolidBase)
 {
-    const LoadTool bench;
+    const LoadTool rig;
     for (const MarkCase& expected : kMarks) {
-        const auto& line = found<screen::Line>(bench.tool, expected.name);
+        const auto& line = found<screen::Line>(rig.tool, expected.name);
         EXPECT_EQ(line.X1(), expected.x) << expected.name;
         EXPECT_EQ(line.X2(), expected.x) << expected.name;
         EXPECT_EQ(std::min(line.Y1(), line.Y2()), 630) << expected.name;
         EXPECT_EQ(std::max(line.Y1(), line.Y2()), 2700) << expected.name;
         EXPECT_EQ(line.Style(), screen::LineStyle::Dotted) << expected.name;
-        EXPECT_TRUE(liesIn(bench.tool.fraResults, expected.name)) << expected.name;
+        EXPECT_TRUE(liesIn(rig.tool.fraResults, expected.name)) << expected.name;
     }
-    const screen::Line& base = bench.tool.linBase;
+    const screen::Line& base = rig.tool.linBase;
     EXPECT_EQ(base.X1(), 120);
     EXPECT_EQ(base.X2(), 5895);
     EXPECT_EQ(base.Y1(), 2700);
@@ -146,9 +146,9 @@ TEST(LoadToolLook, FourDottedMarksStandOnASolidBase)
 
 TEST(LoadToolLook, TwentyBarsStandSideBySideOnWholePixels)
 {
-    const LoadTool bench;
+    const LoadTool rig;
     for (int bar = 1; bar <= 20; ++bar) {
-        const screen::Label& label = bench.tool.lblBar[bar];
+        const screen::Label& label = rig.tool.lblBar[bar];
         EXPECT_EQ(label.Place(), (Geometry{static_cast<float>(edge(bar - 1)), 2700,
                                            static_cast<float>(edge(bar) - edge(bar - 1) + 15), 15}))
             << bar;
@@ -160,20 +160,20 @@ TEST(LoadToolLook, TwentyBarsStandSideBySideOnWholePixels)
 
 TEST(LoadToolLook, TheBarsReachFromTheFirstMarkToTheLast)
 {
-    const LoadTool bench;
-    EXPECT_EQ(bench.tool.lblBar[1].Place().Left, 120);
-    EXPECT_EQ(bench.tool.lblBar[1].Place().Width, 300); // 120 + 288 is 408, on the grid 405.
-    EXPECT_EQ(bench.tool.lblBar[2].Place().Left, 405);
-    EXPECT_EQ(bench.tool.lblBar[7].Place().Left, 1845) << "the 30% mark";
-    EXPECT_EQ(bench.tool.lblBar[13].Place().Left, 3570) << "the 60% mark";
-    const Geometry& last = bench.tool.lblBar[20].Place();
+    const LoadTool rig;
+    EXPECT_EQ(rig.tool.lblBar[1].Place().Left, 120);
+    EXPECT_EQ(rig.tool.lblBar[1].Place().Width, 300); // 120 + 288 is 408, on the grid 405.
+    EXPECT_EQ(rig.tool.lblBar[2].Place().Left, 405);
+    EXPECT_EQ(rig.tool.lblBar[7].Place().Left, 1845) << "the 30% mark";
+    EXPECT_EQ(rig.tool.lblBar[13].Place().Left, 3570) << "the 60% mark";
+    const Geometry& last = rig.tool.lblBar[20].Place();
     EXPECT_EQ(last.Left + last.Width, 5880 + 15);
 }
 
 TEST(LoadToolLook, TheBarsAreMadeFromAHiddenPattern)
 {
-    const LoadTool bench;
-    const screen::Label& pattern = bench.tool.lblBar[0];
+    const LoadTool rig;
+    const screen::Label& pattern = rig.tool.lblBar[0];
     EXPECT_FALSE(pattern.Visible());
     EXPECT_EQ(pattern.Place(), (Geometry{315, 1725, 255, 405}));
     EXPECT_EQ(pattern.BackColor(), screen::color::kDesktop);
@@ -182,17 +182,17 @@ TEST(LoadToolLook, TheBarsAreMadeFromAHiddenPattern)
 
 TEST(LoadToolLook, ThereAreNoOtherBars)
 {
-    const LoadTool bench;
-    EXPECT_EQ(bench.tool.lblBar.Count(), 21);
-    EXPECT_EQ(errorOf([&] { static_cast<void>(bench.tool.lblBar[21]); }), 9);
-    EXPECT_EQ(errorOf([&] { static_cast<void>(bench.tool.lblBar[-1]); }), 9);
+    const LoadTool rig;
+    EXPECT_EQ(rig.tool.lblBar.Count(), 21);
+    EXPECT_EQ(errorOf([&] { static_cast<void>(rig.tool.lblBar[21]); }), 9);
+    EXPECT_EQ(errorOf([&] { static_cast<void>(rig.tool.lblBar[-1]); }), 9);
 }
 
 TEST(LoadToolLook, FixedTextsSayWhatTheyAreFor)
 {
-    const LoadTool bench;
+    const LoadTool rig;
     for (const CaptionCase& expected : kCaptions) {
-        const auto* widget = bench.tool.Find(expected.name);
+        const auto* widget = rig.tool.Find(expected.name);
         ASSERT_NE(widget, nullptr) << expected.name;
         std::string caption;
         for (const auto& [name, content] : widget->Properties()) {
@@ -205,25 +205,25 @@ TEST(LoadToolLook, FixedTextsSayWhatTheyAreFor)
 
 TEST(LoadToolLook, WhatIsEnteredLiesInTheSetupFrameAndTheButtonsOutsideIt)
 {
-    const LoadTool bench;
+    const LoadTool rig;
     for (const char* name : {"cmbUnit", "cmbParam", "chkShowPID", "txtMinSafe", "txtCapacity",
                              "lblMinSafeValue", "lblCapacity", "fraTimeFrame"})
-        EXPECT_TRUE(liesIn(bench.tool.fraSetup, name)) << name;
+        EXPECT_TRUE(liesIn(rig.tool.fraSetup, name)) << name;
     for (const char* name : {"optTimeEnd", "cmbYear", "cmbQTR", "optTimeSelect", "txtFrom",
                              "cmdFrom", "lblTo", "txtTo", "cmdTo", "lblTimeFrameHeading"})
-        EXPECT_TRUE(liesIn(bench.tool.fraTimeFrame, name)) << name;
+        EXPECT_TRUE(liesIn(rig.tool.fraTimeFrame, name)) << name;
     for (const char* name : {"cmdCalculate", "cmdSave", "chkPreview", "cmdClose"})
-        EXPECT_TRUE(liesIn(bench.tool, name)) << name;
+        EXPECT_TRUE(liesIn(rig.tool, name)) << name;
 }
 
 TEST(LoadToolLook, AYearCanBeTypedAndAQuarterCannot)
 {
-    LoadTool bench;
-    bench.tool.cmbYear.Type("1999");
-    EXPECT_EQ(bench.tool.cmbYear.Text(), "1999");
-    EXPECT_EQ(bench.tool.cmbYear.ListIndex(), -1);
-    bench.tool.cmbQTR.Type("Q9");
-    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q1");
+    LoadTool rig;
+    rig.tool.cmbYear.Type("1999");
+    EXPECT_EQ(rig.tool.cmbYear.Text(), "1999");
+    EXPECT_EQ(rig.tool.cmbYear.ListIndex(), -1);
+    rig.tool.cmbQTR.Type("Q9");
+    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q1");
 }
 
 } // namespace k7deval::test

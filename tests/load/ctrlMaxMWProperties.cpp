@@ -53,19 +53,19 @@ struct ToolModel {
 
 /// Some loads in every quarter of 2023 and the first of 2024, of all statuses, at a step through
 /// the year that meets every month.
-void addScatteredLoads(LoadBench& bench)
+void addScatteredLoads(LoadRig& rig)
 {
     const std::vector<std::optional<double>> values = {
         -3, 0, 4, 29, 30, 31, 59, 60, 61, 99, 100, 101, 130, std::nullopt, 45, 77.7};
     Date hour = makeDate(2023, 1, 1);
     for (int i = 0; i < 400; ++i) {
-        bench.load().set(hour, values[static_cast<std::size_t>(i) % values.size()], i % 3);
+        rig.load().set(hour, values[static_cast<std::size_t>(i) % values.size()], i % 3);
         hour = dateFromSeconds(wholeSeconds(hour) + 27 * 3600);
     }
 }
 
-struct CourseBench : LoadBench {
-    CourseBench() { addScatteredLoads(*this); }
+struct CourseRig : LoadRig {
+    CourseRig() { addScatteredLoads(*this); }
 
     void act(int kind, int number);
     void check() const;
@@ -86,7 +86,7 @@ private:
     void checkResults() const;
 };
 
-void CourseBench::enterText(screen::TextBox& box, const Entry& entry)
+void CourseRig::enterText(screen::TextBox& box, const Entry& entry)
 {
     const bool isReachable = box.isReachable();
     enter(box, entry.text);
@@ -94,7 +94,7 @@ void CourseBench::enterText(screen::TextBox& box, const Entry& entry)
         model.clear();
 }
 
-void CourseBench::setYear(const std::string& text, bool byCode)
+void CourseRig::setYear(const std::string& text, bool byCode)
 {
     const bool isOther = text != tool.cmbYear.Text();
     const bool isReachable = tool.cmbYear.isReachable();
@@ -106,21 +106,21 @@ void CourseBench::setYear(const std::string& text, bool byCode)
         model.markStale();
 }
 
-void CourseBench::pick(screen::ComboBox& list, int row)
+void CourseRig::pick(screen::ComboBox& list, int row)
 {
     list.Pick(row);
     if (&list == &tool.cmbUnit || &list == &tool.cmbParam)
         model.markStale();
 }
 
-void CourseBench::choose(screen::OptionButton& option)
+void CourseRig::choose(screen::OptionButton& option)
 {
     if (!option.isSelected())
         model.markStale();
     option.Press();
 }
 
-void CourseBench::openCalendar(screen::Button& button, int day)
+void CourseRig::openCalendar(screen::Button& button, int day)
 {
     services.dateAnswer = makeDate(2023, 6, day, day % 24);
     if (button.isReachable())
@@ -129,7 +129,7 @@ void CourseBench::openCalendar(screen::Button& button, int day)
 }
 
 /// What stands in the left half of the tool.
-void CourseBench::changeSetup(int kind, int number)
+void CourseRig::changeSetup(int kind, int number)
 {
     switch (kind) {
     case 0:
@@ -153,7 +153,7 @@ void CourseBench::changeSetup(int kind, int number)
     }
 }
 
-void CourseBench::act(int kind, int number)
+void CourseRig::act(int kind, int number)
 {
     switch (kind) {
     case 9:
@@ -180,7 +180,7 @@ void CourseBench::act(int kind, int number)
 }
 
 /// The hours of all that was read, counted apart from the tool.
-LoadModel CourseBench::hoursRead(const LoadModel& empty) const
+LoadModel CourseRig::hoursRead(const LoadModel& empty) const
 {
     LoadModel counted = empty;
     for (const ReadRequest& read : site->reads) {
@@ -197,7 +197,7 @@ LoadModel CourseBench::hoursRead(const LoadModel& empty) const
     return counted;
 }
 
-void CourseBench::pressCalculate()
+void CourseRig::pressCalculate()
 {
     site->reads.clear();
     calculate();
@@ -216,7 +216,7 @@ void CourseBench::pressCalculate()
     RC_ASSERT(results().HighThreshold == range.high);
 }
 
-void CourseBench::checkResults() const
+void CourseRig::checkResults() const
 {
     const LoadEvaluation& evaluation = results();
     RC_ASSERT(countsOf(evaluation) == expected.counts);
@@ -227,7 +227,7 @@ void CourseBench::checkResults() const
     RC_ASSERT(evaluation.Bins[0] == 0);
 }
 
-void CourseBench::check() const
+void CourseRig::check() const
 {
     RC_ASSERT(tool.NeedsEvaluation() == model.needsEvaluation);
     RC_ASSERT(isCleared(tool) == model.isCleared);
@@ -252,10 +252,10 @@ RC_GTEST_PROP(LoadToolProperties, ResultsAreThoseOfTheHoursReadAndStaleWhenTheyS
 {
     const auto actions = *rc::gen::container<std::vector<std::pair<int, int>>>(
         rc::gen::pair(rc::gen::inRange(0, 16), rc::gen::inRange(0, 400)));
-    CourseBench bench;
+    CourseRig rig;
     for (const auto& [kind, number] : actions) {
-        bench.act(kind, number);
-        bench.check();
+        rig.act(kind, number);
+        rig.check();
     }
 }
 

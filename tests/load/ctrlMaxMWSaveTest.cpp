@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "support/PdfText.h"
 #include "support/TemporaryFolder.h"
 
@@ -28,20 +28,20 @@ screen::MsgBoxRequest failureBox(const std::string& failure)
 }
 
 /// The load tool after a calculation, with the preview on, and a folder to save in.
-struct SaveBench : LoadBench {
-    SaveBench()
+struct SaveRig : LoadRig {
+    SaveRig()
     {
         services.saveAnswer = screen::SaveAnswer{path, 1};
         tool.chkPreview.Press();
         hours({10, 50, 90}).calculate();
         services.boxes.clear();
     }
-    SaveBench& save()
+    SaveRig& save()
     {
         tool.cmdSave.Press();
         return *this;
     }
-    SaveBench& existing(const std::vector<MsgBoxAnswer>& answers)
+    SaveRig& existing(const std::vector<MsgBoxAnswer>& answers)
     {
         writeFile(path, "old");
         services.answers = answers;
@@ -57,180 +57,180 @@ struct SaveBench : LoadBench {
 
 TEST(LoadSave, AsksForAPdfFile)
 {
-    SaveBench bench;
-    bench.save();
-    EXPECT_EQ(bench.services.filters, Lines{"PDF File (*.pdf)|*.pdf"});
-    EXPECT_EQ(bench.services.extensions, Lines{".pdf"});
+    SaveRig rig;
+    rig.save();
+    EXPECT_EQ(rig.services.filters, Lines{"PDF File (*.pdf)|*.pdf"});
+    EXPECT_EQ(rig.services.extensions, Lines{".pdf"});
 }
 
 TEST(LoadSave, WritesTheReportAndOpensIt)
 {
-    SaveBench bench;
-    bench.save();
-    EXPECT_TRUE(bench.hasReport());
-    EXPECT_EQ(bench.folder.names(), Lines{"Load.pdf"});
-    EXPECT_EQ(bench.services.opened, Lines{bench.path});
-    EXPECT_EQ(bench.services.boxes, Boxes());
+    SaveRig rig;
+    rig.save();
+    EXPECT_TRUE(rig.hasReport());
+    EXPECT_EQ(rig.folder.names(), Lines{"Load.pdf"});
+    EXPECT_EQ(rig.services.opened, Lines{rig.path});
+    EXPECT_EQ(rig.services.boxes, Boxes());
 }
 
 TEST(LoadSave, OpensNothingWithoutThePreview)
 {
-    SaveBench bench;
-    bench.tool.chkPreview.Press();
-    bench.save();
-    EXPECT_TRUE(bench.hasReport());
-    EXPECT_EQ(bench.services.opened, Lines());
+    SaveRig rig;
+    rig.tool.chkPreview.Press();
+    rig.save();
+    EXPECT_TRUE(rig.hasReport());
+    EXPECT_EQ(rig.services.opened, Lines());
 }
 
 TEST(LoadSave, LeavesTheScreenAsItIs)
 {
-    SaveBench bench;
-    bench.save();
-    EXPECT_EQ(bench.changesBy([&] { bench.existing({MsgBoxAnswer::Yes}).save(); }), Lines());
-    EXPECT_FALSE(bench.tool.NeedsEvaluation());
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    SaveRig rig;
+    rig.save();
+    EXPECT_EQ(rig.changesBy([&] { rig.existing({MsgBoxAnswer::Yes}).save(); }), Lines());
+    EXPECT_FALSE(rig.tool.NeedsEvaluation());
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadSave, CannotBePressedBeforeACalculation)
 {
-    LoadBench bench;
-    bench.tool.cmdSave.Press();
-    EXPECT_TRUE(bench.services.filters.empty());
+    LoadRig rig;
+    rig.tool.cmdSave.Press();
+    EXPECT_TRUE(rig.services.filters.empty());
 }
 
 TEST(LoadSave, CancellingTheDialogEndsTheClickInSilence)
 {
-    SaveBench bench;
-    bench.services.saveAnswer.reset();
-    bench.site->calls.clear();
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
-    EXPECT_EQ(bench.site->calls, Lines());
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    SaveRig rig;
+    rig.services.saveAnswer.reset();
+    rig.site->calls.clear();
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
+    EXPECT_EQ(rig.site->calls, Lines());
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadSave, AFailingDialogWritesAndOpensNothing)
 {
-    SaveBench bench;
-    bench.services.saveError = Error(440, "no dialog");
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    rig.services.saveError = Error(440, "no dialog");
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(LoadSave, AFailingDialogForgetsTheFileOfTheLastSave)
 {
-    SaveBench bench;
-    bench.save();
-    bench.services.opened.clear();
-    bench.services.saveError = Error(440, "no dialog");
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_TRUE(bench.hasReport());
+    SaveRig rig;
+    rig.save();
+    rig.services.opened.clear();
+    rig.services.saveError = Error(440, "no dialog");
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_TRUE(rig.hasReport());
 }
 
 TEST(LoadSave, AskedWhetherToDeleteNoLeavesTheFileAsItWas)
 {
     for (const MsgBoxAnswer answer : {MsgBoxAnswer::No, MsgBoxAnswer::OK}) {
-        SaveBench bench;
-        bench.existing({answer}).save();
-        EXPECT_EQ(bench.services.boxes, Boxes{kDeleteQuestion});
-        EXPECT_EQ(contentOf(bench.path), "old");
-        EXPECT_EQ(bench.services.opened, Lines());
-        EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+        SaveRig rig;
+        rig.existing({answer}).save();
+        EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
+        EXPECT_EQ(contentOf(rig.path), "old");
+        EXPECT_EQ(rig.services.opened, Lines());
+        EXPECT_TRUE(rig.tool.cmdSave.Enabled());
     }
 }
 
 TEST(LoadSave, AskedWhetherToDeleteYesReplacesTheFile)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(bench.services.boxes, Boxes{kDeleteQuestion});
-    EXPECT_TRUE(bench.hasReport());
-    EXPECT_EQ(bench.services.opened, Lines{bench.path});
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes}).save();
+    EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
+    EXPECT_TRUE(rig.hasReport());
+    EXPECT_EQ(rig.services.opened, Lines{rig.path});
 }
 
 TEST(LoadSave, AWriteProtectedFileStaysAndABoxSaysWhy)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes});
-    std::filesystem::permissions(bench.path, std::filesystem::perms::owner_read);
-    bench.save();
-    EXPECT_EQ(contentOf(bench.path), "old");
-    EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("70:Permission denied")}));
-    EXPECT_EQ(bench.services.opened, Lines());
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes});
+    std::filesystem::permissions(rig.path, std::filesystem::perms::owner_read);
+    rig.save();
+    EXPECT_EQ(contentOf(rig.path), "old");
+    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("70:Permission denied")}));
+    EXPECT_EQ(rig.services.opened, Lines());
 }
 
 TEST(LoadSave, AReportThatFailsBehindADeletionShowsTheBoxAndNoPreview)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes});
-    failAt(*bench.site, "DIServer.LookupService");
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("440:the line is down")}));
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes});
+    failAt(*rig.site, "DIServer.LookupService");
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("440:the line is down")}));
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(LoadSave, AReportThatFailsWithoutADeletionGoesOnToThePreview)
 {
-    SaveBench bench;
-    failAt(*bench.site, "DIServer.LookupService");
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines{bench.path});
+    SaveRig rig;
+    failAt(*rig.site, "DIServer.LookupService");
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines{rig.path});
 }
 
 TEST(LoadSave, AFolderThatIsNotThereGoesOnToThePreview)
 {
-    SaveBench bench;
-    bench.services.saveAnswer->path = bench.folder.file("nowhere/Load.pdf");
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines{bench.services.saveAnswer->path});
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    rig.services.saveAnswer->path = rig.folder.file("nowhere/Load.pdf");
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines{rig.services.saveAnswer->path});
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(LoadSave, AFailingViewerIsSilentWithoutADeletion)
 {
-    SaveBench bench;
-    bench.services.openError = Error(errors::kFileNotFound);
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_TRUE(bench.hasReport());
+    SaveRig rig;
+    rig.services.openError = Error(errors::kFileNotFound);
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_TRUE(rig.hasReport());
 }
 
 TEST(LoadSave, AFailingViewerBehindADeletionShowsTheBox)
 {
-    SaveBench bench;
-    bench.services.openError = Error(errors::kFileNotFound);
-    bench.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("53:File not found")}));
-    EXPECT_TRUE(bench.hasReport());
+    SaveRig rig;
+    rig.services.openError = Error(errors::kFileNotFound);
+    rig.existing({MsgBoxAnswer::Yes}).save();
+    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("53:File not found")}));
+    EXPECT_TRUE(rig.hasReport());
 }
 
 TEST(LoadSave, AFailureNeverTouchesThePointerOrTheResults)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes});
-    failAt(*bench.site, "DIServer.LookupService");
-    bench.save();
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
-    EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 GT1 Load");
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes});
+    failAt(*rig.site, "DIServer.LookupService");
+    rig.save();
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
+    EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 GT1 Load");
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadSave, FromAClearedScreenWritesTheHoursOfTheLastEvaluation)
 {
-    SaveBench bench;
-    enter(bench.tool.txtCapacity, "200");
-    ASSERT_TRUE(isCleared(bench.tool));
-    bench.save();
-    const std::string text = testing::pdfPlainText(bench.path);
+    SaveRig rig;
+    enter(rig.tool.txtCapacity, "200");
+    ASSERT_TRUE(isCleared(rig.tool));
+    rig.save();
+    const std::string text = testing::pdfPlainText(rig.path);
     EXPECT_NE(text.find("0 hour(s) under minimum"), std::string::npos) << text;
     EXPECT_NE(text.find("0 hour(s) over maximum"), std::string::npos) << text;
     EXPECT_NE(text.find("1 Hours"), std::string::npos) << text;
@@ -240,10 +240,10 @@ TEST(LoadSave, FromAClearedScreenWritesTheHoursOfTheLastEvaluation)
 
 TEST(LoadSave, AfterTheDataWasTakenAwayCannotBePressed)
 {
-    SaveBench bench;
-    bench.tool.SetDIServer(nullptr);
-    bench.save();
-    EXPECT_TRUE(bench.services.filters.empty());
+    SaveRig rig;
+    rig.tool.SetDIServer(nullptr);
+    rig.save();
+    EXPECT_TRUE(rig.services.filters.empty());
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -24,36 +24,36 @@ std::shared_ptr<SiteData> siteOfUnits(const Lines& names)
 
 TEST(LoadData, ListsTheUnitsInTheirOrderAndPicksTheFirst)
 {
-    LoadBench bench(siteOfUnits({"GT9", "Boiler 2", "GT1"}));
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT9", "Boiler 2", "GT1"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ItemDataList(),
+    LoadRig rig(siteOfUnits({"GT9", "Boiler 2", "GT1"}));
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT9", "Boiler 2", "GT1"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(),
               (std::vector<std::int32_t>{100'100'000, 200'100'000, 300'100'000}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(bench.tool.cmbUnit.Text(), "GT9");
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT9");
 }
 
 TEST(LoadData, PickingTheFirstUnitListsItsParametersAndItsCapacity)
 {
-    const LoadBench bench;
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"GT1 Load"});
-    EXPECT_EQ(bench.tool.cmbParam.ItemDataList(), std::vector<std::int32_t>{kGT1Load});
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "GT1 Load");
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "100");
+    const LoadRig rig;
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT1 Load"});
+    EXPECT_EQ(rig.tool.cmbParam.ItemDataList(), std::vector<std::int32_t>{kGT1Load});
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "GT1 Load");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "100");
 }
 
 TEST(LoadData, IsKept)
 {
-    LoadTool bench;
+    LoadTool rig;
     const auto server = serve(siteOfLoads());
-    bench.tool.SetDIServer(server);
-    EXPECT_EQ(bench.tool.DIServer(), server);
+    rig.tool.SetDIServer(server);
+    EXPECT_EQ(rig.tool.DIServer(), server);
 }
 
 TEST(LoadData, UnitsAreReadBeforeTheParametersOfTheFirstAndThoseBeforeItsConstants)
 {
-    const LoadBench bench;
+    const LoadRig rig;
     Lines asked;
-    for (const std::string& call : bench.site->calls) {
+    for (const std::string& call : rig.site->calls) {
         if (call.starts_with("DIServer."))
             asked.push_back(call);
     }
@@ -63,117 +63,117 @@ TEST(LoadData, UnitsAreReadBeforeTheParametersOfTheFirstAndThoseBeforeItsConstan
 
 TEST(LoadData, NothingEmptiesTheListsOfAToolThatHadNone)
 {
-    LoadTool bench;
-    bench.tool.SetDIServer(nullptr);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    LoadTool rig;
+    rig.tool.SetDIServer(nullptr);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 TEST(LoadData, TakenAwayLeavesNoUnitNoParameterNoResultsAndNothingToSave)
 {
-    LoadBench bench;
-    bench.hours({10, 50, 90}).calculate();
-    bench.tool.SetDIServer(nullptr);
-    EXPECT_EQ(bench.tool.DIServer(), nullptr);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbUnit.Text(), "");
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "");
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.hours({10, 50, 90}).calculate();
+    rig.tool.SetDIServer(nullptr);
+    EXPECT_EQ(rig.tool.DIServer(), nullptr);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.Text(), "");
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "");
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadData, TakenAwayLeavesTheNumbersAndTheEvaluationAsTheyAre)
 {
-    LoadBench bench;
-    bench.range("12.5", "80").hours({10, 50, 90}).calculate();
-    bench.tool.SetDIServer(nullptr);
-    EXPECT_EQ(bench.tool.txtMinSafe.Text(), "12.5");
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "80");
-    EXPECT_EQ(countsOf(bench.results()), (HourCounts{.mid = 1, .over = 1, .under = 1}));
-    EXPECT_FALSE(bench.tool.NeedsEvaluation()) << "only a unit's pick sets it";
+    LoadRig rig;
+    rig.range("12.5", "80").hours({10, 50, 90}).calculate();
+    rig.tool.SetDIServer(nullptr);
+    EXPECT_EQ(rig.tool.txtMinSafe.Text(), "12.5");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "80");
+    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 1, .over = 1, .under = 1}));
+    EXPECT_FALSE(rig.tool.NeedsEvaluation()) << "only a unit's pick sets it";
 }
 
 TEST(LoadData, WithoutUnitsCannotBePickedFrom)
 {
-    LoadTool bench;
-    EXPECT_EQ(errorOf([&] { bench.tool.SetDIServer(serve(siteOfUnits({}))); }), 381);
-    EXPECT_NE(bench.tool.DIServer(), nullptr);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
+    LoadTool rig;
+    EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(siteOfUnits({}))); }), 381);
+    EXPECT_NE(rig.tool.DIServer(), nullptr);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
 }
 
 TEST(LoadData, WithoutUnitsLeavesWhatComesAfterThePickAsItWas)
 {
-    LoadBench bench;
-    bench.hours({50}).calculate();
-    EXPECT_EQ(errorOf([&] { bench.tool.SetDIServer(serve(siteOfUnits({}))); }), 381);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"GT1 Load"});
-    EXPECT_FALSE(isCleared(bench.tool));
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.hours({50}).calculate();
+    EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(siteOfUnits({}))); }), 381);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT1 Load"});
+    EXPECT_FALSE(isCleared(rig.tool));
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadData, SetASecondTimeReplacesTheUnits)
 {
-    LoadBench bench;
-    bench.hours({50}).calculate();
-    bench.tool.SetDIServer(serve(siteOfUnits({"Boiler"})));
-    EXPECT_EQ(bench.tool.cmbUnit.List(), Lines{"Boiler"});
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines());
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "100") << "the new unit has none of its own";
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.hours({50}).calculate();
+    rig.tool.SetDIServer(serve(siteOfUnits({"Boiler"})));
+    EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{"Boiler"});
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines());
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "100") << "the new unit has none of its own";
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadData, TheSameDataAgainPicksTheFirstUnitAgain)
 {
-    LoadBench bench;
-    bench.tool.cmbUnit.Pick(1);
-    bench.hours({50}).calculate();
-    bench.tool.SetDIServer(bench.tool.DIServer());
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "GT1 Load");
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.tool.cmbUnit.Pick(1);
+    rig.hours({50}).calculate();
+    rig.tool.SetDIServer(rig.tool.DIServer());
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "GT1 Load");
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadData, AFailureOfTheUnitsReachesTheHost)
 {
-    LoadTool bench;
+    LoadTool rig;
     const auto site = siteOfLoads();
     failAt(*site, "DIServer.Units");
-    EXPECT_EQ(errorOf([&] { bench.tool.SetDIServer(serve(site)); }), 440);
-    EXPECT_NE(bench.tool.DIServer(), nullptr);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(site)); }), 440);
+    EXPECT_NE(rig.tool.DIServer(), nullptr);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 TEST(LoadData, AFailureOfTheFirstUnitsParametersReachesTheHostUnderTheHourglass)
 {
-    LoadTool bench;
+    LoadTool rig;
     const auto site = siteOfLoads();
     failAt(*site, "DIServer.ParametersOfUnitTypes");
-    EXPECT_EQ(errorOf([&] { bench.tool.SetDIServer(serve(site)); }), 440);
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(site)); }), 440);
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
 }
 
 TEST(LoadData, IsReleasedWhenTheToolEnds)
 {
-    LoadTool bench;
+    LoadTool rig;
     std::weak_ptr<DIServer> server;
     {
         const auto held = serve(siteOfLoads());
         server = held;
-        bench.tool.SetDIServer(held);
+        rig.tool.SetDIServer(held);
     }
     EXPECT_FALSE(server.expired());
-    bench.tool.Terminate();
+    rig.tool.Terminate();
     EXPECT_TRUE(server.expired());
-    EXPECT_EQ(bench.tool.DIServer(), nullptr);
+    EXPECT_EQ(rig.tool.DIServer(), nullptr);
 }
 
 TEST(LoadData, IsReleasedWhenTheToolIsDestroyed)

@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -57,51 +57,51 @@ TEST(LoadToolStart, PreselectsTheNewestFinishedQuarterOfAnyMonth)
 {
     for (const QuarterCase& expected : kQuarters) {
         for (const Date now : {makeDate(2024, expected.month, 1), endOf(expected.month)}) {
-            const LoadTool bench(now);
-            expectPreselected(bench.tool, expected, "month " + std::to_string(expected.month));
+            const LoadTool rig(now);
+            expectPreselected(rig.tool, expected, "month " + std::to_string(expected.month));
         }
     }
 }
 
 TEST(LoadToolStart, InJanuaryTheYearIsTheLastOneButTheListBeginsWithThePresentOne)
 {
-    const LoadTool bench(makeDate(2025, 1, 15, 9));
-    EXPECT_EQ(bench.tool.cmbYear.List(), (Lines{"2025", "2024", "2023"}));
-    EXPECT_EQ(bench.tool.cmbYear.Text(), "2024");
-    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q4");
-    EXPECT_EQ(bench.tool.txtFrom.Text(), "10/1/2024");
-    EXPECT_EQ(bench.tool.txtTo.Text(), "12/31/2024");
+    const LoadTool rig(makeDate(2025, 1, 15, 9));
+    EXPECT_EQ(rig.tool.cmbYear.List(), (Lines{"2025", "2024", "2023"}));
+    EXPECT_EQ(rig.tool.cmbYear.Text(), "2024");
+    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q4");
+    EXPECT_EQ(rig.tool.txtFrom.Text(), "10/1/2024");
+    EXPECT_EQ(rig.tool.txtTo.Text(), "12/31/2024");
 }
 
 TEST(LoadToolStart, OffersFourQuartersAndThreeYears)
 {
-    const LoadTool bench;
-    EXPECT_EQ(bench.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
-    EXPECT_EQ(bench.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
+    const LoadTool rig;
+    EXPECT_EQ(rig.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
+    EXPECT_EQ(rig.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
 }
 
 TEST(LoadToolStart, WritesTheDatesAsTheRegionDoes)
 {
-    const LoadTool bench(makeDate(2024, 8, 3), "de-DE");
-    EXPECT_EQ(bench.tool.txtFrom.Text(), "01.04.2024");
-    EXPECT_EQ(bench.tool.txtTo.Text(), "30.06.2024");
-    EXPECT_EQ(bench.tool.cmbYear.Text(), "2024");
+    const LoadTool rig(makeDate(2024, 8, 3), "de-DE");
+    EXPECT_EQ(rig.tool.txtFrom.Text(), "01.04.2024");
+    EXPECT_EQ(rig.tool.txtTo.Text(), "30.06.2024");
+    EXPECT_EQ(rig.tool.cmbYear.Text(), "2024");
 }
 
 TEST(LoadToolStart, TakesTheSpecifiedDatesFromTheirBoxes)
 {
     for (const char* region : {"en-US", "en-GB", "de-DE", "fr-FR"}) {
-        const LoadTool bench(makeDate(2024, 8, 3, 17, 5), region);
-        EXPECT_EQ(bench.tool.StartDate(), makeDate(2024, 4, 1)) << region;
-        EXPECT_EQ(bench.tool.EndDate(), makeDate(2024, 6, 30)) << region;
+        const LoadTool rig(makeDate(2024, 8, 3, 17, 5), region);
+        EXPECT_EQ(rig.tool.StartDate(), makeDate(2024, 4, 1)) << region;
+        EXPECT_EQ(rig.tool.EndDate(), makeDate(2024, 6, 30)) << region;
     }
 }
 
 TEST(LoadToolStart, HasNoUnitAndNoParameter)
 {
-    const LoadTool bench;
-    EXPECT_EQ(bench.tool.DIServer(), nullptr);
-    for (const auto* list : {&bench.tool.cmbUnit, &bench.tool.cmbParam}) {
+    const LoadTool rig;
+    EXPECT_EQ(rig.tool.DIServer(), nullptr);
+    for (const auto* list : {&rig.tool.cmbUnit, &rig.tool.cmbParam}) {
         EXPECT_EQ(list->ListCount(), 0);
         EXPECT_EQ(list->ListIndex(), -1);
         EXPECT_EQ(list->Text(), "");
@@ -111,66 +111,66 @@ TEST(LoadToolStart, HasNoUnitAndNoParameter)
 
 TEST(LoadToolStart, MinimumAndCapacityAreZero)
 {
-    const LoadTool bench;
-    EXPECT_EQ(bench.tool.txtMinSafe.Text(), "0");
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "0");
-    EXPECT_EQ(bench.tool.Evaluation().MinSafeValue, 0);
-    EXPECT_EQ(bench.tool.Evaluation().CapacityValue, 0);
-    EXPECT_TRUE(bench.tool.txtMinSafe.Enabled());
-    EXPECT_TRUE(bench.tool.txtCapacity.Enabled());
-    EXPECT_TRUE(bench.tool.lblCapacity.Enabled());
+    const LoadTool rig;
+    EXPECT_EQ(rig.tool.txtMinSafe.Text(), "0");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "0");
+    EXPECT_EQ(rig.tool.Evaluation().MinSafeValue, 0);
+    EXPECT_EQ(rig.tool.Evaluation().CapacityValue, 0);
+    EXPECT_TRUE(rig.tool.txtMinSafe.Enabled());
+    EXPECT_TRUE(rig.tool.txtCapacity.Enabled());
+    EXPECT_TRUE(rig.tool.lblCapacity.Enabled());
 }
 
 TEST(LoadToolStart, LooksForFourQuartersAndNotForDates)
 {
-    const LoadTool bench;
-    EXPECT_TRUE(bench.tool.optTimeEnd.isSelected());
-    EXPECT_FALSE(bench.tool.optTimeSelect.isSelected());
-    EXPECT_TRUE(bench.tool.cmbYear.Enabled());
-    EXPECT_TRUE(bench.tool.cmbQTR.Enabled());
-    EXPECT_FALSE(bench.tool.txtFrom.Enabled());
-    EXPECT_FALSE(bench.tool.cmdFrom.Enabled());
-    EXPECT_FALSE(bench.tool.txtTo.Enabled());
-    EXPECT_FALSE(bench.tool.cmdTo.Enabled());
+    const LoadTool rig;
+    EXPECT_TRUE(rig.tool.optTimeEnd.isSelected());
+    EXPECT_FALSE(rig.tool.optTimeSelect.isSelected());
+    EXPECT_TRUE(rig.tool.cmbYear.Enabled());
+    EXPECT_TRUE(rig.tool.cmbQTR.Enabled());
+    EXPECT_FALSE(rig.tool.txtFrom.Enabled());
+    EXPECT_FALSE(rig.tool.cmdFrom.Enabled());
+    EXPECT_FALSE(rig.tool.txtTo.Enabled());
+    EXPECT_FALSE(rig.tool.cmdTo.Enabled());
 }
 
 TEST(LoadToolStart, HasNothingToSaveAndEverythingToEvaluate)
 {
-    const LoadTool bench;
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(bench.tool.chkShowPID.isChecked());
-    EXPECT_FALSE(bench.tool.chkPreview.isChecked());
-    EXPECT_TRUE(bench.tool.cmdCalculate.Enabled());
-    EXPECT_TRUE(bench.tool.cmdClose.Enabled());
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    const LoadTool rig;
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(rig.tool.chkShowPID.isChecked());
+    EXPECT_FALSE(rig.tool.chkPreview.isChecked());
+    EXPECT_TRUE(rig.tool.cmdCalculate.Enabled());
+    EXPECT_TRUE(rig.tool.cmdClose.Enabled());
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 TEST(LoadToolStart, ShowsNoResults)
 {
-    const LoadTool bench;
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_EQ(countsOf(bench.tool.Evaluation()), HourCounts());
-    EXPECT_EQ(bench.tool.Evaluation().Bins, histogram::HourBins());
-    EXPECT_EQ(bench.tool.Evaluation().MaxObserved, 0);
+    const LoadTool rig;
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_EQ(countsOf(rig.tool.Evaluation()), HourCounts());
+    EXPECT_EQ(rig.tool.Evaluation().Bins, histogram::HourBins());
+    EXPECT_EQ(rig.tool.Evaluation().MaxObserved, 0);
 }
 
 TEST(LoadToolStart, AsksForNothing)
 {
-    const LoadTool bench;
-    EXPECT_TRUE(bench.services.boxes.empty());
-    EXPECT_TRUE(bench.services.filters.empty());
-    EXPECT_TRUE(bench.services.dateRequests.empty());
+    const LoadTool rig;
+    EXPECT_TRUE(rig.services.boxes.empty());
+    EXPECT_TRUE(rig.services.filters.empty());
+    EXPECT_TRUE(rig.services.dateRequests.empty());
 }
 
 TEST(LoadToolStart, ClosingIsLeftToTheHost)
 {
-    LoadBench bench;
+    LoadRig rig;
     int closed = 0;
-    bench.tool.CloseClicked.Connect([&] { ++closed; });
-    EXPECT_EQ(bench.changesBy([&] { bench.tool.cmdClose.Press(); }), Lines());
+    rig.tool.CloseClicked.Connect([&] { ++closed; });
+    EXPECT_EQ(rig.changesBy([&] { rig.tool.cmdClose.Press(); }), Lines());
     EXPECT_EQ(closed, 1);
-    EXPECT_NE(bench.tool.DIServer(), nullptr);
+    EXPECT_NE(rig.tool.DIServer(), nullptr);
 }
 
 } // namespace k7deval::test

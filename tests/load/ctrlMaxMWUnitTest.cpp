@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
@@ -69,10 +69,10 @@ std::shared_ptr<SiteData> siteOfRows(const std::vector<Row>& rows)
 
 /// What the pointer was at each call of the data interface.
 struct PointerWatch {
-    explicit PointerWatch(LoadBench& bench)
+    explicit PointerWatch(LoadRig& rig)
     {
-        bench.site->failure = [&](const std::string&, std::size_t) {
-            seen.push_back(bench.tool.MousePointer());
+        rig.site->failure = [&](const std::string&, std::size_t) {
+            seen.push_back(rig.tool.MousePointer());
             return std::optional<Error>();
         };
     }
@@ -90,42 +90,42 @@ struct PointerWatch {
 TEST(LoadUnit, ProposesTheLoadUnderPart75AboveAll)
 {
     for (const ProposalCase& proposal : kProposals) {
-        const LoadBench bench(siteOfRows(proposal.rows));
-        EXPECT_EQ(bench.tool.cmbParam.ListIndex(), proposal.proposed) << proposal.what;
+        const LoadRig rig(siteOfRows(proposal.rows));
+        EXPECT_EQ(rig.tool.cmbParam.ListIndex(), proposal.proposed) << proposal.what;
     }
 }
 
 TEST(LoadUnit, ProposesTheSameWhenPIDsAreShown)
 {
     for (const ProposalCase& proposal : kProposals) {
-        LoadBench bench(siteOfRows(proposal.rows));
-        bench.tool.chkShowPID.Press();
-        bench.tool.cmbUnit.Pick(0);
-        EXPECT_EQ(bench.tool.cmbParam.ListIndex(), proposal.proposed) << proposal.what;
+        LoadRig rig(siteOfRows(proposal.rows));
+        rig.tool.chkShowPID.Press();
+        rig.tool.cmbUnit.Pick(0);
+        EXPECT_EQ(rig.tool.cmbParam.ListIndex(), proposal.proposed) << proposal.what;
     }
 }
 
 TEST(LoadUnit, VariantDigitAndSuffixDoNotMatter)
 {
-    const LoadBench bench(siteOfParameters({hourlyNamed(MakePID(1, 310, 0, 75, 1), "Steam"),
-                                            hourlyNamed(MakePID(1, 602, 5, 75, 99), "Load")}));
-    EXPECT_EQ(bench.tool.cmbParam.ListIndex(), 1);
+    const LoadRig rig(siteOfParameters({hourlyNamed(MakePID(1, 310, 0, 75, 1), "Steam"),
+                                        hourlyNamed(MakePID(1, 602, 5, 75, 99), "Load")}));
+    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 1);
 }
 
 TEST(LoadUnit, AsksForTheHourlyParametersOfTheTypesThatHoldLoads)
 {
-    LoadBench bench;
-    bench.tool.cmbUnit.Pick(1);
+    LoadRig rig;
+    rig.tool.cmbUnit.Pick(1);
     const ParamTypes types{8, 11, 28, 35, 38, 39, 40, 41, 49, 52};
-    EXPECT_EQ(bench.site->parameterQueries,
+    EXPECT_EQ(rig.site->parameterQueries,
               (std::vector<UnitQuery>{{types, 1, "h", {}}, {types, 2, "h", {}}}));
 }
 
 TEST(LoadUnit, AsksForTheConstantsOfTheTypesThatHoldCapacities)
 {
-    LoadBench bench;
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.site->constantQueries,
+    LoadRig rig;
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.site->constantQueries,
               (std::vector<UnitQuery>{{{4, 34}, 1, "", {0, 3}}, {{4, 34}, 2, "", {0, 3}}}));
 }
 
@@ -133,118 +133,118 @@ TEST(LoadUnit, TheUnitsNumberIsThatOfItsPID)
 {
     auto site = siteOfParameters({});
     site->parameters.push_back(unitNamed(1'900'100'000, "GT19"));
-    LoadBench bench(site);
-    bench.tool.cmbUnit.Pick(1);
+    LoadRig rig(site);
+    rig.tool.cmbUnit.Pick(1);
     EXPECT_EQ(site->parameterQueries.back().unit, 19);
     EXPECT_EQ(site->constantQueries.back().unit, 19);
 }
 
 TEST(LoadUnit, ReplacesTheParametersOfTheOneBefore)
 {
-    LoadBench bench;
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"GT2 Load"});
-    EXPECT_EQ(bench.tool.cmbParam.ItemData(), kGT2Load);
+    LoadRig rig;
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT2 Load"});
+    EXPECT_EQ(rig.tool.cmbParam.ItemData(), kGT2Load);
 }
 
 TEST(LoadUnit, WithoutParametersSelectsNone)
 {
     auto site = siteOfLoads();
     site->parameters.push_back(unitNamed(300'100'000, "GT3"));
-    LoadBench bench(site);
-    bench.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.ListIndex(), -1);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    LoadRig rig(site);
+    rig.tool.cmbUnit.Pick(2);
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), -1);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 TEST(LoadUnit, ListsPIDsAheadOfTheNamesWhenTheyAreShown)
 {
-    LoadBench bench;
-    bench.tool.chkShowPID.Press();
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"[2-602-0-75-01] GT2 Load"});
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
-    EXPECT_EQ(bench.tool.cmbParam.ItemData(), kGT2Load);
-    EXPECT_EQ(bench.tool.cmbUnit.Text(), "GT2") << "units show no PID";
+    LoadRig rig;
+    rig.tool.chkShowPID.Press();
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"[2-602-0-75-01] GT2 Load"});
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
+    EXPECT_EQ(rig.tool.cmbParam.ItemData(), kGT2Load);
+    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT2") << "units show no PID";
 }
 
 TEST(LoadUnit, LeavesTheMinimumToTheUser)
 {
-    LoadBench bench;
-    enter(bench.tool.txtMinSafe, "20");
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.txtMinSafe.Text(), "20");
-    EXPECT_EQ(bench.results().MinSafeValue, 20);
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.tool.txtMinSafe.Text(), "20");
+    LoadRig rig;
+    enter(rig.tool.txtMinSafe, "20");
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.txtMinSafe.Text(), "20");
+    EXPECT_EQ(rig.results().MinSafeValue, 20);
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.tool.txtMinSafe.Text(), "20");
 }
 
 TEST(LoadUnit, MakesTheResultsStale)
 {
-    LoadBench bench;
-    bench.hours({50}).calculate();
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.hours({50}).calculate();
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadUnit, WithoutParametersMakesTheResultsStaleToo)
 {
     auto site = siteOfLoads();
     site->parameters.push_back(unitNamed(300'100'000, "GT3"));
-    LoadBench bench(site);
-    bench.hours({50}).calculate();
-    bench.tool.cmbUnit.Pick(2);
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig(site);
+    rig.hours({50}).calculate();
+    rig.tool.cmbUnit.Pick(2);
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadUnit, ReadsUnderTheHourglass)
 {
-    LoadBench bench;
-    const PointerWatch watch(bench);
-    bench.tool.cmbUnit.Pick(0);
+    LoadRig rig;
+    const PointerWatch watch(rig);
+    rig.tool.cmbUnit.Pick(0);
     EXPECT_TRUE(watch.sawOnlyTheHourglass());
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 TEST(LoadUnit, AFailureOfItsParametersLeavesTheListAndTheHourglass)
 {
-    LoadBench bench;
-    bench.hours({50}).calculate();
-    failAt(*bench.site, "DIServer.ParametersOfUnitTypes");
-    EXPECT_EQ(errorOf([&] { bench.tool.cmbUnit.Pick(1); }), 440);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
-    EXPECT_EQ(bench.tool.cmbUnit.Text(), "GT2");
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"GT1 Load"});
-    EXPECT_FALSE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(isCleared(bench.tool));
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.hours({50}).calculate();
+    failAt(*rig.site, "DIServer.ParametersOfUnitTypes");
+    EXPECT_EQ(errorOf([&] { rig.tool.cmbUnit.Pick(1); }), 440);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT2");
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT1 Load"});
+    EXPECT_FALSE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(isCleared(rig.tool));
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadUnit, AFailureOfItsConstantsComesAfterItsParametersWereListed)
 {
-    LoadBench bench;
-    bench.hours({50}).calculate();
-    failAt(*bench.site, "DIServer.ConstantsOfUnitTypes");
-    EXPECT_EQ(errorOf([&] { bench.tool.cmbUnit.Pick(1); }), 440);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"GT2 Load"});
-    EXPECT_TRUE(bench.tool.NeedsEvaluation()) << "the parameter's pick has set it";
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    LoadRig rig;
+    rig.hours({50}).calculate();
+    failAt(*rig.site, "DIServer.ConstantsOfUnitTypes");
+    EXPECT_EQ(errorOf([&] { rig.tool.cmbUnit.Pick(1); }), 440);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT2 Load"});
+    EXPECT_TRUE(rig.tool.NeedsEvaluation()) << "the parameter's pick has set it";
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadUnit, TheNextPickEndsAHourglassThatAFailureLeft)
 {
-    LoadBench bench;
-    failAt(*bench.site, "DIServer.ConstantsOfUnitTypes");
-    EXPECT_EQ(errorOf([&] { bench.tool.cmbUnit.Pick(1); }), 440);
-    bench.site->failure = nullptr;
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    LoadRig rig;
+    failAt(*rig.site, "DIServer.ConstantsOfUnitTypes");
+    EXPECT_EQ(errorOf([&] { rig.tool.cmbUnit.Pick(1); }), 440);
+    rig.site->failure = nullptr;
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 } // namespace k7deval::test

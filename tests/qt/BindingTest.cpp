@@ -67,7 +67,7 @@ struct View : QWidget {
     }
 };
 
-struct Bench {
+struct Rig {
     Screen screen;
     View view{screen};
     Operator hands{view};
@@ -77,135 +77,135 @@ struct Bench {
 
 TEST(Binding, AChangeByCodeIsNoActionOfTheUser)
 {
-    Bench bench;
-    bench.screen.field.SetText("code");
-    bench.screen.list.SetListIndex(1);
-    bench.screen.box.SetChecked(true);
+    Rig rig;
+    rig.screen.field.SetText("code");
+    rig.screen.list.SetListIndex(1);
+    rig.screen.box.SetChecked(true);
     settle();
-    EXPECT_EQ(bench.hands.view<QLineEdit>("field").text(), "code");
-    EXPECT_EQ(bench.hands.view<QComboBox>("list").currentIndex(), 1);
-    EXPECT_TRUE(bench.hands.view<QCheckBox>("box").isChecked());
-    EXPECT_EQ(bench.screen.changes, 1);
-    EXPECT_EQ(bench.screen.picks, 1);
-    EXPECT_EQ(bench.screen.typings, 0);
-    EXPECT_EQ(bench.screen.clicks, 1);
+    EXPECT_EQ(rig.hands.view<QLineEdit>("field").text(), "code");
+    EXPECT_EQ(rig.hands.view<QComboBox>("list").currentIndex(), 1);
+    EXPECT_TRUE(rig.hands.view<QCheckBox>("box").isChecked());
+    EXPECT_EQ(rig.screen.changes, 1);
+    EXPECT_EQ(rig.screen.picks, 1);
+    EXPECT_EQ(rig.screen.typings, 0);
+    EXPECT_EQ(rig.screen.clicks, 1);
 }
 
 TEST(Binding, EachKeyIsTypedOnce)
 {
-    Bench bench;
-    bench.hands.type("field", "12345");
-    EXPECT_EQ(bench.screen.field.Text(), "1234");
-    EXPECT_EQ(bench.screen.changes, 4);
-    EXPECT_EQ(bench.screen.leavings, 0);
-    bench.hands.press(Qt::Key_Tab);
-    EXPECT_EQ(bench.screen.leavings, 1);
+    Rig rig;
+    rig.hands.type("field", "12345");
+    EXPECT_EQ(rig.screen.field.Text(), "1234");
+    EXPECT_EQ(rig.screen.changes, 4);
+    EXPECT_EQ(rig.screen.leavings, 0);
+    rig.hands.press(Qt::Key_Tab);
+    EXPECT_EQ(rig.screen.leavings, 1);
 }
 
 TEST(Binding, APickOfTheSameEntryIsAPick)
 {
-    Bench bench;
-    bench.screen.list.SetListIndex(1);
-    auto& list = bench.hands.view<QComboBox>("list");
+    Rig rig;
+    rig.screen.list.SetListIndex(1);
+    auto& list = rig.hands.view<QComboBox>("list");
     list.showPopup();
     settle();
     QTest::keyClick(list.view(), Qt::Key_Return);
     settle();
-    EXPECT_EQ(bench.screen.picks, 2);
+    EXPECT_EQ(rig.screen.picks, 2);
 }
 
 TEST(Binding, TheWheelPicksOnlyInTheListThatTheUserIsIn)
 {
-    Bench bench;
-    bench.screen.list.SetListIndex(0);
-    auto& list = bench.hands.view<QComboBox>("list");
+    Rig rig;
+    rig.screen.list.SetListIndex(0);
+    auto& list = rig.hands.view<QComboBox>("list");
     const auto turn = [&list] {
         const QPointF middle = list.rect().center();
         QWheelEvent wheel(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&list, &wheel);
     };
-    bench.hands.view<QLineEdit>("field").setFocus();
+    rig.hands.view<QLineEdit>("field").setFocus();
     turn();
-    EXPECT_EQ(bench.screen.list.ListIndex(), 0);
+    EXPECT_EQ(rig.screen.list.ListIndex(), 0);
     list.setFocus();
     turn();
-    EXPECT_EQ(bench.screen.list.ListIndex(), 1);
-    EXPECT_EQ(bench.screen.picks, 2);
+    EXPECT_EQ(rig.screen.list.ListIndex(), 1);
+    EXPECT_EQ(rig.screen.picks, 2);
 }
 
 TEST(Binding, TypingTheTextOfAnEntryIsNoPick)
 {
-    Bench bench;
-    bench.hands.enter("list", "two");
-    EXPECT_EQ(bench.screen.list.Text(), "two");
-    EXPECT_EQ(bench.screen.list.ListIndex(), -1);
-    EXPECT_EQ(bench.hands.view<QComboBox>("list").currentIndex(), -1);
-    EXPECT_EQ(bench.screen.picks, 0);
-    EXPECT_EQ(bench.screen.typings, 3);
+    Rig rig;
+    rig.hands.enter("list", "two");
+    EXPECT_EQ(rig.screen.list.Text(), "two");
+    EXPECT_EQ(rig.screen.list.ListIndex(), -1);
+    EXPECT_EQ(rig.hands.view<QComboBox>("list").currentIndex(), -1);
+    EXPECT_EQ(rig.screen.picks, 0);
+    EXPECT_EQ(rig.screen.typings, 3);
 }
 
 TEST(Binding, TypingIntoTheTextOfAnEntryKeepsTheCursor)
 {
-    Bench bench;
-    bench.screen.list.SetListIndex(1);
-    auto& list = bench.hands.view<QComboBox>("list");
+    Rig rig;
+    rig.screen.list.SetListIndex(1);
+    auto& list = rig.hands.view<QComboBox>("list");
     list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&list, Qt::Key_Home);
     QTest::keyClicks(&list, "12");
-    EXPECT_EQ(bench.screen.list.Text(), "12two");
-    EXPECT_EQ(bench.screen.list.ListIndex(), -1);
+    EXPECT_EQ(rig.screen.list.Text(), "12two");
+    EXPECT_EQ(rig.screen.list.ListIndex(), -1);
 }
 
 TEST(Binding, TypingInTheMiddleOfAFieldKeepsTheCursor)
 {
-    Bench bench;
-    bench.screen.field.SetText("ad");
-    auto& field = bench.hands.view<QLineEdit>("field");
+    Rig rig;
+    rig.screen.field.SetText("ad");
+    auto& field = rig.hands.view<QLineEdit>("field");
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Home);
     QTest::keyClick(&field, Qt::Key_Right);
     QTest::keyClicks(&field, "bc");
-    EXPECT_EQ(bench.screen.field.Text(), "abcd");
+    EXPECT_EQ(rig.screen.field.Text(), "abcd");
 }
 
 TEST(Binding, ATextByCodeMayBeLongerThanWhatCanBeTyped)
 {
-    Bench bench;
-    bench.screen.field.SetText("123456");
-    EXPECT_EQ(bench.hands.view<QLineEdit>("field").text(), "123456");
-    bench.hands.type("field", "98765");
-    EXPECT_EQ(bench.screen.field.Text(), "9876");
+    Rig rig;
+    rig.screen.field.SetText("123456");
+    EXPECT_EQ(rig.hands.view<QLineEdit>("field").text(), "123456");
+    rig.hands.type("field", "98765");
+    EXPECT_EQ(rig.screen.field.Text(), "9876");
 }
 
 TEST(Binding, ShowsWhatTheModelMadeOfAPress)
 {
-    Bench bench;
+    Rig rig;
     // The model goes back on the user.
-    bench.screen.box.Clicked.Connect([&bench] { bench.screen.box.SetChecked(false); });
-    bench.hands.click("box");
-    EXPECT_FALSE(bench.hands.view<QCheckBox>("box").isChecked());
+    rig.screen.box.Clicked.Connect([&rig] { rig.screen.box.SetChecked(false); });
+    rig.hands.click("box");
+    EXPECT_FALSE(rig.hands.view<QCheckBox>("box").isChecked());
 }
 
 TEST(Binding, TellsAFailureByNumberAndDescription)
 {
-    Bench bench;
-    bench.screen.failure = Error(381);
+    Rig rig;
+    rig.screen.failure = Error(381);
     QString told;
     whenDialogComes([&told](QDialog& dialog) {
         told = dynamic_cast<QMessageBox&>(dialog).text();
         dialog.accept();
     });
-    bench.hands.click("button");
+    rig.hands.click("button");
     EXPECT_EQ(told, "Error 381: Invalid property array index");
 }
 
 TEST(Binding, AMnemonicPressesTheButton)
 {
-    Bench bench;
-    EXPECT_EQ(bench.hands.view<QPushButton>("button").text(), "Salt && &Pepper");
-    bench.hands.pressMnemonic(Qt::Key_P);
-    EXPECT_EQ(bench.screen.presses, 1);
+    Rig rig;
+    EXPECT_EQ(rig.hands.view<QPushButton>("button").text(), "Salt && &Pepper");
+    rig.hands.pressMnemonic(Qt::Key_P);
+    EXPECT_EQ(rig.screen.presses, 1);
 }
 
 TEST(Binding, TheModelOutlivesItsView)

@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "qt/Operator.h"
 #include "qt/ScreenReader.h"
 #include "qt/ctrlMaxMWView.h"
@@ -14,21 +14,21 @@ namespace k7deval::qt::test
 namespace
 {
 
-using k7deval::test::LoadBench;
+using k7deval::test::LoadRig;
 using ::testing::ElementsAre;
 
 /// The screen of the load tool, with 4 hours in the first bin, 8 in the tenth and 1 in the last.
 struct ReadChart {
     ReadChart()
     {
-        bench.range("0", "100").hours({1, 1, 1, 1, 99});
-        bench.addHours(8, 50);
+        rig.range("0", "100").hours({1, 1, 1, 1, 99});
+        rig.addHours(8, 50);
         hands.view<QWidget>("chart").setFocus(Qt::TabFocusReason);
         settle();
     }
 
-    LoadBench bench;
-    ctrlMaxMWView view{bench.tool};
+    LoadRig rig;
+    ctrlMaxMWView view{rig.tool};
     Operator hands{view};
 
     [[nodiscard]] QAccessibleInterface& face() const
@@ -77,10 +77,10 @@ TEST(ChartAccess, SaysWhatTheToolHas)
     chart.hands.click("cmdCalculate");
     for (int row = 0; row < 20; ++row) {
         EXPECT_EQ(chart.cell(row, 2),
-                  std::to_string(chart.bench.results().Bins.at(static_cast<std::size_t>(row) + 1)));
+                  std::to_string(chart.rig.results().Bins.at(static_cast<std::size_t>(row) + 1)));
         EXPECT_EQ(chart.cell(row, 0) + " - " + chart.cell(row, 1) +
                       "   Op Hours: " + chart.cell(row, 2),
-                  chart.bench.tool.lblBar[row + 1].ToolTipText());
+                  chart.rig.tool.lblBar[row + 1].ToolTipText());
     }
     EXPECT_THAT(chart.row(0), ElementsAre("0", "5", "4", "30.8%"));
     EXPECT_THAT(chart.row(9), ElementsAre("45", "50", "8", "61.5%"));

@@ -1,5 +1,5 @@
 #include "qt/ChartView.h"
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "qt/Operator.h"
 
 #include <gmock/gmock.h>
@@ -18,26 +18,25 @@ namespace k7deval::qt::test
 namespace
 {
 
-using k7deval::test::LoadBench;
+using k7deval::test::LoadRig;
 
 /// The chart of a load evaluation: 4 hours in the first bin, 8 in the tenth, 1 in the last, as wide
 /// as the tool's frame at 10 twips a pixel.
 struct Chart {
     Chart()
     {
-        bench.range("0", "100").hours({1, 1, 1, 1, 99});
-        bench.addHours(8, 50);
-        bench.calculate();
+        rig.range("0", "100").hours({1, 1, 1, 1, 99});
+        rig.addHours(8, 50);
+        rig.calculate();
         view.resize(600, 400);
         view.show();
         settle();
     }
 
-    LoadBench bench;
-    ChartView view{
-        nullptr,
-        bench.tool,
-        {&bench.tool.lbl000, &bench.tool.lbl030, &bench.tool.lbl060, &bench.tool.lbl100}};
+    LoadRig rig;
+    ChartView view{nullptr,
+                   rig.tool,
+                   {&rig.tool.lbl000, &rig.tool.lbl030, &rig.tool.lbl060, &rig.tool.lbl100}};
 
     [[nodiscard]] QLabel& label(const char* name) const { return *view.findChild<QLabel*>(name); }
 };
@@ -48,7 +47,7 @@ TEST(ChartView, BarsKeepTheProportionsOfTheTool)
 {
     const Chart chart;
     for (int bar = 1; bar <= 20; ++bar) {
-        const screen::Geometry& place = chart.bench.tool.lblBar[bar].Place();
+        const screen::Geometry& place = chart.rig.tool.lblBar[bar].Place();
         const QRect rect = chart.view.barRect(bar);
         if (place.Height == 0) {
             EXPECT_TRUE(rect.isEmpty()) << bar;
@@ -57,7 +56,7 @@ TEST(ChartView, BarsKeepTheProportionsOfTheTool)
         EXPECT_NEAR(rect.left(), place.Left / 10, 1) << bar;
         EXPECT_NEAR(rect.width(), place.Width / 10, 1) << bar;
         const double share = rect.height() / static_cast<double>(chart.view.barRect(10).height());
-        EXPECT_NEAR(share, place.Height / chart.bench.tool.lblBar[10].Place().Height, 0.01) << bar;
+        EXPECT_NEAR(share, place.Height / chart.rig.tool.lblBar[10].Place().Height, 0.01) << bar;
     }
 }
 

@@ -3,7 +3,7 @@
 #include "qt/Operator.h"
 #include "qt/ScreenComparison.h"
 #include "qt/ctrl7DayView.h"
-#include "sevenday/ToolBench.h"
+#include "sevenday/ToolRig.h"
 
 #include <QLabel>
 #include <QTest>
@@ -31,12 +31,12 @@ inline std::shared_ptr<k7deval::test::SiteData> siteWithOneFailure()
 struct DriftScreen {
     explicit DriftScreen(
         std::shared_ptr<k7deval::test::SiteData> site = k7deval::test::siteWithDailyCals(7))
-        : bench(std::move(site))
+        : rig(std::move(site))
     {
     }
 
-    k7deval::test::ToolBench bench;
-    ctrl7DayView view{bench.tool};
+    k7deval::test::ToolRig rig;
+    ctrl7DayView view{rig.tool};
     Operator hands{view};
 
     [[nodiscard]] QLabel& label(const std::string& name) const { return hands.view<QLabel>(name); }
@@ -44,7 +44,7 @@ struct DriftScreen {
     [[nodiscard]] std::vector<std::string> differences() const
     {
         settle();
-        return test::differences(bench.tool, view);
+        return test::differences(rig.tool, view);
     }
     void clickEntry(QTreeWidgetItem& entry) const
     {

@@ -97,10 +97,10 @@ TEST(DriftScreen, TheEmptyResultIsNotSelectedByItself)
     settle();
     screen.tree().setFocus(Qt::TabFocusReason);
     settle();
-    EXPECT_EQ(screen.bench.result().tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_EQ(screen.rig.result().tvwCalTimes.SelectedItem(), nullptr);
     EXPECT_THAT(screen.differences(), IsEmpty());
     screen.clickEntry(entryOf(screen, "NA"));
-    EXPECT_EQ(screen.bench.result().tvwCalTimes.SelectedItem()->Key, "NA");
+    EXPECT_EQ(screen.rig.result().tvwCalTimes.SelectedItem()->Key, "NA");
 }
 
 TEST(DriftScreen, WhatWasUsedInTheTestIsWhite)
@@ -120,10 +120,10 @@ TEST(DriftScreen, SavesTheReportAndShowsIt)
 {
     const TemporaryFolder folder;
     DriftScreen screen;
-    screen.bench.services.saveAnswer = screen::SaveAnswer{folder.file("drift.pdf"), 1};
+    screen.rig.services.saveAnswer = screen::SaveAnswer{folder.file("drift.pdf"), 1};
     screen.hands.click("cmdNext");
     screen.hands.pressMnemonic(Qt::Key_S);
-    EXPECT_THAT(screen.bench.services.opened, ElementsAre(folder.file("drift.pdf")));
+    EXPECT_THAT(screen.rig.services.opened, ElementsAre(folder.file("drift.pdf")));
     EXPECT_THAT(folder.names(), ElementsAre("drift.pdf"));
 }
 
@@ -178,7 +178,7 @@ TEST(DriftScreen, ALongVerdictCanBeScrolled)
     QString text;
     for (int line = 0; line < 40; ++line)
         text += "One more line of many.\r\n";
-    screen.bench.result().SetSummaryText(text.toStdString());
+    screen.rig.result().SetSummaryText(text.toStdString());
     settle();
     screen.hands.photograph("drift-results-long");
     const QLabel& summary = screen.label("lblSummary");
@@ -192,7 +192,7 @@ TEST(DriftScreen, AnOptionTakesItsLimit)
     EXPECT_FALSE(screen.hands.view<QLineEdit>("txtOtherSpanValue").isEnabled());
     screen.hands.click("optOtherSpan");
     screen.hands.enter("txtOtherSpanValue", "4");
-    EXPECT_EQ(screen.bench.setUp().PercentOfSpanLimit(), 4);
+    EXPECT_EQ(screen.rig.setUp().PercentOfSpanLimit(), 4);
     EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
@@ -201,7 +201,7 @@ TEST(DriftScreen, TheArrowKeysGoThroughTheOptions)
     DriftScreen screen;
     screen.hands.click("opt025Span");
     screen.hands.press(Qt::Key_Down);
-    EXPECT_TRUE(screen.bench.setUp().opt05Span.isSelected());
+    EXPECT_TRUE(screen.rig.setUp().opt05Span.isSelected());
     EXPECT_THAT(screen.differences(), IsEmpty());
 }
 

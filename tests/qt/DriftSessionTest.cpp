@@ -116,7 +116,7 @@ TEST(DriftSession, TheHourglassIsSeenDuringTheWork)
 {
     DriftScreen screen;
     std::vector<Qt::CursorShape> seen;
-    screen.bench.tool.Changed.Connect([&] { seen.push_back(screen.view.cursor().shape()); });
+    screen.rig.tool.Changed.Connect([&] { seen.push_back(screen.view.cursor().shape()); });
     screen.hands.click("cmdNext");
     EXPECT_THAT(seen, ElementsAre(Qt::WaitCursor, Qt::ArrowCursor));
 }
@@ -234,10 +234,10 @@ TEST(DriftSession, AFieldIsLeftByMouseByLetterAndByNext)
 TEST(DriftSession, TheCalendarGivesTheDay)
 {
     DriftScreen screen;
-    screen.bench.services.dateAnswer = makeDate(2024, 3, 2);
+    screen.rig.services.dateAnswer = makeDate(2024, 3, 2);
     screen.hands.click("cmdFromDate");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtFromDate").text(), "3/2/2024");
-    screen.bench.services.dateAnswer.reset();
+    screen.rig.services.dateAnswer.reset();
     screen.hands.click("cmdToDate");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtToDate").text(), "3/10/2024");
     EXPECT_THAT(screen.differences(), IsEmpty());
@@ -250,7 +250,7 @@ TEST(DriftSession, SeveralStacksArePickedFromAList)
     screen.hands.pressMnemonic(Qt::Key_K);
     EXPECT_TRUE(screen.hands.view<QWidget>("cmbStackID").hasFocus());
     screen.hands.pick("cmbStackID", "CS2");
-    EXPECT_EQ(screen.bench.tool.ctrl7DaySetUp1.StackID(), "CS2");
+    EXPECT_EQ(screen.rig.tool.ctrl7DaySetUp1.StackID(), "CS2");
     EXPECT_THAT(screen.differences(), IsEmpty());
     EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
     screen.hands.pick("cmbUnit", "GT4");
@@ -274,10 +274,10 @@ TEST(DriftSession, ATypedReasonIsNoneOfTheList)
 {
     const DriftScreen screen;
     screen.hands.enter("cmbTestReason", "Diagnostic");
-    EXPECT_EQ(screen.bench.tool.ctrl7DaySetUp1.cmbTestReason.ListIndex(), -1);
+    EXPECT_EQ(screen.rig.tool.ctrl7DaySetUp1.cmbTestReason.ListIndex(), -1);
     EXPECT_THAT(screen.differences(), IsEmpty());
     screen.hands.pick("cmbTestReason", "Diagnostic");
-    EXPECT_EQ(screen.bench.tool.ctrl7DaySetUp1.TestReason(), "RECERT");
+    EXPECT_EQ(screen.rig.tool.ctrl7DaySetUp1.TestReason(), "RECERT");
     EXPECT_THAT(screen.differences(), IsEmpty());
 }
 

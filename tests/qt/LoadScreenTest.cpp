@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "qt/Operator.h"
 #include "qt/ScreenComparison.h"
 #include "qt/ScreenReader.h"
@@ -19,7 +19,7 @@ namespace
 {
 
 using k7deval::test::failAt;
-using k7deval::test::LoadBench;
+using k7deval::test::LoadRig;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -27,12 +27,12 @@ using testing::IsEmpty;
 struct LoadScreen {
     LoadScreen()
     {
-        bench.hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110});
-        bench.addHours(20, 42);
+        rig.hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110});
+        rig.addHours(20, 42);
     }
 
-    LoadBench bench;
-    ctrlMaxMWView view{bench.tool};
+    LoadRig rig;
+    ctrlMaxMWView view{rig.tool};
     Operator hands{view};
 };
 
@@ -42,7 +42,7 @@ TEST(LoadScreen, ShowsItsToolFromTheStart)
 {
     const LoadScreen screen;
     screen.hands.photograph("load-start");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, EvaluatesWithMouseAndKeys)
@@ -57,7 +57,7 @@ TEST(LoadScreen, EvaluatesWithMouseAndKeys)
     EXPECT_EQ(screen.hands.text("lblBelow"), "1 hour(s) under 10");
     EXPECT_EQ(screen.hands.text("lblAbove"), "1 hour(s) over 100 - Maximum 110");
     EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, AMnemonicLeavesTheFieldBeforeItCalculates)
@@ -94,16 +94,16 @@ TEST(LoadScreen, ThePeriodGoesWithItsOption)
     screen.hands.enter("txtTo", "2024-01-02");
     EXPECT_FALSE(screen.hands.view<QWidget>("cmbYear").isEnabled());
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtTo").text(), "1/2/2024");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, ATypedYearIsNotTakenForAPick)
 {
     const LoadScreen screen;
     screen.hands.enter("cmbYear", "2023");
-    EXPECT_EQ(screen.bench.tool.cmbYear.ListIndex(), -1);
-    EXPECT_EQ(screen.bench.tool.cmbYear.Text(), "2023");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_EQ(screen.rig.tool.cmbYear.ListIndex(), -1);
+    EXPECT_EQ(screen.rig.tool.cmbYear.Text(), "2023");
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, AnotherUnitBringsItsOwnParameters)
@@ -111,14 +111,14 @@ TEST(LoadScreen, AnotherUnitBringsItsOwnParameters)
     const LoadScreen screen;
     screen.hands.pick("cmbUnit", "GT2");
     screen.hands.click("chkShowPID");
-    EXPECT_EQ(screen.bench.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_EQ(screen.rig.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, AFailureIsToldAndTheHourglassStays)
 {
     const LoadScreen screen;
-    failAt(*screen.bench.site, "DIServer.Parameters");
+    failAt(*screen.rig.site, "DIServer.Parameters");
     QString told;
     whenDialogComes([&told](QDialog& dialog) {
         told = dynamic_cast<QMessageBox&>(dialog).text();
@@ -139,26 +139,26 @@ TEST(LoadScreen, AScreenReaderMakesSenseOfIt)
 
 TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
 {
-    LoadBench bench;
+    LoadRig rig;
     QWidget window;
-    auto* view = new ctrlMaxMWView(bench.tool, &window);
+    auto* view = new ctrlMaxMWView(rig.tool, &window);
     Operator(window).type("txtCapacity", "abc");
     delete view;
-    EXPECT_EQ(bench.tool.txtCapacity.Text(), "abc");
+    EXPECT_EQ(rig.tool.txtCapacity.Text(), "abc");
 }
 
 TEST(LoadScreen, EvaluatesDates)
 {
     LoadScreen screen;
     screen.hands.click("optTimeSelect");
-    screen.bench.services.dateAnswer = makeDate(2024, 1, 1);
+    screen.rig.services.dateAnswer = makeDate(2024, 1, 1);
     screen.hands.click("cmdFrom");
     screen.hands.enter("txtTo", "2024-01-01");
     screen.hands.click("cmdCalculate");
     screen.hands.photograph("load-dates");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtFrom").text(), "1/1/2024");
     EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, AQuarterFromTheListLeavesTheResults)
@@ -169,7 +169,7 @@ TEST(LoadScreen, AQuarterFromTheListLeavesTheResults)
     screen.hands.pick("cmbYear", "2022");
     EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
     EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, ALeftFieldTakesTheResultsOffTheScreenButNotTheButton)
@@ -180,14 +180,14 @@ TEST(LoadScreen, ALeftFieldTakesTheResultsOffTheScreenButNotTheButton)
     screen.hands.click("chkPreview");
     EXPECT_EQ(screen.hands.text("lblHeader"), "");
     EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(LoadScreen, TheHourglassIsSeenDuringTheWork)
 {
     LoadScreen screen;
     std::vector<Qt::CursorShape> seen;
-    screen.bench.tool.Changed.Connect([&] { seen.push_back(screen.view.cursor().shape()); });
+    screen.rig.tool.Changed.Connect([&] { seen.push_back(screen.view.cursor().shape()); });
     screen.hands.click("cmdCalculate");
     EXPECT_THAT(seen, ElementsAre(Qt::WaitCursor, Qt::ArrowCursor));
 }
@@ -209,7 +209,7 @@ TEST(LoadScreen, CloseIsTheHostsBusiness)
 {
     LoadScreen screen;
     int closings = 0;
-    screen.bench.tool.CloseClicked.Connect([&closings] { ++closings; });
+    screen.rig.tool.CloseClicked.Connect([&closings] { ++closings; });
     screen.hands.click("cmdClose");
     EXPECT_EQ(closings, 1);
     EXPECT_TRUE(screen.view.isVisible());
@@ -226,20 +226,20 @@ TEST(LoadScreen, GrowsWithLargeLetters)
 
 TEST(LoadScreen, AToolWithoutASiteIsEmpty)
 {
-    k7deval::test::LoadTool bench;
-    ctrlMaxMWView view(bench.tool);
+    k7deval::test::LoadTool rig;
+    ctrlMaxMWView view(rig.tool);
     const Operator hands(view);
-    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+    EXPECT_THAT(differences(rig.tool, view), IsEmpty());
 }
 
 TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)
 {
-    LoadBench bench;
+    LoadRig rig;
     {
-        const ctrlMaxMWView view(bench.tool);
+        const ctrlMaxMWView view(rig.tool);
     }
-    bench.hours({50}).calculate();
-    EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 GT1 Load");
+    rig.hours({50}).calculate();
+    EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 GT1 Load");
 }
 
 } // namespace k7deval::qt::test

@@ -2,7 +2,7 @@
 #include "qt/ScreenComparison.h"
 #include "qt/ScreenReader.h"
 #include "qt/ctrlRangeEvalView.h"
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gmock/gmock.h>
 
@@ -16,16 +16,16 @@ namespace k7deval::qt::test
 namespace
 {
 
-using k7deval::test::RangeBench;
+using k7deval::test::RangeRig;
 using k7deval::test::siteOfTwoUnits;
 using testing::IsEmpty;
 
 /// An operator at the range tool, on GT1 with its scales and GT2.
 struct RangeScreen {
-    RangeScreen() { bench.hours({5, 10, 10.5, 20, 30, 39.5, 40, 45, 50, 60, 12, 12, 12}); }
+    RangeScreen() { rig.hours({5, 10, 10.5, 20, 30, 39.5, 40, 45, 50, 60, 12, 12, 12}); }
 
-    RangeBench bench{siteOfTwoUnits()};
-    ctrlRangeEvalView view{bench.tool};
+    RangeRig rig{siteOfTwoUnits()};
+    ctrlRangeEvalView view{rig.tool};
     Operator hands{view};
 };
 
@@ -35,7 +35,7 @@ TEST(RangeScreen, ShowsItsToolFromTheStart)
 {
     const RangeScreen screen;
     screen.hands.photograph("range-start");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, EvaluatesWithMouseAndKeys)
@@ -49,7 +49,7 @@ TEST(RangeScreen, EvaluatesWithMouseAndKeys)
     EXPECT_EQ(screen.hands.text("lblOverRange"), "Hours over Range:  1");
     EXPECT_EQ(screen.hands.text("lblLowOpPercent"), "16.7%");
     EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, APickGoesDownToTheRange)
@@ -57,10 +57,10 @@ TEST(RangeScreen, APickGoesDownToTheRange)
     const RangeScreen screen;
     screen.hands.pick("cmbScale", "HIGH");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "500");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
     screen.hands.pick("cmbUnit", "GT2");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "250");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, TypingALimitTakesTheResultsOffTheScreen)
@@ -80,12 +80,12 @@ TEST(RangeScreen, ALimitThatIsOffIsNotCounted)
     screen.hands.click("cmdCalculate");
     EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  N/A");
     EXPECT_EQ(screen.hands.text("lblAboveMPC"), "Hours above MPC:  N/A");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 
     screen.hands.click("chkMEC");
     screen.hands.click("cmdCalculate");
     EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  0") << "it was not counted";
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, AGasInPercentHasNoLimits)
@@ -94,7 +94,7 @@ TEST(RangeScreen, AGasInPercentHasNoLimits)
     screen.hands.pick("cmbParam", "CO2");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtMEC").text(), "N/A");
     EXPECT_FALSE(screen.hands.view<QCheckBox>("chkMPC").isChecked());
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, BadInputIsPutBackWhenTheFieldIsLeft)
@@ -105,7 +105,7 @@ TEST(RangeScreen, BadInputIsPutBackWhenTheFieldIsLeft)
     screen.hands.click("chkShowPID");
     EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "50");
     EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 NOX") << "the results stay";
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, AFieldThatIsLeftForTheButtonThatSavesTakesItAway)
@@ -115,8 +115,8 @@ TEST(RangeScreen, AFieldThatIsLeftForTheButtonThatSavesTakesItAway)
     screen.hands.type("txtRange", "60");
     screen.hands.click("cmdSave");
     EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(screen.bench.services.filters, IsEmpty()) << "nobody asked for a file";
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(screen.rig.services.filters, IsEmpty()) << "nobody asked for a file";
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, AYearIsTypedOrPicked)
@@ -127,8 +127,8 @@ TEST(RangeScreen, AYearIsTypedOrPicked)
     EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 NOX") << "a pick leaves the results";
     screen.hands.type("cmbYear", "2022");
     EXPECT_EQ(screen.hands.text("lblHeader"), "");
-    EXPECT_EQ(screen.bench.tool.cmbYear.ListIndex(), -1);
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_EQ(screen.rig.tool.cmbYear.ListIndex(), -1);
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(RangeScreen, TheTabulatorReadsTheScreen)
@@ -151,11 +151,11 @@ TEST(RangeScreen, GrowsWithLargeLetters)
 
 TEST(RangeScreen, AToolWithoutASiteIsEmpty)
 {
-    k7deval::test::RangeTool bench;
-    ctrlRangeEvalView view(bench.tool);
+    k7deval::test::RangeTool rig;
+    ctrlRangeEvalView view(rig.tool);
     const Operator hands(view);
     EXPECT_EQ(hands.view<QLineEdit>("txtRange").text(), "Text1");
-    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+    EXPECT_THAT(differences(rig.tool, view), IsEmpty());
 }
 
 TEST(RangeScreen, AScreenReaderMakesSenseOfIt)

@@ -1,5 +1,5 @@
 #include "qt/ReportPainter.h"
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "report/PageLayout.h"
 #include "support/PdfImage.h"
 #include "support/TemporaryFolder.h"
@@ -20,7 +20,7 @@ namespace k7deval::qt::test
 namespace
 {
 
-using k7deval::test::LoadBench;
+using k7deval::test::LoadRig;
 using testing::PdfImage;
 using testing::TemporaryFolder;
 
@@ -189,9 +189,9 @@ TEST(ReportPainter, DrawsAllThatAPageCanHave)
 
 TEST(ReportPainter, DrawsTheReportOfALoad)
 {
-    LoadBench bench;
-    bench.range("10", "100").hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110}).calculate();
-    expectAlike(*bench.tool.buildReport());
+    LoadRig rig;
+    rig.range("10", "100").hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110}).calculate();
+    expectAlike(*rig.tool.buildReport());
 }
 
 TEST(ReportPainter, ADashedLineIsDrawnForAThirdOfItsLength)

@@ -2,7 +2,7 @@
 #include "qt/ScreenComparison.h"
 #include "qt/ScreenReader.h"
 #include "qt/SelectionViews.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gmock/gmock.h>
 
@@ -23,9 +23,9 @@ using k7deval::test::kCo;
 using k7deval::test::kFiveParameters;
 using k7deval::test::kLoad;
 using k7deval::test::kNox;
-using k7deval::test::ParamSelectBench;
+using k7deval::test::ParamSelectRig;
 using k7deval::test::selectionOf;
-using k7deval::test::SingleBench;
+using k7deval::test::SingleRig;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -33,13 +33,13 @@ using testing::IsEmpty;
 struct ListScreen {
     ListScreen()
     {
-        bench.filtered().list(kFiveParameters);
+        rig.filtered().list(kFiveParameters);
         view.resize(300, 300);
         settle();
     }
 
-    ParamSelectBench bench;
-    ParamSelectView view{bench.tool};
+    ParamSelectRig rig;
+    ParamSelectView view{rig.tool};
     Operator hands{view};
 
     [[nodiscard]] QTableView& table() const { return hands.view<QTableView>("jgexGrid"); }
@@ -91,7 +91,7 @@ TEST(ListScreen, ShowsTheRowsAndTheFilter)
     EXPECT_EQ(screen.table().model()->rowCount(), 7);
     EXPECT_EQ(screen.text(1), "NOx");
     EXPECT_EQ(screen.table().columnSpan(0, 0), 2);
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(ListScreen, AHeaderFillsTheWidth)
@@ -108,13 +108,13 @@ TEST(ListScreen, TicksWithMouseAndKeys)
 {
     const ListScreen screen;
     screen.tick(1);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox));
     screen.table().setCurrentIndex(screen.cell(2, 0));
     QTest::keyClick(&screen.table(), Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox, kCo));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox, kCo));
     EXPECT_EQ(screen.cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
     screen.tick(1);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kCo));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kCo));
 }
 
 TEST(ListScreen, TheSpaceBarTicksARowByItsName)
@@ -122,21 +122,21 @@ TEST(ListScreen, TheSpaceBarTicksARowByItsName)
     const ListScreen screen;
     screen.click(1, 1);
     screen.hands.press(Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox));
     screen.hands.press(Qt::Key_Down);
     screen.hands.press(Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox, kCo));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox, kCo));
     screen.hands.press(Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox));
 }
 
 TEST(ListScreen, ADoubleClickOnANameTicksIt)
 {
     const ListScreen screen;
     screen.doubleClick(5, 1);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kLoad));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kLoad));
     screen.doubleClick(0, 1);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kLoad));
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kLoad));
 }
 
 TEST(ListScreen, ADoubleClickOnAMarkIsTheMarksBusiness)
@@ -144,8 +144,8 @@ TEST(ListScreen, ADoubleClickOnAMarkIsTheMarksBusiness)
     const ListScreen screen;
     screen.doubleClick(2, 1);
     screen.doubleTick(1);
-    EXPECT_THAT(selectionOf(screen.bench.tool), ElementsAre(kNox, kCo));
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox, kCo));
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(ListScreen, APressBesideTheRowsTicksNothing)
@@ -156,17 +156,17 @@ TEST(ListScreen, APressBesideTheRowsTicksNothing)
     ASSERT_FALSE(screen.table().indexAt(below).isValid());
     QTest::mouseClick(screen.table().viewport(), Qt::LeftButton, {}, below);
     QTest::mouseDClick(screen.table().viewport(), Qt::LeftButton, {}, below);
-    EXPECT_THAT(selectionOf(screen.bench.tool), IsEmpty());
+    EXPECT_THAT(selectionOf(screen.rig.tool), IsEmpty());
 }
 
 TEST(ListScreen, ShowsPIDsWhenTheHostWantsThem)
 {
     ListScreen screen;
     const QString header = screen.text(0);
-    screen.bench.tool.SetShowPIDNumber(true);
+    screen.rig.tool.SetShowPIDNumber(true);
     EXPECT_EQ(screen.text(1), "[1-100-0-75-00] NOx");
     EXPECT_EQ(screen.text(0), header);
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(ListScreen, SeveralRowsCanBeSelectedWhenTheHostAllowsIt)
@@ -179,30 +179,30 @@ TEST(ListScreen, SeveralRowsCanBeSelectedWhenTheHostAllowsIt)
         return screen.table().selectionModel()->selectedRows().size();
     };
     EXPECT_EQ(selectThree(), 1);
-    screen.bench.tool.SetMultiSelect(true);
+    screen.rig.tool.SetMultiSelect(true);
     EXPECT_EQ(selectThree(), 3);
 }
 
 TEST(ListScreen, TicksOfTheHostAreSeen)
 {
     ListScreen screen;
-    screen.bench.tool.SelectAll();
+    screen.rig.tool.SelectAll();
     EXPECT_EQ(screen.cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
-    screen.bench.tool.SetOffsetUnits(false);
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    screen.rig.tool.SetOffsetUnits(false);
     EXPECT_EQ(screen.table().model()->rowCount(), 5);
     EXPECT_EQ(screen.table().columnSpan(0, 0), 1);
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(ListScreen, AFilterOfOneUnitIsTakenAway)
 {
     ListScreen screen;
-    screen.bench.list({kNox, kCo});
+    screen.rig.list({kNox, kCo});
     EXPECT_FALSE(screen.hands.view<QWidget>("cmbUnit").isVisible());
     settle();
     EXPECT_EQ(screen.table().height(), screen.view.height());
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(ListScreen, AHeaderFillsTheWidthInOtherLetters)
@@ -237,7 +237,7 @@ TEST(ListScreen, TheFilterShowsOneUnit)
     screen.hands.pick("cmbUnit", "GT2");
     EXPECT_EQ(screen.table().model()->rowCount(), 2);
     EXPECT_EQ(screen.text(0), "Load");
-    EXPECT_THAT(differences(screen.bench.tool, screen.view), IsEmpty());
+    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
 }
 
 TEST(ListScreen, KnowsItsKeysCell)
@@ -246,7 +246,7 @@ TEST(ListScreen, KnowsItsKeysCell)
     screen.table().setFocus();
     screen.table().setCurrentIndex(screen.cell(2, 1));
     QTest::keyClick(&screen.table(), Qt::Key_Down);
-    EXPECT_EQ(screen.bench.tool.jgexGrid.Row(), 4);
+    EXPECT_EQ(screen.rig.tool.jgexGrid.Row(), 4);
 }
 
 TEST(ListScreen, AScreenReaderMakesSenseOfIt)
@@ -257,41 +257,41 @@ TEST(ListScreen, AScreenReaderMakesSenseOfIt)
 
 TEST(SingleScreen, PicksOneParameter)
 {
-    SingleBench bench;
-    bench.filtered().list(kFiveParameters);
-    SingleParamSelectView view(bench.tool);
+    SingleRig rig;
+    rig.filtered().list(kFiveParameters);
+    SingleParamSelectView view(rig.tool);
     const Operator hands(view);
     hands.pick("cmbPID", "GT1 CO");
     hands.photograph("selection-single");
-    EXPECT_EQ(bench.tool.GetSelection(), kCo);
-    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+    EXPECT_EQ(rig.tool.GetSelection(), kCo);
+    EXPECT_THAT(differences(rig.tool, view), IsEmpty());
     EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
     EXPECT_EQ(hands.walk("cmbUnit"), QStringList({"cmbUnit", "cmbPID"}));
 }
 
 TEST(SingleScreen, AnotherUnitLeavesNothingToPick)
 {
-    SingleBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.SetShowPIDNumber(true);
-    SingleParamSelectView view(bench.tool);
+    SingleRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.SetShowPIDNumber(true);
+    SingleParamSelectView view(rig.tool);
     const Operator hands(view);
     EXPECT_EQ(hands.view<QComboBox>("cmbPID").itemText(0), "GT1 NOx 1-100-0-75-00");
     hands.pick("cmbUnit", "GT2");
     EXPECT_EQ(hands.view<QComboBox>("cmbPID").count(), 0);
-    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+    EXPECT_THAT(differences(rig.tool, view), IsEmpty());
 }
 
 TEST(SingleScreen, WithoutAFilterItHasOneBox)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    SingleParamSelectView view(bench.tool);
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    SingleParamSelectView view(rig.tool);
     const Operator hands(view);
     EXPECT_FALSE(hands.view<QWidget>("cmbUnit").isVisible());
     hands.type("cmbPID", "CO");
-    EXPECT_EQ(bench.tool.cmbPID.ListIndex(), -1);
-    EXPECT_THAT(differences(bench.tool, view), IsEmpty());
+    EXPECT_EQ(rig.tool.cmbPID.ListIndex(), -1);
+    EXPECT_THAT(differences(rig.tool, view), IsEmpty());
 }
 
 } // namespace k7deval::qt::test

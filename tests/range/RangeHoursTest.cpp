@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -52,10 +52,10 @@ double above(float value)
 /// The counters and bins of one hour with a range of 100, 90 as expected and 95 as potential value.
 void expectHour(const HourCase& row)
 {
-    RangeBench bench(siteOfWords());
-    bench.limits("90", "95").hours({row.value}, row.status).calculate();
-    EXPECT_EQ(countersOf(bench.results()), row.counters) << row.what;
-    EXPECT_EQ(filledBins(bench.results()), row.bins) << row.what;
+    RangeRig rig(siteOfWords());
+    rig.limits("90", "95").hours({row.value}, row.status).calculate();
+    EXPECT_EQ(countersOf(rig.results()), row.counters) << row.what;
+    EXPECT_EQ(filledBins(rig.results()), row.bins) << row.what;
 }
 
 const HourCase kBands[] = {
@@ -136,65 +136,65 @@ TEST(RangeHours, AnUnusableWordThirtyFiveIsNotReplaced)
     site->statusMeanings[35] = {.valid = false};
     site->statusMeanings[36] = {.excluded = true};
     for (const std::int32_t word : {35, 36}) {
-        RangeBench bench(site);
-        bench.hours({50}, word).calculate();
-        EXPECT_EQ(countersOf(bench.results()), Counters{.invalid = 1}) << word;
+        RangeRig rig(site);
+        rig.hours({50}, word).calculate();
+        EXPECT_EQ(countersOf(rig.results()), Counters{.invalid = 1}) << word;
     }
 }
 
 TEST(RangeHours, AreTakenAsSingles)
 {
     // 100.000001 is the single 100, and 20.0000001 the single 20.
-    RangeBench bench;
-    bench.hours({100.000001, 20.0000001}).limits("N/A", "N/A").calculate();
-    EXPECT_EQ(countersOf(bench.results()), (Counters{.low = 1, .high = 1}));
-    EXPECT_EQ(filledBins(bench.results()), "4: 1, 20: 1");
+    RangeRig rig;
+    rig.hours({100.000001, 20.0000001}).limits("N/A", "N/A").calculate();
+    EXPECT_EQ(countersOf(rig.results()), (Counters{.low = 1, .high = 1}));
+    EXPECT_EQ(filledBins(rig.results()), "4: 1, 20: 1");
 }
 
 TEST(RangeHours, ThatNoSingleHoldsAreAnOverflow)
 {
-    RangeBench bench;
-    bench.hours({50, 1e300});
-    EXPECT_THROW(bench.calculate(), Error);
-    EXPECT_EQ(bench.results().MidHours, 1);
+    RangeRig rig;
+    rig.hours({50, 1e300});
+    EXPECT_THROW(rig.calculate(), Error);
+    EXPECT_EQ(rig.results().MidHours, 1);
 }
 
 TEST(RangeHours, OverTheRangeAreNeitherAboveALimitNorReplaced)
 {
-    RangeBench bench;
-    bench.limits("20", "30").hours({150}, 35).calculate();
-    EXPECT_EQ(countersOf(bench.results()), Counters{.overRange = 1});
-    EXPECT_EQ(filledBins(bench.results()), "");
+    RangeRig rig;
+    rig.limits("20", "30").hours({150}, 35).calculate();
+    EXPECT_EQ(countersOf(rig.results()), Counters{.overRange = 1});
+    EXPECT_EQ(filledBins(rig.results()), "");
 }
 
 TEST(RangeHours, WithoutAnythingWrittenAreInvalidUnlessTheUnitIsOffline)
 {
     auto site = siteOfNOx();
     site->statusMeanings.clear();
-    RangeBench bench(site);
-    bench.hours({50}).calculate();
+    RangeRig rig(site);
+    rig.hours({50}).calculate();
     // Twelve quarters up to the first of 2024, a leap year.
-    EXPECT_EQ(bench.results().InvalidHours, (3 * 365 + 1) * 24 - 1);
+    EXPECT_EQ(rig.results().InvalidHours, (3 * 365 + 1) * 24 - 1);
 }
 
 TEST(RangeHours, OfANegativeRange)
 {
-    RangeBench bench;
-    bench.range("-10").hours({-10, -9, 0, 5}).limits("N/A", "N/A").calculate();
+    RangeRig rig;
+    rig.range("-10").hours({-10, -9, 0, 5}).limits("N/A", "N/A").calculate();
     // 20% of it is -2, 80% is -8: the value at the range lies below both.
-    EXPECT_EQ(countersOf(bench.results()), (Counters{.low = 1, .overRange = 3}));
-    EXPECT_EQ(filledBins(bench.results()), "20: 1");
+    EXPECT_EQ(countersOf(rig.results()), (Counters{.low = 1, .overRange = 3}));
+    EXPECT_EQ(filledBins(rig.results()), "20: 1");
 }
 
 TEST(RangeHours, OfAShiftedRangeFollowIt)
 {
-    RangeBench bench;
-    bench.range("2500").hours({125, 126, 500, 501, 2000, 2001, 2500, 2501}).calculate();
-    EXPECT_EQ(filledBins(bench.results()), "1: 1, 2: 1, 4: 1, 5: 1, 16: 1, 17: 1, 20: 1");
-    EXPECT_EQ(bench.results().LowHours, 3);
-    EXPECT_EQ(bench.results().MidHours, 2);
-    EXPECT_EQ(bench.results().HighHours, 2);
-    EXPECT_EQ(bench.results().OverRangeHours, 1);
+    RangeRig rig;
+    rig.range("2500").hours({125, 126, 500, 501, 2000, 2001, 2500, 2501}).calculate();
+    EXPECT_EQ(filledBins(rig.results()), "1: 1, 2: 1, 4: 1, 5: 1, 16: 1, 17: 1, 20: 1");
+    EXPECT_EQ(rig.results().LowHours, 3);
+    EXPECT_EQ(rig.results().MidHours, 2);
+    EXPECT_EQ(rig.results().HighHours, 2);
+    EXPECT_EQ(rig.results().OverRangeHours, 1);
 }
 
 } // namespace k7deval::test

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <optional>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 #include "support/PlacedText.h"
 
 #include <gtest/gtest.h>
@@ -30,8 +30,8 @@ constexpr double kValues = kMarks + 11.25;
 constexpr double kChartBottom = kValues + 11.25;
 
 /// The report of an evaluation with one low, two middle and three high hours.
-struct PageBench : RangeBench {
-    PageBench() { hours({10, 30, 30, 90, 90, 90}).limits("20", "N/A").calculate(); }
+struct PageRig : RangeRig {
+    PageRig() { hours({10, 30, 30, 90, 90, 90}).limits("20", "N/A").calculate(); }
 
     ReportDocument& build()
     {
@@ -65,8 +65,8 @@ void expectLine(const ReportLine& line, double x1, double y1, double x2, double 
 
 TEST(RangeReport, TellsWhoMadeItAndWhatItIs)
 {
-    PageBench bench;
-    const ReportDocument& document = bench.build();
+    PageRig rig;
+    const ReportDocument& document = rig.build();
     EXPECT_EQ(document.Author(), "Kelvo Range Evaluation");
     EXPECT_EQ(document.Creator(), "Kelvo Range Evaluation");
     EXPECT_EQ(document.Title(), "Range Evaluation");
@@ -75,172 +75,172 @@ TEST(RangeReport, TellsWhoMadeItAndWhatItIs)
 
 TEST(RangeReport, IsOneLandscapePage)
 {
-    PageBench bench;
-    EXPECT_EQ(bench.build().Pages().Count(), 1);
-    EXPECT_EQ(bench.page().Height(), 612);
-    EXPECT_EQ(bench.page().Width(), 792);
+    PageRig rig;
+    EXPECT_EQ(rig.build().Pages().Count(), 1);
+    EXPECT_EQ(rig.page().Height(), 612);
+    EXPECT_EQ(rig.page().Width(), 792);
 }
 
 TEST(RangeReport, TheFooterBearsTheTimeOfTheReport)
 {
-    PageBench bench;
-    expectText(bench.page(), {"Range Evaluation Summary 5/15/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
-    expectLine(bench.line(0), 36, 49.1, 756, 49.1);
-    EXPECT_FALSE(bench.line(0).isDashed());
-    bench.clock.set(makeDate(2024, 12, 31, 9, 5));
-    bench.build();
-    expectText(bench.page(), {"Range Evaluation Summary 12/31/2024 9:05 AM", 7, 8, 36, 41.7});
+    PageRig rig;
+    expectText(rig.page(), {"Range Evaluation Summary 5/15/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
+    expectLine(rig.line(0), 36, 49.1, 756, 49.1);
+    EXPECT_FALSE(rig.line(0).isDashed());
+    rig.clock.set(makeDate(2024, 12, 31, 9, 5));
+    rig.build();
+    expectText(rig.page(), {"Range Evaluation Summary 12/31/2024 9:05 AM", 7, 8, 36, 41.7});
 }
 
 TEST(RangeReport, TheTopRowsAreCentredOnTheirLine)
 {
-    PageBench bench;
-    expectText(bench.page(), {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
-    expectText(bench.page(), {"Range Evaluation Summary", 6, 12, 392 - 158.712 / 2, kHeading});
-    expectText(bench.page(),
+    PageRig rig;
+    expectText(rig.page(), {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
+    expectText(rig.page(), {"Range Evaluation Summary", 6, 12, 392 - 158.712 / 2, kHeading});
+    expectText(rig.page(),
                {"Range summary ending the last day of 2024 Q1", 6, 12, 392 - 269.424 / 2, kPeriod});
-    expectText(bench.page(), {"GT1 NOX", 6, 12, 392 - 52.68 / 2, kHeader});
+    expectText(rig.page(), {"GT1 NOX", 6, 12, 392 - 52.68 / 2, kHeader});
 }
 
 TEST(RangeReport, ALongerNameShiftsItsOwnRowAlone)
 {
-    PageBench bench;
-    bench.site->facilityName = "BethpageBethpage";
-    expectText(bench.page(), {"BethpageBethpage", 6, 14, 392 - 63.784, 563.05});
-    expectText(bench.page(), {"GT1 NOX", 6, 12, 392 - 52.68 / 2, kHeader});
-    expectText(bench.page(), {"16.7%", 5, 10, 108 - 28.35 / 2, kPercents});
+    PageRig rig;
+    rig.site->facilityName = "BethpageBethpage";
+    expectText(rig.page(), {"BethpageBethpage", 6, 14, 392 - 63.784, 563.05});
+    expectText(rig.page(), {"GT1 NOX", 6, 12, 392 - 52.68 / 2, kHeader});
+    expectText(rig.page(), {"16.7%", 5, 10, 108 - 28.35 / 2, kPercents});
 }
 
 TEST(RangeReport, AFacilityWithoutANameHasAStandIn)
 {
-    PageBench bench;
-    bench.site->facilityName.reset();
-    expectText(bench.page(), {"<Facility Name>", 6, 14, 392 - 106.61 / 2, 563.05});
+    PageRig rig;
+    rig.site->facilityName.reset();
+    expectText(rig.page(), {"<Facility Name>", 6, 14, 392 - 106.61 / 2, 563.05});
 }
 
 TEST(RangeReport, PercentsAndHoursStandOverTheirLevels)
 {
-    PageBench bench;
-    expectText(bench.page(), {"16.7%", 5, 10, 108 - 28.35 / 2, kPercents});
-    expectText(bench.page(), {"33.3%", 5, 10, 396 - 28.35 / 2, kPercents});
-    expectText(bench.page(), {"50.0%", 5, 10, 684 - 28.35 / 2, kPercents});
-    expectText(bench.page(), {"1 Hours", 5, 10, 108 - 35.01 / 2, kHours});
-    expectText(bench.page(), {"2 Hours", 5, 10, 396 - 35.01 / 2, kHours});
-    expectText(bench.page(), {"3 Hours", 5, 10, 684 - 35.01 / 2, kHours});
+    PageRig rig;
+    expectText(rig.page(), {"16.7%", 5, 10, 108 - 28.35 / 2, kPercents});
+    expectText(rig.page(), {"33.3%", 5, 10, 396 - 28.35 / 2, kPercents});
+    expectText(rig.page(), {"50.0%", 5, 10, 684 - 28.35 / 2, kPercents});
+    expectText(rig.page(), {"1 Hours", 5, 10, 108 - 35.01 / 2, kHours});
+    expectText(rig.page(), {"2 Hours", 5, 10, 396 - 35.01 / 2, kHours});
+    expectText(rig.page(), {"3 Hours", 5, 10, 684 - 35.01 / 2, kHours});
 }
 
 TEST(RangeReport, TheCountsStandAtTheBottomInTwoColumns)
 {
-    PageBench bench;
-    expectText(bench.page(), {"Hours over Range:  0", 5, 10, 36, kOverRange});
-    expectText(bench.page(), {"Hours above MPC:  N/A", 5, 10, 36, kAboveMPC});
-    expectText(bench.page(), {"Invalid Hours:  0", 5, 10, 396, kAboveMPC});
-    expectText(bench.page(), {"Hours above MEC:  5", 5, 10, 36, kAboveMEC});
-    expectText(bench.page(), {"Hours with 200% replacement:  0", 5, 10, 396, kAboveMEC});
+    PageRig rig;
+    expectText(rig.page(), {"Hours over Range:  0", 5, 10, 36, kOverRange});
+    expectText(rig.page(), {"Hours above MPC:  N/A", 5, 10, 36, kAboveMPC});
+    expectText(rig.page(), {"Invalid Hours:  0", 5, 10, 396, kAboveMPC});
+    expectText(rig.page(), {"Hours above MEC:  5", 5, 10, 36, kAboveMEC});
+    expectText(rig.page(), {"Hours with 200% replacement:  0", 5, 10, 396, kAboveMEC});
 }
 
 TEST(RangeReport, TheScaleStandsInTwoRowsUnderTheChart)
 {
-    PageBench bench;
-    expectText(bench.page(), {"Minimum", 5, 10, 36, kMarks});
-    expectText(bench.page(), {"20%", 5, 10, 180 - 20.01 / 2, kMarks});
-    expectText(bench.page(), {"80%", 5, 10, 612 - 20.01 / 2, kMarks});
-    expectText(bench.page(), {"Maximum", 5, 10, 756 - 43.33, kMarks});
-    expectText(bench.page(), {"0", 5, 10, 36, kValues});
-    expectText(bench.page(), {"20", 5, 10, 180 - kDigit, kValues});
-    expectText(bench.page(), {"80", 5, 10, 612 - kDigit, kValues});
-    expectText(bench.page(), {"100", 5, 10, 756 - 3 * kDigit, kValues});
+    PageRig rig;
+    expectText(rig.page(), {"Minimum", 5, 10, 36, kMarks});
+    expectText(rig.page(), {"20%", 5, 10, 180 - 20.01 / 2, kMarks});
+    expectText(rig.page(), {"80%", 5, 10, 612 - 20.01 / 2, kMarks});
+    expectText(rig.page(), {"Maximum", 5, 10, 756 - 43.33, kMarks});
+    expectText(rig.page(), {"0", 5, 10, 36, kValues});
+    expectText(rig.page(), {"20", 5, 10, 180 - kDigit, kValues});
+    expectText(rig.page(), {"80", 5, 10, 612 - kDigit, kValues});
+    expectText(rig.page(), {"100", 5, 10, 756 - 3 * kDigit, kValues});
 }
 
 TEST(RangeReport, HasNothingElseThanItsTextsAndTheHoursOfItsBars)
 {
-    PageBench bench;
-    EXPECT_EQ(countTexts(bench.page()), 1U + 4 + 6 + 5 + 8 + 3);
-    EXPECT_EQ(bench.page().Lines().Count(), 6);
-    EXPECT_EQ(bench.page().Rectangles().Count(), 20);
+    PageRig rig;
+    EXPECT_EQ(countTexts(rig.page()), 1U + 4 + 6 + 5 + 8 + 3);
+    EXPECT_EQ(rig.page().Lines().Count(), 6);
+    EXPECT_EQ(rig.page().Rectangles().Count(), 20);
 }
 
 TEST(RangeReport, TheGridStandsOnASolidBase)
 {
-    PageBench bench;
-    expectLine(bench.line(1), 36, kChartBottom, 756, kChartBottom);
-    EXPECT_FALSE(bench.line(1).isDashed());
+    PageRig rig;
+    expectLine(rig.line(1), 36, kChartBottom, 756, kChartBottom);
+    EXPECT_FALSE(rig.line(1).isDashed());
     const double marks[] = {36, 180, 612, 756};
     for (int mark = 0; mark < 4; ++mark) {
-        expectLine(bench.line(mark + 2), marks[mark], kChartTop, marks[mark], kChartBottom);
-        EXPECT_EQ(bench.line(mark + 2).Style(), 3) << mark;
+        expectLine(rig.line(mark + 2), marks[mark], kChartTop, marks[mark], kChartBottom);
+        EXPECT_EQ(rig.line(mark + 2).Style(), 3) << mark;
     }
 }
 
 TEST(RangeReport, TheBarsStandInTheScaleOfTheFullest)
 {
-    PageBench bench;
+    PageRig rig;
     for (int number = 1; number <= 20; ++number) {
-        const ReportRectangle& bar = bench.bar(number);
+        const ReportRectangle& bar = rig.bar(number);
         EXPECT_NEAR(bar.X(), 36 * number, 1e-3);
         EXPECT_NEAR(bar.Width(), 36, 1e-3);
         EXPECT_NEAR(bar.Y(), kChartBottom, 1e-3);
         EXPECT_EQ(bar.FillColor(), 0xB4B4B4);
         EXPECT_EQ(bar.LineColor(), 0xB4B4B4);
     }
-    EXPECT_NEAR(bench.bar(1).Height(), 0, 1e-6);
-    EXPECT_NEAR(bench.bar(2).Height(), (kChartTop - kChartBottom) / 3, 1e-3);
-    EXPECT_NEAR(bench.bar(6).Height(), (kChartTop - kChartBottom) * 2 / 3, 1e-3);
-    EXPECT_NEAR(bench.bar(18).Height(), kChartTop - kChartBottom, 1e-3);
+    EXPECT_NEAR(rig.bar(1).Height(), 0, 1e-6);
+    EXPECT_NEAR(rig.bar(2).Height(), (kChartTop - kChartBottom) / 3, 1e-3);
+    EXPECT_NEAR(rig.bar(6).Height(), (kChartTop - kChartBottom) * 2 / 3, 1e-3);
+    EXPECT_NEAR(rig.bar(18).Height(), kChartTop - kChartBottom, 1e-3);
 }
 
 TEST(RangeReport, TheHoursStandUprightAtTheirBars)
 {
-    PageBench bench;
+    PageRig rig;
     const double middle = 18 + kHeight / 2;
     const double full = kChartTop - kChartBottom;
-    expectText(bench.page(), {"1", 5, 10, 2 * 36 + middle, kChartBottom + full / 3 + 1});
-    expectText(bench.page(), {"2", 5, 10, 6 * 36 + middle, kChartBottom + full * 2 / 3 + 1});
-    expectText(bench.page(), {"3", 5, 10, 18 * 36 + middle, kChartTop - kDigit - 1});
+    expectText(rig.page(), {"1", 5, 10, 2 * 36 + middle, kChartBottom + full / 3 + 1});
+    expectText(rig.page(), {"2", 5, 10, 6 * 36 + middle, kChartBottom + full * 2 / 3 + 1});
+    expectText(rig.page(), {"3", 5, 10, 18 * 36 + middle, kChartTop - kDigit - 1});
     int upright = 0;
-    for (const ReportTextItem& item : bench.page().TextItems())
+    for (const ReportTextItem& item : rig.page().TextItems())
         upright += item.readsUpward() ? 1 : 0;
     EXPECT_EQ(upright, 3);
 }
 
 TEST(RangeReport, WithoutHoursInTheRangeTheGridStandsAlone)
 {
-    PageBench bench;
-    bench.hours({150}).range("100").calculate();
-    EXPECT_EQ(bench.page().Rectangles().Count(), 0);
-    EXPECT_EQ(bench.page().Lines().Count(), 6);
-    EXPECT_EQ(countTexts(bench.page()), 24U);
+    PageRig rig;
+    rig.hours({150}).range("100").calculate();
+    EXPECT_EQ(rig.page().Rectangles().Count(), 0);
+    EXPECT_EQ(rig.page().Lines().Count(), 6);
+    EXPECT_EQ(countTexts(rig.page()), 24U);
     // Hyphens are 333 wide: five of them are 16.65.
-    expectText(bench.page(), {"-----", 5, 10, 108 - 16.65 / 2, kPercents});
-    expectText(bench.page(), {"0 Hours", 5, 10, 108 - 35.01 / 2, kHours});
-    expectText(bench.page(), {"Hours over Range:  1", 5, 10, 36, kOverRange});
+    expectText(rig.page(), {"-----", 5, 10, 108 - 16.65 / 2, kPercents});
+    expectText(rig.page(), {"0 Hours", 5, 10, 108 - 35.01 / 2, kHours});
+    expectText(rig.page(), {"Hours over Range:  1", 5, 10, 36, kOverRange});
 }
 
 TEST(RangeReport, NamesTheQuarterOfTheListsAlsoOneThatWasNotEvaluated)
 {
-    PageBench bench;
-    bench.tool.cmbQTR.Pick(3);
-    bench.tool.cmbYear.Pick(2);
-    const auto row = textsAt(bench.page(), kPeriod);
+    PageRig rig;
+    rig.tool.cmbQTR.Pick(3);
+    rig.tool.cmbYear.Pick(2);
+    const auto row = textsAt(rig.page(), kPeriod);
     EXPECT_EQ(row, Lines{"Range summary ending the last day of 2022 Q4"});
-    expectText(bench.page(), {"1 Hours", 5, 10, 108 - 35.01 / 2, kHours});
+    expectText(rig.page(), {"1 Hours", 5, 10, 108 - 35.01 / 2, kHours});
 }
 
 TEST(RangeReport, TakesTheTextsOfTheScreenAsTheyStand)
 {
-    PageBench bench;
-    bench.tool.chkMEC.Press();
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(textsAt(bench.page(), kAboveMEC),
+    PageRig rig;
+    rig.tool.chkMEC.Press();
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(textsAt(rig.page(), kAboveMEC),
               (Lines{"Hours above MEC:  5", "Hours with 200% replacement:  0"}));
-    EXPECT_EQ(textsAt(bench.page(), kHeader), Lines{"GT1 NOX"});
+    EXPECT_EQ(textsAt(rig.page(), kHeader), Lines{"GT1 NOX"});
 }
 
 TEST(RangeReport, IsWrittenAsTheRegionDoes)
 {
-    RangeBench bench(siteOfNOx(), makeDate(2024, 5, 15, 14, 30), "de-DE");
-    bench.range("12,5").hours({1, 5, 12}).calculate();
-    const auto document = bench.tool.buildReport();
+    RangeRig rig(siteOfNOx(), makeDate(2024, 5, 15, 14, 30), "de-DE");
+    rig.range("12,5").hours({1, 5, 12}).calculate();
+    const auto document = rig.tool.buildReport();
     const ReportPage& page = *document->Pages().begin();
     EXPECT_EQ(textsAt(page, kValues), (Lines{"0", "2,5", "10", "12,5"}));
     EXPECT_EQ(textsAt(page, kPercents), (Lines{"33,3%", "33,3%", "33,3%"}));
@@ -249,12 +249,12 @@ TEST(RangeReport, IsWrittenAsTheRegionDoes)
 
 TEST(RangeReport, NeedsTheDataOfItsSite)
 {
-    PageBench bench;
-    failAt(*bench.site, "DILookups.Find");
-    EXPECT_THROW(bench.build(), Error);
-    bench.site->failure = nullptr;
-    bench.tool.Terminate();
-    EXPECT_THROW(bench.build(), Error);
+    PageRig rig;
+    failAt(*rig.site, "DILookups.Find");
+    EXPECT_THROW(rig.build(), Error);
+    rig.site->failure = nullptr;
+    rig.tool.Terminate();
+    EXPECT_THROW(rig.build(), Error);
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 #include "support/PdfImage.h"
 #include "support/PdfText.h"
 #include "support/TemporaryFolder.h"
@@ -23,8 +23,8 @@ constexpr double kBottom = 117.7;
 constexpr double kTop = 480.75;
 
 /// The saved report of one low, 250 middle and 500 high hours.
-struct PdfBench : RangeBench {
-    PdfBench()
+struct PdfRig : RangeRig {
+    PdfRig()
     {
         hours({10});
         series().fill(makeDate(2024, 1, 2), makeDate(2024, 1, 12, 9), 30);
@@ -46,9 +46,9 @@ double middleOf(const PdfWord& word)
 
 TEST(RangeReportPdf, IsAValidFileWithItsInformation)
 {
-    const PdfBench bench;
-    EXPECT_NO_THROW(testing::requireValidPdf(bench.path));
-    auto information = testing::pdfInformation(bench.path);
+    const PdfRig rig;
+    EXPECT_NO_THROW(testing::requireValidPdf(rig.path));
+    auto information = testing::pdfInformation(rig.path);
     EXPECT_EQ(information["Title"], "Range Evaluation");
     EXPECT_EQ(information["Subject"], "Range Evaluation");
     EXPECT_EQ(information["Author"], "Kelvo Range Evaluation");
@@ -58,8 +58,8 @@ TEST(RangeReportPdf, IsAValidFileWithItsInformation)
 
 TEST(RangeReportPdf, HasItsWordsInTheirPlaces)
 {
-    const PdfBench bench;
-    const auto pages = testing::pdfPages(bench.path);
+    const PdfRig rig;
+    const auto pages = testing::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 1U);
     const PdfPage& page = pages[0];
     EXPECT_EQ(page.width, 792);
@@ -76,8 +76,8 @@ TEST(RangeReportPdf, HasItsWordsInTheirPlaces)
 
 TEST(RangeReportPdf, ReadsAsTheScreen)
 {
-    const PdfBench bench;
-    const std::string text = testing::pdfPlainText(bench.path);
+    const PdfRig rig;
+    const std::string text = testing::pdfPlainText(rig.path);
     for (const char* words :
          {"Range Evaluation Summary", "Range summary ending the last day of 2024 Q1", "GT1 NOX",
           "1 Hours", "250 Hours", "500 Hours",
@@ -88,8 +88,8 @@ TEST(RangeReportPdf, ReadsAsTheScreen)
 
 TEST(RangeReportPdf, TheBarsAreGreyAndAsHighAsTheirHours)
 {
-    const PdfBench bench;
-    const PdfImage image = PdfImage::render(bench.path);
+    const PdfRig rig;
+    const PdfImage image = PdfImage::render(rig.path);
     // Of the bars at 25 to 30% and 85 to 90%: half and full height, in the left of each.
     const double middle = (kBottom + kTop) / 2;
     EXPECT_NEAR(image.at(6 * 36 + 6, middle - 3).brightness(), kBarGrey, 2);
@@ -101,8 +101,8 @@ TEST(RangeReportPdf, TheBarsAreGreyAndAsHighAsTheirHours)
 
 TEST(RangeReportPdf, TheHoursStandUprightAboveTheirBarOrInsideIt)
 {
-    const PdfBench bench;
-    const PdfImage image = PdfImage::render(bench.path);
+    const PdfRig rig;
+    const PdfImage image = PdfImage::render(rig.path);
     const double middle = (kBottom + kTop) / 2;
     // Three digits are 16.68 long; the text lies around the middle of its bar.
     EXPECT_LT(image.darkest(6 * 36 + 12, middle + 2, 7 * 36 - 12, middle + 17), 80);
@@ -113,8 +113,8 @@ TEST(RangeReportPdf, TheHoursStandUprightAboveTheirBarOrInsideIt)
 
 TEST(RangeReportPdf, TheMarksAreDashedAndTheBaseIsSolid)
 {
-    const PdfBench bench;
-    const PdfImage image = PdfImage::render(bench.path);
+    const PdfRig rig;
+    const PdfImage image = PdfImage::render(rig.path);
     for (const double x : {36.0, 180.0, 612.0, 756.0}) {
         int dark = 0;
         int light = 0;
@@ -129,11 +129,11 @@ TEST(RangeReportPdf, TheMarksAreDashedAndTheBaseIsSolid)
 
 TEST(RangeReportPdf, KeepsAFacilityNameOfAnyScript)
 {
-    PdfBench bench;
-    bench.site->facilityName = "Kraftwerk Łódź";
-    bench.services.answers = {screen::MsgBoxAnswer::Yes};
-    bench.tool.cmdSave.Press();
-    EXPECT_NE(testing::pdfPlainText(bench.path).find("Kraftwerk Łódź"), std::string::npos);
+    PdfRig rig;
+    rig.site->facilityName = "Kraftwerk Łódź";
+    rig.services.answers = {screen::MsgBoxAnswer::Yes};
+    rig.tool.cmdSave.Press();
+    EXPECT_NE(testing::pdfPlainText(rig.path).find("Kraftwerk Łódź"), std::string::npos);
 }
 
 } // namespace k7deval::test

@@ -1,5 +1,5 @@
 #include "foundation/UtilityFunctions.h"
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -26,8 +26,8 @@ Date quarterStart(int quartersBack)
 }
 
 /// The tool with so many hours at the beginning of quarters.
-struct WalkBench : RangeBench {
-    explicit WalkBench(const std::vector<QuarterHours>& quarters)
+struct WalkRig : RangeRig {
+    explicit WalkRig(const std::vector<QuarterHours>& quarters)
     {
         for (const QuarterHours& quarter : quarters) {
             const Date start = quarterStart(quarter.quartersBack);
@@ -87,40 +87,40 @@ std::vector<WalkCase> walkCases()
 TEST(RangeWalk, GoesBackUntilBothMinimaAreMetOrTwelveQuartersAreRead)
 {
     for (const WalkCase& row : walkCases()) {
-        const WalkBench bench(row.quarters);
-        EXPECT_EQ(bench.quartersRead(), row.read) << row.what;
-        EXPECT_EQ(bench.results().MidHours, row.midHours) << row.what;
-        EXPECT_FALSE(bench.tool.NeedsEvaluation()) << row.what;
+        const WalkRig rig(row.quarters);
+        EXPECT_EQ(rig.quartersRead(), row.read) << row.what;
+        EXPECT_EQ(rig.results().MidHours, row.midHours) << row.what;
+        EXPECT_FALSE(rig.tool.NeedsEvaluation()) << row.what;
     }
 }
 
 TEST(RangeWalk, HoursOverTheRangeCountForBothMinima)
 {
-    const WalkBench bench({{0, 400, 150}, {1, 300, 150}, {2, 20, 150}, {3, 1, 150}, {4, 9, 150}});
-    EXPECT_EQ(bench.quartersRead(), 4U);
-    EXPECT_EQ(bench.results().OverRangeHours, 721);
+    const WalkRig rig({{0, 400, 150}, {1, 300, 150}, {2, 20, 150}, {3, 1, 150}, {4, 9, 150}});
+    EXPECT_EQ(rig.quartersRead(), 4U);
+    EXPECT_EQ(rig.results().OverRangeHours, 721);
 }
 
 TEST(RangeWalk, HoursThatCannotBeUsedMakeNoQuarterAnOperatingOne)
 {
     // Word 1 excludes an hour, word 2 marks it off-line.
-    const WalkBench bench(
+    const WalkRig rig(
         {{0, 2000}, {1, 2000, 50, 1}, {2, 2000, 50, 2}, {3, 2000}, {4, 2000}, {5, 2000}});
-    EXPECT_EQ(bench.quartersRead(), 6U);
-    EXPECT_EQ(bench.results().InvalidHours, 2000);
-    EXPECT_EQ(bench.results().MidHours, 8000);
+    EXPECT_EQ(rig.quartersRead(), 6U);
+    EXPECT_EQ(rig.results().InvalidHours, 2000);
+    EXPECT_EQ(rig.results().MidHours, 8000);
 }
 
 TEST(RangeWalk, InvalidHoursOfEmptyQuartersAreCountedToo)
 {
-    const WalkBench bench({{5, 10, 50, 1}});
-    EXPECT_EQ(bench.quartersRead(), 12U);
-    EXPECT_EQ(bench.results().InvalidHours, 10);
+    const WalkRig rig({{5, 10, 50, 1}});
+    EXPECT_EQ(rig.quartersRead(), 12U);
+    EXPECT_EQ(rig.results().InvalidHours, 10);
 }
 
 TEST(RangeWalk, AsksForEachQuarterAsAWhole)
 {
-    const WalkBench bench(evenly(12, 90));
+    const WalkRig rig(evenly(12, 90));
     const std::vector<ReadRequest> expected{
         {kNOx, makeDate(2024, 1, 1), 91 * 24}, {kNOx, makeDate(2023, 10, 1), 92 * 24},
         {kNOx, makeDate(2023, 7, 1), 92 * 24}, {kNOx, makeDate(2023, 4, 1), 91 * 24},
@@ -128,43 +128,43 @@ TEST(RangeWalk, AsksForEachQuarterAsAWhole)
         {kNOx, makeDate(2022, 7, 1), 92 * 24}, {kNOx, makeDate(2022, 4, 1), 91 * 24},
         {kNOx, makeDate(2022, 1, 1), 90 * 24},
     };
-    EXPECT_EQ(bench.site->reads, expected);
+    EXPECT_EQ(rig.site->reads, expected);
 }
 
 TEST(RangeWalk, UsesOneDataSet)
 {
-    const WalkBench bench({});
-    EXPECT_EQ(bench.site->readSets.size(), 12U);
+    const WalkRig rig({});
+    EXPECT_EQ(rig.site->readSets.size(), 12U);
     EXPECT_EQ(
-        std::set<const DIDataSet*>(bench.site->readSets.begin(), bench.site->readSets.end()).size(),
+        std::set<const DIDataSet*>(rig.site->readSets.begin(), rig.site->readSets.end()).size(),
         1U);
 }
 
 TEST(RangeWalk, TheFirstAndTheLastHourOfAQuarterBelongToIt)
 {
-    RangeBench bench;
-    bench.series().fill(makeDate(2023, 12, 31, 23), makeDate(2023, 12, 31, 23), 10);
-    bench.series().fill(makeDate(2024, 1, 1), makeDate(2024, 1, 1), 50);
-    bench.series().fill(makeDate(2024, 3, 31, 23), makeDate(2024, 3, 31, 23), 50);
-    bench.series().fill(makeDate(2024, 4, 1), makeDate(2024, 4, 1), 90);
-    bench.calculate();
-    EXPECT_EQ(bench.results().LowHours, 1);
-    EXPECT_EQ(bench.results().MidHours, 2);
-    EXPECT_EQ(bench.results().HighHours, 0) << "the second quarter is not read";
+    RangeRig rig;
+    rig.series().fill(makeDate(2023, 12, 31, 23), makeDate(2023, 12, 31, 23), 10);
+    rig.series().fill(makeDate(2024, 1, 1), makeDate(2024, 1, 1), 50);
+    rig.series().fill(makeDate(2024, 3, 31, 23), makeDate(2024, 3, 31, 23), 50);
+    rig.series().fill(makeDate(2024, 4, 1), makeDate(2024, 4, 1), 90);
+    rig.calculate();
+    EXPECT_EQ(rig.results().LowHours, 1);
+    EXPECT_EQ(rig.results().MidHours, 2);
+    EXPECT_EQ(rig.results().HighHours, 0) << "the second quarter is not read";
 }
 
 TEST(RangeWalk, BeginsWithTheQuarterThatIsPicked)
 {
-    RangeBench bench;
-    bench.series().fill(makeDate(2022, 1, 1), makeDate(2024, 12, 31, 23), 50);
+    RangeRig rig;
+    rig.series().fill(makeDate(2022, 1, 1), makeDate(2024, 12, 31, 23), 50);
     for (const auto& [quarter, start] : {std::pair(0, makeDate(2023, 1, 1)),
                                          {1, makeDate(2023, 4, 1)},
                                          {2, makeDate(2023, 7, 1)},
                                          {3, makeDate(2023, 10, 1)}}) {
-        bench.tool.cmbYear.Type("2023");
-        bench.tool.cmbQTR.Pick(quarter);
-        bench.range("100").calculate();
-        const auto reads = bench.takeReads();
+        rig.tool.cmbYear.Type("2023");
+        rig.tool.cmbQTR.Pick(quarter);
+        rig.range("100").calculate();
+        const auto reads = rig.takeReads();
         ASSERT_EQ(reads.size(), 4U);
         EXPECT_EQ(reads[0].start, start) << quarter;
         EXPECT_EQ(reads[3].start, DateAddExact("m", -9, start)) << quarter;
@@ -173,46 +173,46 @@ TEST(RangeWalk, BeginsWithTheQuarterThatIsPicked)
 
 TEST(RangeWalk, BeginsWithAYearThatIsNotInTheList)
 {
-    RangeBench bench;
-    bench.tool.cmbYear.Type("1998");
-    bench.calculate();
-    EXPECT_EQ(bench.site->reads.front().start, makeDate(1998, 1, 1));
-    EXPECT_EQ(bench.tool.cmbYear.Text(), "1998");
+    RangeRig rig;
+    rig.tool.cmbYear.Type("1998");
+    rig.calculate();
+    EXPECT_EQ(rig.site->reads.front().start, makeDate(1998, 1, 1));
+    EXPECT_EQ(rig.tool.cmbYear.Text(), "1998");
 }
 
 TEST(RangeWalk, WithAYearThatIsNoneBeginsInThePresentOneAndShowsIt)
 {
     for (const char* text : {"abc", "", "99", "10000", "2020.5"}) {
-        RangeBench bench;
-        bench.tool.cmbYear.Type(text);
-        bench.calculate();
-        EXPECT_EQ(bench.site->reads.front().start, makeDate(2024, 1, 1)) << text;
-        EXPECT_EQ(bench.tool.cmbYear.Text(), "2024") << text;
-        EXPECT_FALSE(bench.tool.NeedsEvaluation()) << text;
-        EXPECT_TRUE(bench.tool.cmdSave.Enabled()) << text;
-        EXPECT_FALSE(isCleared(bench.tool)) << text;
+        RangeRig rig;
+        rig.tool.cmbYear.Type(text);
+        rig.calculate();
+        EXPECT_EQ(rig.site->reads.front().start, makeDate(2024, 1, 1)) << text;
+        EXPECT_EQ(rig.tool.cmbYear.Text(), "2024") << text;
+        EXPECT_FALSE(rig.tool.NeedsEvaluation()) << text;
+        EXPECT_TRUE(rig.tool.cmdSave.Enabled()) << text;
+        EXPECT_FALSE(isCleared(rig.tool)) << text;
     }
 }
 
 TEST(RangeWalk, WithoutAQuarterBeginsWithTheFirst)
 {
-    RangeBench bench(siteOfNOx(), makeDate(2024, 8, 1));
-    ASSERT_EQ(bench.tool.cmbQTR.Text(), "Q2");
-    bench.tool.cmbQTR.SetListIndex(-1);
-    bench.calculate();
-    EXPECT_EQ(bench.site->reads.front().start, makeDate(2024, 1, 1));
-    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q1");
+    RangeRig rig(siteOfNOx(), makeDate(2024, 8, 1));
+    ASSERT_EQ(rig.tool.cmbQTR.Text(), "Q2");
+    rig.tool.cmbQTR.SetListIndex(-1);
+    rig.calculate();
+    EXPECT_EQ(rig.site->reads.front().start, makeDate(2024, 1, 1));
+    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q1");
 }
 
 TEST(RangeWalk, ReadsTheParameterThatIsPicked)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.cmbParam.Pick(1);
-    bench.calculate();
-    EXPECT_EQ(bench.takeReads().front().pid, 123017500);
-    bench.tool.cmbUnit.Pick(1);
-    bench.calculate();
-    EXPECT_EQ(bench.takeReads().front().pid, 212017500);
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.cmbParam.Pick(1);
+    rig.calculate();
+    EXPECT_EQ(rig.takeReads().front().pid, 123017500);
+    rig.tool.cmbUnit.Pick(1);
+    rig.calculate();
+    EXPECT_EQ(rig.takeReads().front().pid, 212017500);
 }
 
 } // namespace k7deval::test

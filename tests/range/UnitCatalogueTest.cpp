@@ -1,7 +1,7 @@
 #include "range/UnitCatalogue.h"
 
 #include "foundation/ExpectError.h"
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 #include "range/ServerOfRecords.h"
 
 #include <gtest/gtest.h>

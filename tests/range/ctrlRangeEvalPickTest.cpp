@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -58,173 +58,173 @@ const SpanTextCase kSpanTexts[] = {
 
 TEST(RangePick, AUnitBringsItsParametersAndTheirFirstScale)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"NOX"});
-    EXPECT_EQ(bench.tool.cmbParam.ItemData(), 212017500);
-    EXPECT_EQ(bench.tool.cmbScale.List(), Lines{"MID"});
-    EXPECT_EQ(bench.tool.cmbScale.ItemData(), 2);
-    EXPECT_EQ(bench.tool.txtRange.Text(), "250");
-    EXPECT_EQ(bench.results().RangeValue, 250);
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.tool.cmbParam.List(), (Lines{"NOX", "CO2"}));
-    EXPECT_EQ(bench.tool.txtRange.Text(), "50");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"NOX"});
+    EXPECT_EQ(rig.tool.cmbParam.ItemData(), 212017500);
+    EXPECT_EQ(rig.tool.cmbScale.List(), Lines{"MID"});
+    EXPECT_EQ(rig.tool.cmbScale.ItemData(), 2);
+    EXPECT_EQ(rig.tool.txtRange.Text(), "250");
+    EXPECT_EQ(rig.results().RangeValue, 250);
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"NOX", "CO2"}));
+    EXPECT_EQ(rig.tool.txtRange.Text(), "50");
 }
 
 TEST(RangePick, AParameterBringsItsScales)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.cmbParam.Pick(1);
-    EXPECT_EQ(bench.tool.cmbScale.List(), Lines{"SINGLE"});
-    EXPECT_EQ(bench.tool.txtRange.Text(), "20");
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "N/A");
-    EXPECT_EQ(bench.tool.cmbUnit.Text(), "GT1");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.cmbParam.Pick(1);
+    EXPECT_EQ(rig.tool.cmbScale.List(), Lines{"SINGLE"});
+    EXPECT_EQ(rig.tool.txtRange.Text(), "20");
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "N/A");
+    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT1");
 }
 
 TEST(RangePick, AScaleBringsItsSpan)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.cmbScale.Pick(1);
-    EXPECT_EQ(bench.tool.txtRange.Text(), "500");
-    EXPECT_EQ(bench.results().RangeValue, 500);
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "N/A");
-    EXPECT_EQ(bench.tool.txtMPC.Text(), "500");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.cmbScale.Pick(1);
+    EXPECT_EQ(rig.tool.txtRange.Text(), "500");
+    EXPECT_EQ(rig.results().RangeValue, 500);
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "N/A");
+    EXPECT_EQ(rig.tool.txtMPC.Text(), "500");
 }
 
 TEST(RangePick, ProposesTheLimitsOfParameterAndScale)
 {
     for (const LimitCase& row : kLimits) {
-        const RangeBench bench(siteOfCode(row.code, row.scale, 500.0F));
-        EXPECT_EQ(bench.tool.txtMEC.Text(), row.mec) << row.code << " " << row.scale;
-        EXPECT_EQ(bench.tool.txtMPC.Text(), row.mpc) << row.code << " " << row.scale;
-        EXPECT_EQ(bench.tool.chkMEC.isChecked(), std::string(row.mec) != "N/A") << row.code;
-        EXPECT_EQ(bench.tool.chkMPC.isChecked(), std::string(row.mpc) != "N/A") << row.code;
+        const RangeRig rig(siteOfCode(row.code, row.scale, 500.0F));
+        EXPECT_EQ(rig.tool.txtMEC.Text(), row.mec) << row.code << " " << row.scale;
+        EXPECT_EQ(rig.tool.txtMPC.Text(), row.mpc) << row.code << " " << row.scale;
+        EXPECT_EQ(rig.tool.chkMEC.isChecked(), std::string(row.mec) != "N/A") << row.code;
+        EXPECT_EQ(rig.tool.chkMPC.isChecked(), std::string(row.mpc) != "N/A") << row.code;
     }
 }
 
 TEST(RangePick, ShowsTheRangeAsASingleAndAFifthOfItAsADouble)
 {
     for (const SpanTextCase& row : kSpanTexts) {
-        const RangeBench bench(siteOfCode(120, "LOW", row.span));
-        EXPECT_EQ(bench.tool.txtRange.Text(), row.range);
-        EXPECT_EQ(bench.tool.txtMEC.Text(), row.mec) << row.range;
-        EXPECT_EQ(bench.tool.txtMPC.Text(), row.range);
+        const RangeRig rig(siteOfCode(120, "LOW", row.span));
+        EXPECT_EQ(rig.tool.txtRange.Text(), row.range);
+        EXPECT_EQ(rig.tool.txtMEC.Text(), row.mec) << row.range;
+        EXPECT_EQ(rig.tool.txtMPC.Text(), row.range);
     }
 }
 
 TEST(RangePick, WritesNumbersAsTheRegionDoes)
 {
-    const RangeBench bench(siteOfCode(120, "LOW", 12.5F), makeDate(2024, 5, 15), "de-DE");
-    EXPECT_EQ(bench.tool.txtRange.Text(), "12,5");
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "2,5");
-    EXPECT_EQ(bench.tool.txtMPC.Text(), "12,5");
+    const RangeRig rig(siteOfCode(120, "LOW", 12.5F), makeDate(2024, 5, 15), "de-DE");
+    EXPECT_EQ(rig.tool.txtRange.Text(), "12,5");
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "2,5");
+    EXPECT_EQ(rig.tool.txtMPC.Text(), "12,5");
 }
 
 TEST(RangePick, OfTheScaleThatIsPickedAlreadyBringsItsProposalsBack)
 {
-    RangeBench bench;
-    bench.range("7").limits("1", "2");
-    bench.tool.chkMEC.Press();
-    bench.tool.cmbScale.Pick(0);
-    EXPECT_EQ(bench.tool.txtRange.Text(), "100");
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "20");
-    EXPECT_EQ(bench.tool.txtMPC.Text(), "100");
-    EXPECT_TRUE(bench.tool.chkMEC.isChecked());
-    EXPECT_EQ(bench.results().RangeValue, 100);
+    RangeRig rig;
+    rig.range("7").limits("1", "2");
+    rig.tool.chkMEC.Press();
+    rig.tool.cmbScale.Pick(0);
+    EXPECT_EQ(rig.tool.txtRange.Text(), "100");
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "20");
+    EXPECT_EQ(rig.tool.txtMPC.Text(), "100");
+    EXPECT_TRUE(rig.tool.chkMEC.isChecked());
+    EXPECT_EQ(rig.results().RangeValue, 100);
 }
 
 TEST(RangePick, OfAPercentGasTakesTheLimitsOfTheGasBeforeAway)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.cmbParam.Pick(1);
-    EXPECT_FALSE(bench.tool.chkMEC.isChecked());
-    EXPECT_FALSE(bench.tool.chkMPC.isChecked());
-    bench.tool.cmbParam.Pick(0);
-    EXPECT_TRUE(bench.tool.chkMEC.isChecked());
-    EXPECT_TRUE(bench.tool.chkMPC.isChecked());
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "10");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.cmbParam.Pick(1);
+    EXPECT_FALSE(rig.tool.chkMEC.isChecked());
+    EXPECT_FALSE(rig.tool.chkMPC.isChecked());
+    rig.tool.cmbParam.Pick(0);
+    EXPECT_TRUE(rig.tool.chkMEC.isChecked());
+    EXPECT_TRUE(rig.tool.chkMPC.isChecked());
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "10");
 }
 
 TEST(RangeShowPID, WritesThePIDAheadOfEachParameterAndTakesItAwayAgain)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.cmbParam.Pick(1);
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(), (Lines{"[1-120-1-75-00] NOX", "[1-230-1-75-00] CO2"}));
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "[1-230-1-75-00] CO2");
-    EXPECT_EQ(bench.tool.cmbParam.ListIndex(), 1);
-    EXPECT_EQ(bench.tool.cmbParam.ItemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    bench.tool.chkShowPID.Press();
-    EXPECT_EQ(bench.tool.cmbParam.List(), (Lines{"NOX", "CO2"}));
-    EXPECT_EQ(bench.tool.cmbParam.Text(), "CO2");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.cmbParam.Pick(1);
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"[1-120-1-75-00] NOX", "[1-230-1-75-00] CO2"}));
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-230-1-75-00] CO2");
+    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 1);
+    EXPECT_EQ(rig.tool.cmbParam.ItemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    rig.tool.chkShowPID.Press();
+    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"NOX", "CO2"}));
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "CO2");
 }
 
 TEST(RangeShowPID, HoldsForTheNextUnitToo)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.chkShowPID.Press();
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.cmbParam.List(), Lines{"[2-120-1-75-00] NOX"});
-    EXPECT_EQ(bench.tool.cmbUnit.Text(), "GT2");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.chkShowPID.Press();
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"[2-120-1-75-00] NOX"});
+    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT2");
 }
 
 TEST(RangeShowPID, ChangesTheListAndNothingElse)
 {
-    RangeBench bench;
-    bench.hours({50}).calculate();
+    RangeRig rig;
+    rig.hours({50}).calculate();
     EXPECT_EQ(
-        bench.changesBy([&] { bench.tool.chkShowPID.Press(); }),
+        rig.changesBy([&] { rig.tool.chkShowPID.Press(); }),
         (Lines{"chkShowPID.Value: 0 -> 1", "cmbParam.List: [\"NOX\"] -> [\"[1-120-1-75-00] NOX\"]",
                "cmbParam.Text: \"NOX\" -> \"[1-120-1-75-00] NOX\""}));
-    EXPECT_FALSE(bench.tool.NeedsEvaluation());
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    EXPECT_FALSE(rig.tool.NeedsEvaluation());
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(RangeValidation, ANumberIsTheNewRange)
 {
-    RangeBench bench;
-    bench.range("62.5");
-    EXPECT_EQ(bench.results().RangeValue, 62.5F);
-    EXPECT_EQ(bench.tool.txtRange.Text(), "62.5");
-    bench.range(" -1E2 ");
-    EXPECT_EQ(bench.results().RangeValue, -100);
-    EXPECT_EQ(bench.tool.txtRange.Text(), " -1E2 ") << "the text stays as it was typed";
+    RangeRig rig;
+    rig.range("62.5");
+    EXPECT_EQ(rig.results().RangeValue, 62.5F);
+    EXPECT_EQ(rig.tool.txtRange.Text(), "62.5");
+    rig.range(" -1E2 ");
+    EXPECT_EQ(rig.results().RangeValue, -100);
+    EXPECT_EQ(rig.tool.txtRange.Text(), " -1E2 ") << "the text stays as it was typed";
 }
 
 TEST(RangeValidation, TheRangeIsASingle)
 {
-    RangeBench bench;
-    bench.range("33.30000001");
-    EXPECT_EQ(bench.results().RangeValue, 33.3F);
+    RangeRig rig;
+    rig.range("33.30000001");
+    EXPECT_EQ(rig.results().RangeValue, 33.3F);
 }
 
 TEST(RangeValidation, AnyOtherTextIsReplacedByTheLastGoodValue)
 {
-    RangeBench bench;
-    bench.range("62.5");
+    RangeRig rig;
+    rig.range("62.5");
     for (const char* text : {"abc", "", "12 5", "1..2", "&H10"}) {
-        bench.range(text);
-        EXPECT_EQ(bench.tool.txtRange.Text(), "62.5") << text;
-        EXPECT_EQ(bench.results().RangeValue, 62.5F) << text;
+        rig.range(text);
+        EXPECT_EQ(rig.tool.txtRange.Text(), "62.5") << text;
+        EXPECT_EQ(rig.results().RangeValue, 62.5F) << text;
     }
 }
 
 TEST(RangeValidation, ReadsAndWritesAsTheRegionDoes)
 {
-    RangeBench bench(siteOfNOx(), makeDate(2024, 5, 15), "de-DE");
-    bench.range("62,5");
-    EXPECT_EQ(bench.results().RangeValue, 62.5F);
-    bench.range("abc");
-    EXPECT_EQ(bench.tool.txtRange.Text(), "62,5");
+    RangeRig rig(siteOfNOx(), makeDate(2024, 5, 15), "de-DE");
+    rig.range("62,5");
+    EXPECT_EQ(rig.results().RangeValue, 62.5F);
+    rig.range("abc");
+    EXPECT_EQ(rig.tool.txtRange.Text(), "62,5");
 }
 
 TEST(RangeValidation, DoesNotTouchTheProposedLimits)
 {
-    RangeBench bench;
-    bench.range("62.5");
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "20");
-    EXPECT_EQ(bench.tool.txtMPC.Text(), "100");
+    RangeRig rig;
+    rig.range("62.5");
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "20");
+    EXPECT_EQ(rig.tool.txtMPC.Text(), "100");
 }
 
 } // namespace k7deval::test

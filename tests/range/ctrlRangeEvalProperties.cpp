@@ -87,9 +87,9 @@ struct Action {
 };
 
 /// Changes of the inputs; most of them are noticed.
-void changeInput(RangeBench& bench, Expected& expected, const Action& action)
+void changeInput(RangeRig& rig, Expected& expected, const Action& action)
 {
-    ctrlRangeEval& tool = bench.tool;
+    ctrlRangeEval& tool = rig.tool;
     const std::string text = std::to_string(action.number % 3 * 40 + 20);
     switch (action.kind) {
     case 0:
@@ -102,7 +102,7 @@ void changeInput(RangeBench& bench, Expected& expected, const Action& action)
         tool.cmbScale.Pick(action.number % tool.cmbScale.ListCount());
         return expected.markStale();
     case 3:
-        bench.range(action.number % 4 == 0 ? "abc" : text);
+        rig.range(action.number % 4 == 0 ? "abc" : text);
         if (action.number % 4 != 0)
             expected.markStale();
         return;
@@ -142,36 +142,36 @@ void changeWithoutNotice(ctrlRangeEval& tool, const Action& action)
 }
 
 /// Calculates, with data that fails now and then.
-void calculate(RangeBench& bench, Expected& expected, int number)
+void calculate(RangeRig& rig, Expected& expected, int number)
 {
-    bench.takeReads();
+    rig.takeReads();
     if (number % 3 == 0)
-        failAt(*bench.site, "DIParameter.ReadData");
+        failAt(*rig.site, "DIParameter.ReadData");
     bool failed = false;
     try {
-        bench.calculate();
+        rig.calculate();
     } catch (const Error&) {
         failed = true;
     }
-    bench.site->failure = nullptr;
+    rig.site->failure = nullptr;
     RC_ASSERT(failed == (!expected.isFresh && number % 3 == 0));
-    RC_ASSERT(bench.site->reads.empty() == (expected.isFresh || failed));
-    RC_ASSERT((bench.tool.MousePointer() == screen::MousePointer::Hourglass) == failed);
+    RC_ASSERT(rig.site->reads.empty() == (expected.isFresh || failed));
+    RC_ASSERT((rig.tool.MousePointer() == screen::MousePointer::Hourglass) == failed);
     if (!failed)
         expected = {true, true};
 }
 
-void act(RangeBench& bench, Expected& expected, const Action& action)
+void act(RangeRig& rig, Expected& expected, const Action& action)
 {
     if (action.kind <= 6)
-        changeInput(bench, expected, action);
+        changeInput(rig, expected, action);
     else if (action.kind <= 10)
-        changeWithoutNotice(bench.tool, action);
+        changeWithoutNotice(rig.tool, action);
     else if (action.kind == 11) {
-        bench.tool.SetDIServer(bench.server);
+        rig.tool.SetDIServer(rig.server);
         expected.markStale();
     } else
-        calculate(bench, expected, action.number);
+        calculate(rig, expected, action.number);
 }
 
 /// Up to forty actions, by kind and number.
@@ -189,11 +189,11 @@ Snapshot shownResults(const ctrlRangeEval& tool)
     return labels;
 }
 
-void expectScreen(const RangeBench& bench, const Expected& expected)
+void expectScreen(const RangeRig& rig, const Expected& expected)
 {
-    RC_ASSERT(bench.tool.NeedsEvaluation() == !expected.isFresh);
-    RC_ASSERT(bench.tool.cmdSave.Enabled() == expected.isShown);
-    RC_ASSERT(isCleared(bench.tool) == !expected.isShown);
+    RC_ASSERT(rig.tool.NeedsEvaluation() == !expected.isFresh);
+    RC_ASSERT(rig.tool.cmdSave.Enabled() == expected.isShown);
+    RC_ASSERT(isCleared(rig.tool) == !expected.isShown);
 }
 
 } // namespace
@@ -201,34 +201,34 @@ void expectScreen(const RangeBench& bench, const Expected& expected)
 RC_GTEST_PROP(RangeProperties, AnyHoursAreCountedAsTheRulesSay, ())
 {
     const std::string range = *rc::gen::elementOf(kRanges);
-    RangeBench bench(siteOfWords());
+    RangeRig rig(siteOfWords());
     RangeQuestion question;
-    question.range = ToSingle(range, bench.regional);
+    question.range = ToSingle(range, rig.regional);
     question.quarter = *rc::gen::inRange(1, 3);
-    addHours(bench.series(), question.range);
-    bench.tool.cmbQTR.Pick(question.quarter - 1);
-    bench.range(range);
-    question.mec = anyLimit(bench.tool.chkMEC, bench.tool.txtMEC);
-    question.mpc = anyLimit(bench.tool.chkMPC, bench.tool.txtMPC);
-    bench.calculate();
-    const RangeAnswer answer = answerFrom(*bench.site, bench.series(), question);
-    RC_ASSERT(countersOf(bench.results()) == answer.counters);
-    RC_ASSERT(bench.results().Bins == answer.bins);
-    RC_ASSERT(static_cast<int>(bench.site->reads.size()) == answer.quartersRead);
-    expectConsistentCounters(bench.results());
+    addHours(rig.series(), question.range);
+    rig.tool.cmbQTR.Pick(question.quarter - 1);
+    rig.range(range);
+    question.mec = anyLimit(rig.tool.chkMEC, rig.tool.txtMEC);
+    question.mpc = anyLimit(rig.tool.chkMPC, rig.tool.txtMPC);
+    rig.calculate();
+    const RangeAnswer answer = answerFrom(*rig.site, rig.series(), question);
+    RC_ASSERT(countersOf(rig.results()) == answer.counters);
+    RC_ASSERT(rig.results().Bins == answer.bins);
+    RC_ASSERT(static_cast<int>(rig.site->reads.size()) == answer.quartersRead);
+    expectConsistentCounters(rig.results());
 }
 
 RC_GTEST_PROP(RangeProperties, TheScreenIsFreshOrStaleAfterAnyCourseOfActions, ())
 {
     const auto actions = *courseOfActions();
-    RangeBench bench(siteOfTwoUnits());
-    bench.series().fill(makeDate(2022, 7, 1), makeDate(2022, 12, 31, 23), 30);
-    bench.series().fill(makeDate(2023, 7, 1), makeDate(2024, 2, 29, 23), 70);
+    RangeRig rig(siteOfTwoUnits());
+    rig.series().fill(makeDate(2022, 7, 1), makeDate(2022, 12, 31, 23), 30);
+    rig.series().fill(makeDate(2023, 7, 1), makeDate(2024, 2, 29, 23), 70);
     Expected expected;
     for (const auto& [kind, number] : actions) {
-        act(bench, expected, {kind, number});
-        expectScreen(bench, expected);
-        expectConsistentCounters(bench.results());
+        act(rig, expected, {kind, number});
+        expectScreen(rig, expected);
+        expectConsistentCounters(rig.results());
     }
 }
 
@@ -237,11 +237,11 @@ RC_GTEST_PROP(RangeProperties, AnEvaluationIsTheSameAsThatOfAToolThatWasSetSoAtO
     const auto actions = *courseOfActions();
     auto site = siteOfTwoUnits();
     site->parameter(kNOx).hours.fill(makeDate(2023, 11, 1), makeDate(2024, 2, 29, 23), 30);
-    RangeBench wandering(site);
+    RangeRig wandering(site);
     Expected expected;
     for (const auto& [kind, number] : actions)
         act(wandering, expected, {kind, number});
-    RangeBench fresh(site);
+    RangeRig fresh(site);
     fresh.tool.cmbUnit.Pick(wandering.tool.cmbUnit.ListIndex());
     fresh.tool.cmbParam.Pick(wandering.tool.cmbParam.ListIndex());
     fresh.tool.cmbScale.Pick(wandering.tool.cmbScale.ListIndex());

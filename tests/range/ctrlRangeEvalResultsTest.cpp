@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -39,8 +39,8 @@ Shown shownBy(const ctrlRangeEval& tool)
 
 std::string percentsOf(const std::vector<std::optional<double>>& values)
 {
-    RangeBench bench;
-    return shownBy(bench.hours(values).calculate().tool).percents;
+    RangeRig rig;
+    return shownBy(rig.hours(values).calculate().tool).percents;
 }
 
 void expectFlat(const ctrlRangeEval& tool)
@@ -56,14 +56,14 @@ void expectFlat(const ctrlRangeEval& tool)
 
 TEST(RangeResults, AreWrittenOutWithTwoBlanksBehindTheColons)
 {
-    RangeBench bench;
-    bench.series().set(makeDate(2024, 1, 1, 0), 10, 36);
-    bench.series().set(makeDate(2024, 1, 1, 1), 30);
-    bench.series().set(makeDate(2024, 1, 1, 2), 90);
-    bench.series().set(makeDate(2024, 1, 1, 3), 120);
-    bench.series().set(makeDate(2024, 1, 1, 4), std::nullopt, 1);
-    bench.limits("20", "80").calculate();
-    EXPECT_EQ(shownBy(bench.tool),
+    RangeRig rig;
+    rig.series().set(makeDate(2024, 1, 1, 0), 10, 36);
+    rig.series().set(makeDate(2024, 1, 1, 1), 30);
+    rig.series().set(makeDate(2024, 1, 1, 2), 90);
+    rig.series().set(makeDate(2024, 1, 1, 3), 120);
+    rig.series().set(makeDate(2024, 1, 1, 4), std::nullopt, 1);
+    rig.limits("20", "80").calculate();
+    EXPECT_EQ(shownBy(rig.tool),
               (Shown{"GT1 NOX",
                      "33.3% 33.3% 33.3%",
                      "0 20 80 100",
@@ -73,24 +73,24 @@ TEST(RangeResults, AreWrittenOutWithTwoBlanksBehindTheColons)
 
 TEST(RangeResults, WithoutAnyHourAreZerosAndStrokes)
 {
-    RangeBench bench;
-    bench.calculate();
-    EXPECT_EQ(shownBy(bench.tool),
+    RangeRig rig;
+    rig.calculate();
+    EXPECT_EQ(shownBy(rig.tool),
               (Shown{"GT1 NOX",
                      "----- ----- -----",
                      "0 20 80 100",
                      {"Hours above MEC:  0", "Hours above MPC:  0", "Hours over Range:  0",
                       "Hours with 200% replacement:  0", "Invalid Hours:  0"}}));
-    expectFlat(bench.tool);
+    expectFlat(rig.tool);
 }
 
 TEST(RangeResults, HoursOverTheRangeAreInNoPercentAndNoBar)
 {
-    RangeBench bench;
-    bench.hours({150, 160}).calculate();
-    EXPECT_EQ(shownBy(bench.tool).percents, "----- ----- -----");
-    EXPECT_EQ(bench.tool.lblOverRange.Caption(), "Hours over Range:  2");
-    expectFlat(bench.tool);
+    RangeRig rig;
+    rig.hours({150, 160}).calculate();
+    EXPECT_EQ(shownBy(rig.tool).percents, "----- ----- -----");
+    EXPECT_EQ(rig.tool.lblOverRange.Caption(), "Hours over Range:  2");
+    expectFlat(rig.tool);
     EXPECT_EQ(percentsOf({10, 150, 160, 170}), "100.0% 0.0% 0.0%");
 }
 
@@ -103,87 +103,87 @@ TEST(RangeResults, PercentsAreOfTheHoursInTheRange)
 
 TEST(RangeResults, ALimitThatTakesNoPartIsNotApplicable)
 {
-    RangeBench bench;
-    bench.limits("N/A", "none").hours({50}).calculate();
-    EXPECT_EQ(bench.tool.lblAboveMEC.Caption(), "Hours above MEC:  N/A");
-    EXPECT_EQ(bench.tool.lblAboveMPC.Caption(), "Hours above MPC:  N/A");
-    bench.limits("1", "2");
-    bench.tool.chkMEC.Press();
-    bench.calculate();
-    EXPECT_EQ(bench.tool.lblAboveMEC.Caption(), "Hours above MEC:  N/A");
-    EXPECT_EQ(bench.tool.lblAboveMPC.Caption(), "Hours above MPC:  1");
+    RangeRig rig;
+    rig.limits("N/A", "none").hours({50}).calculate();
+    EXPECT_EQ(rig.tool.lblAboveMEC.Caption(), "Hours above MEC:  N/A");
+    EXPECT_EQ(rig.tool.lblAboveMPC.Caption(), "Hours above MPC:  N/A");
+    rig.limits("1", "2");
+    rig.tool.chkMEC.Press();
+    rig.calculate();
+    EXPECT_EQ(rig.tool.lblAboveMEC.Caption(), "Hours above MEC:  N/A");
+    EXPECT_EQ(rig.tool.lblAboveMPC.Caption(), "Hours above MPC:  1");
 }
 
 TEST(RangeResults, TheScaleIsWrittenInTheShortestForm)
 {
-    RangeBench bench;
-    bench.range("0.25").calculate();
-    EXPECT_EQ(shownBy(bench.tool).scale, "0 0.05 0.2 0.25");
-    bench.range("33.3").calculate();
-    EXPECT_EQ(shownBy(bench.tool).scale, "0 6.66 26.64 33.3");
-    bench.range("1234567").calculate();
-    EXPECT_EQ(shownBy(bench.tool).scale, "0 246913.4 987653.6 1234567");
+    RangeRig rig;
+    rig.range("0.25").calculate();
+    EXPECT_EQ(shownBy(rig.tool).scale, "0 0.05 0.2 0.25");
+    rig.range("33.3").calculate();
+    EXPECT_EQ(shownBy(rig.tool).scale, "0 6.66 26.64 33.3");
+    rig.range("1234567").calculate();
+    EXPECT_EQ(shownBy(rig.tool).scale, "0 246913.4 987653.6 1234567");
 }
 
 TEST(RangeResults, AreWrittenAsTheRegionDoes)
 {
-    RangeBench bench(siteOfNOx(), makeDate(2024, 5, 15), "de-DE");
-    bench.range("12,5").hours({1, 5, 12}).calculate();
-    EXPECT_EQ(shownBy(bench.tool).scale, "0 2,5 10 12,5");
-    EXPECT_EQ(shownBy(bench.tool).percents, "33,3% 33,3% 33,3%");
-    EXPECT_EQ(bench.tool.lblBar[1].ToolTipText(), "0 - 0,625   Op Hours: 0");
+    RangeRig rig(siteOfNOx(), makeDate(2024, 5, 15), "de-DE");
+    rig.range("12,5").hours({1, 5, 12}).calculate();
+    EXPECT_EQ(shownBy(rig.tool).scale, "0 2,5 10 12,5");
+    EXPECT_EQ(shownBy(rig.tool).percents, "33,3% 33,3% 33,3%");
+    EXPECT_EQ(rig.tool.lblBar[1].ToolTipText(), "0 - 0,625   Op Hours: 0");
 }
 
 TEST(RangeResults, TheHeaderHasTheBareNameOfTheParameter)
 {
-    RangeBench bench;
-    bench.tool.chkShowPID.Press();
-    bench.calculate();
-    EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 NOX");
+    RangeRig rig;
+    rig.tool.chkShowPID.Press();
+    rig.calculate();
+    EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 NOX");
 }
 
 TEST(RangeResults, TheBarsTellValuesAndHours)
 {
-    RangeBench bench;
-    bench.hours(std::vector<std::optional<double>>(12, 12.0)).calculate();
-    EXPECT_EQ(bench.tool.lblBar[3].ToolTipText(), "10 - 15   Op Hours: 12");
-    EXPECT_EQ(bench.tool.lblBar[1].ToolTipText(), "0 - 5   Op Hours: 0");
-    EXPECT_EQ(bench.tool.lblBar[20].ToolTipText(), "95 - 100   Op Hours: 0");
+    RangeRig rig;
+    rig.hours(std::vector<std::optional<double>>(12, 12.0)).calculate();
+    EXPECT_EQ(rig.tool.lblBar[3].ToolTipText(), "10 - 15   Op Hours: 12");
+    EXPECT_EQ(rig.tool.lblBar[1].ToolTipText(), "0 - 5   Op Hours: 0");
+    EXPECT_EQ(rig.tool.lblBar[20].ToolTipText(), "95 - 100   Op Hours: 0");
 }
 
 TEST(RangeResults, TheBarsStandInTheScaleOfTheFullest)
 {
-    RangeBench bench;
-    bench.series().fill(makeDate(2024, 1, 1), makeDate(2024, 3, 20), 12);
-    bench.series().set(makeDate(2024, 3, 31), 99);
-    bench.calculate();
-    EXPECT_EQ(bench.tool.lblBar[3].Place().Top, 645);
-    EXPECT_EQ(bench.tool.lblBar[3].Place().Height, 2055);
-    EXPECT_EQ(bench.tool.lblBar[20].Place().Top, 2685) << "one hour is a pixel high";
-    EXPECT_EQ(bench.tool.lblBar[20].Place().Height, 15);
-    EXPECT_EQ(bench.tool.lblBar[1].Place().Top, 2700);
-    EXPECT_EQ(bench.tool.lblBar[1].Place().Height, 0);
+    RangeRig rig;
+    rig.series().fill(makeDate(2024, 1, 1), makeDate(2024, 3, 20), 12);
+    rig.series().set(makeDate(2024, 3, 31), 99);
+    rig.calculate();
+    EXPECT_EQ(rig.tool.lblBar[3].Place().Top, 645);
+    EXPECT_EQ(rig.tool.lblBar[3].Place().Height, 2055);
+    EXPECT_EQ(rig.tool.lblBar[20].Place().Top, 2685) << "one hour is a pixel high";
+    EXPECT_EQ(rig.tool.lblBar[20].Place().Height, 15);
+    EXPECT_EQ(rig.tool.lblBar[1].Place().Top, 2700);
+    EXPECT_EQ(rig.tool.lblBar[1].Place().Height, 0);
 }
 
 TEST(RangeResults, OfAParameterThatIsGoneKeepTheHeader)
 {
-    RangeBench bench;
-    bench.hours({50}).calculate();
-    std::erase_if(bench.site->parameters, [](const auto& p) { return p.pid == kNOx; });
-    EXPECT_EQ(bench.changesBy([&] { bench.calculate(); }), Lines());
-    EXPECT_EQ(bench.tool.lblHeader.Caption(), "GT1 NOX");
+    RangeRig rig;
+    rig.hours({50}).calculate();
+    std::erase_if(rig.site->parameters, [](const auto& p) { return p.pid == kNOx; });
+    EXPECT_EQ(rig.changesBy([&] { rig.calculate(); }), Lines());
+    EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 NOX");
 }
 
 TEST(RangeResults, TakenOffTheScreenLeaveTheFixedTexts)
 {
-    RangeBench bench;
-    bench.hours({50}).calculate().range("60");
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_EQ(bench.tool.lbl000.Caption(), "Minimum");
-    EXPECT_EQ(bench.tool.lbl020.Caption(), "20%");
-    EXPECT_EQ(bench.tool.lbl080.Caption(), "80%");
-    EXPECT_EQ(bench.tool.lbl100.Caption(), "Maximum");
-    EXPECT_EQ(bench.results().MidHours, 1);
+    RangeRig rig;
+    rig.hours({50}).calculate().range("60");
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_EQ(rig.tool.lbl000.Caption(), "Minimum");
+    EXPECT_EQ(rig.tool.lbl020.Caption(), "20%");
+    EXPECT_EQ(rig.tool.lbl080.Caption(), "80%");
+    EXPECT_EQ(rig.tool.lbl100.Caption(), "Maximum");
+    EXPECT_EQ(rig.results().MidHours, 1);
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -28,26 +28,26 @@ screen::MsgBoxRequest failureBox(const std::string& failure)
 using Boxes = std::vector<screen::MsgBoxRequest>;
 
 /// The tool with an evaluation, and a folder to save in.
-struct SaveBench : RangeBench {
-    SaveBench()
+struct SaveRig : RangeRig {
+    SaveRig()
     {
         services.saveAnswer = screen::SaveAnswer{path, 1};
         hours({10, 50, 90}).calculate();
         tool.chkPreview.Press();
     }
 
-    SaveBench& save()
+    SaveRig& save()
     {
         tool.cmdSave.Press();
         return *this;
     }
-    SaveBench& existing(const std::vector<MsgBoxAnswer>& answers)
+    SaveRig& existing(const std::vector<MsgBoxAnswer>& answers)
     {
         writeFile(path, "old");
         services.answers = answers;
         return *this;
     }
-    SaveBench& failing(const std::string& name)
+    SaveRig& failing(const std::string& name)
     {
         failAt(*site, name);
         return *this;
@@ -66,144 +66,144 @@ bool isReport(const std::string& path)
 
 TEST(RangeSave, OffersAReport)
 {
-    SaveBench bench;
-    bench.save();
-    EXPECT_EQ(bench.services.filters, Lines{"PDF File (*.pdf)|*.pdf"});
-    EXPECT_EQ(bench.services.extensions, Lines{".pdf"});
+    SaveRig rig;
+    rig.save();
+    EXPECT_EQ(rig.services.filters, Lines{"PDF File (*.pdf)|*.pdf"});
+    EXPECT_EQ(rig.services.extensions, Lines{".pdf"});
 }
 
 TEST(RangeSave, WritesTheReportAndOpensIt)
 {
-    SaveBench bench;
-    bench.save();
-    EXPECT_TRUE(isReport(bench.path));
-    EXPECT_EQ(bench.folder.names(), Lines{"range.pdf"});
-    EXPECT_EQ(bench.services.opened, Lines{bench.path});
-    EXPECT_EQ(bench.services.boxes, Boxes());
+    SaveRig rig;
+    rig.save();
+    EXPECT_TRUE(isReport(rig.path));
+    EXPECT_EQ(rig.folder.names(), Lines{"range.pdf"});
+    EXPECT_EQ(rig.services.opened, Lines{rig.path});
+    EXPECT_EQ(rig.services.boxes, Boxes());
 }
 
 TEST(RangeSave, OpensNothingWithoutThePreview)
 {
-    SaveBench bench;
-    bench.tool.chkPreview.Press();
-    bench.save();
-    EXPECT_TRUE(isReport(bench.path));
-    EXPECT_EQ(bench.services.opened, Lines());
+    SaveRig rig;
+    rig.tool.chkPreview.Press();
+    rig.save();
+    EXPECT_TRUE(isReport(rig.path));
+    EXPECT_EQ(rig.services.opened, Lines());
 }
 
 TEST(RangeSave, CannotBePressedWithStaleResults)
 {
-    SaveBench bench;
-    bench.range("60");
-    bench.save();
-    EXPECT_EQ(bench.services.filters, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    rig.range("60");
+    rig.save();
+    EXPECT_EQ(rig.services.filters, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(RangeSave, LeavesTheScreenAsItIsAndReadsNoHours)
 {
-    SaveBench bench;
-    bench.save();
-    bench.takeReads();
-    EXPECT_EQ(bench.changesBy([&] { bench.existing({MsgBoxAnswer::Yes}).save(); }), Lines());
-    EXPECT_EQ(bench.takeReads(), std::vector<ReadRequest>());
+    SaveRig rig;
+    rig.save();
+    rig.takeReads();
+    EXPECT_EQ(rig.changesBy([&] { rig.existing({MsgBoxAnswer::Yes}).save(); }), Lines());
+    EXPECT_EQ(rig.takeReads(), std::vector<ReadRequest>());
 }
 
 TEST(RangeSave, CancellingTheDialogEndsTheClickSilently)
 {
-    SaveBench bench;
-    bench.services.saveAnswer.reset();
-    bench.save();
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    SaveRig rig;
+    rig.services.saveAnswer.reset();
+    rig.save();
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(RangeSave, AFailingDialogLeavesNothingToWriteOrToOpen)
 {
-    SaveBench bench;
-    bench.services.saveError = Error(440, "no dialog");
-    EXPECT_NO_THROW(bench.save());
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    rig.services.saveError = Error(440, "no dialog");
+    EXPECT_NO_THROW(rig.save());
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(RangeSave, AnyAnswerButYesLeavesTheFileAsItWas)
 {
     for (const MsgBoxAnswer answer : {MsgBoxAnswer::No, MsgBoxAnswer::OK}) {
-        SaveBench bench;
-        bench.existing({answer}).save();
-        EXPECT_EQ(bench.services.boxes, Boxes{kDeleteQuestion});
-        EXPECT_EQ(contentOf(bench.path), "old");
-        EXPECT_EQ(bench.services.opened, Lines());
+        SaveRig rig;
+        rig.existing({answer}).save();
+        EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
+        EXPECT_EQ(contentOf(rig.path), "old");
+        EXPECT_EQ(rig.services.opened, Lines());
     }
 }
 
 TEST(RangeSave, AnsweredYesReplacesTheFile)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(bench.services.boxes, Boxes{kDeleteQuestion});
-    EXPECT_TRUE(isReport(bench.path));
-    EXPECT_EQ(bench.services.opened, Lines{bench.path});
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes}).save();
+    EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
+    EXPECT_TRUE(isReport(rig.path));
+    EXPECT_EQ(rig.services.opened, Lines{rig.path});
 }
 
 TEST(RangeSave, AWriteProtectedFileStaysAndABoxSaysWhy)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes});
-    std::filesystem::permissions(bench.path, std::filesystem::perms::owner_read);
-    bench.save();
-    EXPECT_EQ(contentOf(bench.path), "old");
-    EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("70:Permission denied")}));
-    EXPECT_EQ(bench.services.opened, Lines());
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes});
+    std::filesystem::permissions(rig.path, std::filesystem::perms::owner_read);
+    rig.save();
+    EXPECT_EQ(contentOf(rig.path), "old");
+    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("70:Permission denied")}));
+    EXPECT_EQ(rig.services.opened, Lines());
 }
 
 TEST(RangeSave, AReportThatFailsBehindADeletionShowsTheBoxAndNoPreview)
 {
-    SaveBench bench;
-    bench.existing({MsgBoxAnswer::Yes}).failing("DIServer.LookupService").save();
-    EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("440:the line is down")}));
-    EXPECT_EQ(bench.services.opened, Lines());
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    rig.existing({MsgBoxAnswer::Yes}).failing("DIServer.LookupService").save();
+    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("440:the line is down")}));
+    EXPECT_EQ(rig.services.opened, Lines());
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(RangeSave, AReportThatFailsWithoutADeletionShowsNothingAndGoesOnToThePreview)
 {
-    SaveBench bench;
-    EXPECT_NO_THROW(bench.failing("DIServer.LookupService").save());
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines{bench.path});
-    EXPECT_EQ(bench.folder.names(), Lines());
+    SaveRig rig;
+    EXPECT_NO_THROW(rig.failing("DIServer.LookupService").save());
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines{rig.path});
+    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 TEST(RangeSave, AFolderThatIsNotThereFailsSilently)
 {
-    SaveBench bench;
-    bench.services.saveAnswer->path = bench.folder.file("nowhere/range.pdf");
-    EXPECT_NO_THROW(bench.save());
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_EQ(bench.services.opened, Lines{bench.services.saveAnswer->path});
+    SaveRig rig;
+    rig.services.saveAnswer->path = rig.folder.file("nowhere/range.pdf");
+    EXPECT_NO_THROW(rig.save());
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_EQ(rig.services.opened, Lines{rig.services.saveAnswer->path});
 }
 
 TEST(RangeSave, AFailingViewerIsSilentUnlessAFileWasDeleted)
 {
-    SaveBench bench;
-    bench.services.openError = Error(errors::kFileNotFound);
-    EXPECT_NO_THROW(bench.save());
-    EXPECT_EQ(bench.services.boxes, Boxes());
-    EXPECT_NO_THROW(bench.existing({MsgBoxAnswer::Yes}).save());
-    EXPECT_EQ(bench.services.boxes, (Boxes{kDeleteQuestion, failureBox("53:File not found")}));
+    SaveRig rig;
+    rig.services.openError = Error(errors::kFileNotFound);
+    EXPECT_NO_THROW(rig.save());
+    EXPECT_EQ(rig.services.boxes, Boxes());
+    EXPECT_NO_THROW(rig.existing({MsgBoxAnswer::Yes}).save());
+    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("53:File not found")}));
 }
 
 TEST(RangeSave, AFailingQuestionIsPassedOver)
 {
-    SaveBench bench;
-    bench.existing({}).services.msgBoxError = Error(440, "no box");
-    EXPECT_NO_THROW(bench.save());
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    SaveRig rig;
+    rig.existing({}).services.msgBoxError = Error(440, "no box");
+    EXPECT_NO_THROW(rig.save());
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 } // namespace k7deval::test

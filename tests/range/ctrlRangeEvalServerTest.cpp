@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -24,9 +24,9 @@ int errorOfSetting(ctrlRangeEval& tool, const std::shared_ptr<SiteData>& site)
 
 TEST(RangeServer, FillsTheListsAndPicksTheFirstOfEach)
 {
-    RangeBench bench(siteOfTwoUnits());
-    const ctrlRangeEval& tool = bench.tool;
-    EXPECT_EQ(tool.DIServer(), bench.server);
+    RangeRig rig(siteOfTwoUnits());
+    const ctrlRangeEval& tool = rig.tool;
+    EXPECT_EQ(tool.DIServer(), rig.server);
     EXPECT_EQ(tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
     EXPECT_EQ(tool.cmbUnit.ItemDataList(), (std::vector<std::int32_t>{kGT1, kGT2}));
     EXPECT_EQ(tool.cmbUnit.ListIndex(), 0);
@@ -43,75 +43,75 @@ TEST(RangeServer, TheListsAreNotSorted)
 {
     auto site = siteOfTwoUnits();
     site->parameter(kGT1).name = "ZZ";
-    const RangeBench bench(site);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"ZZ", "GT2"}));
+    const RangeRig rig(site);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"ZZ", "GT2"}));
 }
 
 TEST(RangeServer, LeavesTheScreenStale)
 {
-    const RangeBench bench;
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_EQ(bench.site->countCalls("DIParameter.ReadData"), 0U);
+    const RangeRig rig;
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_EQ(rig.site->countCalls("DIParameter.ReadData"), 0U);
 }
 
 TEST(RangeServer, WithoutAnalyzersLeavesTheListsEmptyAndTheFieldsAsTheyWere)
 {
     auto site = std::make_shared<SiteData>();
     site->parameters = {unitNamed(kGT1, "GT1")};
-    const RangeBench bench(site);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbScale.ListCount(), 0);
-    EXPECT_EQ(bench.tool.txtRange.Text(), "Text1");
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "Text3");
-    EXPECT_EQ(bench.tool.txtMPC.Text(), "Text4");
-    EXPECT_FALSE(bench.tool.chkMEC.isChecked());
+    const RangeRig rig(site);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbScale.ListCount(), 0);
+    EXPECT_EQ(rig.tool.txtRange.Text(), "Text1");
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "Text3");
+    EXPECT_EQ(rig.tool.txtMPC.Text(), "Text4");
+    EXPECT_FALSE(rig.tool.chkMEC.isChecked());
 }
 
 TEST(RangeServer, SetToNothingEmptiesTheListsAndTakesTheResultsOffTheScreen)
 {
-    RangeBench bench;
-    bench.hours({50}).calculate();
-    bench.tool.SetDIServer(nullptr);
-    EXPECT_EQ(bench.tool.DIServer(), nullptr);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbParam.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbScale.ListCount(), 0);
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
-    EXPECT_EQ(bench.results().MidHours, 1) << "only the screen is cleared";
-    EXPECT_EQ(bench.tool.UnitCatalogue().Count(), 1U);
-    EXPECT_EQ(bench.tool.txtRange.Text(), "100");
+    RangeRig rig;
+    rig.hours({50}).calculate();
+    rig.tool.SetDIServer(nullptr);
+    EXPECT_EQ(rig.tool.DIServer(), nullptr);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbScale.ListCount(), 0);
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
+    EXPECT_EQ(rig.results().MidHours, 1) << "only the screen is cleared";
+    EXPECT_EQ(rig.tool.UnitCatalogue().Count(), 1U);
+    EXPECT_EQ(rig.tool.txtRange.Text(), "100");
 }
 
 TEST(RangeServer, ASecondSiteAddsItsAnalyzers)
 {
-    RangeBench bench;
-    bench.tool.cmbUnit.SetListIndex(-1);
+    RangeRig rig;
+    rig.tool.cmbUnit.SetListIndex(-1);
     const auto second = siteOfTwoUnits();
-    bench.tool.SetDIServer(serve(second));
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(bench.tool.cmbScale.List(), (Lines{"SINGLE", "LOW", "HIGH"}))
+    rig.tool.SetDIServer(serve(second));
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(rig.tool.cmbScale.List(), (Lines{"SINGLE", "LOW", "HIGH"}))
         << "behind the scale of the first site";
-    EXPECT_EQ(bench.tool.txtRange.Text(), "100");
+    EXPECT_EQ(rig.tool.txtRange.Text(), "100");
 }
 
 TEST(RangeServer, TheSameSiteAgainChangesNothing)
 {
-    RangeBench bench(siteOfTwoUnits());
-    EXPECT_EQ(bench.changesBy([&] { bench.tool.SetDIServer(bench.server); }), Lines());
+    RangeRig rig(siteOfTwoUnits());
+    EXPECT_EQ(rig.changesBy([&] { rig.tool.SetDIServer(rig.server); }), Lines());
 }
 
 TEST(RangeServer, AfterNothingTheListsComeBackWithTheSite)
 {
-    RangeBench bench(siteOfTwoUnits());
-    bench.tool.SetDIServer(nullptr);
-    bench.tool.SetDIServer(bench.server);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.txtRange.Text(), "50");
+    RangeRig rig(siteOfTwoUnits());
+    rig.tool.SetDIServer(nullptr);
+    rig.tool.SetDIServer(rig.server);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.txtRange.Text(), "50");
 }
 
 TEST(RangeServer, AFailureOfTheDataReachesTheHost)
@@ -120,9 +120,9 @@ TEST(RangeServer, AFailureOfTheDataReachesTheHost)
                              "DIRecordStore.ReadRecords"}) {
         auto site = siteOfNOx();
         failAt(*site, call);
-        RangeTool bench;
-        EXPECT_EQ(errorOfSetting(bench.tool, site), 440) << call;
-        EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+        RangeTool rig;
+        EXPECT_EQ(errorOfSetting(rig.tool, site), 440) << call;
+        EXPECT_FALSE(rig.tool.cmdSave.Enabled());
     }
 }
 
@@ -130,31 +130,31 @@ TEST(RangeServer, AFailedHandoverCanBeRepeated)
 {
     auto site = siteOfTwoUnits();
     failAt(*site, "DIRecord.Span");
-    RangeTool bench;
-    EXPECT_EQ(errorOfSetting(bench.tool, site), 440);
+    RangeTool rig;
+    EXPECT_EQ(errorOfSetting(rig.tool, site), 440);
     site->failure = nullptr;
-    EXPECT_EQ(errorOfSetting(bench.tool, site), 0);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbScale.List(), (Lines{"LOW", "HIGH"}));
+    EXPECT_EQ(errorOfSetting(rig.tool, site), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbScale.List(), (Lines{"LOW", "HIGH"}));
 }
 
 TEST(RangeServer, IsDroppedWithTheCatalogueAtTheEnd)
 {
-    RangeBench bench;
-    const std::weak_ptr<DIServer> server = bench.server;
-    bench.server.reset();
+    RangeRig rig;
+    const std::weak_ptr<DIServer> server = rig.server;
+    rig.server.reset();
     EXPECT_FALSE(server.expired());
-    bench.tool.Terminate();
+    rig.tool.Terminate();
     EXPECT_TRUE(server.expired());
-    EXPECT_EQ(bench.tool.DIServer(), nullptr);
-    EXPECT_TRUE(bench.tool.UnitCatalogue().isEmpty());
+    EXPECT_EQ(rig.tool.DIServer(), nullptr);
+    EXPECT_TRUE(rig.tool.UnitCatalogue().isEmpty());
 }
 
 TEST(RangeServer, IsNotKeptByAToolThatIsGone)
 {
-    auto bench = std::make_unique<RangeBench>();
-    const std::weak_ptr<DIServer> server = bench->server;
-    bench.reset();
+    auto rig = std::make_unique<RangeRig>();
+    const std::weak_ptr<DIServer> server = rig->server;
+    rig.reset();
     EXPECT_TRUE(server.expired());
 }
 

@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -54,8 +54,8 @@ const ActionCase kLeavingFresh[] = {
 };
 
 /// GT1's NOX on its "LOW" scale of 50, evaluated.
-struct EvaluatedBench : RangeBench {
-    EvaluatedBench() : RangeBench(siteOfTwoUnits())
+struct EvaluatedRig : RangeRig {
+    EvaluatedRig() : RangeRig(siteOfTwoUnits())
     {
         hours({5, 15, 25, 45}).calculate();
         takeReads();
@@ -76,92 +76,92 @@ bool isStale(const ctrlRangeEval& tool)
 
 TEST(RangeStale, AnEvaluationIsFresh)
 {
-    const EvaluatedBench bench;
-    EXPECT_TRUE(isFresh(bench.tool));
+    const EvaluatedRig rig;
+    EXPECT_TRUE(isFresh(rig.tool));
 }
 
 TEST(RangeStale, AChangeOfTheInputsTakesTheResultsOffTheScreen)
 {
     for (const ActionCase& row : kMakingStale) {
-        EvaluatedBench bench;
-        row.act(bench.tool);
-        EXPECT_TRUE(isStale(bench.tool)) << row.what;
-        EXPECT_EQ(countersOf(bench.results()), countersOf(EvaluatedBench().results())) << row.what;
-        bench.calculate();
-        EXPECT_TRUE(isFresh(bench.tool)) << row.what;
-        EXPECT_FALSE(bench.site->reads.empty()) << row.what;
+        EvaluatedRig rig;
+        row.act(rig.tool);
+        EXPECT_TRUE(isStale(rig.tool)) << row.what;
+        EXPECT_EQ(countersOf(rig.results()), countersOf(EvaluatedRig().results())) << row.what;
+        rig.calculate();
+        EXPECT_TRUE(isFresh(rig.tool)) << row.what;
+        EXPECT_FALSE(rig.site->reads.empty()) << row.what;
     }
 }
 
 TEST(RangeStale, OtherActionsLeaveTheResultsAndTheyAreNotEvaluatedAgain)
 {
     for (const ActionCase& row : kLeavingFresh) {
-        EvaluatedBench bench;
-        const std::string header = bench.tool.lblHeader.Caption();
-        row.act(bench.tool);
-        EXPECT_TRUE(isFresh(bench.tool)) << row.what;
-        EXPECT_EQ(bench.tool.lblHeader.Caption(), header) << row.what;
-        bench.calculate();
-        EXPECT_TRUE(bench.site->reads.empty()) << row.what;
+        EvaluatedRig rig;
+        const std::string header = rig.tool.lblHeader.Caption();
+        row.act(rig.tool);
+        EXPECT_TRUE(isFresh(rig.tool)) << row.what;
+        EXPECT_EQ(rig.tool.lblHeader.Caption(), header) << row.what;
+        rig.calculate();
+        EXPECT_TRUE(rig.site->reads.empty()) << row.what;
     }
 }
 
 TEST(RangeStale, AQuarterPickedAfterwardsIsNotEvaluatedUntilSomethingElseIs)
 {
-    EvaluatedBench bench;
-    bench.tool.cmbQTR.Pick(2);
-    bench.tool.cmbYear.Pick(1);
-    EXPECT_EQ(bench.changesBy([&] { bench.calculate(); }), Lines());
-    EXPECT_EQ(bench.takeReads(), std::vector<ReadRequest>());
-    bench.tool.txtRange.Leave();
-    bench.calculate();
-    EXPECT_EQ(bench.takeReads().front().start, makeDate(2023, 7, 1));
+    EvaluatedRig rig;
+    rig.tool.cmbQTR.Pick(2);
+    rig.tool.cmbYear.Pick(1);
+    EXPECT_EQ(rig.changesBy([&] { rig.calculate(); }), Lines());
+    EXPECT_EQ(rig.takeReads(), std::vector<ReadRequest>());
+    rig.tool.txtRange.Leave();
+    rig.calculate();
+    EXPECT_EQ(rig.takeReads().front().start, makeDate(2023, 7, 1));
 }
 
 TEST(RangeStale, AnExpectedValueTurnedOffAfterwardsIsNotShown)
 {
-    EvaluatedBench bench;
-    ASSERT_EQ(bench.tool.lblAboveMEC.Caption(), "Hours above MEC:  3");
-    bench.tool.chkMEC.Press();
-    EXPECT_EQ(bench.tool.lblAboveMEC.Caption(), "Hours above MEC:  3");
-    bench.calculate();
-    EXPECT_EQ(bench.tool.lblAboveMEC.Caption(), "Hours above MEC:  N/A");
-    EXPECT_EQ(bench.results().AboveMECHours, 3);
+    EvaluatedRig rig;
+    ASSERT_EQ(rig.tool.lblAboveMEC.Caption(), "Hours above MEC:  3");
+    rig.tool.chkMEC.Press();
+    EXPECT_EQ(rig.tool.lblAboveMEC.Caption(), "Hours above MEC:  3");
+    rig.calculate();
+    EXPECT_EQ(rig.tool.lblAboveMEC.Caption(), "Hours above MEC:  N/A");
+    EXPECT_EQ(rig.results().AboveMECHours, 3);
 }
 
 TEST(RangeStale, ALimitTurnedOnAfterwardsShowsTheCountOfNone)
 {
-    RangeBench bench;
-    bench.tool.chkMEC.Press();
-    bench.tool.chkMPC.Press();
-    bench.hours({50, 150}).calculate().takeReads();
-    bench.tool.chkMEC.Press();
-    bench.tool.chkMPC.Press();
-    bench.calculate();
-    EXPECT_EQ(bench.takeReads(), std::vector<ReadRequest>());
-    EXPECT_EQ(bench.tool.lblAboveMEC.Caption(), "Hours above MEC:  0");
-    EXPECT_EQ(bench.tool.lblAboveMPC.Caption(), "Hours above MPC:  0");
+    RangeRig rig;
+    rig.tool.chkMEC.Press();
+    rig.tool.chkMPC.Press();
+    rig.hours({50, 150}).calculate().takeReads();
+    rig.tool.chkMEC.Press();
+    rig.tool.chkMPC.Press();
+    rig.calculate();
+    EXPECT_EQ(rig.takeReads(), std::vector<ReadRequest>());
+    EXPECT_EQ(rig.tool.lblAboveMEC.Caption(), "Hours above MEC:  0");
+    EXPECT_EQ(rig.tool.lblAboveMPC.Caption(), "Hours above MPC:  0");
 }
 
 TEST(RangeStale, ARangeThatIsNoneBringsTheLastOneBackWithTheResultsUntouched)
 {
-    EvaluatedBench bench;
-    EXPECT_EQ(bench.changesBy([&] { bench.range("abc"); }), Lines());
+    EvaluatedRig rig;
+    EXPECT_EQ(rig.changesBy([&] { rig.range("abc"); }), Lines());
 }
 
 TEST(RangeStale, ANewRangeIsTheResultsOwnAtOnce)
 {
-    EvaluatedBench bench;
-    bench.range("60");
-    EXPECT_EQ(bench.results().RangeValue, 60);
-    EXPECT_EQ(bench.results().LowThreshold, 10) << "the others wait for the evaluation";
+    EvaluatedRig rig;
+    rig.range("60");
+    EXPECT_EQ(rig.results().RangeValue, 60);
+    EXPECT_EQ(rig.results().LowThreshold, 10) << "the others wait for the evaluation";
 }
 
 TEST(RangeStale, LeavingTheRangeDoesNotStopAnything)
 {
-    EvaluatedBench bench;
-    bench.range("abc");
-    EXPECT_TRUE(bench.services.boxes.empty());
+    EvaluatedRig rig;
+    rig.range("abc");
+    EXPECT_TRUE(rig.services.boxes.empty());
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
 
@@ -70,42 +70,42 @@ constexpr QuarterCase kQuarters[] = {
 TEST(RangeStart, TheLastFinishedQuarterIsSelected)
 {
     for (const QuarterCase& row : kQuarters) {
-        const RangeTool bench(makeDate(2024, row.month, 15));
-        EXPECT_EQ(bench.tool.cmbQTR.Text(), row.quarter) << row.month;
-        EXPECT_EQ(bench.tool.cmbYear.Text(), row.year) << row.month;
-        EXPECT_EQ(bench.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
-        EXPECT_EQ(bench.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
+        const RangeTool rig(makeDate(2024, row.month, 15));
+        EXPECT_EQ(rig.tool.cmbQTR.Text(), row.quarter) << row.month;
+        EXPECT_EQ(rig.tool.cmbYear.Text(), row.year) << row.month;
+        EXPECT_EQ(rig.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
+        EXPECT_EQ(rig.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
     }
 }
 
 TEST(RangeStart, TheSelectedQuarterIsAnEntryOfTheLists)
 {
-    const RangeTool bench(makeDate(2024, 1, 15));
-    EXPECT_EQ(bench.tool.cmbQTR.ListIndex(), 3);
-    EXPECT_EQ(bench.tool.cmbYear.ListIndex(), 1);
+    const RangeTool rig(makeDate(2024, 1, 15));
+    EXPECT_EQ(rig.tool.cmbQTR.ListIndex(), 3);
+    EXPECT_EQ(rig.tool.cmbYear.ListIndex(), 1);
 }
 
 TEST(RangeStart, NothingIsEvaluatedAndNothingCanBeSaved)
 {
-    const RangeTool bench;
-    EXPECT_TRUE(bench.tool.NeedsEvaluation());
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
-    EXPECT_FALSE(bench.tool.chkShowPID.isChecked());
-    EXPECT_FALSE(bench.tool.chkPreview.isChecked());
-    EXPECT_TRUE(isCleared(bench.tool));
-    EXPECT_EQ(countersOf(bench.tool.Evaluation()), Counters());
-    EXPECT_TRUE(bench.tool.UnitCatalogue().isEmpty());
-    EXPECT_EQ(bench.tool.DIServer(), nullptr);
+    const RangeTool rig;
+    EXPECT_TRUE(rig.tool.NeedsEvaluation());
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
+    EXPECT_FALSE(rig.tool.chkShowPID.isChecked());
+    EXPECT_FALSE(rig.tool.chkPreview.isChecked());
+    EXPECT_TRUE(isCleared(rig.tool));
+    EXPECT_EQ(countersOf(rig.tool.Evaluation()), Counters());
+    EXPECT_TRUE(rig.tool.UnitCatalogue().isEmpty());
+    EXPECT_EQ(rig.tool.DIServer(), nullptr);
 }
 
 TEST(RangeStart, TheFieldsHaveTheirStartingTexts)
 {
-    const RangeTool bench;
-    EXPECT_EQ(bench.tool.txtRange.Text(), "Text1");
-    EXPECT_EQ(bench.tool.txtMEC.Text(), "Text3");
-    EXPECT_EQ(bench.tool.txtMPC.Text(), "Text4");
+    const RangeTool rig;
+    EXPECT_EQ(rig.tool.txtRange.Text(), "Text1");
+    EXPECT_EQ(rig.tool.txtMEC.Text(), "Text3");
+    EXPECT_EQ(rig.tool.txtMPC.Text(), "Text4");
     for (const screen::ComboBox* list :
-         {&bench.tool.cmbUnit, &bench.tool.cmbParam, &bench.tool.cmbScale}) {
+         {&rig.tool.cmbUnit, &rig.tool.cmbParam, &rig.tool.cmbScale}) {
         EXPECT_EQ(list->ListCount(), 0) << list->Name();
         EXPECT_EQ(list->Text(), "") << list->Name();
     }
@@ -113,8 +113,8 @@ TEST(RangeStart, TheFieldsHaveTheirStartingTexts)
 
 TEST(RangeStart, TheCaptionsAreThoseOfTheScreen)
 {
-    const RangeTool bench;
-    const ctrlRangeEval& tool = bench.tool;
+    const RangeTool rig;
+    const ctrlRangeEval& tool = rig.tool;
     EXPECT_EQ(tool.lblUnit.Caption(), "Unit:");
     EXPECT_EQ(tool.lblParameter.Caption(), "Parameter:");
     EXPECT_EQ(tool.lblRange.Caption(), "Instrument Range:");
@@ -135,16 +135,16 @@ TEST(RangeStart, TheCaptionsAreThoseOfTheScreen)
 
 TEST(RangeStart, ScreenAndResultsHaveTheirSize)
 {
-    const RangeTool bench;
-    EXPECT_EQ(bench.tool.Place().Width, 12540);
-    EXPECT_EQ(bench.tool.Place().Height, 5295);
-    EXPECT_EQ(bench.tool.fraResults.Place(), (screen::Geometry{6480, 120, 6000, 4500}));
+    const RangeTool rig;
+    EXPECT_EQ(rig.tool.Place().Width, 12540);
+    EXPECT_EQ(rig.tool.Place().Height, 5295);
+    EXPECT_EQ(rig.tool.fraResults.Place(), (screen::Geometry{6480, 120, 6000, 4500}));
 }
 
 TEST(RangeStart, TheLabelsOfTheResultsStandInTheirPlaces)
 {
-    const RangeTool bench;
-    for (const LabelPlace& row : labelPlaces(bench.tool)) {
+    const RangeTool rig;
+    for (const LabelPlace& row : labelPlaces(rig.tool)) {
         EXPECT_EQ(row.label.Place().Left, row.left) << row.label.Name();
         EXPECT_EQ(row.label.Place().Top, row.top) << row.label.Name();
         EXPECT_EQ(row.label.Place().Width, row.width) << row.label.Name();
@@ -154,12 +154,12 @@ TEST(RangeStart, TheLabelsOfTheResultsStandInTheirPlaces)
 
 TEST(RangeStart, TheMarksStandAt0And20And80And100Percent)
 {
-    const RangeTool bench;
-    expectMark(bench.tool.linMin, 120);
-    expectMark(bench.tool.linLow, 1260);
-    expectMark(bench.tool.linMid, 4725);
-    expectMark(bench.tool.linMax, 5880);
-    const screen::Line& base = bench.tool.linBase;
+    const RangeTool rig;
+    expectMark(rig.tool.linMin, 120);
+    expectMark(rig.tool.linLow, 1260);
+    expectMark(rig.tool.linMid, 4725);
+    expectMark(rig.tool.linMax, 5880);
+    const screen::Line& base = rig.tool.linBase;
     EXPECT_EQ(base.X1(), 120);
     EXPECT_EQ(base.X2(), 5895);
     EXPECT_EQ(base.Y1(), 2700);
@@ -168,61 +168,61 @@ TEST(RangeStart, TheMarksStandAt0And20And80And100Percent)
 
 TEST(RangeStart, TwentyBarsStandReadyBesideTheirHiddenPattern)
 {
-    const RangeTool bench;
-    EXPECT_FALSE(bench.tool.lblBar[0].Visible());
+    const RangeTool rig;
+    EXPECT_FALSE(rig.tool.lblBar[0].Visible());
     for (int bar = 1; bar <= 20; ++bar)
-        EXPECT_TRUE(bench.tool.lblBar[bar].Visible()) << bar;
-    EXPECT_EQ(bench.tool.lblBar[1].Place().Left, 120);
-    EXPECT_EQ(bench.tool.lblBar[20].Place().Left, 5580);
-    EXPECT_EQ(bench.tool.lblBar[20].Place().Width, 315);
+        EXPECT_TRUE(rig.tool.lblBar[bar].Visible()) << bar;
+    EXPECT_EQ(rig.tool.lblBar[1].Place().Left, 120);
+    EXPECT_EQ(rig.tool.lblBar[20].Place().Left, 5580);
+    EXPECT_EQ(rig.tool.lblBar[20].Place().Width, 315);
 }
 
 TEST(RangeStart, EachWidgetLiesInItsFrame)
 {
-    RangeTool bench;
-    bench.tool.fraSetup.SetVisible(false);
-    bench.tool.fraResults.SetVisible(false);
+    RangeTool rig;
+    rig.tool.fraSetup.SetVisible(false);
+    rig.tool.fraResults.SetVisible(false);
     for (const char* name :
          {"cmbUnit", "cmbParam", "chkShowPID", "cmbScale", "txtRange", "chkMEC", "txtMEC", "chkMPC",
           "txtMPC", "cmbYear", "cmbQTR", "lblHeader", "lblBar(1)", "linBase", "lblInvalid"})
-        EXPECT_FALSE(bench.tool.Find(name)->isReachable()) << name;
+        EXPECT_FALSE(rig.tool.Find(name)->isReachable()) << name;
     for (const char* name : {"cmdCalculate", "cmdClose", "chkPreview"})
-        EXPECT_TRUE(bench.tool.Find(name)->isReachable()) << name;
+        EXPECT_TRUE(rig.tool.Find(name)->isReachable()) << name;
 }
 
 TEST(RangeStart, ClosingIsTheHostsBusiness)
 {
-    RangeTool bench;
+    RangeTool rig;
     int closed = 0;
-    bench.tool.CloseClicked.Connect([&] { ++closed; });
-    EXPECT_EQ(bench.changesBy([&] { bench.tool.cmdClose.Press(); }), Lines());
+    rig.tool.CloseClicked.Connect([&] { ++closed; });
+    EXPECT_EQ(rig.changesBy([&] { rig.tool.cmdClose.Press(); }), Lines());
     EXPECT_EQ(closed, 1);
 }
 
 TEST(RangeStart, OnlyTheYearIsTypedIn)
 {
-    RangeTool bench;
-    bench.tool.cmbYear.Type("2019");
-    EXPECT_EQ(bench.tool.cmbYear.Text(), "2019");
-    bench.tool.cmbQTR.Type("Q9");
-    EXPECT_EQ(bench.tool.cmbQTR.Text(), "Q1");
+    RangeTool rig;
+    rig.tool.cmbYear.Type("2019");
+    EXPECT_EQ(rig.tool.cmbYear.Text(), "2019");
+    rig.tool.cmbQTR.Type("Q9");
+    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q1");
 }
 
 TEST(RangeStart, WithoutDataCalculatingFailsForWantOfAParameter)
 {
-    RangeTool bench;
-    EXPECT_THROW(bench.tool.cmdCalculate.Press(), Error);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
-    EXPECT_FALSE(bench.tool.cmdSave.Enabled());
+    RangeTool rig;
+    EXPECT_THROW(rig.tool.cmdCalculate.Press(), Error);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
+    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(RangeStart, WithoutDataTheOtherActionsDoNoHarm)
 {
-    RangeTool bench;
-    EXPECT_NO_THROW(bench.tool.chkShowPID.Press());
-    EXPECT_NO_THROW(enter(bench.tool.txtRange, "50"));
-    EXPECT_NO_THROW(bench.tool.Terminate());
-    EXPECT_EQ(bench.tool.Evaluation().RangeValue, 50);
+    RangeTool rig;
+    EXPECT_NO_THROW(rig.tool.chkShowPID.Press());
+    EXPECT_NO_THROW(enter(rig.tool.txtRange, "50"));
+    EXPECT_NO_THROW(rig.tool.Terminate());
+    EXPECT_EQ(rig.tool.Evaluation().RangeValue, 50);
 }
 
 } // namespace k7deval::test

@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -16,84 +16,84 @@ const std::string kAll = "===All Units===";
 
 TEST(ParamSelectFilter, ListsAllUnitsAndThenEachUnit)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ItemDataList(), (Indexes{-1, kHeader1, kHeader2}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
-                                       "[ ] Load", "[ ] Flow"}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(), (Indexes{-1, kHeader1, kHeader2}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
+                                     "[ ] Load", "[ ] Flow"}));
 }
 
 TEST(ParamSelectFilter, ListsTheUnitsOfTheListUnderTheirOwnPIDs)
 {
-    ParamSelectBench bench;
-    bench.filtered().listWithUnits({kGT2, kLoad, kGT1, kNox});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT1"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ItemDataList(), (Indexes{-1, kGT2, kGT1}));
+    ParamSelectRig rig;
+    rig.filtered().listWithUnits({kGT2, kLoad, kGT1, kNox});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT1"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(), (Indexes{-1, kGT2, kGT1}));
 }
 
 TEST(ParamSelectFilter, IsNotFilledWhileItIsOff)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
 }
 
 TEST(ParamSelectFilter, IsFilledAnewByEachList)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    bench.list({kNox, kSo2});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT3"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT3 --", "[ ] SO2"}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    rig.list({kNox, kSo2});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT3"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT3 --", "[ ] SO2"}));
 }
 
 TEST(ParamSelectFilter, OfAnEmptyListOffersAllUnitsAndKeepsTheOldRowsOnView)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    bench.list({});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), Lines{kAll});
-    EXPECT_TRUE(bench.tool.ShowUnitCombo());
-    EXPECT_TRUE(bench.tool.OffsetUnits());
-    EXPECT_EQ(view(bench.tool), (Lines{"[ ] Load", "[ ] Flow"}));
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(view(bench.tool), (Lines{"[ ] Load", "[ ] Flow"}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    rig.list({});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{kAll});
+    EXPECT_TRUE(rig.tool.ShowUnitCombo());
+    EXPECT_TRUE(rig.tool.OffsetUnits());
+    EXPECT_EQ(view(rig.tool), (Lines{"[ ] Load", "[ ] Flow"}));
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(view(rig.tool), (Lines{"[ ] Load", "[ ] Flow"}));
 }
 
 TEST(ParamSelectFilter, WithoutAllUnitsHasNoFirstEntryToSelectInAnEmptyList)
 {
-    ParamSelectBench bench;
-    bench.withoutAllUnits().filtered();
-    EXPECT_EQ(errorOf([&] { return bench.tool.SetParamList(PIDs{}), 0; }), 381);
-    EXPECT_EQ(errorOf([&] { return bench.tool.SetShowUnpopulatedUnits(true), 0; }), 381);
+    ParamSelectRig rig;
+    rig.withoutAllUnits().filtered();
+    EXPECT_EQ(errorOf([&] { return rig.tool.SetParamList(PIDs{}), 0; }), 381);
+    EXPECT_EQ(errorOf([&] { return rig.tool.SetShowUnpopulatedUnits(true), 0; }), 381);
 }
 
 TEST(ParamSelectFilter, WithoutAllUnitsPicksTheFirstUnit)
 {
-    ParamSelectBench bench;
-    bench.withoutAllUnits().filtered().list(kFiveParameters);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_FALSE(bench.tool.OffsetUnits());
-    EXPECT_EQ(view(bench.tool), (Lines{"[ ] NOx", "[ ] CO", "[ ] O2"}));
+    ParamSelectRig rig;
+    rig.withoutAllUnits().filtered().list(kFiveParameters);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_FALSE(rig.tool.OffsetUnits());
+    EXPECT_EQ(view(rig.tool), (Lines{"[ ] NOx", "[ ] CO", "[ ] O2"}));
 }
 
 TEST(ParamSelectFilter, OffersAllUnitsOrNotFromItsNextFillingOn)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.withoutAllUnits();
-    EXPECT_FALSE(bench.tool.AllUnitsInCombo());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.jgexGrid.RowCount(), 7);
-    bench.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.withoutAllUnits();
+    EXPECT_FALSE(rig.tool.AllUnitsInCombo());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 7);
+    rig.tool.SetShowUnpopulatedUnits(false);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
 }
 
 struct UnitRowsCase {
@@ -138,30 +138,30 @@ protected:
         return units;
     }
 
-    ParamSelectBench bench;
+    ParamSelectRig rig;
 };
 
 TEST_P(ParamSelectUnits, AreInTheFilterWhenAParameterFollowsThem)
 {
-    bench.filtered().listWithUnits(GetParam().list);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), withAll(GetParam().populated));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
+    rig.filtered().listWithUnits(GetParam().list);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().populated));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
 }
 
 TEST_P(ParamSelectUnits, AreAllInTheFilterWhenUnpopulatedOnesAreWanted)
 {
-    bench.tool.SetShowUnpopulatedUnits(true);
-    bench.filtered().listWithUnits(GetParam().list);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), withAll(GetParam().all));
+    rig.tool.SetShowUnpopulatedUnits(true);
+    rig.filtered().listWithUnits(GetParam().list);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().all));
 }
 
 TEST_P(ParamSelectUnits, ComeAndGoWithTheWishForUnpopulatedOnes)
 {
-    bench.filtered().listWithUnits(GetParam().list);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), withAll(GetParam().all));
-    bench.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), withAll(GetParam().populated));
+    rig.filtered().listWithUnits(GetParam().list);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().all));
+    rig.tool.SetShowUnpopulatedUnits(false);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().populated));
 }
 
 INSTANTIATE_TEST_SUITE_P(, ParamSelectUnits, ::testing::ValuesIn(kUnitRowsCases),
@@ -169,129 +169,129 @@ INSTANTIATE_TEST_SUITE_P(, ParamSelectUnits, ::testing::ValuesIn(kUnitRowsCases)
 
 TEST(ParamSelectUnpopulatedUnits, OfHeadersAreThoseOfUnitsListedByThemselves)
 {
-    ParamSelectBench bench;
-    bench.filtered().list({kGT1, kLoad, kGT3, kSo2});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_TRUE(bench.tool.ShowUnpopulatedUnits());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2", "GT3"}));
-    EXPECT_EQ(view(bench.tool),
+    ParamSelectRig rig;
+    rig.filtered().list({kGT1, kLoad, kGT3, kSo2});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2", "GT3"}));
+    EXPECT_EQ(view(rig.tool),
               (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
 }
 
 TEST(ParamSelectUnpopulatedUnits, WithoutAFilterShowTheirHeadersAnyway)
 {
-    ParamSelectBench bench;
-    bench.list({kGT1, kLoad});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load"}));
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load"}));
+    ParamSelectRig rig;
+    rig.list({kGT1, kLoad});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load"}));
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load"}));
 }
 
 TEST(ParamSelectUnpopulatedUnits, SetTheFilterBackToItsFirstEntryAndKeepTheTicks)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters).tick({2});
-    bench.tool.cmbUnit.Pick(2);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_TRUE(bench.tool.OffsetUnits());
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[x] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
-                                       "[ ] Load", "[ ] Flow"}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters).tick({2});
+    rig.tool.cmbUnit.Pick(2);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_TRUE(rig.tool.OffsetUnits());
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
+                                     "[ ] Load", "[ ] Flow"}));
 }
 
 TEST(ParamSelectOneUnit, HidesTheFilterAndKeepsItsHeader)
 {
-    ParamSelectBench bench;
-    bench.filtered().list({kNox, kCo});
-    EXPECT_FALSE(bench.tool.ShowUnitCombo());
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_TRUE(bench.tool.OffsetUnits());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO"}));
+    ParamSelectRig rig;
+    rig.filtered().list({kNox, kCo});
+    EXPECT_FALSE(rig.tool.ShowUnitCombo());
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_TRUE(rig.tool.OffsetUnits());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO"}));
 }
 
 TEST(ParamSelectOneUnit, RunsThePickRuleBeforeTheFilterHides)
 {
-    ParamSelectBench bench;
-    bench.filtered();
-    bench.tool.SetOffsetUnits(false);
-    bench.list({kNox, kCo});
-    EXPECT_TRUE(bench.tool.OffsetUnits());
+    ParamSelectRig rig;
+    rig.filtered();
+    rig.tool.SetOffsetUnits(false);
+    rig.list({kNox, kCo});
+    EXPECT_TRUE(rig.tool.OffsetUnits());
 }
 
 TEST(ParamSelectOneUnit, GivesTheGridTheFullHeight)
 {
-    ParamSelectBench bench;
-    bench.filtered().list({kNox, kCo});
-    EXPECT_EQ(bench.tool.jgexGrid.Place().Top, 0.0F);
-    EXPECT_EQ(bench.tool.jgexGrid.Place().Height, 3495.0F);
+    ParamSelectRig rig;
+    rig.filtered().list({kNox, kCo});
+    EXPECT_EQ(rig.tool.jgexGrid.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.jgexGrid.Place().Height, 3495.0F);
 }
 
 TEST(ParamSelectOneUnit, WithoutAllUnitsHidesTheFilterAndSelectsNoEntry)
 {
-    ParamSelectBench bench;
-    bench.withoutAllUnits().filtered().list({kNox, kCo});
-    EXPECT_FALSE(bench.tool.ShowUnitCombo());
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), Lines{"GT1"});
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), -1);
-    EXPECT_EQ(bench.tool.jgexGrid.Place().Top, 0.0F);
-    EXPECT_EQ(bench.tool.jgexGrid.Place().Height, 3495.0F);
+    ParamSelectRig rig;
+    rig.withoutAllUnits().filtered().list({kNox, kCo});
+    EXPECT_FALSE(rig.tool.ShowUnitCombo());
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{"GT1"});
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), -1);
+    EXPECT_EQ(rig.tool.jgexGrid.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.jgexGrid.Place().Height, 3495.0F);
 }
 
 TEST(ParamSelectOneUnit, WithoutAllUnitsLeavesTheHeadersAsTheHostHasThem)
 {
     for (const bool offset : {true, false}) {
-        ParamSelectBench bench;
-        bench.withoutAllUnits().filtered();
-        bench.tool.SetOffsetUnits(offset);
-        bench.list({kNox});
-        EXPECT_EQ(bench.tool.OffsetUnits(), offset);
-        EXPECT_EQ(view(bench.tool).size(), offset ? 2U : 1U);
+        ParamSelectRig rig;
+        rig.withoutAllUnits().filtered();
+        rig.tool.SetOffsetUnits(offset);
+        rig.list({kNox});
+        EXPECT_EQ(rig.tool.OffsetUnits(), offset);
+        EXPECT_EQ(view(rig.tool).size(), offset ? 2U : 1U);
     }
 }
 
 TEST(ParamSelectOneUnit, IsOneOfSeveralWhenTheOthersAreUnpopulated)
 {
-    ParamSelectBench bench;
-    bench.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3});
-    EXPECT_FALSE(bench.tool.ShowUnitCombo());
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load", "-- GT3 --"}));
+    ParamSelectRig rig;
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3});
+    EXPECT_FALSE(rig.tool.ShowUnitCombo());
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load", "-- GT3 --"}));
 }
 
 TEST(ParamSelectOneUnit, StaysHiddenForTheNextListUntilTheHostShowsItAgain)
 {
-    ParamSelectBench bench;
-    bench.filtered().list({kNox}).list(kFiveParameters);
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
-    bench.filtered().list(kFiveParameters);
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
+    ParamSelectRig rig;
+    rig.filtered().list({kNox}).list(kFiveParameters);
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
+    rig.filtered().list(kFiveParameters);
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
 }
 
 TEST(ParamSelectOneUnit, HidesTheFilterOfUnpopulatedUnitsWhenTheyLeaveIt)
 {
-    ParamSelectBench bench;
-    bench.tool.SetShowUnpopulatedUnits(true);
-    bench.filtered().listWithUnits({kGT1, kNox, kGT2});
-    EXPECT_TRUE(bench.tool.ShowUnitCombo());
-    bench.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_FALSE(bench.tool.ShowUnitCombo());
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --"}));
+    ParamSelectRig rig;
+    rig.tool.SetShowUnpopulatedUnits(true);
+    rig.filtered().listWithUnits({kGT1, kNox, kGT2});
+    EXPECT_TRUE(rig.tool.ShowUnitCombo());
+    rig.tool.SetShowUnpopulatedUnits(false);
+    EXPECT_FALSE(rig.tool.ShowUnitCombo());
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --"}));
 }
 
 TEST(ParamSelectNoUnit, LeavesTheFilterWithNothingButAllUnitsAndNoRowsOnView)
 {
-    ParamSelectBench bench;
-    bench.filtered().listWithUnits({kNox, kLoad});
-    EXPECT_TRUE(bench.tool.ShowUnitCombo());
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.jgexGrid.RowCount(), 0);
-    EXPECT_EQ(bench.tool.Rows().Count(), 2);
+    ParamSelectRig rig;
+    rig.filtered().listWithUnits({kNox, kLoad});
+    EXPECT_TRUE(rig.tool.ShowUnitCombo());
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 0);
+    EXPECT_EQ(rig.tool.Rows().Count(), 2);
 }
 
 } // namespace k7deval::test

@@ -1,6 +1,6 @@
 #include "foundation/ExpectError.h"
 #include "screen/TestScreen.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -33,71 +33,71 @@ void goToTheFirstRowWhenReading(screen::Grid& grid)
 
 TEST(ParamSelectCells, OfAParameterAreItsTickAndItsName)
 {
-    ParamSelectBench bench;
-    bench.list({kNox}).tick({2});
-    EXPECT_EQ(bench.tool.jgexGrid.Cells(2), (screen::GridCells{true, std::string("NOx")}));
-    bench.tool.DeselectAll();
-    EXPECT_EQ(bench.tool.jgexGrid.Cells(2), (screen::GridCells{false, std::string("NOx")}));
+    ParamSelectRig rig;
+    rig.list({kNox}).tick({2});
+    EXPECT_EQ(rig.tool.jgexGrid.Cells(2), (screen::GridCells{true, std::string("NOx")}));
+    rig.tool.DeselectAll();
+    EXPECT_EQ(rig.tool.jgexGrid.Cells(2), (screen::GridCells{false, std::string("NOx")}));
 }
 
 TEST(ParamSelectCells, OfAUnitHaveNoTickEvenIfTheRowIsTicked)
 {
-    ParamSelectBench bench;
-    bench.list({kNox}).tick({1});
-    EXPECT_EQ(bench.tool.jgexGrid.Cells(1), (screen::GridCells{Empty{}, std::string("-- GT1 --")}));
+    ParamSelectRig rig;
+    rig.list({kNox}).tick({1});
+    EXPECT_EQ(rig.tool.jgexGrid.Cells(1), (screen::GridCells{Empty{}, std::string("-- GT1 --")}));
 }
 
 TEST(ParamSelectCells, OfARowOutsideTheListAreAnError)
 {
-    ParamSelectBench bench;
-    bench.list({kNox});
+    ParamSelectRig rig;
+    rig.list({kNox});
     for (const std::int32_t row : {0, 3})
-        EXPECT_EQ(errorOf([&] { return bench.tool.jgexGrid.Cells(row).first.index(); }), 381);
+        EXPECT_EQ(errorOf([&] { return rig.tool.jgexGrid.Cells(row).first.index(); }), 381);
 }
 
 TEST(ParamSelectPIDNumber, StandsInBracketsBeforeTheName)
 {
-    ParamSelectBench bench;
-    bench.tool.SetShowPIDNumber(true);
-    EXPECT_TRUE(bench.tool.ShowPIDNumber());
-    bench.list({kOpacity, kNox});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- Common --", "[ ] [0-100-0-75-00] Opacity", "-- GT1 --",
-                                       "[ ] [1-100-0-75-00] NOx"}));
+    ParamSelectRig rig;
+    rig.tool.SetShowPIDNumber(true);
+    EXPECT_TRUE(rig.tool.ShowPIDNumber());
+    rig.list({kOpacity, kNox});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- Common --", "[ ] [0-100-0-75-00] Opacity", "-- GT1 --",
+                                     "[ ] [1-100-0-75-00] NOx"}));
 }
 
 TEST(ParamSelectPIDNumber, ComesAndGoesWithoutChangingRowsOrTicks)
 {
-    ParamSelectBench bench;
-    bench.list({kNox}).tick({2});
-    bench.tool.SetShowPIDNumber(true);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[x] [1-100-0-75-00] NOx"}));
-    bench.tool.SetShowPIDNumber(false);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[x] NOx"}));
+    ParamSelectRig rig;
+    rig.list({kNox}).tick({2});
+    rig.tool.SetShowPIDNumber(true);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] [1-100-0-75-00] NOx"}));
+    rig.tool.SetShowPIDNumber(false);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] NOx"}));
 }
 
 TEST(ParamSelectPIDNumber, IsNothingInBracketsForAPIDThatIsNoValidOne)
 {
-    ParamSelectBench bench;
-    bench.site->parameters.push_back(bench.site->parameter(kNox));
-    bench.site->parameters.back().pid = 7;
-    bench.tool.SetShowPIDNumber(true);
-    bench.listWithUnits({7});
-    EXPECT_EQ(view(bench.tool), Lines{"[ ] [] NOx"});
+    ParamSelectRig rig;
+    rig.site->parameters.push_back(rig.site->parameter(kNox));
+    rig.site->parameters.back().pid = 7;
+    rig.tool.SetShowPIDNumber(true);
+    rig.listWithUnits({7});
+    EXPECT_EQ(view(rig.tool), Lines{"[ ] [] NOx"});
 }
 
 TEST(ParamSelectPIDNumber, LetsTheGridReadOnlyIfThereAreRows)
 {
-    ParamSelectBench bench;
-    const Raised changed(bench.tool.jgexGrid.Changed);
-    bench.tool.SetShowPIDNumber(true);
+    ParamSelectRig rig;
+    const Raised changed(rig.tool.jgexGrid.Changed);
+    rig.tool.SetShowPIDNumber(true);
     EXPECT_EQ(changed.count, 0);
-    bench.list({kNox});
-    const Raised changedAgain(bench.tool.jgexGrid.Changed);
-    bench.tool.SetShowPIDNumber(true);
+    rig.list({kNox});
+    const Raised changedAgain(rig.tool.jgexGrid.Changed);
+    rig.tool.SetShowPIDNumber(true);
     EXPECT_EQ(changedAgain.count, 1);
-    bench.list({});
-    const Raised changedWithoutRows(bench.tool.jgexGrid.Changed);
-    bench.tool.SetShowPIDNumber(false);
+    rig.list({});
+    const Raised changedWithoutRows(rig.tool.jgexGrid.Changed);
+    rig.tool.SetShowPIDNumber(false);
     EXPECT_EQ(changedWithoutRows.count, 0);
 }
 
@@ -114,176 +114,176 @@ TEST(ParamSelectMultiSelect, IsHandedToTheGrid)
 
 TEST(ParamSelectEdit, TicksAndUnticksTheRow)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.jgexGrid.Edit(3, true);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kCo});
-    bench.tool.jgexGrid.Edit(3, true);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kCo});
-    bench.tool.jgexGrid.Edit(3, false);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.jgexGrid.Edit(3, true);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kCo});
+    rig.tool.jgexGrid.Edit(3, true);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kCo});
+    rig.tool.jgexGrid.Edit(3, false);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectEdit, UnderAFilterTicksTheRowOnView)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    bench.tool.jgexGrid.Edit(2, true);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kFlow});
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    rig.tool.jgexGrid.Edit(2, true);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kFlow});
 }
 
 TEST(ParamSelectEdit, TicksAUnitAsWell)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.jgexGrid.Edit(5, true);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kHeader2});
-    bench.tool.jgexGrid.Edit(5, false);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.jgexGrid.Edit(5, true);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kHeader2});
+    rig.tool.jgexGrid.Edit(5, false);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectEdit, KeepsTheCurrentRowThoughTheGridReadsAgain)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.jgexGrid.MoveTo(4, 1);
-    goToTheFirstRowWhenReading(bench.tool.jgexGrid);
-    bench.tool.jgexGrid.Edit(4, true);
-    EXPECT_EQ(bench.tool.jgexGrid.Row(), 4);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.jgexGrid.MoveTo(4, 1);
+    goToTheFirstRowWhenReading(rig.tool.jgexGrid);
+    rig.tool.jgexGrid.Edit(4, true);
+    EXPECT_EQ(rig.tool.jgexGrid.Row(), 4);
 }
 
 TEST(ParamSelectEdit, LetsTheGridRead)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.jgexGrid.MoveTo(3, 1);
-    const Raised changed(bench.tool.jgexGrid.Changed);
-    bench.tool.jgexGrid.Edit(3, true);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.jgexGrid.MoveTo(3, 1);
+    const Raised changed(rig.tool.jgexGrid.Changed);
+    rig.tool.jgexGrid.Edit(3, true);
     EXPECT_GE(changed.count, 1);
-    EXPECT_EQ(bench.tool.jgexGrid.Row(), 3);
+    EXPECT_EQ(rig.tool.jgexGrid.Row(), 3);
 }
 
 TEST(ParamSelectCurrentCell, IsNeverLeftOfTheFirstColumn)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
     for (const std::int32_t column : {0, -1}) {
-        bench.tool.jgexGrid.MoveTo(2, 2);
-        bench.tool.jgexGrid.MoveTo(3, column);
-        EXPECT_EQ(bench.tool.jgexGrid.Col(), 1) << column;
-        EXPECT_EQ(bench.tool.jgexGrid.Row(), 3) << column;
+        rig.tool.jgexGrid.MoveTo(2, 2);
+        rig.tool.jgexGrid.MoveTo(3, column);
+        EXPECT_EQ(rig.tool.jgexGrid.Col(), 1) << column;
+        EXPECT_EQ(rig.tool.jgexGrid.Row(), 3) << column;
     }
 }
 
 TEST(ParamSelectCurrentCell, MayBeInEitherColumn)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
     for (const std::int32_t column : {1, 2}) {
-        bench.tool.jgexGrid.MoveTo(2, column);
-        EXPECT_EQ(bench.tool.jgexGrid.Col(), column);
+        rig.tool.jgexGrid.MoveTo(2, column);
+        EXPECT_EQ(rig.tool.jgexGrid.Col(), column);
     }
 }
 
 TEST(ParamSelectDoubleClick, OnANameTicksAndUnticksIt)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    doubleClick(bench.tool, 6, 2);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kLoad});
-    doubleClick(bench.tool, 6, 2);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    doubleClick(rig.tool, 6, 2);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
+    doubleClick(rig.tool, 6, 2);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectDoubleClick, UnderAFilterTicksTheRowOnView)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    doubleClick(bench.tool, 1, 2);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kLoad});
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    doubleClick(rig.tool, 1, 2);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
 }
 
 TEST(ParamSelectDoubleClick, OnTheCheckBoxIsLeftToIt)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    const Raised changed(bench.tool.jgexGrid.Changed);
-    doubleClick(bench.tool, 2, 1);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    const Raised changed(rig.tool.jgexGrid.Changed);
+    doubleClick(rig.tool, 2, 1);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
     EXPECT_EQ(changed.count, 0);
 }
 
 TEST(ParamSelectDoubleClick, OnAUnitTicksNothingButLetsTheGridRead)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    const Raised changed(bench.tool.jgexGrid.Changed);
-    doubleClick(bench.tool, 5, 2);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    const Raised changed(rig.tool.jgexGrid.Changed);
+    doubleClick(rig.tool, 5, 2);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
     EXPECT_EQ(changed.count, 1);
 }
 
 TEST(ParamSelectDoubleClick, LeavesATickedUnitTicked)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters).tick({1});
-    doubleClick(bench.tool, 1, 2);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kHeader1});
+    ParamSelectRig rig;
+    rig.list(kFiveParameters).tick({1});
+    doubleClick(rig.tool, 1, 2);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kHeader1});
 }
 
 TEST(ParamSelectDoubleClick, IsAboutTheRowUnderTheMouseAndKeepsTheCurrentOne)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
     for (const std::int32_t row : {2, 5}) {
-        bench.tool.jgexGrid.MoveTo(7, 2);
-        doubleClick(bench.tool, row, 2);
-        EXPECT_EQ(bench.tool.jgexGrid.Row(), 7) << row;
+        rig.tool.jgexGrid.MoveTo(7, 2);
+        doubleClick(rig.tool, row, 2);
+        EXPECT_EQ(rig.tool.jgexGrid.Row(), 7) << row;
     }
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kNox});
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
 }
 
 TEST(ParamSelectDoubleClick, SetsTheCurrentRowBackWhereReadingMovesIt)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.jgexGrid.MoveTo(7, 2);
-    goToTheFirstRowWhenReading(bench.tool.jgexGrid);
-    doubleClick(bench.tool, 2, 2);
-    EXPECT_EQ(bench.tool.jgexGrid.Row(), 7);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.jgexGrid.MoveTo(7, 2);
+    goToTheFirstRowWhenReading(rig.tool.jgexGrid);
+    doubleClick(rig.tool, 2, 2);
+    EXPECT_EQ(rig.tool.jgexGrid.Row(), 7);
 }
 
 TEST(ParamSelectDoubleClick, IsAboutThePlaceOfTheLastPress)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.jgexGrid.MouseDown(2, 1);
-    bench.tool.jgexGrid.MouseDown(3, 2);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt) << "a press alone ticks nothing";
-    bench.tool.jgexGrid.DoubleClick();
-    bench.tool.jgexGrid.MoveTo(6, 2);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kCo});
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.jgexGrid.MouseDown(2, 1);
+    rig.tool.jgexGrid.MouseDown(3, 2);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt) << "a press alone ticks nothing";
+    rig.tool.jgexGrid.DoubleClick();
+    rig.tool.jgexGrid.MoveTo(6, 2);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kCo});
 }
 
 TEST(ParamSelectDoubleClick, BesideTheColumnsTicksTheRow)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    doubleClick(bench.tool, 2, 0);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kNox});
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    doubleClick(rig.tool, 2, 0);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
 }
 
 TEST(ParamSelectDoubleClick, WithNoRowUnderTheMouseIsAnErrorOfTheMapOfRows)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    EXPECT_EQ(errorOf([&] { return bench.tool.jgexGrid.DoubleClick(), 0; }), 5)
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    EXPECT_EQ(errorOf([&] { return rig.tool.jgexGrid.DoubleClick(), 0; }), 5)
         << "the mouse was never pressed";
-    EXPECT_EQ(errorOf([&] { return doubleClick(bench.tool, 0, 2), 0; }), 5);
-    EXPECT_EQ(errorOf([&] { return doubleClick(bench.tool, 8, 2), 0; }), 5);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    EXPECT_EQ(errorOf([&] { return doubleClick(rig.tool, 0, 2), 0; }), 5);
+    EXPECT_EQ(errorOf([&] { return doubleClick(rig.tool, 8, 2), 0; }), 5);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +19,8 @@ float measured(const std::string& text)
 }
 
 /// The list of GT1 with a second column of that width, in a font with letters of ten twips.
-struct HeaderBench : ParamSelectBench {
-    explicit HeaderBench(float width)
+struct HeaderRig : ParamSelectRig {
+    explicit HeaderRig(float width)
     {
         tool.jgexGrid.TextWidth = measured;
         tool.Resize(kBeside + width, 3000);
@@ -63,9 +63,9 @@ class ParamSelectHeader : public ::testing::TestWithParam<HeaderCase>
 
 TEST_P(ParamSelectHeader, IsAsWideAsTheColumnTakes)
 {
-    const HeaderBench bench(GetParam().width);
-    ASSERT_EQ(bench.tool.jgexGrid.ColumnWidth(2), GetParam().width);
-    EXPECT_EQ(headerOf(bench.tool), GetParam().header);
+    const HeaderRig rig(GetParam().width);
+    ASSERT_EQ(rig.tool.jgexGrid.ColumnWidth(2), GetParam().width);
+    EXPECT_EQ(headerOf(rig.tool), GetParam().header);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ParamSelectHeader, ::testing::ValuesIn(kHeaderCases),
@@ -73,47 +73,47 @@ INSTANTIATE_TEST_SUITE_P(, ParamSelectHeader, ::testing::ValuesIn(kHeaderCases),
 
 TEST(ParamSelectHeaderMeasure, IsThatOfTheTextWithADashAndABlankMoreOnEitherSide)
 {
-    HeaderBench bench(160);
+    HeaderRig rig(160);
     Lines texts;
-    bench.tool.jgexGrid.TextWidth = [&](const std::string& text) {
+    rig.tool.jgexGrid.TextWidth = [&](const std::string& text) {
         texts.push_back(text);
         return measured(text);
     };
-    EXPECT_EQ(headerOf(bench.tool), "---- GT1 ----");
+    EXPECT_EQ(headerOf(rig.tool), "---- GT1 ----");
     EXPECT_EQ(texts, (Lines{" ---- GT1 ---- ", " ------ GT1 ------ "}));
 }
 
 TEST(ParamSelectHeaderMeasure, ThatDoesNotGrowWithTheTextStillEndsTheLine)
 {
-    HeaderBench bench(160);
-    bench.tool.jgexGrid.TextWidth = [](const std::string&) { return 0.0F; };
-    EXPECT_NE(headerOf(bench.tool).find("- GT1 -"), std::string::npos);
+    HeaderRig rig(160);
+    rig.tool.jgexGrid.TextWidth = [](const std::string&) { return 0.0F; };
+    EXPECT_NE(headerOf(rig.tool).find("- GT1 -"), std::string::npos);
 }
 
 TEST(ParamSelectHeaderMeasure, OfOneTwipALetterFillsTheColumn)
 {
-    HeaderBench bench(400);
-    bench.tool.jgexGrid.TextWidth = [](const std::string& text) {
+    HeaderRig rig(400);
+    rig.tool.jgexGrid.TextWidth = [](const std::string& text) {
         return static_cast<float>(text.size());
     };
     // 9 letters and 97 steps of four; with the six of the measure it is 403, and 399 a step before.
-    EXPECT_EQ(headerOf(bench.tool).size(), 397U);
+    EXPECT_EQ(headerOf(rig.tool).size(), 397U);
 }
 
 TEST(ParamSelectHeaderWidth, FollowsTheControl)
 {
-    HeaderBench bench(150);
-    bench.tool.Resize(kBeside + 191, 3000);
-    EXPECT_EQ(headerOf(bench.tool), "------ GT1 ------");
-    bench.tool.Resize(kBeside + 151, 3000);
-    EXPECT_EQ(headerOf(bench.tool), "---- GT1 ----");
+    HeaderRig rig(150);
+    rig.tool.Resize(kBeside + 191, 3000);
+    EXPECT_EQ(headerOf(rig.tool), "------ GT1 ------");
+    rig.tool.Resize(kBeside + 151, 3000);
+    EXPECT_EQ(headerOf(rig.tool), "---- GT1 ----");
 }
 
 TEST(ParamSelectHeaderWidth, IsNotThatOfPIDs)
 {
-    HeaderBench bench(150);
-    bench.tool.SetShowPIDNumber(true);
-    EXPECT_EQ(headerOf(bench.tool), "-- GT1 --");
+    HeaderRig rig(150);
+    rig.tool.SetShowPIDNumber(true);
+    EXPECT_EQ(headerOf(rig.tool), "-- GT1 --");
 }
 
 } // namespace k7deval::test

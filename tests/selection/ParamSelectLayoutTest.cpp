@@ -1,5 +1,5 @@
 #include "screen/TestScreen.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 

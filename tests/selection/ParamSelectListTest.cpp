@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -44,98 +44,98 @@ Rows rowsOf(const ParamSelect& tool)
 
 TEST(ParamSelectList, APIDOfAnotherUnitThanTheLastOpensAHeader)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    EXPECT_EQ(rowsOf(bench.tool),
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    EXPECT_EQ(rowsOf(rig.tool),
               (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"), parameterRow(kCo, "CO"),
                     parameterRow(kO2, "O2"), unitRow(kHeader2, "GT2"), parameterRow(kLoad, "Load"),
                     parameterRow(kFlow, "Flow")}));
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
-                                       "[ ] Load", "[ ] Flow"}));
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
+                                     "[ ] Load", "[ ] Flow"}));
 }
 
 TEST(ParamSelectList, AUnitThatComesBackGetsASecondHeader)
 {
-    ParamSelectBench bench;
-    bench.list({kNox, kLoad, kCo});
-    EXPECT_EQ(view(bench.tool),
+    ParamSelectRig rig;
+    rig.list({kNox, kLoad, kCo});
+    EXPECT_EQ(view(rig.tool),
               (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --", "[ ] Load", "-- GT1 --", "[ ] CO"}));
 }
 
 TEST(ParamSelectList, TheUnitOfNumberNoughtGetsAHeaderOfPIDNought)
 {
-    ParamSelectBench bench;
-    bench.list({kOpacity});
-    EXPECT_EQ(rowsOf(bench.tool), (Rows{unitRow(0, "Common"), parameterRow(kOpacity, "Opacity")}));
+    ParamSelectRig rig;
+    rig.list({kOpacity});
+    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(0, "Common"), parameterRow(kOpacity, "Opacity")}));
 }
 
 TEST(ParamSelectList, UnitsAmongThePIDsAreDroppedThoughTheyOpenAHeader)
 {
-    ParamSelectBench bench;
-    bench.list({kGT1, kNox, kGT1, kGT2});
-    EXPECT_EQ(rowsOf(bench.tool), (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"),
-                                        unitRow(kHeader2, "GT2")}));
+    ParamSelectRig rig;
+    rig.list({kGT1, kNox, kGT1, kGT2});
+    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"),
+                                      unitRow(kHeader2, "GT2")}));
 }
 
 TEST(ParamSelectList, PIDsThatDoNotExistAreSkippedAndOpenNoHeader)
 {
-    ParamSelectBench bench;
-    bench.list({kUnknown, kLoad, kUnknown, kFlow, 0, -1});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT2 --", "[ ] Load", "[ ] Flow"}));
-    bench.listWithUnits({kUnknown, kLoad});
-    EXPECT_EQ(view(bench.tool), Lines{"[ ] Load"});
+    ParamSelectRig rig;
+    rig.list({kUnknown, kLoad, kUnknown, kFlow, 0, -1});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load", "[ ] Flow"}));
+    rig.listWithUnits({kUnknown, kLoad});
+    EXPECT_EQ(view(rig.tool), Lines{"[ ] Load"});
 }
 
 TEST(ParamSelectList, APIDListedTwiceHasTwoRows)
 {
-    ParamSelectBench bench;
-    bench.list({kNox, kNox}).tick({3});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "[x] NOx"}));
+    ParamSelectRig rig;
+    rig.list({kNox, kNox}).tick({3});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[x] NOx"}));
 }
 
 TEST(ParamSelectList, ACollectionOfParametersGivesTheRowsOfItsPIDs)
 {
-    ParamSelectBench bench;
-    bench.tool.SetParamList(collectionOf(bench.site, {kGT1, kNox, kLoad}));
-    EXPECT_EQ(rowsOf(bench.tool), (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"),
-                                        unitRow(kHeader2, "GT2"), parameterRow(kLoad, "Load")}));
+    ParamSelectRig rig;
+    rig.tool.SetParamList(collectionOf(rig.site, {kGT1, kNox, kLoad}));
+    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"),
+                                      unitRow(kHeader2, "GT2"), parameterRow(kLoad, "Load")}));
 }
 
 TEST(ParamSelectList, TheParametersOfACollectionAreNotLookedUp)
 {
-    ParamSelectBench bench;
-    bench.tool.SetParamList(collectionOf(bench.site, {kNox, kLoad}));
-    bench.tool.SetParamList(collectionOf(bench.site, {kGT1, kNox}), true);
-    EXPECT_EQ(bench.site->countCalls("DIServer.Parameters"), 0U);
-    EXPECT_EQ(bench.site->countCalls("DIParameters.Exists"), 0U);
-    EXPECT_EQ(bench.site->countCalls("DIParameters.Item"), 0U);
+    ParamSelectRig rig;
+    rig.tool.SetParamList(collectionOf(rig.site, {kNox, kLoad}));
+    rig.tool.SetParamList(collectionOf(rig.site, {kGT1, kNox}), true);
+    EXPECT_EQ(rig.site->countCalls("DIServer.Parameters"), 0U);
+    EXPECT_EQ(rig.site->countCalls("DIParameters.Exists"), 0U);
+    EXPECT_EQ(rig.site->countCalls("DIParameters.Item"), 0U);
 }
 
 TEST(ParamSelectList, AListWithUnitsGetsNoHeadersButItsOwn)
 {
-    ParamSelectBench bench;
-    bench.listWithUnits({kNox, kGT2, kLoad, kGT1});
-    EXPECT_EQ(rowsOf(bench.tool), (Rows{parameterRow(kNox, "NOx"), unitRow(kGT2, "GT2"),
-                                        parameterRow(kLoad, "Load"), unitRow(kGT1, "GT1")}));
-    EXPECT_EQ(bench.site->countCalls("DIServer.StatusCodes"), 0U);
+    ParamSelectRig rig;
+    rig.listWithUnits({kNox, kGT2, kLoad, kGT1});
+    EXPECT_EQ(rowsOf(rig.tool), (Rows{parameterRow(kNox, "NOx"), unitRow(kGT2, "GT2"),
+                                      parameterRow(kLoad, "Load"), unitRow(kGT1, "GT1")}));
+    EXPECT_EQ(rig.site->countCalls("DIServer.StatusCodes"), 0U);
 }
 
 TEST(ParamSelectList, ACollectionWithUnitsGetsNoHeadersButItsOwn)
 {
-    ParamSelectBench bench;
-    bench.tool.SetParamList(collectionOf(bench.site, {kGT2, kLoad, kNox}), true);
-    EXPECT_EQ(rowsOf(bench.tool),
+    ParamSelectRig rig;
+    rig.tool.SetParamList(collectionOf(rig.site, {kGT2, kLoad, kNox}), true);
+    EXPECT_EQ(rowsOf(rig.tool),
               (Rows{unitRow(kGT2, "GT2"), parameterRow(kLoad, "Load"), parameterRow(kNox, "NOx")}));
 }
 
 TEST(ParamSelectList, AnythingElseGivesNoRowsAndNoError)
 {
-    ParamSelectBench bench;
-    bench.tool.SetParamList(std::monostate{});
-    bench.tool.SetParamList(std::monostate{}, true);
-    EXPECT_EQ(bench.tool.Rows().Count(), 0);
-    EXPECT_EQ(bench.tool.jgexGrid.RowCount(), 0);
-    EXPECT_EQ(bench.site->calls, Lines{});
+    ParamSelectRig rig;
+    rig.tool.SetParamList(std::monostate{});
+    rig.tool.SetParamList(std::monostate{}, true);
+    EXPECT_EQ(rig.tool.Rows().Count(), 0);
+    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 0);
+    EXPECT_EQ(rig.site->calls, Lines{});
 }
 
 struct ListWithoutRows {
@@ -151,47 +151,47 @@ void PrintTo(const ListWithoutRows& list, std::ostream* out)
 class ParamSelectWithoutRows : public ::testing::TestWithParam<ListWithoutRows>
 {
 protected:
-    ParamSelectWithoutRows() { bench.list({kNox, kLoad}).tick({2}); }
+    ParamSelectWithoutRows() { rig.list({kNox, kLoad}).tick({2}); }
 
-    ParamSelectBench bench;
+    ParamSelectRig rig;
 };
 
 TEST_P(ParamSelectWithoutRows, LeavesTheOldRowsOnViewThoughNoneCounts)
 {
-    bench.tool.SetParamList(GetParam().list);
-    EXPECT_EQ(bench.tool.Rows().Count(), 0);
-    EXPECT_EQ(bench.tool.Rows().All().items().size(), 4U);
-    EXPECT_EQ(visibleIndexes(bench.tool), (Indexes{0, 1, 2, 3}));
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[x] NOx", "-- GT2 --", "[ ] Load"}));
+    rig.tool.SetParamList(GetParam().list);
+    EXPECT_EQ(rig.tool.Rows().Count(), 0);
+    EXPECT_EQ(rig.tool.Rows().All().items().size(), 4U);
+    EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1, 2, 3}));
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] NOx", "-- GT2 --", "[ ] Load"}));
 }
 
 TEST_P(ParamSelectWithoutRows, LeavesTheSelectionOfTheOldRows)
 {
-    bench.tool.SetParamList(GetParam().list);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kNox});
-    bench.tool.SelectAll();
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kHeader1, kNox, kHeader2, kLoad}));
-    bench.tool.DeselectAll();
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    rig.tool.SetParamList(GetParam().list);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
+    rig.tool.SelectAll();
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox, kHeader2, kLoad}));
+    rig.tool.DeselectAll();
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST_P(ParamSelectWithoutRows, LetsTheUserTickTheOldRows)
 {
-    bench.tool.SetParamList(GetParam().list);
-    bench.tick({4});
-    bench.tool.jgexGrid.MouseDown(2, 2);
-    bench.tool.jgexGrid.DoubleClick();
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kLoad});
+    rig.tool.SetParamList(GetParam().list);
+    rig.tick({4});
+    rig.tool.jgexGrid.MouseDown(2, 2);
+    rig.tool.jgexGrid.DoubleClick();
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
 }
 
 TEST_P(ParamSelectWithoutRows, StoresWhetherHeadersShowWithoutMakingTheRowsAnew)
 {
-    bench.tool.SetParamList(GetParam().list);
-    bench.tool.SetOffsetUnits(false);
-    EXPECT_FALSE(bench.tool.OffsetUnits());
-    EXPECT_EQ(view(bench.tool), (Lines{"(unset)", "[x] NOx", "(unset)", "[ ] Load"}));
-    bench.tool.SetOffsetUnits(true);
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[x] NOx", "-- GT2 --", "[ ] Load"}));
+    rig.tool.SetParamList(GetParam().list);
+    rig.tool.SetOffsetUnits(false);
+    EXPECT_FALSE(rig.tool.OffsetUnits());
+    EXPECT_EQ(view(rig.tool), (Lines{"(unset)", "[x] NOx", "(unset)", "[ ] Load"}));
+    rig.tool.SetOffsetUnits(true);
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] NOx", "-- GT2 --", "[ ] Load"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(, ParamSelectWithoutRows,
@@ -203,48 +203,48 @@ INSTANTIATE_TEST_SUITE_P(, ParamSelectWithoutRows,
 
 TEST(ParamSelectSecondList, ReplacesRowsAndTicks)
 {
-    ParamSelectBench bench;
-    bench.list({kNox, kCo}).tick({2, 3});
-    bench.list({kNox, kCo});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO"}));
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list({kNox, kCo}).tick({2, 3});
+    rig.list({kNox, kCo});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO"}));
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectSecondList, OfFewerRowsLeavesNoneOfTheFirst)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters).tick({6});
-    bench.list({kSo2});
-    EXPECT_EQ(rowsOf(bench.tool), (Rows{unitRow(kHeader3, "GT3"), parameterRow(kSo2, "SO2")}));
-    EXPECT_EQ(visibleIndexes(bench.tool), (Indexes{0, 1}));
-    EXPECT_EQ(bench.tool.jgexGrid.RowCount(), 2);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters).tick({6});
+    rig.list({kSo2});
+    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader3, "GT3"), parameterRow(kSo2, "SO2")}));
+    EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1}));
+    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 2);
 }
 
 TEST(ParamSelectSecondList, OfFewerRowsIsFilteredByUnitAtOnce)
 {
-    ParamSelectBench bench;
-    bench.withoutAllUnits().filtered().list({kSo2, kLoad, kFlow, kNox, kCo, kO2});
-    bench.tool.cmbUnit.Pick(2);
-    bench.list({kNox, kLoad});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(view(bench.tool), Lines{"[ ] NOx"});
+    ParamSelectRig rig;
+    rig.withoutAllUnits().filtered().list({kSo2, kLoad, kFlow, kNox, kCo, kO2});
+    rig.tool.cmbUnit.Pick(2);
+    rig.list({kNox, kLoad});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(view(rig.tool), Lines{"[ ] NOx"});
 }
 
 TEST(ParamSelectSecondList, IsNotMixedWithTheFirstWhileItIsShown)
 {
-    ParamSelectBench bench;
-    bench.withoutAllUnits().filtered().list(kFiveParameters);
-    bench.tool.jgexGrid.Changed.Connect([&] { EXPECT_NO_THROW(view(bench.tool)); });
-    bench.list({kSo2});
-    EXPECT_EQ(view(bench.tool), Lines{"[ ] SO2"});
+    ParamSelectRig rig;
+    rig.withoutAllUnits().filtered().list(kFiveParameters);
+    rig.tool.jgexGrid.Changed.Connect([&] { EXPECT_NO_THROW(view(rig.tool)); });
+    rig.list({kSo2});
+    EXPECT_EQ(view(rig.tool), Lines{"[ ] SO2"});
 }
 
 TEST(ParamSelectSecondList, BehindAnEmptyOneReplacesTheOldRows)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters).tick({2}).list({}).list({kLoad});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT2 --", "[ ] Load"}));
-    EXPECT_EQ(bench.tool.Rows().All().items().size(), 2U);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters).tick({2}).list({}).list({kLoad});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load"}));
+    EXPECT_EQ(rig.tool.Rows().All().items().size(), 2U);
 }
 
 TEST(ParamSelectWithoutData, ListsNoPIDs)
@@ -274,11 +274,11 @@ TEST(ParamSelectWithoutData, ListsACollectionWithUnitsWhoseCellsStayUnset)
 
 TEST(ParamSelectWithoutData, ShowsTheCellsOnceThereIsSome)
 {
-    ParamSelectBench bench;
+    ParamSelectRig rig;
     ParamSelect tool;
-    tool.jgexGrid.TextWidth = bench.tool.jgexGrid.TextWidth;
-    tool.SetParamList(collectionOf(bench.site, {kGT1, kNox}), true);
-    tool.SetDIServer(serve(bench.site));
+    tool.jgexGrid.TextWidth = rig.tool.jgexGrid.TextWidth;
+    tool.SetParamList(collectionOf(rig.site, {kGT1, kNox}), true);
+    tool.SetDIServer(serve(rig.site));
     EXPECT_EQ(view(tool), (Lines{"-- GT1 --", "[ ] NOx"}));
 }
 

@@ -1,4 +1,4 @@
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -65,15 +65,15 @@ void doubleClick(ParamSelect& tool, std::int32_t gridRow)
     tool.jgexGrid.DoubleClick();
 }
 
-void actOnList(ParamSelectBench& bench, const Action& action)
+void actOnList(ParamSelectRig& rig, const Action& action)
 {
-    auto& tool = bench.tool;
+    auto& tool = rig.tool;
     switch (action.act) {
     case Act::List:
-        bench.list(action.list);
+        rig.list(action.list);
         break;
     case Act::ListWithUnits:
-        bench.listWithUnits(action.list);
+        rig.listWithUnits(action.list);
         break;
     case Act::Pick:
         tool.cmbUnit.Pick(action.number);
@@ -89,9 +89,9 @@ void actOnList(ParamSelectBench& bench, const Action& action)
     }
 }
 
-void actOnRows(ParamSelectBench& bench, const Action& action)
+void actOnRows(ParamSelectRig& rig, const Action& action)
 {
-    auto& tool = bench.tool;
+    auto& tool = rig.tool;
     switch (action.act) {
     case Act::ShowPIDs:
         tool.SetShowPIDNumber(action.on);
@@ -116,12 +116,12 @@ bool isAboutTheList(Act act)
     return act < Act::ShowPIDs;
 }
 
-void act(ParamSelectBench& bench, const Action& action)
+void act(ParamSelectRig& rig, const Action& action)
 {
     if (isAboutTheList(action.act))
-        actOnList(bench, action);
+        actOnList(rig, action);
     else
-        actOnRows(bench, action);
+        actOnRows(rig, action);
 }
 
 /// Whether the rows on view have just been sought anew.
@@ -211,43 +211,43 @@ void expectSoundCells(const ParamSelect& tool)
 RC_GTEST_PROP(ParamSelectProperties, AnyCourseOfActionsLeavesASoundList, ())
 {
     const auto actions = *rc::gen::container<std::vector<Action>>(anyAction());
-    ParamSelectBench bench;
+    ParamSelectRig rig;
     for (const Action& action : actions) {
-        act(bench, action);
-        expectSoundList(bench.tool);
-        expectSoundCells(bench.tool);
-        if (isSoughtAnew(bench.tool, action))
-            RC_ASSERT(visibleIndexes(bench.tool) == expectedOnView(bench.tool));
+        act(rig, action);
+        expectSoundList(rig.tool);
+        expectSoundCells(rig.tool);
+        if (isSoughtAnew(rig.tool, action))
+            RC_ASSERT(visibleIndexes(rig.tool) == expectedOnView(rig.tool));
     }
 }
 
 RC_GTEST_PROP(ParamSelectProperties, AnyPickShowsTheRowsOfTheUnitAndKeepsAllTicks, ())
 {
-    ParamSelectBench bench;
-    bench.filtered().list(*rc::gen::nonEmpty(anyList()));
+    ParamSelectRig rig;
+    rig.filtered().list(*rc::gen::nonEmpty(anyList()));
     const auto actions = *rc::gen::container<std::vector<Action>>(anyAction());
     for (const Action& action : actions) {
         if (!isAboutTheList(action.act))
-            act(bench, action);
-        const auto rows = bench.tool.Rows().All().items();
-        const std::int32_t entry = *rc::gen::inRange(0, bench.tool.cmbUnit.ListCount());
-        bench.tool.cmbUnit.Pick(entry);
-        RC_ASSERT(bench.tool.Rows().All().items() == rows);
-        if (!bench.tool.ShowUnitCombo() || bench.tool.Rows().Count() == 0)
+            act(rig, action);
+        const auto rows = rig.tool.Rows().All().items();
+        const std::int32_t entry = *rc::gen::inRange(0, rig.tool.cmbUnit.ListCount());
+        rig.tool.cmbUnit.Pick(entry);
+        RC_ASSERT(rig.tool.Rows().All().items() == rows);
+        if (!rig.tool.ShowUnitCombo() || rig.tool.Rows().Count() == 0)
             continue;
-        RC_ASSERT(bench.tool.OffsetUnits() == (entry == 0));
-        RC_ASSERT(visibleIndexes(bench.tool) == expectedOnView(bench.tool));
+        RC_ASSERT(rig.tool.OffsetUnits() == (entry == 0));
+        RC_ASSERT(visibleIndexes(rig.tool) == expectedOnView(rig.tool));
     }
 }
 
 RC_GTEST_PROP(ParamSelectProperties, EveryParameterOfTheListHasARowBelowItsUnitInListOrder, ())
 {
     const PIDs list = *anyList();
-    ParamSelectBench bench;
-    bench.list(list);
+    ParamSelectRig rig;
+    rig.list(list);
     PIDs parameters;
     std::int32_t unit = -1;
-    for (const ParamRow& row : bench.tool.Rows().All().items()) {
+    for (const ParamRow& row : rig.tool.Rows().All().items()) {
         RC_ASSERT(row.isUnit || row.pid / 100'000'000 == unit);
         RC_ASSERT(!row.isUnit || row.pid / 100'000'000 != unit);
         if (row.isUnit)
@@ -271,31 +271,31 @@ RC_GTEST_PROP(ParamSelectProperties, AllUnitsShowAListThatIsGroupedByUnitAsItIs,
         if (isListed[i])
             list.push_back(kAnyPIDs[i]);
     }
-    ParamSelectBench bench;
-    bench.tool.SetShowUnpopulatedUnits(true);
-    bench.filtered().list(list);
+    ParamSelectRig rig;
+    rig.tool.SetShowUnpopulatedUnits(true);
+    rig.filtered().list(list);
     Indexes all;
-    for (std::int32_t index = 0; index < bench.tool.Rows().Count(); ++index)
+    for (std::int32_t index = 0; index < rig.tool.Rows().Count(); ++index)
         all.push_back(index);
-    RC_ASSERT(visibleIndexes(bench.tool) == all);
+    RC_ASSERT(visibleIndexes(rig.tool) == all);
 }
 
 RC_GTEST_PROP(SingleParamSelectProperties, WithoutTheFilterAnyListGivesItsParametersInOrder, ())
 {
     const PIDs list = *anyList();
     const bool hasUnits = *rc::gen::arbitrary<bool>();
-    SingleBench bench;
-    bench.filtered(false).tool.SetParamList(list, hasUnits);
+    SingleRig rig;
+    rig.filtered(false).tool.SetParamList(list, hasUnits);
     PIDs expected;
-    for (const ParamRow& row : bench.tool.Rows().All().items()) {
+    for (const ParamRow& row : rig.tool.Rows().All().items()) {
         if (!row.isUnit)
             expected.push_back(row.pid);
     }
-    RC_ASSERT(bench.tool.cmbPID.ItemDataList() == expected);
-    RC_ASSERT(bench.tool.cmbPID.ListIndex() == -1);
-    for (std::int32_t entry = 0; entry < bench.tool.cmbPID.ListCount(); ++entry) {
-        bench.tool.cmbPID.Pick(entry);
-        RC_ASSERT(bench.tool.GetSelection() == expected[static_cast<std::size_t>(entry)]);
+    RC_ASSERT(rig.tool.cmbPID.ItemDataList() == expected);
+    RC_ASSERT(rig.tool.cmbPID.ListIndex() == -1);
+    for (std::int32_t entry = 0; entry < rig.tool.cmbPID.ListCount(); ++entry) {
+        rig.tool.cmbPID.Pick(entry);
+        RC_ASSERT(rig.tool.GetSelection() == expected[static_cast<std::size_t>(entry)]);
     }
 }
 

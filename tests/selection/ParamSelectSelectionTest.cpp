@@ -1,5 +1,5 @@
 #include "screen/TestScreen.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -9,163 +9,163 @@ namespace k7deval::test
 
 TEST(ParamSelectSelectAll, TicksAllRowsOnViewTheUnitsAsWell)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.SelectAll();
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kHeader1, kNox, kCo, kO2, kHeader2, kLoad, kFlow}));
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.SelectAll();
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox, kCo, kO2, kHeader2, kLoad, kFlow}));
 }
 
 TEST(ParamSelectSelectAll, TicksNoUnitThatIsNotOnView)
 {
-    ParamSelectBench bench;
-    bench.list({kNox, kLoad});
-    bench.tool.SetOffsetUnits(false);
-    bench.tool.SelectAll();
-    bench.tool.SetOffsetUnits(true);
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kNox, kLoad}));
+    ParamSelectRig rig;
+    rig.list({kNox, kLoad});
+    rig.tool.SetOffsetUnits(false);
+    rig.tool.SelectAll();
+    rig.tool.SetOffsetUnits(true);
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kNox, kLoad}));
 }
 
 TEST(ParamSelectSelectAll, UnderAFilterTicksNothingBehindIt)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    bench.tool.SelectAll();
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kLoad, kFlow}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    rig.tool.SelectAll();
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kLoad, kFlow}));
 }
 
 TEST(ParamSelectDeselectAll, UnticksAllRowsOnViewTheUnitsAsWell)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    bench.tool.SelectAll();
-    bench.tool.DeselectAll();
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    rig.tool.SelectAll();
+    rig.tool.DeselectAll();
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectDeselectAll, UnderAFilterUnticksNothingBehindIt)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.SelectAll();
-    bench.tool.cmbUnit.Pick(2);
-    bench.tool.DeselectAll();
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kHeader1, kNox, kCo, kO2, kHeader2}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.SelectAll();
+    rig.tool.cmbUnit.Pick(2);
+    rig.tool.DeselectAll();
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox, kCo, kO2, kHeader2}));
 }
 
 TEST(ParamSelectSelection, OfAllOrNothingLetsTheGridReadOnce)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    const Raised changed(bench.tool.jgexGrid.Changed);
-    bench.tool.SelectAll();
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    const Raised changed(rig.tool.jgexGrid.Changed);
+    rig.tool.SelectAll();
     EXPECT_EQ(changed.count, 1);
-    bench.tool.DeselectAll();
+    rig.tool.DeselectAll();
     EXPECT_EQ(changed.count, 2);
 }
 
 TEST(ParamSelectSelection, IsEmptyAsLongAsNothingIsTicked)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectSelection, ListsTheTickedRowsFromTopToBottomNotInTheOrderOfTheirTicks)
 {
-    ParamSelectBench bench;
-    bench.list({kO2, kNox, kLoad}).tick({5, 3, 2});
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kO2, kNox, kLoad}));
+    ParamSelectRig rig;
+    rig.list({kO2, kNox, kLoad}).tick({5, 3, 2});
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kO2, kNox, kLoad}));
 }
 
 TEST(ParamSelectSelection, ListsTheTickedRowsInTheOrderOnViewNotInThatOfTheList)
 {
-    ParamSelectBench bench;
-    bench.filtered().listWithUnits({kGT2, kGT1, kNox, kLoad, kGT3, kSo2, kCo, kFlow});
-    bench.tool.SetShowUnpopulatedUnits(true);
-    bench.tick({2, 3, 5, 6, 8});
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kLoad, kFlow, kNox, kCo, kSo2}));
+    ParamSelectRig rig;
+    rig.filtered().listWithUnits({kGT2, kGT1, kNox, kLoad, kGT3, kSo2, kCo, kFlow});
+    rig.tool.SetShowUnpopulatedUnits(true);
+    rig.tick({2, 3, 5, 6, 8});
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kLoad, kFlow, kNox, kCo, kSo2}));
 }
 
 TEST(ParamSelectSelection, LeavesOutATickedRowBehindTheFilter)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters).tick({2, 6});
-    bench.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kLoad});
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kNox});
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kNox, kLoad}));
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters).tick({2, 6});
+    rig.tool.cmbUnit.Pick(2);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kNox, kLoad}));
 }
 
 TEST(ParamSelectSelection, IsEmptyWhenAllTickedRowsAreBehindTheFilter)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters).tick({2});
-    bench.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters).tick({2});
+    rig.tool.cmbUnit.Pick(2);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectSelection, LeavesOutATickedUnitWithoutHeaders)
 {
-    ParamSelectBench bench;
-    bench.list({kNox, kLoad}).tick({1, 2});
-    bench.tool.SetOffsetUnits(false);
-    EXPECT_EQ(selectionOf(bench.tool), PIDs{kNox});
-    bench.tool.SetOffsetUnits(true);
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kHeader1, kNox}));
+    ParamSelectRig rig;
+    rig.list({kNox, kLoad}).tick({1, 2});
+    rig.tool.SetOffsetUnits(false);
+    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
+    rig.tool.SetOffsetUnits(true);
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox}));
 }
 
 TEST(ParamSelectSelection, HasTheUnitsOfTheListUnderTheirOwnPIDs)
 {
-    ParamSelectBench bench;
-    bench.listWithUnits({kGT1, kNox}).tick({1, 2});
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kGT1, kNox}));
+    ParamSelectRig rig;
+    rig.listWithUnits({kGT1, kNox}).tick({1, 2});
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kGT1, kNox}));
 }
 
 TEST(ParamSelectUnitName, IsThatOfThePickedUnit)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(bench.tool.GetUnitName(), "GT2");
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    EXPECT_EQ(rig.tool.GetUnitName(), "GT2");
 }
 
 TEST(ParamSelectUnitName, IsEmptyForAllUnits)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    EXPECT_EQ(bench.tool.GetUnitName(), "");
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    EXPECT_EQ(rig.tool.GetUnitName(), "");
 }
 
 TEST(ParamSelectUnitName, IsEmptyForTheFirstEntryEvenIfItIsAUnit)
 {
-    ParamSelectBench bench;
-    bench.withoutAllUnits().filtered().list(kFiveParameters);
-    EXPECT_EQ(bench.tool.GetUnitName(), "");
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.GetUnitName(), "GT2");
+    ParamSelectRig rig;
+    rig.withoutAllUnits().filtered().list(kFiveParameters);
+    EXPECT_EQ(rig.tool.GetUnitName(), "");
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.GetUnitName(), "GT2");
 }
 
 TEST(ParamSelectUnitName, IsEmptyWithoutAFilterWhateverIsSelectedInIt)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    bench.tool.SetShowUnitCombo(false);
-    EXPECT_EQ(bench.tool.GetUnitName(), "");
-    bench.tool.SetShowUnitCombo(true);
-    EXPECT_EQ(bench.tool.GetUnitName(), "GT2");
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    rig.tool.SetShowUnitCombo(false);
+    EXPECT_EQ(rig.tool.GetUnitName(), "");
+    rig.tool.SetShowUnitCombo(true);
+    EXPECT_EQ(rig.tool.GetUnitName(), "GT2");
 }
 
 TEST(ParamSelectUnitName, IsEmptyWithNothingSelected)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters).filtered();
-    EXPECT_EQ(bench.tool.GetUnitName(), "");
+    ParamSelectRig rig;
+    rig.list(kFiveParameters).filtered();
+    EXPECT_EQ(rig.tool.GetUnitName(), "");
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -52,16 +52,16 @@ TEST(ParamSelectStart, ItsWidgetsAreFoundByTheirNames)
 
 TEST(ParamSelectStart, ActionsOnAListWithoutRowsLeaveItEmpty)
 {
-    ParamSelectBench bench;
-    bench.tool.SelectAll();
-    bench.tool.DeselectAll();
-    bench.tool.SetOffsetUnits(false);
-    bench.tool.SetOffsetUnits(true);
-    bench.tool.SetShowPIDNumber(true);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(bench.tool.jgexGrid.RowCount(), 0);
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
-    EXPECT_EQ(bench.site->calls, Lines{});
+    ParamSelectRig rig;
+    rig.tool.SelectAll();
+    rig.tool.DeselectAll();
+    rig.tool.SetOffsetUnits(false);
+    rig.tool.SetOffsetUnits(true);
+    rig.tool.SetShowPIDNumber(true);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 0);
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
+    EXPECT_EQ(rig.site->calls, Lines{});
 }
 
 TEST(ParamSelectData, IsKept)
@@ -77,34 +77,34 @@ TEST(ParamSelectData, IsKept)
 
 TEST(ParamSelectData, NothingLeavesTheDataThatIsThere)
 {
-    ParamSelectBench bench;
-    const auto server = bench.tool.DIServer();
-    bench.tool.SetDIServer(nullptr);
-    EXPECT_EQ(bench.tool.DIServer(), server);
-    bench.list({kNox});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT1 --", "[ ] NOx"}));
+    ParamSelectRig rig;
+    const auto server = rig.tool.DIServer();
+    rig.tool.SetDIServer(nullptr);
+    EXPECT_EQ(rig.tool.DIServer(), server);
+    rig.list({kNox});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx"}));
 }
 
 TEST(ParamSelectData, IsReadWhileTheListIsLoadedAndNotLater)
 {
-    ParamSelectBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.site->calls.clear();
-    bench.tool.cmbUnit.Pick(1);
-    bench.tool.SetShowPIDNumber(true);
-    bench.tool.SelectAll();
-    EXPECT_EQ(selectionOf(bench.tool), (PIDs{kNox, kCo, kO2}));
-    EXPECT_EQ(view(bench.tool).size(), 3U);
-    EXPECT_EQ(bench.site->calls, Lines{});
+    ParamSelectRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.site->calls.clear();
+    rig.tool.cmbUnit.Pick(1);
+    rig.tool.SetShowPIDNumber(true);
+    rig.tool.SelectAll();
+    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kNox, kCo, kO2}));
+    EXPECT_EQ(view(rig.tool).size(), 3U);
+    EXPECT_EQ(rig.site->calls, Lines{});
 }
 
 TEST(ParamSelectEnd, ReleasesTheRowsOnView)
 {
-    ParamSelectBench bench;
-    bench.list(kFiveParameters).tick({2});
-    bench.tool.Terminate();
-    EXPECT_TRUE(bench.tool.VisibleRows().isEmpty());
-    EXPECT_EQ(bench.tool.GetSelection(), std::nullopt);
+    ParamSelectRig rig;
+    rig.list(kFiveParameters).tick({2});
+    rig.tool.Terminate();
+    EXPECT_TRUE(rig.tool.VisibleRows().isEmpty());
+    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
 TEST(ParamSelectEnd, AListWithoutRowsEndsAsWell)

@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -86,25 +86,25 @@ protected:
     }
 
     /// Loads the list with its call of that number failing.
-    template <class Bench>
-    static std::optional<std::string> loadFailingAt(Bench& bench, std::size_t number)
+    template <class Rig>
+    static std::optional<std::string> loadFailingAt(Rig& rig, std::size_t number)
     {
-        const ParamList list = listOn(bench.site);
-        const std::size_t first = bench.site->calls.size();
-        bench.site->failure = [first, number](const std::string&, std::size_t at) {
+        const ParamList list = listOn(rig.site);
+        const std::size_t first = rig.site->calls.size();
+        rig.site->failure = [first, number](const std::string&, std::size_t at) {
             return at == first + number ? std::optional(Error(1234, "the line is down"))
                                         : std::nullopt;
         };
-        return passedOn([&] { bench.tool.SetParamList(list, GetParam().hasUnits); });
+        return passedOn([&] { rig.tool.SetParamList(list, GetParam().hasUnits); });
     }
 
     /// The calls that loading the list takes.
-    template <class Bench> static Lines callsOfLoading(Bench& bench)
+    template <class Rig> static Lines callsOfLoading(Rig& rig)
     {
-        const ParamList list = listOn(bench.site);
-        bench.site->calls.clear();
-        bench.tool.SetParamList(list, GetParam().hasUnits);
-        return bench.site->calls;
+        const ParamList list = listOn(rig.site);
+        rig.site->calls.clear();
+        rig.tool.SetParamList(list, GetParam().hasUnits);
+        return rig.site->calls;
     }
 };
 
@@ -112,44 +112,44 @@ protected:
 
 TEST_P(SelectionFailure, OfEachCallIsMetWhileLoading)
 {
-    ParamSelectBench bench;
-    EXPECT_EQ(sortedOnce(callsOfLoading(bench)), sortedOnce(GetParam().calls));
+    ParamSelectRig rig;
+    EXPECT_EQ(sortedOnce(callsOfLoading(rig)), sortedOnce(GetParam().calls));
 }
 
 TEST_P(SelectionFailure, AtAnyCallReachesTheHostOfTheListAndLeavesTheOldRowsOnView)
 {
-    ParamSelectBench undisturbed;
+    ParamSelectRig undisturbed;
     const std::size_t count = callsOfLoading(undisturbed).size();
     for (std::size_t number = 0; number < count; ++number) {
-        ParamSelectBench bench;
-        bench.filtered().list({kSo2, kOpacity});
-        EXPECT_EQ(loadFailingAt(bench, number), "1234, the line is down") << number;
-        EXPECT_EQ(visibleIndexes(bench.tool), (Indexes{0, 1, 2, 3})) << number;
-        EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 3) << number;
-        EXPECT_NO_THROW(view(bench.tool)) << number;
+        ParamSelectRig rig;
+        rig.filtered().list({kSo2, kOpacity});
+        EXPECT_EQ(loadFailingAt(rig, number), "1234, the line is down") << number;
+        EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1, 2, 3})) << number;
+        EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 3) << number;
+        EXPECT_NO_THROW(view(rig.tool)) << number;
     }
 }
 
 TEST_P(SelectionFailure, AtAnyCallReachesTheHostOfTheBoxesAndLeavesTheirEntries)
 {
-    SingleBench undisturbed;
+    SingleRig undisturbed;
     undisturbed.filtered(false);
     const std::size_t count = callsOfLoading(undisturbed).size();
     for (std::size_t number = 0; number < count; ++number) {
-        SingleBench bench;
-        bench.filtered(false).list({kSo2});
-        EXPECT_EQ(loadFailingAt(bench, number), "1234, the line is down") << number;
-        EXPECT_EQ(bench.tool.cmbPID.List(), Lines{"SO2"}) << number;
+        SingleRig rig;
+        rig.filtered(false).list({kSo2});
+        EXPECT_EQ(loadFailingAt(rig, number), "1234, the line is down") << number;
+        EXPECT_EQ(rig.tool.cmbPID.List(), Lines{"SO2"}) << number;
     }
 }
 
 TEST_P(SelectionFailure, IsOverWithTheNextList)
 {
-    ParamSelectBench bench;
-    loadFailingAt(bench, 3);
-    bench.site->failure = nullptr;
-    bench.list({kLoad});
-    EXPECT_EQ(view(bench.tool), (Lines{"-- GT2 --", "[ ] Load"}));
+    ParamSelectRig rig;
+    loadFailingAt(rig, 3);
+    rig.site->failure = nullptr;
+    rig.list({kLoad});
+    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(, SelectionFailure, ::testing::ValuesIn(kListForms),
@@ -157,41 +157,41 @@ INSTANTIATE_TEST_SUITE_P(, SelectionFailure, ::testing::ValuesIn(kListForms),
 
 TEST(SelectionFailureOfTheData, LeavesTheRowsUpToItCounted)
 {
-    ParamSelectBench bench;
-    failAt(*bench.site, "DIParameters.Exists", 3);
-    EXPECT_EQ(passedOn([&] { bench.list(kFiveParameters); }), "440, the line is down");
-    EXPECT_EQ(bench.tool.Rows().Count(), 3) << "GT1, NOx, CO";
+    ParamSelectRig rig;
+    failAt(*rig.site, "DIParameters.Exists", 3);
+    EXPECT_EQ(passedOn([&] { rig.list(kFiveParameters); }), "440, the line is down");
+    EXPECT_EQ(rig.tool.Rows().Count(), 3) << "GT1, NOx, CO";
 }
 
 TEST(SelectionFailureOfTheData, HasNoEntryOfTheListLookedUpBeforeThoseAheadOfItHaveTheirRows)
 {
-    ParamSelectBench bench;
-    failAt(*bench.site, "DIStatusCodes.UnitName(110007500)");
-    EXPECT_EQ(passedOn([&] { bench.list(kFiveParameters); }), "440, the line is down");
-    EXPECT_EQ(bench.site->countCalls("DIParameters.Exists"), 1U);
+    ParamSelectRig rig;
+    failAt(*rig.site, "DIStatusCodes.UnitName(110007500)");
+    EXPECT_EQ(passedOn([&] { rig.list(kFiveParameters); }), "440, the line is down");
+    EXPECT_EQ(rig.site->countCalls("DIParameters.Exists"), 1U);
 }
 
 TEST(SelectionFailureOfTheData, IsThatOfAnAbsentObjectWhereTheDataHandsOutNone)
 {
-    ParamSelectBench bench;
+    ParamSelectRig rig;
     const DIParameterList list = {nullptr};
-    EXPECT_EQ(passedOn([&] { bench.tool.SetParamList(list); }),
+    EXPECT_EQ(passedOn([&] { rig.tool.SetParamList(list); }),
               "91, Object variable or With block variable not set");
-    EXPECT_EQ(passedOn([&] { bench.tool.SetParamList(list, true); }),
+    EXPECT_EQ(passedOn([&] { rig.tool.SetParamList(list, true); }),
               "91, Object variable or With block variable not set");
 }
 
 TEST(SelectionFailureOfTheData, InNamingTheUnitsOfTheEntriesReachesTheHost)
 {
-    SingleBench bench;
-    bench.filtered().listWithUnits({kGT1, kNox, kGT2, kLoad});
+    SingleRig rig;
+    rig.filtered().listWithUnits({kGT1, kNox, kGT2, kLoad});
     for (const char* call : {"DIServer.StatusCodes", "DIStatusCodes.UnitName(260207500)"}) {
-        failAt(*bench.site, call);
+        failAt(*rig.site, call);
         const std::string failure = "440, the line is down";
-        EXPECT_EQ(passedOn([&] { bench.tool.SetShowPIDNumber(true); }), failure) << call;
-        EXPECT_EQ(passedOn([&] { bench.tool.SetShowUnpopulatedUnits(true); }), failure) << call;
-        EXPECT_EQ(passedOn([&] { bench.tool.SetAllUnitsInCombo(true); }), failure) << call;
-        EXPECT_EQ(passedOn([&] { bench.tool.cmbUnit.Pick(0); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { rig.tool.SetShowPIDNumber(true); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { rig.tool.SetShowUnpopulatedUnits(true); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { rig.tool.SetAllUnitsInCombo(true); }), failure) << call;
+        EXPECT_EQ(passedOn([&] { rig.tool.cmbUnit.Pick(0); }), failure) << call;
     }
 }
 

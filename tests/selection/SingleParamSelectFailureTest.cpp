@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -9,74 +9,74 @@ namespace k7deval::test
 
 TEST(SingleParamSelectNothingPicked, HasNoSelectionRightAfterTheList)
 {
-    SingleBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.tool.GetSelection(); }), 381);
-    bench.filtered(false).list(kFiveParameters);
-    EXPECT_EQ(errorOf([&] { return bench.tool.GetSelection(); }), 381);
+    SingleRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.tool.GetSelection(); }), 381);
+    rig.filtered(false).list(kFiveParameters);
+    EXPECT_EQ(errorOf([&] { return rig.tool.GetSelection(); }), 381);
 }
 
 TEST(SingleParamSelectNothingPicked, HasNoSelectionOnceTheBoxIsFilledAnew)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    bench.tool.cmbPID.Pick(1);
-    bench.tool.SetShowPIDNumber(true);
-    EXPECT_EQ(errorOf([&] { return bench.tool.GetSelection(); }), 381);
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    rig.tool.cmbPID.Pick(1);
+    rig.tool.SetShowPIDNumber(true);
+    EXPECT_EQ(errorOf([&] { return rig.tool.GetSelection(); }), 381);
 }
 
 TEST(SingleParamSelectNoUnitPicked, FailsForAHostThatNeverSetTheFilter)
 {
-    SingleBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.list(kFiveParameters), 0; }), 381);
-    EXPECT_EQ(bench.tool.Rows().Count(), 7) << "the list itself is loaded";
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 0);
+    SingleRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.list(kFiveParameters), 0; }), 381);
+    EXPECT_EQ(rig.tool.Rows().Count(), 7) << "the list itself is loaded";
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
 }
 
 TEST(SingleParamSelectNoUnitPicked, IsMendedByShowingTheFilter)
 {
-    SingleBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.list({kNox, kLoad}), 0; }), 381);
-    bench.filtered();
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
+    SingleRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.list({kNox, kLoad}), 0; }), 381);
+    rig.filtered();
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
 }
 
 TEST(SingleParamSelectNoUnitPicked, StillFailsWhileTheFilterIsTakenOff)
 {
-    SingleBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.list({kNox, kLoad}), 0; }), 381);
-    EXPECT_EQ(errorOf([&] { return bench.filtered(false), 0; }), 381);
-    EXPECT_FALSE(bench.tool.ShowUnitCombo());
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible()) << "the box fails before the filter is hidden";
+    SingleRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.list({kNox, kLoad}), 0; }), 381);
+    EXPECT_EQ(errorOf([&] { return rig.filtered(false), 0; }), 381);
+    EXPECT_FALSE(rig.tool.ShowUnitCombo());
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible()) << "the box fails before the filter is hidden";
 }
 
 TEST(SingleParamSelectNoUnitPicked, FailsWithoutAllUnits)
 {
     for (const PIDs& list : {PIDs{kNox, kLoad}, PIDs{kNox}}) {
-        SingleBench bench;
-        bench.withoutAllUnits().filtered();
-        EXPECT_EQ(errorOf([&] { return bench.list(list), 0; }), 381);
-        EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), -1);
-        EXPECT_TRUE(bench.tool.cmbUnit.Visible()) << "even if there is just one unit";
+        SingleRig rig;
+        rig.withoutAllUnits().filtered();
+        EXPECT_EQ(errorOf([&] { return rig.list(list), 0; }), 381);
+        EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), -1);
+        EXPECT_TRUE(rig.tool.cmbUnit.Visible()) << "even if there is just one unit";
     }
 }
 
 TEST(SingleParamSelectNoUnitPicked, FailsWhenAllUnitsLeaveTheFilter)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kLoad});
-    EXPECT_EQ(errorOf([&] { return bench.tool.SetAllUnitsInCombo(false), 0; }), 381);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 0) << "it was emptied before";
+    SingleRig rig;
+    rig.filtered().list({kNox, kLoad});
+    EXPECT_EQ(errorOf([&] { return rig.tool.SetAllUnitsInCombo(false), 0; }), 381);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0) << "it was emptied before";
 }
 
 TEST(SingleParamSelectNoUnitPicked, FailsWithATextTypedIntoTheFilter)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kLoad});
-    bench.tool.cmbUnit.Type("GT1");
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 2) << "typing fills nothing";
-    EXPECT_EQ(errorOf([&] { return bench.tool.SetShowPIDNumber(true), 0; }), 381);
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 0);
+    SingleRig rig;
+    rig.filtered().list({kNox, kLoad});
+    rig.tool.cmbUnit.Type("GT1");
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 2) << "typing fills nothing";
+    EXPECT_EQ(errorOf([&] { return rig.tool.SetShowPIDNumber(true), 0; }), 381);
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
 }
 
 TEST(SingleParamSelectWithoutData, CannotNameUnits)

@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -41,17 +41,17 @@ TEST(SingleParamSelectStart, LiesAsDesigned)
 
 TEST(SingleParamSelectStart, PropertiesOfAnEmptyListAreStoredAndFillNothing)
 {
-    SingleBench bench;
-    bench.tool.SetAllUnitsInCombo(false);
-    bench.tool.SetShowPIDNumber(true);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    bench.tool.SetShowUnitCombo(true);
-    EXPECT_FALSE(bench.tool.AllUnitsInCombo());
-    EXPECT_TRUE(bench.tool.ShowPIDNumber());
-    EXPECT_TRUE(bench.tool.ShowUnpopulatedUnits());
-    EXPECT_TRUE(bench.tool.ShowUnitCombo());
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 0);
+    SingleRig rig;
+    rig.tool.SetAllUnitsInCombo(false);
+    rig.tool.SetShowPIDNumber(true);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    rig.tool.SetShowUnitCombo(true);
+    EXPECT_FALSE(rig.tool.AllUnitsInCombo());
+    EXPECT_TRUE(rig.tool.ShowPIDNumber());
+    EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());
+    EXPECT_TRUE(rig.tool.ShowUnitCombo());
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
 }
 
 TEST(SingleParamSelectData, IsKeptAndNothingLeavesIt)
@@ -66,162 +66,162 @@ TEST(SingleParamSelectData, IsKeptAndNothingLeavesIt)
 
 TEST(SingleParamSelectBoxes, AreTypedInWhichSelectsNothing)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    bench.tool.cmbPID.Pick(1);
-    bench.tool.cmbPID.Type("CO");
-    EXPECT_EQ(bench.tool.cmbPID.Text(), "CO");
-    EXPECT_EQ(errorOf([&] { return bench.tool.GetSelection(); }), 381);
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    rig.tool.cmbPID.Pick(1);
+    rig.tool.cmbPID.Type("CO");
+    EXPECT_EQ(rig.tool.cmbPID.Text(), "CO");
+    EXPECT_EQ(errorOf([&] { return rig.tool.GetSelection(); }), 381);
 }
 
 TEST(SingleParamSelectList, GivesTheRowsOfTheListToTick)
 {
-    SingleBench bench;
-    ParamSelectBench other;
+    SingleRig rig;
+    ParamSelectRig other;
     const PIDs pids = {kGT1, kNox, kUnknown, kLoad, kNox};
     for (const bool hasUnits : {false, true}) {
-        bench.filtered(false).tool.SetParamList(pids, hasUnits);
+        rig.filtered(false).tool.SetParamList(pids, hasUnits);
         other.tool.SetParamList(pids, hasUnits);
-        EXPECT_EQ(bench.tool.Rows().All().items(), other.tool.Rows().All().items());
+        EXPECT_EQ(rig.tool.Rows().All().items(), other.tool.Rows().All().items());
     }
-    bench.tool.SetParamList(collectionOf(bench.site, {kGT2, kFlow}));
+    rig.tool.SetParamList(collectionOf(rig.site, {kGT2, kFlow}));
     other.tool.SetParamList(collectionOf(other.site, {kGT2, kFlow}));
-    EXPECT_EQ(bench.tool.Rows().All().items(), other.tool.Rows().All().items());
+    EXPECT_EQ(rig.tool.Rows().All().items(), other.tool.Rows().All().items());
 }
 
 TEST(SingleParamSelectList, ShowsTheParametersInListOrderAndNoUnits)
 {
-    SingleBench bench;
-    bench.filtered(false).list({kLoad, kNox, kGT1, kFlow});
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"Load", "NOx", "Flow"}));
-    EXPECT_EQ(bench.tool.cmbPID.ItemDataList(), (Indexes{kLoad, kNox, kFlow}));
-    bench.listWithUnits({kGT1, kNox, kGT2, kLoad});
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
+    SingleRig rig;
+    rig.filtered(false).list({kLoad, kNox, kGT1, kFlow});
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"Load", "NOx", "Flow"}));
+    EXPECT_EQ(rig.tool.cmbPID.ItemDataList(), (Indexes{kLoad, kNox, kFlow}));
+    rig.listWithUnits({kGT1, kNox, kGT2, kLoad});
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
 }
 
 TEST(SingleParamSelectList, SelectsNoEntry)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    EXPECT_EQ(bench.tool.cmbPID.ListIndex(), -1);
-    EXPECT_EQ(bench.tool.cmbPID.Text(), "");
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    EXPECT_EQ(rig.tool.cmbPID.ListIndex(), -1);
+    EXPECT_EQ(rig.tool.cmbPID.Text(), "");
 }
 
 TEST(SingleParamSelectList, WithoutRowsLeavesTheEntriesAndTheSelection)
 {
     const ParamList lists[] = {PIDs{}, DIParameterList{}, PIDs{kUnknown}, std::monostate{}};
     for (const ParamList& list : lists) {
-        SingleBench bench;
-        bench.filtered(false).list({kNox, kLoad});
-        bench.tool.cmbPID.Pick(1);
-        bench.tool.SetParamList(list);
-        EXPECT_EQ(bench.tool.Rows().Count(), 0);
-        EXPECT_EQ(bench.tool.Rows().All().items().size(), 4U);
-        EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
-        EXPECT_EQ(bench.tool.GetSelection(), kLoad);
+        SingleRig rig;
+        rig.filtered(false).list({kNox, kLoad});
+        rig.tool.cmbPID.Pick(1);
+        rig.tool.SetParamList(list);
+        EXPECT_EQ(rig.tool.Rows().Count(), 0);
+        EXPECT_EQ(rig.tool.Rows().All().items().size(), 4U);
+        EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
+        EXPECT_EQ(rig.tool.GetSelection(), kLoad);
     }
 }
 
 TEST(SingleParamSelectList, WithoutRowsNeedsNoEntryOfTheFilter)
 {
-    SingleBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.tool.SetParamList(PIDs{}), 0; }), 0);
-    EXPECT_EQ(errorOf([&] { return bench.tool.SetShowPIDNumber(true), 0; }), 0);
+    SingleRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.tool.SetParamList(PIDs{}), 0; }), 0);
+    EXPECT_EQ(errorOf([&] { return rig.tool.SetShowPIDNumber(true), 0; }), 0);
 }
 
 TEST(SingleParamSelectSelection, IsThePIDOfThePickedEntry)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    bench.tool.cmbPID.Pick(3);
-    EXPECT_EQ(bench.tool.GetSelection(), kLoad);
-    bench.tool.cmbPID.Pick(0);
-    EXPECT_EQ(bench.tool.GetSelection(), kNox);
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    rig.tool.cmbPID.Pick(3);
+    EXPECT_EQ(rig.tool.GetSelection(), kLoad);
+    rig.tool.cmbPID.Pick(0);
+    EXPECT_EQ(rig.tool.GetSelection(), kNox);
 }
 
 TEST(SingleParamSelectPIDNumber, FollowsTheNameWithoutBrackets)
 {
-    SingleBench bench;
-    bench.tool.SetShowPIDNumber(true);
-    bench.filtered(false).list({kNox, kOpacity});
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx 1-100-0-75-00", "Opacity 0-100-0-75-00"}));
+    SingleRig rig;
+    rig.tool.SetShowPIDNumber(true);
+    rig.filtered(false).list({kNox, kOpacity});
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx 1-100-0-75-00", "Opacity 0-100-0-75-00"}));
 }
 
 TEST(SingleParamSelectPIDNumber, FollowsUnitAndName)
 {
-    SingleBench bench;
-    bench.tool.SetShowPIDNumber(true);
-    bench.filtered().list({kNox, kLoad});
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx 1-100-0-75-00", "GT2 Load 2-602-0-75-00"}));
+    SingleRig rig;
+    rig.tool.SetShowPIDNumber(true);
+    rig.filtered().list({kNox, kLoad});
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx 1-100-0-75-00", "GT2 Load 2-602-0-75-00"}));
 }
 
 TEST(SingleParamSelectPIDNumber, FillsTheBoxAnewAndKeepsNoSelection)
 {
-    SingleBench bench;
-    bench.filtered(false).list({kNox, kLoad});
+    SingleRig rig;
+    rig.filtered(false).list({kNox, kLoad});
     for (const bool shown : {true, false}) {
-        bench.tool.cmbPID.Pick(1);
-        bench.tool.SetShowPIDNumber(shown);
-        EXPECT_EQ(bench.tool.ShowPIDNumber(), shown);
-        EXPECT_EQ(bench.tool.cmbPID.ListIndex(), -1);
-        EXPECT_EQ(bench.tool.cmbPID.List()[0], shown ? "NOx 1-100-0-75-00" : "NOx");
+        rig.tool.cmbPID.Pick(1);
+        rig.tool.SetShowPIDNumber(shown);
+        EXPECT_EQ(rig.tool.ShowPIDNumber(), shown);
+        EXPECT_EQ(rig.tool.cmbPID.ListIndex(), -1);
+        EXPECT_EQ(rig.tool.cmbPID.List()[0], shown ? "NOx 1-100-0-75-00" : "NOx");
     }
 }
 
 TEST(SingleParamSelectPIDNumber, IsNothingForAPIDThatIsNoValidOne)
 {
-    SingleBench bench;
-    bench.site->parameters.push_back(bench.site->parameter(kNox));
-    bench.site->parameters.back().pid = 7;
-    bench.tool.SetShowPIDNumber(true);
-    bench.filtered(false).listWithUnits({7});
-    EXPECT_EQ(bench.tool.cmbPID.List(), Lines{"NOx "});
+    SingleRig rig;
+    rig.site->parameters.push_back(rig.site->parameter(kNox));
+    rig.site->parameters.back().pid = 7;
+    rig.tool.SetShowPIDNumber(true);
+    rig.filtered(false).listWithUnits({7});
+    EXPECT_EQ(rig.tool.cmbPID.List(), Lines{"NOx "});
 }
 
 TEST(SingleParamSelectLayout, BoxesTakeTheWidthOfTheControlOneBelowTheOther)
 {
-    SingleBench bench;
-    bench.tool.Resize(6000, 900);
-    const auto& unit = bench.tool.cmbUnit.Place();
+    SingleRig rig;
+    rig.tool.Resize(6000, 900);
+    const auto& unit = rig.tool.cmbUnit.Place();
     ASSERT_GT(unit.Height, 0.0F);
-    EXPECT_EQ(bench.tool.Place().Width, 6000.0F);
-    EXPECT_EQ(bench.tool.Place().Height, 900.0F);
+    EXPECT_EQ(rig.tool.Place().Width, 6000.0F);
+    EXPECT_EQ(rig.tool.Place().Height, 900.0F);
     EXPECT_EQ(unit.Width, 6000.0F);
     EXPECT_EQ(unit.Top, 0.0F);
-    EXPECT_EQ(bench.tool.cmbPID.Place().Width, 6000.0F);
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, unit.Height + 45);
+    EXPECT_EQ(rig.tool.cmbPID.Place().Width, 6000.0F);
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, unit.Height + 45);
 }
 
 TEST(SingleParamSelectLayout, WithoutTheFilterTheParametersAreAtTheTop)
 {
-    SingleBench bench;
-    bench.filtered(false);
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, 0.0F);
-    bench.tool.Resize(6000, 900);
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, 0.0F);
-    EXPECT_EQ(bench.tool.cmbUnit.Place().Width, 6000.0F);
-    bench.filtered();
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, bench.tool.cmbUnit.Place().Height + 45);
+    SingleRig rig;
+    rig.filtered(false);
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    rig.tool.Resize(6000, 900);
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbUnit.Place().Width, 6000.0F);
+    rig.filtered();
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, rig.tool.cmbUnit.Place().Height + 45);
 }
 
 TEST(SingleParamSelectLayout, TheFilterIsPutBackToTheTopWhenItIsVisible)
 {
-    SingleBench bench;
-    bench.tool.cmbUnit.Move(0, 500);
-    bench.tool.Resize(6000, 900);
-    EXPECT_EQ(bench.tool.cmbUnit.Place().Top, 0.0F);
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, bench.tool.cmbUnit.Place().Height + 45);
+    SingleRig rig;
+    rig.tool.cmbUnit.Move(0, 500);
+    rig.tool.Resize(6000, 900);
+    EXPECT_EQ(rig.tool.cmbUnit.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, rig.tool.cmbUnit.Place().Height + 45);
 }
 
 TEST(SingleParamSelectEnd, NeedsNothing)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    bench.tool.cmbPID.Pick(2);
-    bench.tool.Terminate();
-    EXPECT_EQ(bench.tool.GetSelection(), kO2);
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    rig.tool.cmbPID.Pick(2);
+    rig.tool.Terminate();
+    EXPECT_EQ(rig.tool.GetSelection(), kO2);
 }
 
 } // namespace k7deval::test

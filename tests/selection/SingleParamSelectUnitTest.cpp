@@ -1,4 +1,4 @@
-#include "selection/SelectionBench.h"
+#include "selection/SelectionRig.h"
 
 #include <gtest/gtest.h>
 
@@ -15,51 +15,51 @@ const std::string kAll = "===All Units===";
 
 TEST(SingleParamSelectFilter, ListsAllUnitsAndThenEachUnit)
 {
-    SingleBench bench;
-    bench.filtered().list(kFiveParameters);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ItemDataList(), (Indexes{-1, kHeader1, kHeader2}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible());
+    SingleRig rig;
+    rig.filtered().list(kFiveParameters);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(), (Indexes{-1, kHeader1, kHeader2}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
 }
 
 TEST(SingleParamSelectFilter, ForAllUnitsNamesTheUnitAheadOfEachParameter)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kLoad, kCo});
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load", "GT1 CO"}))
+    SingleRig rig;
+    rig.filtered().list({kNox, kLoad, kCo});
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load", "GT1 CO"}))
         << "in list order, not grouped by unit";
-    EXPECT_EQ(bench.tool.cmbPID.ItemDataList(), (Indexes{kNox, kLoad, kCo}));
+    EXPECT_EQ(rig.tool.cmbPID.ItemDataList(), (Indexes{kNox, kLoad, kCo}));
 }
 
 TEST(SingleParamSelectFilter, ForAllUnitsShowsParametersOfUnitsThatLeftTheFilterToo)
 {
-    SingleBench bench;
-    bench.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kNox});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT2 Load", "GT3 SO2", "GT1 NOx"}));
+    SingleRig rig;
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kNox});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT2 Load", "GT3 SO2", "GT1 NOx"}));
 }
 
 TEST(SingleParamSelectFilter, HasUnpopulatedUnitsWhenTheyAreWanted)
 {
-    SingleBench bench;
-    bench.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kCommon});
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_TRUE(bench.tool.ShowUnpopulatedUnits());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2", "GT3", "Common"}));
-    bench.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
+    SingleRig rig;
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kCommon});
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2", "GT3", "Common"}));
+    rig.tool.SetShowUnpopulatedUnits(false);
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
 }
 
 TEST(SingleParamSelectFilter, OfUnpopulatedUnitsIsFilledAnewWithItsFirstEntry)
 {
-    SingleBench bench;
-    bench.filtered().list(kFiveParameters);
-    bench.tool.cmbUnit.Pick(2);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 5);
+    SingleRig rig;
+    rig.filtered().list(kFiveParameters);
+    rig.tool.cmbUnit.Pick(2);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 5);
 }
 
 struct UnitPickCase {
@@ -89,11 +89,11 @@ class SingleParamSelectPick : public ::testing::TestWithParam<UnitPickCase>
 
 TEST_P(SingleParamSelectPick, ComparesTheUnitWithItsWholePID)
 {
-    SingleBench bench;
-    bench.filtered().tool.SetParamList(GetParam().list, GetParam().hasUnits);
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.cmbPID.List(), GetParam().entries) << "by its plain name";
-    EXPECT_EQ(bench.tool.cmbPID.ListIndex(), -1);
+    SingleRig rig;
+    rig.filtered().tool.SetParamList(GetParam().list, GetParam().hasUnits);
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.cmbPID.List(), GetParam().entries) << "by its plain name";
+    EXPECT_EQ(rig.tool.cmbPID.ListIndex(), -1);
 }
 
 INSTANTIATE_TEST_SUITE_P(, SingleParamSelectPick, ::testing::ValuesIn(kUnitPickCases),
@@ -101,114 +101,114 @@ INSTANTIATE_TEST_SUITE_P(, SingleParamSelectPick, ::testing::ValuesIn(kUnitPickC
 
 TEST(SingleParamSelectUnitPick, OfAllUnitsFillsTheBoxAgain)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kLoad});
-    bench.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(bench.tool.cmbPID.ListCount(), 0);
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
+    SingleRig rig;
+    rig.filtered().list({kNox, kLoad});
+    rig.tool.cmbUnit.Pick(2);
+    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
 }
 
 TEST(SingleParamSelectUnitPick, KeepsNoSelection)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kLoad});
-    bench.tool.cmbPID.Pick(1);
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.tool.cmbPID.ListIndex(), -1);
+    SingleRig rig;
+    rig.filtered().list({kNox, kLoad});
+    rig.tool.cmbPID.Pick(1);
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.tool.cmbPID.ListIndex(), -1);
 }
 
 TEST(SingleParamSelectUnitPick, WithPIDNumbersHasThemBehindThePlainName)
 {
-    SingleBench bench;
-    bench.tool.SetShowPIDNumber(true);
-    bench.filtered().list({kOpacity, kNox});
-    bench.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.tool.cmbPID.List(), Lines{"Opacity 0-100-0-75-00"});
+    SingleRig rig;
+    rig.tool.SetShowPIDNumber(true);
+    rig.filtered().list({kOpacity, kNox});
+    rig.tool.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.tool.cmbPID.List(), Lines{"Opacity 0-100-0-75-00"});
 }
 
 TEST(SingleParamSelectOneUnit, HidesTheFilterAndListsPlainNamesAtTheTop)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kCo});
-    EXPECT_FALSE(bench.tool.ShowUnitCombo());
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, 0.0F);
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
+    SingleRig rig;
+    rig.filtered().list({kNox, kCo});
+    EXPECT_FALSE(rig.tool.ShowUnitCombo());
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
 }
 
 TEST(SingleParamSelectOneUnit, StaysHiddenForTheNextList)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox}).list(kFiveParameters);
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "CO", "O2", "Load", "Flow"}));
+    SingleRig rig;
+    rig.filtered().list({kNox}).list(kFiveParameters);
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO", "O2", "Load", "Flow"}));
 }
 
 TEST(SingleParamSelectOneUnit, IsOnViewWhenTheHostAsksForTheFilterAfterTheList)
 {
-    SingleBench bench;
-    bench.filtered(false).list({kNox, kCo}).filtered();
-    EXPECT_FALSE(bench.tool.ShowUnitCombo()) << "the filling found one unit";
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible()) << "the host's wish comes last";
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, bench.tool.cmbUnit.Place().Height + 45);
+    SingleRig rig;
+    rig.filtered(false).list({kNox, kCo}).filtered();
+    EXPECT_FALSE(rig.tool.ShowUnitCombo()) << "the filling found one unit";
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible()) << "the host's wish comes last";
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, rig.tool.cmbUnit.Place().Height + 45);
 }
 
 TEST(SingleParamSelectOneUnit, WithoutAllUnitsIsHiddenOnceTheFilterIsOff)
 {
-    SingleBench bench;
-    bench.withoutAllUnits().filtered(false).list({kNox, kCo}).filtered();
-    EXPECT_TRUE(bench.tool.ShowUnitCombo());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), Lines{"GT1"});
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), -1);
-    bench.filtered(false);
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.Place().Top, 0.0F);
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
+    SingleRig rig;
+    rig.withoutAllUnits().filtered(false).list({kNox, kCo}).filtered();
+    EXPECT_TRUE(rig.tool.ShowUnitCombo());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{"GT1"});
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), -1);
+    rig.filtered(false);
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
 }
 
 TEST(SingleParamSelectFilterShown, AfterTheListLeavesPlainNamesUntilTheBoxIsFilledNext)
 {
-    SingleBench bench;
-    bench.filtered(false).list({kNox, kLoad}).filtered();
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_TRUE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
-    bench.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
+    SingleRig rig;
+    rig.filtered(false).list({kNox, kLoad}).filtered();
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
+    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
+    rig.tool.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
 }
 
 TEST(SingleParamSelectFilterHidden, LeavesTheNamesOfTheUnitsUntilTheBoxIsFilledNext)
 {
-    SingleBench bench;
-    bench.filtered().list({kNox, kLoad}).filtered(false);
-    EXPECT_FALSE(bench.tool.cmbUnit.Visible());
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
-    bench.tool.SetShowPIDNumber(false);
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
+    SingleRig rig;
+    rig.filtered().list({kNox, kLoad}).filtered(false);
+    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
+    rig.tool.SetShowPIDNumber(false);
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
 }
 
 TEST(SingleParamSelectFilterHidden, IsNotFilled)
 {
-    SingleBench bench;
-    bench.filtered(false).list(kFiveParameters);
-    bench.tool.SetAllUnitsInCombo(false);
-    bench.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(bench.tool.cmbUnit.ListCount(), 0);
+    SingleRig rig;
+    rig.filtered(false).list(kFiveParameters);
+    rig.tool.SetAllUnitsInCombo(false);
+    rig.tool.SetShowUnpopulatedUnits(true);
+    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
 }
 
 TEST(SingleParamSelectAllUnits, ComeBackToTheFilterAtOnce)
 {
-    SingleBench bench;
-    bench.withoutAllUnits().filtered(false).list({kNox, kLoad}).filtered();
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    bench.tool.SetAllUnitsInCombo(true);
-    EXPECT_TRUE(bench.tool.AllUnitsInCombo());
-    EXPECT_EQ(bench.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(bench.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(bench.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
+    SingleRig rig;
+    rig.withoutAllUnits().filtered(false).list({kNox, kLoad}).filtered();
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    rig.tool.SetAllUnitsInCombo(true);
+    EXPECT_TRUE(rig.tool.AllUnitsInCombo());
+    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
+    EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
 }
 
 } // namespace k7deval::test

@@ -33,17 +33,17 @@ class Display : public testing::Test
 protected:
     void evaluate(std::string_view days)
     {
-        setDays(bench_, daysOf(days));
-        bench_.test.EvaluateDriftTest();
+        setDays(rig_, daysOf(days));
+        rig_.test.EvaluateDriftTest();
     }
-    void mark(const std::string& key) { bench_.test.dictCals->Item(key)->IsUsedIn7Day = true; }
+    void mark(const std::string& key) { rig_.test.dictCals->Item(key)->IsUsedIn7Day = true; }
 
     [[nodiscard]] std::vector<std::string> shown() const
     {
-        EXPECT_THAT(bench_.messages->lines(), IsEmpty());
+        EXPECT_THAT(rig_.messages->lines(), IsEmpty());
         std::vector<std::string> texts;
-        for (const auto& shownDay : bench_.test.objDaysToDisplay.items()) {
-            for (const auto& [key, day] : bench_.test.dictDays) {
+        for (const auto& shownDay : rig_.test.objDaysToDisplay.items()) {
+            for (const auto& [key, day] : rig_.test.dictDays) {
                 if (day == shownDay)
                     texts.push_back(shownOf(*day, key));
             }
@@ -51,7 +51,7 @@ protected:
         return texts;
     }
 
-    DriftBench bench_;
+    DriftRig rig_;
 };
 
 } // namespace
@@ -63,16 +63,16 @@ class ShowDriftCals : public Display
 TEST_F(ShowDriftCals, ShowsTheMarkedRunsOfTheDaysThatHaveOne)
 {
     evaluate("P A+A+ N a+A+ F P A+a-A+M+ M+");
-    bench_.test.ShowDriftCals();
+    rig_.test.ShowDriftCals();
     EXPECT_THAT(shown(), ElementsAre("15: 1", "16: 3"));
 }
 
 TEST_F(ShowDriftCals, ShowsTheAllowedFailure)
 {
-    setDays(bench_, daysOf("P A+A- P"));
-    bench_.test.blnSixOfSeven = true;
-    bench_.test.EvaluateDriftTest();
-    bench_.test.ShowDriftCals();
+    setDays(rig_, daysOf("P A+A- P"));
+    rig_.test.blnSixOfSeven = true;
+    rig_.test.EvaluateDriftTest();
+    rig_.test.ShowDriftCals();
     EXPECT_THAT(shown(), ElementsAre("10: 1", "11: 1", "12: 1"));
 }
 
@@ -80,46 +80,46 @@ TEST_F(ShowDriftCals, ShowsAllMarkedRunsOfADayInOrder)
 {
     evaluate("A+a+A+");
     mark("2024/03/10 06:00");
-    bench_.test.ShowDriftCals();
+    rig_.test.ShowDriftCals();
     EXPECT_THAT(shown(), ElementsAre("10: 1 3"));
 }
 
 TEST_F(ShowDriftCals, KeepsTheDaysOfTheEvaluationBeforeWhenNothingIsMarked)
 {
     evaluate("PP");
-    bench_.test.ShowDriftCals();
-    const auto before = bench_.test.objDaysToDisplay.items();
+    rig_.test.ShowDriftCals();
+    const auto before = rig_.test.objDaysToDisplay.items();
     ASSERT_EQ(before.size(), 2U);
 
     evaluate("PF");
-    bench_.test.ShowDriftCals();
-    EXPECT_EQ(bench_.test.objDaysToDisplay.items(), before);
+    rig_.test.ShowDriftCals();
+    EXPECT_EQ(rig_.test.objDaysToDisplay.items(), before);
 }
 
 TEST_F(ShowDriftCals, LeavesAnArrayThatWasNeverSized)
 {
     evaluate("N");
-    bench_.test.ShowDriftCals();
-    EXPECT_FALSE(bench_.test.objDaysToDisplay.isSized());
+    rig_.test.ShowDriftCals();
+    EXPECT_FALSE(rig_.test.objDaysToDisplay.isSized());
 }
 
 TEST_F(ShowDriftCals, CutsTheDaysToTheNewLength)
 {
     evaluate("PPPP");
-    bench_.test.ShowDriftCals();
+    rig_.test.ShowDriftCals();
     ASSERT_EQ(shown().size(), 4U);
     evaluate("PPFP");
-    bench_.test.ShowDriftCals();
-    EXPECT_EQ(bench_.test.objDaysToDisplay.items().size(), 1U);
+    rig_.test.ShowDriftCals();
+    EXPECT_EQ(rig_.test.objDaysToDisplay.items().size(), 1U);
     EXPECT_THAT(shown(), ElementsAre("13: 1"));
 }
 
 TEST_F(ShowDriftCals, CutsTheRunsOfADayToTheNewLength)
 {
     evaluate("A+a+A+");
-    bench_.test.ShowIntervalCals();
+    rig_.test.ShowIntervalCals();
     ASSERT_THAT(shown(), ElementsAre("10: 1 2 3"));
-    bench_.test.ShowDriftCals();
+    rig_.test.ShowDriftCals();
     EXPECT_THAT(shown(), ElementsAre("10: 3"));
 }
 
@@ -130,36 +130,36 @@ class ShowCalsWithinDrift : public Display
 TEST_F(ShowCalsWithinDrift, ShowsAllRunsOfADay)
 {
     evaluate("A+a-A+ P");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_THAT(shown(), ElementsAre("10: 1 2 3", "11: 1"));
 }
 
 TEST_F(ShowCalsWithinDrift, LeavesOutIdleDaysWithoutRuns)
 {
     evaluate("N P U a+ N P");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_THAT(shown(), ElementsAre("11: 1", "13: 1", "15: 1"));
 }
 
 TEST_F(ShowCalsWithinDrift, ShowsAMissedDayWithoutRuns)
 {
     evaluate("PMP");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_THAT(shown(), ElementsAre("10: 1", "11:", "12: 1"));
-    EXPECT_FALSE(bench_.test.objDaysToDisplay[1]->DisplayedCals.isSized());
+    EXPECT_FALSE(rig_.test.objDaysToDisplay[1]->DisplayedCals.isSized());
 }
 
 TEST_F(ShowCalsWithinDrift, ShowsTheDaysAheadOfTheTestToo)
 {
     evaluate("FPF P");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_THAT(shown(), ElementsAre("10: 1", "11: 1", "12: 1", "13: 1"));
 }
 
 TEST_F(ShowCalsWithinDrift, StopsBehindTheDayOfTheSeventhRun)
 {
     evaluate("PPPPPPPPM");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_THAT(shown(),
                 ElementsAre("10: 1", "11: 1", "12: 1", "13: 1", "14: 1", "15: 1", "16: 1"));
 }
@@ -167,7 +167,7 @@ TEST_F(ShowCalsWithinDrift, StopsBehindTheDayOfTheSeventhRun)
 TEST_F(ShowCalsWithinDrift, ShowsTheRunsBehindTheSeventhOfItsDay)
 {
     evaluate("PPPPPP a+A+M+a+ P");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_EQ(shown().size(), 7U);
     EXPECT_EQ(shown().back(), "16: 1 2 3 4");
 }
@@ -175,7 +175,7 @@ TEST_F(ShowCalsWithinDrift, ShowsTheRunsBehindTheSeventhOfItsDay)
 TEST_F(ShowCalsWithinDrift, GoesOnToTheEndWithSixRuns)
 {
     evaluate("PPPPPP N a+");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_EQ(shown().size(), 7U);
     EXPECT_EQ(shown().back(), "17: 1");
 }
@@ -183,11 +183,11 @@ TEST_F(ShowCalsWithinDrift, GoesOnToTheEndWithSixRuns)
 // Five marks stand for a test that counts seven, so nothing ends the display.
 TEST_F(ShowCalsWithinDrift, GoesOnBehindATestWithFewerMarksThanItCounts)
 {
-    setDays(bench_, daysOf("PPFPFPPPP"));
-    bench_.test.blnSixOfSeven = true;
-    bench_.test.EvaluateDriftTest();
-    ASSERT_TRUE(bench_.test.isPassed());
-    bench_.test.ShowCalsWithinDrift();
+    setDays(rig_, daysOf("PPFPFPPPP"));
+    rig_.test.blnSixOfSeven = true;
+    rig_.test.EvaluateDriftTest();
+    ASSERT_TRUE(rig_.test.isPassed());
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_EQ(shown().size(), 9U);
 }
 
@@ -197,7 +197,7 @@ TEST_F(ShowCalsWithinDrift, HidesRunsFromAnEighthMarkedOneOn)
     evaluate("PPPPPP A+A+ P N P");
     mark("2024/03/16 06:00");
     mark("2024/03/16 06:01");
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_THAT(shown(), ElementsAre("10: 1", "11: 1", "12: 1", "13: 1", "14: 1", "15: 1", "16: 1",
                                      "17:", "19:"));
 }
@@ -207,8 +207,8 @@ TEST_F(ShowCalsWithinDrift, KeepsTheRunsOfADayThatItShowsNoneOf)
     evaluate("PPPPPP A+A+ P");
     mark("2024/03/16 06:00");
     mark("2024/03/16 06:01");
-    bench_.test.ShowIntervalCals();
-    bench_.test.ShowCalsWithinDrift();
+    rig_.test.ShowIntervalCals();
+    rig_.test.ShowCalsWithinDrift();
     EXPECT_EQ(shown().back(), "17: 1");
     EXPECT_EQ(shown().at(6), "16: 1");
 }
@@ -216,11 +216,11 @@ TEST_F(ShowCalsWithinDrift, KeepsTheRunsOfADayThatItShowsNoneOf)
 TEST_F(ShowCalsWithinDrift, KeepsTheDaysOfTheEvaluationBeforeWhenAllAreIdle)
 {
     evaluate("PP");
-    bench_.test.ShowCalsWithinDrift();
-    const auto before = bench_.test.objDaysToDisplay.items();
+    rig_.test.ShowCalsWithinDrift();
+    const auto before = rig_.test.objDaysToDisplay.items();
     evaluate("NN");
-    bench_.test.ShowCalsWithinDrift();
-    EXPECT_EQ(bench_.test.objDaysToDisplay.items(), before);
+    rig_.test.ShowCalsWithinDrift();
+    EXPECT_EQ(rig_.test.objDaysToDisplay.items(), before);
     EXPECT_EQ(before.size(), 2U);
 }
 
@@ -231,7 +231,7 @@ class ShowIntervalCals : public Display
 TEST_F(ShowIntervalCals, ShowsAllRunsOfAllDaysThatAreNotIdle)
 {
     evaluate("P N A+a-M- M U a+ PPPPPPPP");
-    bench_.test.ShowIntervalCals();
+    rig_.test.ShowIntervalCals();
     EXPECT_THAT(shown(), ElementsAre("10: 1", "12: 1 2 3", "13:", "15: 1", "16: 1", "17: 1",
                                      "18: 1", "19: 1", "20: 1", "21: 1", "22: 1", "23: 1"));
 }
@@ -240,30 +240,30 @@ TEST_F(ShowIntervalCals, ShowsADayOutsideTheInterval)
 {
     std::vector<model::Day> days = daysOf("P A+");
     days[1].date = -1;
-    setDays(bench_, days, 1);
-    bench_.test.EvaluateDriftTest();
-    bench_.test.ShowIntervalCals();
+    setDays(rig_, days, 1);
+    rig_.test.EvaluateDriftTest();
+    rig_.test.ShowIntervalCals();
     EXPECT_THAT(shown(), ElementsAre("10: 1", "09: 1"));
 }
 
 TEST_F(ShowIntervalCals, KeepsTheDaysOfTheEvaluationBeforeWhenThereAreNone)
 {
     evaluate("PP");
-    bench_.test.ShowIntervalCals();
-    const auto before = bench_.test.objDaysToDisplay.items();
-    bench_.test.dictDays = DayMap();
-    bench_.test.ShowIntervalCals();
-    EXPECT_EQ(bench_.test.objDaysToDisplay.items(), before);
+    rig_.test.ShowIntervalCals();
+    const auto before = rig_.test.objDaysToDisplay.items();
+    rig_.test.dictDays = DayMap();
+    rig_.test.ShowIntervalCals();
+    EXPECT_EQ(rig_.test.objDaysToDisplay.items(), before);
     EXPECT_EQ(before.size(), 2U);
 }
 
 TEST_F(ShowIntervalCals, CutsTheDaysToTheNewLength)
 {
     evaluate("PPPP");
-    bench_.test.ShowIntervalCals();
+    rig_.test.ShowIntervalCals();
     evaluate("NPN");
-    bench_.test.ShowIntervalCals();
-    EXPECT_EQ(bench_.test.objDaysToDisplay.items().size(), 1U);
+    rig_.test.ShowIntervalCals();
+    EXPECT_EQ(rig_.test.objDaysToDisplay.items().size(), 1U);
     EXPECT_THAT(shown(), ElementsAre("11: 1"));
 }
 

@@ -35,22 +35,22 @@ constexpr model::Options kAllOptions[] = {
     {.sixOfSeven = true, .includeManual = true},
 };
 
-model::Outcome evaluated(DriftBench& bench, model::Options options)
+model::Outcome evaluated(DriftRig& rig, model::Options options)
 {
-    bench.test.blnSixOfSeven = options.sixOfSeven;
-    bench.test.blnIncludeManualCals = options.includeManual;
-    bench.test.EvaluateDriftTest();
-    return outcomeOf(bench.test);
+    rig.test.blnSixOfSeven = options.sixOfSeven;
+    rig.test.blnIncludeManualCals = options.includeManual;
+    rig.test.EvaluateDriftTest();
+    return outcomeOf(rig.test);
 }
 
 void expectAsTheModel(const std::string& pattern)
 {
     const std::vector<model::Day> days = daysOf(pattern);
-    DriftBench bench;
-    setDays(bench, days);
+    DriftRig rig;
+    setDays(rig, days);
     for (const bool sixOfSeven : {false, true}) {
         const model::Options options{.sixOfSeven = sixOfSeven, .includeManual = false};
-        EXPECT_EQ(evaluated(bench, options), model::outcomeOf(days, options))
+        EXPECT_EQ(evaluated(rig, options), model::outcomeOf(days, options))
             << pattern << (sixOfSeven ? ", six of seven" : "");
     }
 }
@@ -154,11 +154,11 @@ RC_GTEST_PROP(AnyPattern, IsEvaluatedAsTheModelDoes, ())
     const auto letter = rc::gen::weightedElement<char>({{6, 'P'}, {3, 'F'}, {1, 'N'}, {1, 'M'}});
     const auto length = *rc::gen::inRange<std::size_t>(8, kMostDays + 1);
     const auto days = daysOf(*rc::gen::container<std::string>(length, letter));
-    DriftBench bench;
-    setDays(bench, days);
+    DriftRig rig;
+    setDays(rig, days);
 
     for (const model::Options options : kAllOptions)
-        RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
+        RC_ASSERT(evaluated(rig, options) == model::outcomeOf(days, options));
 }
 
 // Every kind of day, those in which a good run stands for a failure above all.
@@ -182,9 +182,9 @@ RC_GTEST_PROP(AnyKindsOfDays, AreEvaluatedAsTheModelDoes, ())
         text += word + ' ';
     const auto days = daysOf(text);
     for (const model::Options options : kAllOptions) {
-        DriftBench bench;
-        setDays(bench, days);
-        RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
+        DriftRig rig;
+        setDays(rig, days);
+        RC_ASSERT(evaluated(rig, options) == model::outcomeOf(days, options));
     }
 }
 
@@ -192,10 +192,10 @@ RC_GTEST_PROP(AnyRuns, OfADayAreEvaluatedAsTheModelDoes, ())
 {
     const auto days = anyDays(kMostDays);
     for (const model::Options options : kAllOptions) {
-        DriftBench bench;
-        setDays(bench, days);
-        RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
-        RC_ASSERT(bench.messages->posted.empty());
+        DriftRig rig;
+        setDays(rig, days);
+        RC_ASSERT(evaluated(rig, options) == model::outcomeOf(days, options));
+        RC_ASSERT(rig.messages->posted.empty());
     }
 }
 
@@ -207,9 +207,9 @@ RC_GTEST_PROP(AnyRuns, OutsideTheIntervalAreEvaluatedAsTheModelDoes, ())
         days.push_back(std::move(day));
 
     for (const model::Options options : kAllOptions) {
-        DriftBench bench;
-        setDays(bench, days, interval);
-        RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
+        DriftRig rig;
+        setDays(rig, days, interval);
+        RC_ASSERT(evaluated(rig, options) == model::outcomeOf(days, options));
     }
 }
 
@@ -217,12 +217,12 @@ RC_GTEST_PROP(AnyRuns, OutsideTheIntervalAreEvaluatedAsTheModelDoes, ())
 RC_GTEST_PROP(AnyRuns, AreEvaluatedAlikeAfterAnyOtherEvaluation, ())
 {
     const auto days = anyDays(kMostDays);
-    DriftBench bench;
-    setDays(bench, days);
+    DriftRig rig;
+    setDays(rig, days);
     for (const model::Options earlier : kAllOptions) {
         for (const model::Options options : kAllOptions) {
-            evaluated(bench, earlier);
-            RC_ASSERT(evaluated(bench, options) == model::outcomeOf(days, options));
+            evaluated(rig, earlier);
+            RC_ASSERT(evaluated(rig, options) == model::outcomeOf(days, options));
         }
     }
 }
@@ -230,10 +230,10 @@ RC_GTEST_PROP(AnyRuns, AreEvaluatedAlikeAfterAnyOtherEvaluation, ())
 // Never more than seven runs are counted, and a day has one marked run at most.
 RC_GTEST_PROP(AnyRuns, CountToSevenAtMostAndMarkOneRunOfADayAtMost, ())
 {
-    DriftBench bench;
-    setDays(bench, anyDays(kMostDays));
+    DriftRig rig;
+    setDays(rig, anyDays(kMostDays));
     for (const model::Options options : kAllOptions) {
-        const model::Outcome found = evaluated(bench, options);
+        const model::Outcome found = evaluated(rig, options);
         RC_ASSERT(found.goodCals + found.failedCals <= 7);
         std::set<std::size_t> markedDays;
         for (const model::Place& mark : found.marks)

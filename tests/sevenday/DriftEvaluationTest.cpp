@@ -38,23 +38,23 @@ std::string nameOf(const testing::TestParamInfo<EvaluationCase>& row)
 
 void expectOutcome(const EvaluationCase& row, model::Options options)
 {
-    DriftBench bench;
+    DriftRig rig;
     const std::vector<model::Day> days = daysOf(row.days);
-    setDays(bench, days);
-    bench.test.blnSixOfSeven = options.sixOfSeven;
-    bench.test.blnIncludeManualCals = options.includeManual;
+    setDays(rig, days);
+    rig.test.blnSixOfSeven = options.sixOfSeven;
+    rig.test.blnIncludeManualCals = options.includeManual;
 
-    bench.test.EvaluateDriftTest();
+    rig.test.EvaluateDriftTest();
 
     const auto past = static_cast<int>(days.size());
-    const model::Outcome found = outcomeOf(bench.test);
+    const model::Outcome found = outcomeOf(rig.test);
     EXPECT_EQ(marksText(found, days.size()), row.marks);
     EXPECT_EQ(found.goodCals, row.good);
     EXPECT_EQ(found.failedCals, row.failed);
     EXPECT_EQ(found.lastFailDay, row.lastFail == kNone ? past : row.lastFail);
     EXPECT_EQ(found.prevFailDay, row.prevFail == kNone ? past : row.prevFail);
     EXPECT_EQ(found.undeterminedDays, row.undetermined);
-    EXPECT_THAT(bench.messages->lines(), testing::IsEmpty());
+    EXPECT_THAT(rig.messages->lines(), testing::IsEmpty());
 }
 
 } // namespace
@@ -242,57 +242,57 @@ TEST(ManualIncludedSixOfSeven, TheFirstRunStandsForTheFailureAlsoWhenItIsManual)
 
 TEST(Evaluation, AnEmptyIntervalIsNoScan)
 {
-    DriftBench bench;
-    bench.setInterval(0);
-    bench.test.dictCals = std::make_shared<RunMap>();
-    bench.test.lngGoodCals = 5;
-    bench.test.lngFailedCals = 1;
-    bench.test.lngUndeterminedDays = 3;
+    DriftRig rig;
+    rig.setInterval(0);
+    rig.test.dictCals = std::make_shared<RunMap>();
+    rig.test.lngGoodCals = 5;
+    rig.test.lngFailedCals = 1;
+    rig.test.lngUndeterminedDays = 3;
 
-    bench.test.EvaluateDriftTest();
+    rig.test.EvaluateDriftTest();
 
-    EXPECT_TRUE(bench.test.dictDays.isEmpty());
-    EXPECT_EQ(outcomeOf(bench.test), model::Outcome());
-    EXPECT_THAT(bench.messages->lines(), testing::IsEmpty());
+    EXPECT_TRUE(rig.test.dictDays.isEmpty());
+    EXPECT_EQ(outcomeOf(rig.test), model::Outcome());
+    EXPECT_THAT(rig.messages->lines(), testing::IsEmpty());
 }
 
 TEST(Evaluation, AMarkThatTheOptionsNoLongerAllowGoes)
 {
-    DriftBench bench;
-    setDays(bench, daysOf("M+ P"));
-    bench.test.blnIncludeManualCals = true;
-    bench.test.EvaluateDriftTest();
-    ASSERT_EQ(marksText(outcomeOf(bench.test), 2), "11");
+    DriftRig rig;
+    setDays(rig, daysOf("M+ P"));
+    rig.test.blnIncludeManualCals = true;
+    rig.test.EvaluateDriftTest();
+    ASSERT_EQ(marksText(outcomeOf(rig.test), 2), "11");
 
-    bench.test.blnIncludeManualCals = false;
-    bench.test.EvaluateDriftTest();
+    rig.test.blnIncludeManualCals = false;
+    rig.test.EvaluateDriftTest();
 
-    EXPECT_EQ(marksText(outcomeOf(bench.test), 2), ".1");
-    EXPECT_EQ(bench.test.lngGoodCals, 1);
+    EXPECT_EQ(marksText(outcomeOf(rig.test), 2), ".1");
+    EXPECT_EQ(rig.test.lngGoodCals, 1);
 }
 
 TEST(Evaluation, ARunMadeWithinTheIntervalIsPlacedUnderItsDayAndMinute)
 {
-    DriftBench bench;
-    setDays(bench, daysOf("P A+a+"));
-    bench.test.EvaluateDriftTest();
-    const RunMap& runs = bench.test.dictDays.Item("2024/03/11")->CalsInDay();
+    DriftRig rig;
+    setDays(rig, daysOf("P A+a+"));
+    rig.test.EvaluateDriftTest();
+    const RunMap& runs = rig.test.dictDays.Item("2024/03/11")->CalsInDay();
     EXPECT_THAT(runs.Keys(), testing::ElementsAre("2024/03/11 06:00", "2024/03/11 06:01"));
-    EXPECT_EQ(runs.Item("2024/03/11 06:01"), bench.test.dictCals->Item("2024/03/11 06:01"));
+    EXPECT_EQ(runs.Item("2024/03/11 06:01"), rig.test.dictCals->Item("2024/03/11 06:01"));
 }
 
 TEST(Evaluation, CountersOfAnEarlierEvaluationGo)
 {
-    DriftBench bench;
-    setDays(bench, daysOf("PPPPPPPF"));
-    bench.test.EvaluateDriftTest();
-    ASSERT_EQ(bench.test.lngGoodCals, 7);
+    DriftRig rig;
+    setDays(rig, daysOf("PPPPPPPF"));
+    rig.test.EvaluateDriftTest();
+    ASSERT_EQ(rig.test.lngGoodCals, 7);
 
     // The first day fails now, so the scan goes on to the last one, which restarts it.
-    bench.test.dictCals->Item("2024/03/10 06:00")->SpanCal->MeasuredValue = 50;
-    bench.test.EvaluateDriftTest();
+    rig.test.dictCals->Item("2024/03/10 06:00")->SpanCal->MeasuredValue = 50;
+    rig.test.EvaluateDriftTest();
 
-    const model::Outcome found = outcomeOf(bench.test);
+    const model::Outcome found = outcomeOf(rig.test);
     EXPECT_EQ(found.goodCals, 0);
     EXPECT_EQ(marksText(found, 8), "........");
     EXPECT_EQ(found.lastFailDay, 7);
@@ -300,54 +300,54 @@ TEST(Evaluation, CountersOfAnEarlierEvaluationGo)
 
 TEST(Evaluation, ARunOutsideTheIntervalGetsAnUndeterminedDayAtTheEnd)
 {
-    DriftBench bench;
+    DriftRig rig;
     std::vector<model::Day> days = daysOf("PP A+ a+");
     days[2].date = -3;
     days[3].date = -2;
-    setDays(bench, days, 2);
+    setDays(rig, days, 2);
 
-    bench.test.EvaluateDriftTest();
+    rig.test.EvaluateDriftTest();
 
-    EXPECT_THAT(bench.test.dictDays.Keys(),
+    EXPECT_THAT(rig.test.dictDays.Keys(),
                 testing::ElementsAre("2024/03/10", "2024/03/11", "2024/03/07", "2024/03/08"));
-    const clsDaySummary& added = *bench.test.dictDays.Item("2024/03/07");
+    const clsDaySummary& added = *rig.test.dictDays.Item("2024/03/07");
     EXPECT_EQ(added.TStamp, Date{});
     EXPECT_TRUE(added.OpStatusIsUndetermined);
     EXPECT_THAT(added.CalsInDay().Keys(), testing::ElementsAre("2024/03/07 06:00"));
-    EXPECT_EQ(bench.test.lngGoodCals, 3);
+    EXPECT_EQ(rig.test.lngGoodCals, 3);
     // The day of the on-line run is an operating day, the other one is not.
-    EXPECT_EQ(bench.test.lngUndeterminedDays, 1);
+    EXPECT_EQ(rig.test.lngUndeterminedDays, 1);
 }
 
 // Marks go by the calendar, not by the place of the day in the list.
 TEST(Evaluation, ACutOnADayAtTheEndOfTheListTakesTheEarlierDatesOnly)
 {
-    DriftBench bench;
+    DriftRig rig;
     std::vector<model::Day> days = daysOf("PP A+ A-");
     days[2].date = -3;
     days[3].date = -2;
-    setDays(bench, days, 2);
+    setDays(rig, days, 2);
 
-    bench.test.EvaluateDriftTest();
+    rig.test.EvaluateDriftTest();
 
-    EXPECT_EQ(marksText(outcomeOf(bench.test), 4), "11..");
-    EXPECT_EQ(bench.test.lngGoodCals, 0);
-    EXPECT_EQ(bench.test.lngPrevFailDay, 3);
+    EXPECT_EQ(marksText(outcomeOf(rig.test), 4), "11..");
+    EXPECT_EQ(rig.test.lngGoodCals, 0);
+    EXPECT_EQ(rig.test.lngPrevFailDay, 3);
 }
 
 TEST(Evaluation, ALimitChangedBetweenEvaluationsChangesTheVerdict)
 {
-    DriftBench bench;
-    setDays(bench, daysOf("PF"));
-    bench.test.EvaluateDriftTest();
-    ASSERT_EQ(bench.test.lngLastFailDay, 1);
+    DriftRig rig;
+    setDays(rig, daysOf("PF"));
+    rig.test.EvaluateDriftTest();
+    ASSERT_EQ(rig.test.lngLastFailDay, 1);
 
     // The failed run reads 2 below its reference, which the new limit just allows.
-    bench.test.dictCals->Item("2024/03/11 06:00")->SpanCal->DriftLimit = 2;
-    bench.test.EvaluateDriftTest();
+    rig.test.dictCals->Item("2024/03/11 06:00")->SpanCal->DriftLimit = 2;
+    rig.test.EvaluateDriftTest();
 
-    EXPECT_EQ(bench.test.lngLastFailDay, 2);
-    EXPECT_EQ(bench.test.lngGoodCals, 2);
+    EXPECT_EQ(rig.test.lngLastFailDay, 2);
+    EXPECT_EQ(rig.test.lngGoodCals, 2);
 }
 
 } // namespace k7deval::test

@@ -11,7 +11,7 @@ namespace
 
 constexpr float kUnset = 0;
 
-// A run of the bench and the limits it got.
+// A run of the rig and the limits it got.
 class Limits : public testing::Test
 {
 protected:
@@ -20,14 +20,14 @@ protected:
         run_->InstrumentSpan = 100;
         run_->ZeroCal = injection(0, 1, kUnset);
         run_->SpanCal = injection(50, 51, kUnset);
-        bench_.add(run_);
+        rig_.add(run_);
     }
 
     void apply(CalLimitRulesEnum rule)
     {
-        bench_.test.lngLimitRule = rule;
-        bench_.test.ApplyLimits();
-        EXPECT_THAT(bench_.messages->lines(), testing::IsEmpty());
+        rig_.test.lngLimitRule = rule;
+        rig_.test.ApplyLimits();
+        EXPECT_THAT(rig_.messages->lines(), testing::IsEmpty());
     }
 
     void expectZero(float limit, bool usesAPS) const
@@ -41,7 +41,7 @@ protected:
         EXPECT_EQ(run_->SpanCal->UsesAPS, usesAPS);
     }
 
-    DriftBench bench_;
+    DriftRig rig_;
     std::shared_ptr<cls7DayAnalyzerCal> run_ = std::make_shared<cls7DayAnalyzerCal>();
 };
 
@@ -51,7 +51,7 @@ TEST_F(Limits, OfAnAbsoluteValueHoldBothInjectionsToIt)
 {
     run_->ZeroCal->UsesAPS = true;
     run_->SpanCal->UsesAPS = true;
-    bench_.test.sngAbsoluteLimit = 0.5F;
+    rig_.test.sngAbsoluteLimit = 0.5F;
     apply(CalLimitRules_AbsoluteValue);
     expectZero(0.5F, false);
     expectUpscale(0.5F, false);
@@ -59,7 +59,7 @@ TEST_F(Limits, OfAnAbsoluteValueHoldBothInjectionsToIt)
 
 TEST_F(Limits, OfAnAbsoluteValueAreNotRounded)
 {
-    bench_.test.sngAbsoluteLimit = 0.12345F;
+    rig_.test.sngAbsoluteLimit = 0.12345F;
     apply(CalLimitRules_AbsoluteValue);
     expectUpscale(0.12345F, false);
 }
@@ -68,7 +68,7 @@ TEST_F(Limits, OfAPercentageOfSpanHoldBothInjectionsToIt)
 {
     run_->ZeroCal->UsesAPS = true;
     run_->SpanCal->UsesAPS = true;
-    bench_.test.sngPercentOfSpanLimit = 2.5F;
+    rig_.test.sngPercentOfSpanLimit = 2.5F;
     apply(CalLimitRules_PercentOfSpan);
     expectZero(2.5F, false);
     expectUpscale(2.5F, false);
@@ -103,13 +103,13 @@ class LimitOfSpan : public testing::TestWithParam<RoundedLimitCase>
 TEST_P(LimitOfSpan, IsRoundedToThreeDecimals)
 {
     const RoundedLimitCase& row = GetParam();
-    DriftBench bench;
+    DriftRig rig;
     const auto run = runAt(onDay(0, 8));
     run->InstrumentSpan = row.base;
-    bench.add(run);
-    bench.test.sngPercentOfSpanLimit = row.percent;
-    bench.test.lngLimitRule = CalLimitRules_PercentOfSpan;
-    bench.test.ApplyLimits();
+    rig.add(run);
+    rig.test.sngPercentOfSpanLimit = row.percent;
+    rig.test.lngLimitRule = CalLimitRules_PercentOfSpan;
+    rig.test.ApplyLimits();
     EXPECT_EQ(run->SpanCal->DriftLimit, row.limit);
 }
 
@@ -137,14 +137,14 @@ class LimitOfReference : public testing::TestWithParam<RoundedLimitCase>
 TEST_P(LimitOfReference, IsRoundedToThreeDecimals)
 {
     const RoundedLimitCase& row = GetParam();
-    DriftBench bench;
+    DriftRig rig;
     const auto run = runAt(onDay(0, 8));
     run->InstrumentSpan = 1;
     run->SpanCal = injection(row.base, row.base, kUnset);
-    bench.add(run);
-    bench.test.sngPercentOfRefLimit = row.percent;
-    bench.test.lngLimitRule = CalLimitRules_PercentOfRef;
-    bench.test.ApplyLimits();
+    rig.add(run);
+    rig.test.sngPercentOfRefLimit = row.percent;
+    rig.test.lngLimitRule = CalLimitRules_PercentOfRef;
+    rig.test.ApplyLimits();
     EXPECT_EQ(run->SpanCal->DriftLimit, row.limit);
 }
 
@@ -164,8 +164,8 @@ TEST_F(Limits, GoByTheSpanOfEachRun)
 {
     const auto other = runAt(onDay(1, 8));
     other->InstrumentSpan = 400;
-    bench_.add(other);
-    bench_.test.sngPercentOfSpanLimit = 2.5F;
+    rig_.add(other);
+    rig_.test.sngPercentOfSpanLimit = 2.5F;
     apply(CalLimitRules_PercentOfSpan);
     expectUpscale(2.5F, false);
     EXPECT_EQ(other->SpanCal->DriftLimit, 10);
@@ -181,8 +181,8 @@ protected:
         run_->ZeroCal->MeasuredValue = zeroDrift;
         run_->SpanCal->ReferenceValue = 0;
         run_->SpanCal->MeasuredValue = upscaleDrift;
-        bench_.test.sngPercentOfSpanLimit = 2.5F;
-        bench_.test.sngAbsoluteLimit = 5;
+        rig_.test.sngPercentOfSpanLimit = 2.5F;
+        rig_.test.sngAbsoluteLimit = 5;
         Limits::apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
     }
 };
@@ -239,7 +239,7 @@ TEST_F(Alternative, IsChosenForEachInjectionByItself)
 TEST_F(Alternative, MayBeTighterThanThePercentage)
 {
     apply(2.6F, 2);
-    bench_.test.sngAbsoluteLimit = 1;
+    rig_.test.sngAbsoluteLimit = 1;
     Limits::apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
     expectZero(1, true);
     EXPECT_FALSE(run_->ZeroCal->isWithinLimit());
@@ -253,7 +253,7 @@ protected:
     void apply(float upscaleMeasured)
     {
         run_->SpanCal->MeasuredValue = upscaleMeasured;
-        bench_.test.sngPercentOfRefLimit = 10;
+        rig_.test.sngPercentOfRefLimit = 10;
         Limits::apply(CalLimitRules_PercentOfRef);
     }
 };
@@ -277,7 +277,7 @@ TEST_F(Reference, WritesNothingToAFreshInjectionThatMissesIt)
 
 TEST_F(Reference, LeavesTheLimitOfAnEarlierRuleToAnInjectionThatMissesIt)
 {
-    bench_.test.sngAbsoluteLimit = 7;
+    rig_.test.sngAbsoluteLimit = 7;
     Limits::apply(CalLimitRules_AbsoluteValue);
     apply(56);
     expectUpscale(7, false);
@@ -287,8 +287,8 @@ TEST_F(Reference, LeavesTheLimitOfAnEarlierRuleToAnInjectionThatMissesIt)
 TEST_F(Reference, LeavesTheAlternativeOfAnEarlierRuleToAnInjectionThatMissesIt)
 {
     run_->SpanCal->MeasuredValue = 56;
-    bench_.test.sngPercentOfSpanLimit = 2.5F;
-    bench_.test.sngAbsoluteLimit = 5.5F;
+    rig_.test.sngPercentOfSpanLimit = 2.5F;
+    rig_.test.sngAbsoluteLimit = 5.5F;
     Limits::apply(CalLimitRules_PercentOfSpanAndAbsoluteAPS);
     apply(56);
     expectUpscale(5.5F, true);
@@ -306,7 +306,7 @@ TEST_F(Reference, FailsEveryZeroInjection)
 TEST_F(Reference, FailsTheZeroInjectionOfARunWithoutAnUpscaleOne)
 {
     run_->SpanCal = nullptr;
-    bench_.test.sngPercentOfRefLimit = 10;
+    rig_.test.sngPercentOfRefLimit = 10;
     Limits::apply(CalLimitRules_PercentOfRef);
     expectZero(-999, false);
 }
@@ -326,9 +326,9 @@ TEST_F(Limits, AreAppliedToTheInjectionsThatARunHas)
     zeroOnly->CalTime = onDay(1, 8);
     zeroOnly->InstrumentSpan = 100;
     zeroOnly->ZeroCal = injection(0, 0, kUnset);
-    bench_.add(zeroOnly);
-    bench_.test.sngAbsoluteLimit = 3;
-    bench_.test.sngPercentOfSpanLimit = 2.5F;
+    rig_.add(zeroOnly);
+    rig_.test.sngAbsoluteLimit = 3;
+    rig_.test.sngPercentOfSpanLimit = 2.5F;
 
     apply(CalLimitRules_AbsoluteValue);
     expectUpscale(3, false);
@@ -347,9 +347,9 @@ TEST_F(Limits, OfAnUnknownRuleWriteNothing)
     run_->ZeroCal->DriftLimit = 11;
     run_->ZeroCal->UsesAPS = true;
     run_->SpanCal->DriftLimit = 12;
-    bench_.test.sngAbsoluteLimit = 1;
-    bench_.test.sngPercentOfSpanLimit = 1;
-    bench_.test.sngPercentOfRefLimit = 1;
+    rig_.test.sngAbsoluteLimit = 1;
+    rig_.test.sngPercentOfSpanLimit = 1;
+    rig_.test.sngPercentOfRefLimit = 1;
     for (const int rule : {-1, 4, 100}) {
         apply(static_cast<CalLimitRulesEnum>(rule));
         expectZero(11, true);
@@ -359,7 +359,7 @@ TEST_F(Limits, OfAnUnknownRuleWriteNothing)
 
 TEST_F(Limits, WithoutRunsAreNoError)
 {
-    bench_.test.dictCals = std::make_shared<RunMap>();
+    rig_.test.dictCals = std::make_shared<RunMap>();
     apply(CalLimitRules_PercentOfSpan);
 }
 
@@ -370,14 +370,14 @@ TEST_F(Limits, OutOfRangeEndAtTheRun)
     tooLarge->InstrumentSpan = 3e38F;
     const auto behind = runAt(onDay(2, 8));
     behind->InstrumentSpan = 100;
-    bench_.add(tooLarge);
-    bench_.add(behind);
-    bench_.test.sngPercentOfSpanLimit = 200;
-    bench_.test.lngLimitRule = CalLimitRules_PercentOfSpan;
+    rig_.add(tooLarge);
+    rig_.add(behind);
+    rig_.test.sngPercentOfSpanLimit = 200;
+    rig_.test.lngLimitRule = CalLimitRules_PercentOfSpan;
 
-    bench_.test.ApplyLimits();
+    rig_.test.ApplyLimits();
 
-    EXPECT_THAT(bench_.messages->lines(), testing::ElementsAre("DEval-004: 6, Overflow"));
+    EXPECT_THAT(rig_.messages->lines(), testing::ElementsAre("DEval-004: 6, Overflow"));
     expectUpscale(200, false);
     EXPECT_EQ(tooLarge->SpanCal->DriftLimit, 1);
     EXPECT_EQ(behind->SpanCal->DriftLimit, 1);

@@ -1,4 +1,4 @@
-#include "sevenday/ReportBench.h"
+#include "sevenday/ReportRig.h"
 
 #include <gtest/gtest.h>
 
@@ -43,10 +43,10 @@ void expectCentred(const ReportPage& page, const CentredText& text, double y, in
 }
 
 /// A report of one run.
-struct RowBench : ReportBench {
-    explicit RowBench(const CalRun& run, const AnalyzerFacts& facts = {},
-                      const std::string& region = "en-US")
-        : ReportBench(facts, region)
+struct RowRig : ReportRig {
+    explicit RowRig(const CalRun& run, const AnalyzerFacts& facts = {},
+                    const std::string& region = "en-US")
+        : ReportRig(facts, region)
     {
         show({dayWith(kDay, {run})});
     }
@@ -54,9 +54,9 @@ struct RowBench : ReportBench {
 };
 
 /// The font of a text of the first row; 0 when it isn't there.
-int fontOf(ReportBench& bench, const std::string& text)
+int fontOf(ReportRig& rig, const std::string& text)
 {
-    for (const ReportTextItem& item : bench.sheet(0).TextItems()) {
+    for (const ReportTextItem& item : rig.sheet(0).TextItems()) {
         if (item.Text() == text)
             return item.Font();
     }
@@ -67,8 +67,8 @@ int fontOf(ReportBench& bench, const std::string& text)
 
 TEST(ReportDocumentOfDrift, TellsWhoMadeItAndWhatItIs)
 {
-    ReportBench bench;
-    const ReportDocument& document = bench.build();
+    ReportRig rig;
+    const ReportDocument& document = rig.build();
     EXPECT_EQ(document.Author(), "Kelvo Data Evaluation");
     EXPECT_EQ(document.Creator(), "Kelvo Data Evaluation");
     EXPECT_EQ(document.Subject(), "7-Day Drift Testing");
@@ -77,15 +77,15 @@ TEST(ReportDocumentOfDrift, TellsWhoMadeItAndWhatItIs)
 
 TEST(ReportHead, IsALandscapePage)
 {
-    ReportBench bench;
-    EXPECT_EQ(bench.sheet(0).Height(), 612);
-    EXPECT_EQ(bench.sheet(0).Width(), 792);
+    ReportRig rig;
+    EXPECT_EQ(rig.sheet(0).Height(), 612);
+    EXPECT_EQ(rig.sheet(0).Width(), 792);
 }
 
 TEST(ReportHead, HasTheFacilityTheToolAndTheAnalyzerOnTheCentreLine)
 {
-    ReportBench bench;
-    const ReportPage& page = bench.sheet(0);
+    ReportRig rig;
+    const ReportPage& page = rig.sheet(0);
     expectText(page, {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
     expectText(page, {"7-Day Drift Test", 6, 12, 392 - 88.68 / 2, 563.05 - 11.1 - 2});
     expectText(page, {"GT3 NOX/H", 5, 10, 392 - 53.9 / 2, 549.95 - 9.25 - 2});
@@ -94,17 +94,17 @@ TEST(ReportHead, HasTheFacilityTheToolAndTheAnalyzerOnTheCentreLine)
 
 TEST(ReportHead, HasTwoLinesOfColumnHeads)
 {
-    ReportBench bench;
+    ReportRig rig;
     for (const CentredText& head : kUpperHeads)
-        expectCentred(bench.sheet(0), head, 538.7 - 11.25);
+        expectCentred(rig.sheet(0), head, 538.7 - 11.25);
     for (const CentredText& head : kLowerHeads)
-        expectCentred(bench.sheet(0), head, 527.45 - 11.25);
+        expectCentred(rig.sheet(0), head, 527.45 - 11.25);
 }
 
 TEST(ReportHead, HasARuleUnderItAndOneOverTheFooter)
 {
-    ReportBench bench;
-    const auto& lines = bench.sheet(0).Lines();
+    ReportRig rig;
+    const auto& lines = rig.sheet(0).Lines();
     ASSERT_EQ(lines.Count(), 2);
     const double expected[] = {49.1, 514.2};
     for (int i = 0; i < 2; ++i) {
@@ -120,45 +120,45 @@ TEST(ReportHead, HasARuleUnderItAndOneOverTheFooter)
 
 TEST(ReportHead, TheFooterHangsBelowItsRuleWithTheTimeOfTheReport)
 {
-    ReportBench bench;
-    expectText(bench.sheet(0), {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
+    ReportRig rig;
+    expectText(rig.sheet(0), {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
 }
 
 TEST(ReportHead, TheFooterIsWrittenAsTheRegionDoes)
 {
-    ReportBench bench({}, "de-DE");
-    expectText(bench.sheet(0), {"7-Day Drift Summary 10.03.2024 14:30", 7, 8, 36, 41.7});
+    ReportRig rig({}, "de-DE");
+    expectText(rig.sheet(0), {"7-Day Drift Summary 10.03.2024 14:30", 7, 8, 36, 41.7});
 }
 
 TEST(ReportHead, AFacilityWithoutANameHasAStandIn)
 {
     for (const std::optional<std::string>& name : {std::optional<std::string>(), {""}}) {
-        ReportBench bench;
-        bench.site->facilityName = name;
-        expectText(bench.sheet(0), {"<Facility Name>", 6, 14, 392 - 106.61 / 2, 563.05});
-        EXPECT_EQ(bench.report.strFacilityName, "<Facility Name>");
+        ReportRig rig;
+        rig.site->facilityName = name;
+        expectText(rig.sheet(0), {"<Facility Name>", 6, 14, 392 - 106.61 / 2, 563.05});
+        EXPECT_EQ(rig.report.strFacilityName, "<Facility Name>");
     }
 }
 
 TEST(ReportHead, NameAndPrecisionAreTakenAnewForEachReport)
 {
-    ReportBench bench;
-    bench.build();
-    EXPECT_EQ(bench.report.strPrecision, "0.0");
-    bench.site->facilityName = "Barrett";
-    bench.site->parameter(AnalyzerFacts().calibrationPID()).attributes[attribute::kDecimals] =
+    ReportRig rig;
+    rig.build();
+    EXPECT_EQ(rig.report.strPrecision, "0.0");
+    rig.site->facilityName = "Barrett";
+    rig.site->parameter(AnalyzerFacts().calibrationPID()).attributes[attribute::kDecimals] =
         std::int32_t{2};
-    bench.build();
-    EXPECT_EQ(bench.report.strPrecision, "0.00");
-    EXPECT_EQ(bench.report.strFacilityName, "Barrett");
+    rig.build();
+    EXPECT_EQ(rig.report.strPrecision, "0.00");
+    EXPECT_EQ(rig.report.strFacilityName, "Barrett");
 }
 
 TEST(ReportRow, HasElevenTextsCentredOnTheColumns)
 {
     CalRun run = failedRunAt(kMorning);
     run->ZeroCal->MeasuredValue = 1.5F;
-    RowBench bench(run);
-    const ReportPage& page = bench.sheet(0);
+    RowRig rig(run);
+    const ReportPage& page = rig.sheet(0);
     const CentredText texts[] = {
         {"3/10/2024 08:15", 86, 72.28},
         {"200", 166, 16.68},
@@ -179,19 +179,19 @@ TEST(ReportRow, HasElevenTextsCentredOnTheColumns)
 
 TEST(ReportRow, TellsAnOfflineRun)
 {
-    RowBench bench(offline(runAt(kMorning)));
-    expectCentred(bench.sheet(0), {"Off-Line", 716, 35.57}, 502.95);
+    RowRig rig(offline(runAt(kMorning)));
+    expectCentred(rig.sheet(0), {"Off-Line", 716, 35.57}, 502.95);
 }
 
 TEST(ReportRow, LeavesTheColumnsOfAnAbsentInjectionEmpty)
 {
     CalRun withoutZero = runAt(kMorning);
     withoutZero->ZeroCal = nullptr;
-    EXPECT_EQ(RowBench(withoutZero).row(),
+    EXPECT_EQ(RowRig(withoutZero).row(),
               (Lines{"3/10/2024 08:15", "200", "160.0", "160.0", "0.0", "5.0", "On-Line"}));
     CalRun withoutSpan = runAt(kMorning);
     withoutSpan->SpanCal = nullptr;
-    EXPECT_EQ(RowBench(withoutSpan).row(),
+    EXPECT_EQ(RowRig(withoutSpan).row(),
               (Lines{"3/10/2024 08:15", "200", "0.0", "0.0", "0.0", "5.0", "On-Line"}));
 }
 
@@ -203,18 +203,18 @@ TEST(ReportRow, FiguresHaveTheDecimalsOfTheAnalyzerAndTheSpanNone)
     AnalyzerFacts facts;
     facts.decimals = std::int32_t{2};
     // 0.375 - 0.25 is 0.125, halves away from zero.
-    EXPECT_EQ(RowBench(run, facts).row(),
+    EXPECT_EQ(RowRig(run, facts).row(),
               (Lines{"3/10/2024 08:15", "12.345", "0.25", "0.38", "0.13", "2.50", "160.00",
                      "160.00", "0.00", "5.00", "On-Line"}));
     facts.decimals = std::int32_t{0};
-    EXPECT_EQ(RowBench(run, facts).row()[6], "160.");
+    EXPECT_EQ(RowRig(run, facts).row()[6], "160.");
 }
 
 TEST(ReportRow, FiguresAndDatesAreWrittenAsTheRegionDoes)
 {
     CalRun run = runAt(makeDate(2024, 3, 10, 20, 15));
     run->InstrumentSpan = 12.5F;
-    const Lines row = RowBench(run, {}, "de-DE").row();
+    const Lines row = RowRig(run, {}, "de-DE").row();
     EXPECT_EQ(row[0], "10.03.2024 20:15");
     EXPECT_EQ(row[1], "12,5");
     EXPECT_EQ(row[6], "160,0");
@@ -224,7 +224,7 @@ TEST(ReportRow, ADriftKeepsItsSign)
 {
     CalRun run = runAt(kMorning);
     run->SpanCal->MeasuredValue = 157;
-    EXPECT_EQ(RowBench(run).row()[8], "-3.0");
+    EXPECT_EQ(RowRig(run).row()[8], "-3.0");
 }
 
 struct DriftFontCase {
@@ -248,12 +248,12 @@ TEST(ReportRow, OnlyADriftAboveItsLimitStandsOut)
         facts.decimals = std::int32_t{2};
         CalRun zero = runAt(kMorning);
         zero->ZeroCal = injection(100, row.measured, 2.5F);
-        RowBench zeroBench(zero, facts);
-        EXPECT_EQ(fontOf(zeroBench, row.text), row.font) << row.what;
+        RowRig zeroRig(zero, facts);
+        EXPECT_EQ(fontOf(zeroRig, row.text), row.font) << row.what;
         CalRun span = runAt(kMorning);
         span->SpanCal = injection(100, row.measured, 2.5F);
-        RowBench spanBench(span, facts);
-        EXPECT_EQ(fontOf(spanBench, row.text), row.font) << row.what;
+        RowRig spanRig(span, facts);
+        EXPECT_EQ(fontOf(spanRig, row.text), row.font) << row.what;
     }
 }
 
@@ -261,8 +261,8 @@ TEST(ReportRow, ARunThatIsNotUsedHasABandAcrossTheWholeWidth)
 {
     CalRun run = unused(runAt(kMorning));
     run->ZeroCal = nullptr;
-    RowBench bench(run);
-    const auto& bands = bench.sheet(0).Rectangles();
+    RowRig rig(run);
+    const auto& bands = rig.sheet(0).Rectangles();
     ASSERT_EQ(bands.Count(), 1);
     const ReportRectangle& band = *bands.begin();
     EXPECT_EQ(band.X(), 36);
@@ -275,7 +275,7 @@ TEST(ReportRow, ARunThatIsNotUsedHasABandAcrossTheWholeWidth)
 
 TEST(ReportRow, AUsedRunHasNoBand)
 {
-    EXPECT_EQ(RowBench(failedRunAt(kMorning)).sheet(0).Rectangles().Count(), 0);
+    EXPECT_EQ(RowRig(failedRunAt(kMorning)).sheet(0).Rectangles().Count(), 0);
 }
 
 } // namespace k7deval::test

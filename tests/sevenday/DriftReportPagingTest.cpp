@@ -1,4 +1,4 @@
-#include "sevenday/ReportBench.h"
+#include "sevenday/ReportRig.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -19,8 +19,8 @@ constexpr int kRowsAlone = 42;
 constexpr const char* kOutcome = "The 7-Day Drift Test has been passed.";
 
 /// A report of so many rows.
-struct PagingBench : ReportBench {
-    explicit PagingBench(int rows, const std::string& summary = kOutcome)
+struct PagingRig : ReportRig {
+    explicit PagingRig(int rows, const std::string& summary = kOutcome)
     {
         test.strSummary = summary;
         show(daysOfOneRun(rows));
@@ -46,11 +46,11 @@ struct PagingBench : ReportBench {
     }
 };
 
-Lines firstTextsOfRows(ReportBench& bench, int rows)
+Lines firstTextsOfRows(ReportRig& rig, int rows)
 {
     Lines texts;
     for (int n = 1; n <= rows; ++n) {
-        const Lines row = textsAt(bench.sheet(0), rowY(n));
+        const Lines row = textsAt(rig.sheet(0), rowY(n));
         texts.push_back(row.empty() ? "nothing" : row.front());
     }
     return texts;
@@ -60,123 +60,123 @@ Lines firstTextsOfRows(ReportBench& bench, int rows)
 
 TEST(ReportPaging, AReportOfFewRowsIsOnePageWithoutANumber)
 {
-    PagingBench bench(7);
-    EXPECT_EQ(bench.countPages(), 1U);
-    EXPECT_EQ(bench.numberOf(0), "");
-    EXPECT_EQ(bench.rowsOn(0), 7U);
+    PagingRig rig(7);
+    EXPECT_EQ(rig.countPages(), 1U);
+    EXPECT_EQ(rig.numberOf(0), "");
+    EXPECT_EQ(rig.rowsOn(0), 7U);
 }
 
 TEST(ReportPaging, RowsStackDownward)
 {
-    PagingBench bench(3);
-    EXPECT_EQ(firstTextsOfRows(bench, 3),
+    PagingRig rig(3);
+    EXPECT_EQ(firstTextsOfRows(rig, 3),
               (Lines{"1/1/2024 08:15", "1/2/2024 08:15", "1/3/2024 08:15"}));
 }
 
 TEST(ReportPaging, TheRowBeforeTheLimitLeavesTheReportOnOnePage)
 {
-    PagingBench bench(kRowsAboveAnOutcome - 1);
-    EXPECT_EQ(bench.countPages(), 1U);
+    PagingRig rig(kRowsAboveAnOutcome - 1);
+    EXPECT_EQ(rig.countPages(), 1U);
     // The 37th row is at 97.95; one row is left free, and the outcome hangs below it.
-    expectText(bench.sheet(0), {kOutcome, 5, 10, 36, 97.95 - 11.25 - 11.25});
+    expectText(rig.sheet(0), {kOutcome, 5, 10, 36, 97.95 - 11.25 - 11.25});
 }
 
 TEST(ReportPaging, TheRowThatCrossesTheLimitStaysAndThePageBreaksBehindIt)
 {
-    PagingBench bench(kRowsAboveAnOutcome);
-    ASSERT_EQ(bench.countPages(), 2U);
-    EXPECT_EQ(bench.rowsOn(0), 38U);
-    EXPECT_EQ(textsAt(bench.sheet(0), 86.7).front(), "2/7/2024 08:15");
-    EXPECT_EQ(bench.rowsOn(1), 0U);
-    expectText(bench.sheet(1), {kOutcome, 5, 10, 36, 514.2 - 11.25 - 11.25});
+    PagingRig rig(kRowsAboveAnOutcome);
+    ASSERT_EQ(rig.countPages(), 2U);
+    EXPECT_EQ(rig.rowsOn(0), 38U);
+    EXPECT_EQ(textsAt(rig.sheet(0), 86.7).front(), "2/7/2024 08:15");
+    EXPECT_EQ(rig.rowsOn(1), 0U);
+    expectText(rig.sheet(1), {kOutcome, 5, 10, 36, 514.2 - 11.25 - 11.25});
 }
 
 TEST(ReportPaging, FromTwoPagesOnEachBearsItsNumber)
 {
-    PagingBench bench(2 * kRowsAboveAnOutcome + 1);
-    ASSERT_EQ(bench.countPages(), 3U);
-    EXPECT_EQ(bench.numberOf(0), "Page 1");
-    EXPECT_EQ(bench.numberOf(1), "Page 2");
-    EXPECT_EQ(bench.numberOf(2), "Page 3");
-    EXPECT_EQ(bench.rowsOn(1), 38U);
-    EXPECT_EQ(bench.rowsOn(2), 1U);
+    PagingRig rig(2 * kRowsAboveAnOutcome + 1);
+    ASSERT_EQ(rig.countPages(), 3U);
+    EXPECT_EQ(rig.numberOf(0), "Page 1");
+    EXPECT_EQ(rig.numberOf(1), "Page 2");
+    EXPECT_EQ(rig.numberOf(2), "Page 3");
+    EXPECT_EQ(rig.rowsOn(1), 38U);
+    EXPECT_EQ(rig.rowsOn(2), 1U);
 }
 
 TEST(ReportPaging, ANumberStandsAtTheRightMargin)
 {
     // "Page 1" is 3169 thousandths wide: P 667, a 556, g 556, e 556, blank 278, 1 556.
-    PagingBench bench(kRowsAboveAnOutcome);
-    expectText(bench.sheet(0), {"Page 1", 7, 8, 756 - 25.352, 41.7});
-    expectText(bench.sheet(1), {"Page 2", 7, 8, 756 - 25.352, 41.7});
+    PagingRig rig(kRowsAboveAnOutcome);
+    expectText(rig.sheet(0), {"Page 1", 7, 8, 756 - 25.352, 41.7});
+    expectText(rig.sheet(1), {"Page 2", 7, 8, 756 - 25.352, 41.7});
 }
 
 TEST(ReportPaging, EachPageHasHeadFooterAndSize)
 {
-    PagingBench bench(kRowsAboveAnOutcome + 1);
+    PagingRig rig(kRowsAboveAnOutcome + 1);
     for (const std::size_t index : {0U, 1U}) {
-        const ReportPage& page = bench.sheet(index);
+        const ReportPage& page = rig.sheet(index);
         EXPECT_EQ(page.Height(), 612);
         EXPECT_EQ(page.Width(), 792);
         EXPECT_EQ(page.Lines().Count(), 2);
         expectText(page, {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
         expectText(page, {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, 41.7});
     }
-    EXPECT_EQ(textsAt(bench.sheet(1), rowY(1)).front(), "2/8/2024 08:15");
+    EXPECT_EQ(textsAt(rig.sheet(1), rowY(1)).front(), "2/8/2024 08:15");
 }
 
 TEST(ReportPaging, WithoutAnOutcomeTheRowsRunDownToTheFooter)
 {
-    PagingBench bench(kRowsAlone + 1, "");
-    ASSERT_EQ(bench.countPages(), 2U);
-    EXPECT_EQ(bench.rowsOn(0), 42U);
-    EXPECT_EQ(textsAt(bench.sheet(0), 41.7).front(), "7-Day Drift Summary 3/10/2024 2:30 PM")
+    PagingRig rig(kRowsAlone + 1, "");
+    ASSERT_EQ(rig.countPages(), 2U);
+    EXPECT_EQ(rig.rowsOn(0), 42U);
+    EXPECT_EQ(textsAt(rig.sheet(0), 41.7).front(), "7-Day Drift Summary 3/10/2024 2:30 PM")
         << "the last row and the footer are level";
-    EXPECT_EQ(bench.rowsOn(1), 1U);
-    EXPECT_EQ(countTexts(bench.sheet(1)), 24U + 11U + 1U) << "no outcome";
+    EXPECT_EQ(rig.rowsOn(1), 1U);
+    EXPECT_EQ(countTexts(rig.sheet(1)), 24U + 11U + 1U) << "no outcome";
 }
 
 TEST(ReportPaging, WithoutAnOutcomeOneRowLessIsOnePage)
 {
-    EXPECT_EQ(PagingBench(kRowsAlone - 1, "").countPages(), 1U);
+    EXPECT_EQ(PagingRig(kRowsAlone - 1, "").countPages(), 1U);
 }
 
 TEST(ReportPaging, ASingleRowNeverBreaksThePage)
 {
-    EXPECT_EQ(PagingBench(1).countPages(), 1U);
+    EXPECT_EQ(PagingRig(1).countPages(), 1U);
 }
 
 TEST(ReportRows, TheFirstDayShowsOneOfItsRunsAndLaterDaysAll)
 {
-    ReportBench bench;
+    ReportRig rig;
     const auto day = [](int number) {
         const Date date = makeDate(2024, 3, number);
         return dayWith(date, {runAt(makeDate(2024, 3, number, 6, 0)),
                               runAt(makeDate(2024, 3, number, 12, 0)),
                               runAt(makeDate(2024, 3, number, 18, 0))});
     };
-    bench.show({day(1), day(2)});
-    EXPECT_EQ(firstTextsOfRows(bench, 5), (Lines{"3/1/2024 06:00", "3/2/2024 06:00",
-                                                 "3/2/2024 12:00", "3/2/2024 18:00", "nothing"}));
+    rig.show({day(1), day(2)});
+    EXPECT_EQ(firstTextsOfRows(rig, 5), (Lines{"3/1/2024 06:00", "3/2/2024 06:00", "3/2/2024 12:00",
+                                               "3/2/2024 18:00", "nothing"}));
 }
 
 TEST(ReportRows, DaysWithoutDisplayedRunsTakeNoRow)
 {
-    ReportBench bench;
-    bench.show({dayWith(makeDate(2024, 3, 1), {}),
-                dayWith(makeDate(2024, 3, 2), {runAt(makeDate(2024, 3, 2, 8, 15))}),
-                dayWith(makeDate(2024, 3, 3), {}),
-                dayWith(makeDate(2024, 3, 4), {runAt(makeDate(2024, 3, 4, 8, 15))})});
-    EXPECT_EQ(firstTextsOfRows(bench, 3), (Lines{"3/2/2024 08:15", "3/4/2024 08:15", "nothing"}));
+    ReportRig rig;
+    rig.show({dayWith(makeDate(2024, 3, 1), {}),
+              dayWith(makeDate(2024, 3, 2), {runAt(makeDate(2024, 3, 2, 8, 15))}),
+              dayWith(makeDate(2024, 3, 3), {}),
+              dayWith(makeDate(2024, 3, 4), {runAt(makeDate(2024, 3, 4, 8, 15))})});
+    EXPECT_EQ(firstTextsOfRows(rig, 3), (Lines{"3/2/2024 08:15", "3/4/2024 08:15", "nothing"}));
 }
 
 TEST(ReportRows, EachRowIsShadedByItself)
 {
-    ReportBench bench;
+    ReportRig rig;
     std::vector<CalDay> days = daysOfOneRun(4);
     days[0]->DisplayedCals[0]->IsUsedIn7Day = false;
     days[2]->DisplayedCals[0]->IsUsedIn7Day = false;
-    bench.show(days);
-    const auto& bands = bench.sheet(0).Rectangles();
+    rig.show(days);
+    const auto& bands = rig.sheet(0).Rectangles();
     ASSERT_EQ(bands.Count(), 2);
     EXPECT_NEAR(bands.begin()->Y(), rowY(1) - 1, 0.01);
     EXPECT_NEAR(std::next(bands.begin())->Y(), rowY(3) - 1, 0.01);
@@ -185,56 +185,56 @@ TEST(ReportRows, EachRowIsShadedByItself)
 
 TEST(ReportRows, WithoutRunsTheOutcomeStandsAtOnceUnderTheHead)
 {
-    ReportBench bench;
-    bench.test.objDaysToDisplay = arrayOf(daysOfOneRun(2));
-    bench.test.strSummary = "There are no calibrations in selected time range.";
-    expectText(bench.sheet(0), {bench.test.strSummary, 5, 10, 36, 514.2 - 11.25});
-    EXPECT_EQ(countTexts(bench.sheet(0)), 25U);
-    EXPECT_EQ(bench.countPages(), 1U);
+    ReportRig rig;
+    rig.test.objDaysToDisplay = arrayOf(daysOfOneRun(2));
+    rig.test.strSummary = "There are no calibrations in selected time range.";
+    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, 514.2 - 11.25});
+    EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
+    EXPECT_EQ(rig.countPages(), 1U);
 }
 
 TEST(ReportRows, WithNothingCountedTheDisplayOfDriftCalsHasNoRows)
 {
-    ReportBench bench;
-    bench.show(daysOfOneRun(2));
-    bench.page.optShowDriftTestCals.Press();
-    EXPECT_EQ(countTexts(bench.sheet(0)), 24U);
-    bench.test.lngFailedCals = 1;
-    bench.build();
-    EXPECT_EQ(countTexts(bench.sheet(0)), 24U + 22U);
-    bench.test.lngFailedCals = 0;
-    bench.page.optShowInterval.Press();
-    bench.build();
-    EXPECT_EQ(countTexts(bench.sheet(0)), 24U + 22U) << "the other displays show them";
+    ReportRig rig;
+    rig.show(daysOfOneRun(2));
+    rig.page.optShowDriftTestCals.Press();
+    EXPECT_EQ(countTexts(rig.sheet(0)), 24U);
+    rig.test.lngFailedCals = 1;
+    rig.build();
+    EXPECT_EQ(countTexts(rig.sheet(0)), 24U + 22U);
+    rig.test.lngFailedCals = 0;
+    rig.page.optShowInterval.Press();
+    rig.build();
+    EXPECT_EQ(countTexts(rig.sheet(0)), 24U + 22U) << "the other displays show them";
 }
 
 TEST(ReportRows, WithoutADisplayedRunTheOutcomeStandsAQuarterOfTheWayDown)
 {
-    ReportBench bench;
-    bench.show({dayWith(makeDate(2024, 3, 1), {}), dayWith(makeDate(2024, 3, 2), {})});
+    ReportRig rig;
+    rig.show({dayWith(makeDate(2024, 3, 1), {}), dayWith(makeDate(2024, 3, 2), {})});
     const CalRun hidden = runAt(makeDate(2024, 3, 2, 8, 15));
-    bench.test.dictCals->Add(minuteKey(hidden->CalTime), hidden);
-    bench.test.strSummary = kOutcome;
-    expectText(bench.sheet(0), {kOutcome, 5, 10, 36, 514.2 - 514.2 / 4 - 11.25});
-    EXPECT_EQ(countTexts(bench.sheet(0)), 25U);
+    rig.test.dictCals->Add(minuteKey(hidden->CalTime), hidden);
+    rig.test.strSummary = kOutcome;
+    expectText(rig.sheet(0), {kOutcome, 5, 10, 36, 514.2 - 514.2 / 4 - 11.25});
+    EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
 }
 
 TEST(ReportRows, AnEmptyListOfDaysWritesNoFileAndPostsNothing)
 {
-    ReportBench bench;
-    bench.show(daysOfOneRun(1));
-    bench.test.objDaysToDisplay.resizeKeeping(-1);
+    ReportRig rig;
+    rig.show(daysOfOneRun(1));
+    rig.test.objDaysToDisplay.resizeKeeping(-1);
     const testing::TemporaryFolder folder;
-    EXPECT_EQ(bench.report.WriteDriftReport(folder.file("7Day.pdf")), std::nullopt);
+    EXPECT_EQ(rig.report.WriteDriftReport(folder.file("7Day.pdf")), std::nullopt);
     EXPECT_EQ(folder.names(), Lines());
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(ReportOutcome, ALineBreakSplitsItAndLeavesAnEmptyLine)
 {
-    ReportBench bench;
-    bench.test.strSummary = "first\r\nsecond";
-    const ReportPage& page = bench.sheet(0);
+    ReportRig rig;
+    rig.test.strSummary = "first\r\nsecond";
+    const ReportPage& page = rig.sheet(0);
     expectText(page, {"first", 5, 10, 36, 502.95});
     expectText(page, {"second", 5, 10, 36, 502.95 - 2 * 11.25});
     EXPECT_EQ(countTexts(page), 26U);
@@ -242,25 +242,25 @@ TEST(ReportOutcome, ALineBreakSplitsItAndLeavesAnEmptyLine)
 
 TEST(ReportOutcome, OnlyTheFirstLineBreakSplitsIt)
 {
-    ReportBench bench;
-    bench.test.strSummary = "first\r\nsecond\r\nthird";
-    expectText(bench.sheet(0), {"second\r\nthird", 5, 10, 36, 480.45});
-    EXPECT_EQ(countTexts(bench.sheet(0)), 26U);
+    ReportRig rig;
+    rig.test.strSummary = "first\r\nsecond\r\nthird";
+    expectText(rig.sheet(0), {"second\r\nthird", 5, 10, 36, 480.45});
+    EXPECT_EQ(countTexts(rig.sheet(0)), 26U);
 }
 
 TEST(ReportOutcome, ALineFeedAloneIsNoLineBreak)
 {
-    ReportBench bench;
-    bench.test.strSummary = "first\nsecond\r";
-    expectText(bench.sheet(0), {"first\nsecond\r", 5, 10, 36, 502.95});
-    EXPECT_EQ(countTexts(bench.sheet(0)), 25U);
+    ReportRig rig;
+    rig.test.strSummary = "first\nsecond\r";
+    expectText(rig.sheet(0), {"first\nsecond\r", 5, 10, 36, 502.95});
+    EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
 }
 
 TEST(ReportOutcome, IsNotWrappedAtThePagesEdge)
 {
-    ReportBench bench;
-    bench.test.strSummary = std::string(400, 'W');
-    expectText(bench.sheet(0), {bench.test.strSummary, 5, 10, 36, 502.95});
+    ReportRig rig;
+    rig.test.strSummary = std::string(400, 'W');
+    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, 502.95});
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "sevenday/ReportBench.h"
+#include "sevenday/ReportRig.h"
 #include "support/PdfText.h"
 #include "support/TemporaryFolder.h"
 
@@ -15,8 +15,8 @@ using testing::PdfPage;
 using testing::PdfWord;
 
 /// The saved report of so many days.
-struct PdfBench : ReportBench {
-    explicit PdfBench(int days)
+struct PdfRig : ReportRig {
+    explicit PdfRig(int days)
     {
         test.strSummary = "The 7-Day Drift Test has been passed.";
         std::vector<CalDay> shown = daysOfOneRun(days);
@@ -34,14 +34,14 @@ struct PdfBench : ReportBench {
 
 TEST(ReportPdf, IsAValidFile)
 {
-    const PdfBench bench(7);
-    EXPECT_NO_THROW(testing::requireValidPdf(bench.path));
+    const PdfRig rig(7);
+    EXPECT_NO_THROW(testing::requireValidPdf(rig.path));
 }
 
 TEST(ReportPdf, BearsItsInformation)
 {
-    const PdfBench bench(7);
-    auto information = testing::pdfInformation(bench.path);
+    const PdfRig rig(7);
+    auto information = testing::pdfInformation(rig.path);
     EXPECT_EQ(information["Title"], "7-Day Drift Testing");
     EXPECT_EQ(information["Subject"], "7-Day Drift Testing");
     EXPECT_EQ(information["Author"], "Kelvo Data Evaluation");
@@ -51,8 +51,8 @@ TEST(ReportPdf, BearsItsInformation)
 
 TEST(ReportPdf, HasItsWordsInTheirPlaces)
 {
-    const PdfBench bench(7);
-    const auto pages = testing::pdfPages(bench.path);
+    const PdfRig rig(7);
+    const auto pages = testing::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 1U);
     const PdfPage& page = pages[0];
     EXPECT_EQ(page.width, 792);
@@ -67,8 +67,8 @@ TEST(ReportPdf, HasItsWordsInTheirPlaces)
 
 TEST(ReportPdf, ReadsAsItsRows)
 {
-    const PdfBench bench(7);
-    const std::string text = testing::pdfPlainText(bench.path);
+    const PdfRig rig(7);
+    const std::string text = testing::pdfPlainText(rig.path);
     EXPECT_NE(text.find("1/1/2024 08:15 200 0.0 0.0 0.0 5.0 160.0 160.0 0.0 5.0 On-Line"),
               std::string::npos)
         << text;
@@ -81,8 +81,8 @@ TEST(ReportPdf, ReadsAsItsRows)
 
 TEST(ReportPdf, OfManyDaysHasNumberedPages)
 {
-    const PdfBench bench(100);
-    const auto pages = testing::pdfPages(bench.path);
+    const PdfRig rig(100);
+    const auto pages = testing::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 3U);
     for (const PdfPage& page : pages) {
         EXPECT_NO_THROW(static_cast<void>(page.word("Bethpage")));
@@ -94,11 +94,11 @@ TEST(ReportPdf, OfManyDaysHasNumberedPages)
 
 TEST(ReportPdf, KeepsAFacilityNameOfAnyScript)
 {
-    ReportBench bench;
-    bench.site->facilityName = "Kraftwerk Łódź";
+    ReportRig rig;
+    rig.site->facilityName = "Kraftwerk Łódź";
     const testing::TemporaryFolder folder;
     const std::string path = folder.file("7Day.pdf");
-    ASSERT_EQ(bench.report.WriteDriftReport(path), std::nullopt);
+    ASSERT_EQ(rig.report.WriteDriftReport(path), std::nullopt);
     EXPECT_NE(testing::pdfPlainText(path).find("Kraftwerk Łódź"), std::string::npos);
 }
 

@@ -1,4 +1,4 @@
-#include "sevenday/RetrievalBench.h"
+#include "sevenday/RetrievalRig.h"
 
 namespace k7deval::test
 {
@@ -15,8 +15,8 @@ constexpr const char* kEight = "2024/03/10 08:15";
 
 TEST_F(Retrieval, AsksOnceForTheRecordsOfTheAnalyzerAndTheInterval)
 {
-    bench_.site->siteKey = "PLANT";
-    bench_.test.strAnalyzedScale = "LOW";
+    rig_.site->siteKey = "PLANT";
+    rig_.test.strAnalyzedScale = "LOW";
     retrieve();
 
     const RangeRecordQuery query{
@@ -35,14 +35,14 @@ TEST_F(Retrieval, AsksOnceForTheRecordsOfTheAnalyzerAndTheInterval)
         .argument13 = 0,
         .argument14 = 1,
     };
-    EXPECT_THAT(bench_.site->rangeQueries, ElementsAre(query));
+    EXPECT_THAT(rig_.site->rangeQueries, ElementsAre(query));
 }
 
 TEST_F(Retrieval, OfNoRecordsGivesAnEmptyMap)
 {
     retrieve();
-    ASSERT_TRUE(bench_.test.dictCals);
-    EXPECT_TRUE(bench_.test.dictCals->isEmpty());
+    ASSERT_TRUE(rig_.test.dictCals);
+    EXPECT_TRUE(rig_.test.dictCals->isEmpty());
 }
 
 TEST_F(Retrieval, PairsTheInjectionsOfAMinute)
@@ -51,8 +51,8 @@ TEST_F(Retrieval, PairsTheInjectionsOfAMinute)
     addUpscale(onDay(0, 8, 15, 50));
     retrieve();
 
-    EXPECT_THAT(bench_.runKeys(), ElementsAre(kEight));
-    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    EXPECT_THAT(rig_.runKeys(), ElementsAre(kEight));
+    const cls7DayAnalyzerCal& run = rig_.run(kEight);
     EXPECT_TRUE(run.IsCompleteRun());
     EXPECT_EQ(run.CalTime, onDay(0, 8, 15, 10));
 }
@@ -63,11 +63,11 @@ TEST_F(Retrieval, DoesNotPairInjectionsOfTwoMinutes)
     addUpscale(onDay(0, 8, 16, 10));
     retrieve();
 
-    EXPECT_THAT(bench_.runKeys(), ElementsAre(kEight, "2024/03/10 08:16"));
-    EXPECT_TRUE(bench_.run(kEight).ZeroCal);
-    EXPECT_FALSE(bench_.run(kEight).SpanCal);
-    EXPECT_FALSE(bench_.run("2024/03/10 08:16").ZeroCal);
-    EXPECT_TRUE(bench_.run("2024/03/10 08:16").SpanCal);
+    EXPECT_THAT(rig_.runKeys(), ElementsAre(kEight, "2024/03/10 08:16"));
+    EXPECT_TRUE(rig_.run(kEight).ZeroCal);
+    EXPECT_FALSE(rig_.run(kEight).SpanCal);
+    EXPECT_FALSE(rig_.run("2024/03/10 08:16").ZeroCal);
+    EXPECT_TRUE(rig_.run("2024/03/10 08:16").SpanCal);
 }
 
 TEST_F(Retrieval, PairsAlsoWhenTheUpscaleRecordComesFirst)
@@ -76,9 +76,9 @@ TEST_F(Retrieval, PairsAlsoWhenTheUpscaleRecordComesFirst)
     addZero(onDay(0, 8, 15, 10));
     retrieve();
 
-    EXPECT_THAT(bench_.runKeys(), ElementsAre(kEight));
-    EXPECT_TRUE(bench_.run(kEight).IsCompleteRun());
-    EXPECT_TRUE(bench_.run(kEight).IsOnline);
+    EXPECT_THAT(rig_.runKeys(), ElementsAre(kEight));
+    EXPECT_TRUE(rig_.run(kEight).IsCompleteRun());
+    EXPECT_TRUE(rig_.run(kEight).IsOnline);
 }
 
 TEST_F(Retrieval, KeepsTheFirstZeroRecordOfAMinute)
@@ -87,21 +87,21 @@ TEST_F(Retrieval, KeepsTheFirstZeroRecordOfAMinute)
     addZero(onDay(0, 8, 15, 5)).measured = 2.0F;
     retrieve();
 
-    EXPECT_EQ(bench_.run(kEight).ZeroCal->MeasuredValue, 1);
-    EXPECT_EQ(bench_.run(kEight).CalTime, onDay(0, 8, 15, 10));
+    EXPECT_EQ(rig_.run(kEight).ZeroCal->MeasuredValue, 1);
+    EXPECT_EQ(rig_.run(kEight).CalTime, onDay(0, 8, 15, 10));
 }
 
 TEST_F(Retrieval, KeepsTheFirstUpscaleRecordOfAMinuteWhateverItsLevel)
 {
     for (const std::int32_t first : {1, 2}) {
-        bench_.site->records.clear();
+        rig_.site->records.clear();
         addZero(onDay(0, 8, 15));
         addUpscale(onDay(0, 8, 15, 30)).gasLevelCode = first;
         addUpscale(onDay(0, 8, 15, 20)).gasLevelCode = 3 - first;
-        bench_.site->records[1].measured = 1.0F;
-        bench_.site->records[2].measured = 2.0F;
+        rig_.site->records[1].measured = 1.0F;
+        rig_.site->records[2].measured = 2.0F;
         retrieve();
-        EXPECT_EQ(bench_.run(kEight).SpanCal->MeasuredValue, 1);
+        EXPECT_EQ(rig_.run(kEight).SpanCal->MeasuredValue, 1);
     }
 }
 
@@ -111,8 +111,8 @@ TEST_F(Retrieval, KeepsTheFirstUpscaleRecordOfARunWithoutZeroGas)
     addUpscale(onDay(0, 8, 15, 20)).measured = 2.0F;
     retrieve();
 
-    EXPECT_EQ(bench_.run(kEight).SpanCal->MeasuredValue, 1);
-    EXPECT_EQ(bench_.run(kEight).CalTime, onDay(0, 8, 15, 30));
+    EXPECT_EQ(rig_.run(kEight).SpanCal->MeasuredValue, 1);
+    EXPECT_EQ(rig_.run(kEight).CalTime, onDay(0, 8, 15, 30));
 }
 
 TEST_F(Retrieval, DropsOtherGasLevels)
@@ -120,7 +120,7 @@ TEST_F(Retrieval, DropsOtherGasLevels)
     for (const std::int32_t code : {-1, 3, 4, 100})
         addZero(onDay(0, 8, code + 2)).gasLevelCode = code;
     retrieve();
-    EXPECT_THAT(bench_.runKeys(), IsEmpty());
+    EXPECT_THAT(rig_.runKeys(), IsEmpty());
 }
 
 TEST_F(Retrieval, DropsAnotherScaleBeforeAnythingElse)
@@ -131,9 +131,9 @@ TEST_F(Retrieval, DropsAnotherScaleBeforeAnythingElse)
     addZero(onDay(0, 9));
     retrieve();
 
-    EXPECT_THAT(bench_.runKeys(), ElementsAre("2024/03/10 09:00"));
-    EXPECT_EQ(bench_.site->countCalls("DIRecord.Scale"), 6U);
-    EXPECT_EQ(bench_.site->countCalls("DIRecord.GasLevelCode"), 1U);
+    EXPECT_THAT(rig_.runKeys(), ElementsAre("2024/03/10 09:00"));
+    EXPECT_EQ(rig_.site->countCalls("DIRecord.Scale"), 6U);
+    EXPECT_EQ(rig_.site->countCalls("DIRecord.GasLevelCode"), 1U);
 }
 
 TEST_F(Retrieval, KeepsAnOfflineRunAsSuch)
@@ -149,7 +149,7 @@ TEST_F(Retrieval, TakesEveryOtherStatusForOnline)
         RecordData record = zeroRecord(onDay(0, 8, 15));
         record.calStatus = status;
         EXPECT_TRUE(runOf(record).IsOnline) << status;
-        bench_.site->records.clear();
+        rig_.site->records.clear();
     }
 }
 
@@ -159,7 +159,7 @@ TEST_F(Retrieval, ReadsWhetherARunWasStartedByHand)
         RecordData record = zeroRecord(onDay(0, 8, 15));
         record.manual = manual;
         EXPECT_TRUE(runOf(record).ManualCal);
-        bench_.site->records.clear();
+        rig_.site->records.clear();
     }
     EXPECT_FALSE(runOf(zeroRecord(onDay(0, 8, 15))).ManualCal);
 }
@@ -177,7 +177,7 @@ TEST_F(Retrieval, ReadsTheValuesOfARunAndItsInjections)
     upscale.gasLevelText = "high Gas";
     retrieve();
 
-    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    const cls7DayAnalyzerCal& run = rig_.run(kEight);
     EXPECT_EQ(run.InstrumentSpan, 200.5F);
     EXPECT_EQ(run.ZeroCal->MeasuredValue, 0.1F);
     EXPECT_EQ(run.ZeroCal->ReferenceValue, 0.2F);
@@ -199,7 +199,7 @@ TEST_F(Retrieval, TakesTheFlagsOfTheZeroRecord)
     addUpscale(onDay(0, 8, 15, 20));
     retrieve();
 
-    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    const cls7DayAnalyzerCal& run = rig_.run(kEight);
     EXPECT_TRUE(run.ManualCal);
     EXPECT_FALSE(run.IsOnline);
     EXPECT_EQ(run.InstrumentSpan, 300);
@@ -214,7 +214,7 @@ TEST_F(Retrieval, TakesTheFlagsOfAnUpscaleRecordWithoutAZeroOne)
     upscale.span = 300.0F;
     retrieve();
 
-    const cls7DayAnalyzerCal& run = bench_.run(kEight);
+    const cls7DayAnalyzerCal& run = rig_.run(kEight);
     EXPECT_TRUE(run.ManualCal);
     EXPECT_FALSE(run.IsOnline);
     EXPECT_EQ(run.InstrumentSpan, 300);
@@ -227,8 +227,8 @@ TEST_F(Retrieval, TakesTheRunTimeForAnInjectionWithoutAnEnd)
     addZero(onDay(0, 8, 15, 10));
     addUpscale(onDay(0, 8, 15, 50));
     retrieve();
-    EXPECT_EQ(bench_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 15, 10));
-    EXPECT_EQ(bench_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 15, 50));
+    EXPECT_EQ(rig_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 15, 10));
+    EXPECT_EQ(rig_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 15, 50));
 }
 
 TEST_F(Retrieval, TakesTheEndOfAnInjectionThatHasOne)
@@ -236,8 +236,8 @@ TEST_F(Retrieval, TakesTheEndOfAnInjectionThatHasOne)
     addZero(onDay(0, 8, 15, 10)).injectionEnd = onDay(0, 8, 11);
     addUpscale(onDay(0, 8, 15, 50)).injectionEnd = onDay(0, 8, 20);
     retrieve();
-    EXPECT_EQ(bench_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 11));
-    EXPECT_EQ(bench_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 20));
+    EXPECT_EQ(rig_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 11));
+    EXPECT_EQ(rig_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 20));
 }
 
 TEST_F(Retrieval, TellsOnlyRunsWithoutAZeroRecordWhetherTheyNeedOne)
@@ -247,11 +247,11 @@ TEST_F(Retrieval, TellsOnlyRunsWithoutAZeroRecordWhetherTheyNeedOne)
     addUpscale(onDay(0, 9));
     addUpscale(onDay(0, 10));
     for (const bool useZeroCals : {false, true}) {
-        bench_.test.blnUseZeroCals = useZeroCals;
+        rig_.test.blnUseZeroCals = useZeroCals;
         retrieve();
-        EXPECT_TRUE(bench_.run("2024/03/10 08:00").UseZeroCal);
-        EXPECT_TRUE(bench_.run("2024/03/10 09:00").UseZeroCal);
-        EXPECT_EQ(bench_.run("2024/03/10 10:00").UseZeroCal, useZeroCals);
+        EXPECT_TRUE(rig_.run("2024/03/10 08:00").UseZeroCal);
+        EXPECT_TRUE(rig_.run("2024/03/10 09:00").UseZeroCal);
+        EXPECT_EQ(rig_.run("2024/03/10 10:00").UseZeroCal, useZeroCals);
     }
 }
 
@@ -259,9 +259,9 @@ TEST_F(Retrieval, ReplacesTheRunsOfAnEarlierOne)
 {
     addZero(onDay(0, 8, 15));
     retrieve();
-    bench_.test.dictCals->Item(kEight)->IsUsedIn7Day = true;
+    rig_.test.dictCals->Item(kEight)->IsUsedIn7Day = true;
     retrieve();
-    EXPECT_FALSE(bench_.run(kEight).IsUsedIn7Day);
+    EXPECT_FALSE(rig_.run(kEight).IsUsedIn7Day);
 }
 
 } // namespace k7deval::test

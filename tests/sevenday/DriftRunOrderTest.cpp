@@ -1,4 +1,4 @@
-#include "sevenday/RetrievalBench.h"
+#include "sevenday/RetrievalRig.h"
 
 #include <rapidcheck/gtest.h>
 
@@ -23,18 +23,18 @@ TEST_F(Order, IsThatOfTime)
     addUpscale(onDay(1, 7));
     addUpscale(onDay(2, 9));
     retrieve();
-    EXPECT_THAT(bench_.runKeys(),
+    EXPECT_THAT(rig_.runKeys(),
                 ElementsAre("2024/03/10 08:00", "2024/03/11 07:00", "2024/03/11 08:00",
                             "2024/03/12 08:00", "2024/03/12 09:00"));
-    EXPECT_TRUE(bench_.run("2024/03/11 07:00").SpanCal);
-    EXPECT_TRUE(bench_.run("2024/03/11 08:00").ZeroCal);
+    EXPECT_TRUE(rig_.run("2024/03/11 07:00").SpanCal);
+    EXPECT_TRUE(rig_.run("2024/03/11 08:00").ZeroCal);
 }
 
 TEST_F(Order, OfOneRunNeedsNone)
 {
     addUpscale(onDay(0, 8));
     retrieve();
-    EXPECT_THAT(bench_.runKeys(), ElementsAre("2024/03/10 08:00"));
+    EXPECT_THAT(rig_.runKeys(), ElementsAre("2024/03/10 08:00"));
 }
 
 TEST_F(Order, TakesASmallestRunFromTheThirdOn)
@@ -43,7 +43,7 @@ TEST_F(Order, TakesASmallestRunFromTheThirdOn)
     addZero(onDay(2, 8));
     addUpscale(onDay(0, 8));
     retrieve();
-    EXPECT_THAT(bench_.runKeys(),
+    EXPECT_THAT(rig_.runKeys(),
                 ElementsAre("2024/03/10 08:00", "2024/03/11 08:00", "2024/03/12 08:00"));
 }
 
@@ -51,14 +51,14 @@ TEST_F(Order, CanNotTakeASecondRunAheadOfTheFirst)
 {
     addZero(onDay(1, 8));
     retrieve();
-    const auto before = bench_.test.dictCals;
+    const auto before = rig_.test.dictCals;
 
     addUpscale(onDay(0, 8));
-    bench_.test.RetrieveCals();
+    rig_.test.RetrieveCals();
 
-    EXPECT_THAT(bench_.messages->lines(), ElementsAre("DEval-003: 9, Subscript out of range"));
-    EXPECT_EQ(bench_.test.dictCals, before);
-    EXPECT_THAT(bench_.runKeys(), ElementsAre("2024/03/11 08:00"));
+    EXPECT_THAT(rig_.messages->lines(), ElementsAre("DEval-003: 9, Subscript out of range"));
+    EXPECT_EQ(rig_.test.dictCals, before);
+    EXPECT_THAT(rig_.runKeys(), ElementsAre("2024/03/11 08:00"));
 }
 
 TEST_F(Order, CanNotTakeASecondRunAheadOfTheFirstAmongMany)
@@ -66,9 +66,9 @@ TEST_F(Order, CanNotTakeASecondRunAheadOfTheFirstAmongMany)
     addZero(onDay(1, 8));
     addZero(onDay(0, 8));
     addZero(onDay(2, 8));
-    bench_.test.RetrieveCals();
-    EXPECT_THAT(bench_.messages->lines(), ElementsAre("DEval-003: 9, Subscript out of range"));
-    EXPECT_EQ(bench_.test.dictCals, nullptr);
+    rig_.test.RetrieveCals();
+    EXPECT_THAT(rig_.messages->lines(), ElementsAre("DEval-003: 9, Subscript out of range"));
+    EXPECT_EQ(rig_.test.dictCals, nullptr);
 }
 
 namespace
@@ -81,11 +81,11 @@ std::vector<int> anyMinutes()
     return *rc::gen::unique<std::vector<int>>(count, rc::gen::inRange(0, 3 * 1440));
 }
 
-void addZeroRecords(DriftBench& bench, const std::vector<int>& minutes)
+void addZeroRecords(DriftRig& rig, const std::vector<int>& minutes)
 {
-    bench.setInterval(3);
+    rig.setInterval(3);
     for (const int minute : minutes)
-        bench.site->records.push_back(zeroRecord(onDay(0, 0, minute)));
+        rig.site->records.push_back(zeroRecord(onDay(0, 0, minute)));
 }
 
 } // namespace
@@ -95,16 +95,16 @@ RC_GTEST_PROP(AnyOrder, WithTheSecondRunBehindTheFirstIsSorted, ())
     auto minutes = anyMinutes();
     if (minutes[1] < minutes[0])
         std::swap(minutes[0], minutes[1]);
-    DriftBench bench;
-    addZeroRecords(bench, minutes);
+    DriftRig rig;
+    addZeroRecords(rig, minutes);
 
-    bench.test.RetrieveCals();
+    rig.test.RetrieveCals();
 
-    RC_ASSERT(bench.messages->posted.empty());
+    RC_ASSERT(rig.messages->posted.empty());
     std::sort(minutes.begin(), minutes.end());
-    RC_ASSERT(bench.test.dictCals->Count() == minutes.size());
+    RC_ASSERT(rig.test.dictCals->Count() == minutes.size());
     std::size_t next = 0;
-    for (const auto& [key, run] : *bench.test.dictCals) {
+    for (const auto& [key, run] : *rig.test.dictCals) {
         RC_ASSERT(run->CalTime == onDay(0, 0, minutes[next++]));
         RC_ASSERT(key == minuteKey(run->CalTime));
     }
@@ -115,14 +115,14 @@ RC_GTEST_PROP(AnyOrder, WithTheSecondRunAheadOfTheFirstFails, ())
     auto minutes = anyMinutes();
     if (minutes[1] > minutes[0])
         std::swap(minutes[0], minutes[1]);
-    DriftBench bench;
-    addZeroRecords(bench, minutes);
+    DriftRig rig;
+    addZeroRecords(rig, minutes);
 
-    bench.test.RetrieveCals();
+    rig.test.RetrieveCals();
 
     const std::vector<std::string> line{"DEval-003: 9, Subscript out of range"};
-    RC_ASSERT(bench.messages->lines() == line);
-    RC_ASSERT(bench.test.dictCals == nullptr);
+    RC_ASSERT(rig.messages->lines() == line);
+    RC_ASSERT(rig.test.dictCals == nullptr);
 }
 
 } // namespace k7deval::test

@@ -16,50 +16,50 @@ protected:
     Summary()
     {
         for (const int day : {-1, 0, 1})
-            bench_.add(runAt(onDay(day, 8)));
+            rig_.add(runAt(onDay(day, 8)));
         mark("2024/03/10 08:00", true);
     }
 
     void mark(const std::string& key, bool marked)
     {
-        bench_.test.dictCals->Item(key)->IsUsedIn7Day = marked;
+        rig_.test.dictCals->Item(key)->IsUsedIn7Day = marked;
     }
 
     std::string summary(int good, int failed, bool sixOfSeven, int undetermined = 0)
     {
-        bench_.test.lngGoodCals = good;
-        bench_.test.lngFailedCals = failed;
-        bench_.test.blnSixOfSeven = sixOfSeven;
-        bench_.test.lngUndeterminedDays = undetermined;
-        bench_.test.BuildSummary(true);
-        EXPECT_THAT(bench_.messages->lines(), testing::IsEmpty());
-        return bench_.test.strSummary;
+        rig_.test.lngGoodCals = good;
+        rig_.test.lngFailedCals = failed;
+        rig_.test.blnSixOfSeven = sixOfSeven;
+        rig_.test.lngUndeterminedDays = undetermined;
+        rig_.test.BuildSummary(true);
+        EXPECT_THAT(rig_.messages->lines(), testing::IsEmpty());
+        return rig_.test.strSummary;
     }
 
-    DriftBench bench_;
+    DriftRig rig_;
 };
 
 } // namespace
 
 TEST_F(Summary, SaysThatThereAreNoRuns)
 {
-    bench_.test.dictCals = std::make_shared<RunMap>();
+    rig_.test.dictCals = std::make_shared<RunMap>();
     for (const bool showSummary : {false, true}) {
-        bench_.test.strSummary = "of the evaluation before";
-        bench_.test.lngUndeterminedDays = 2;
-        bench_.test.BuildSummary(showSummary);
-        EXPECT_EQ(bench_.test.strSummary, "There are no calibrations in selected time range.");
+        rig_.test.strSummary = "of the evaluation before";
+        rig_.test.lngUndeterminedDays = 2;
+        rig_.test.BuildSummary(showSummary);
+        EXPECT_EQ(rig_.test.strSummary, "There are no calibrations in selected time range.");
     }
 }
 
 TEST_F(Summary, IsEmptyWhenItIsNotToBeShown)
 {
     for (const int good : {3, 7}) {
-        bench_.test.strSummary = "of the evaluation before";
-        bench_.test.lngGoodCals = good;
-        bench_.test.lngUndeterminedDays = 1;
-        bench_.test.BuildSummary(false);
-        EXPECT_EQ(bench_.test.strSummary, "");
+        rig_.test.strSummary = "of the evaluation before";
+        rig_.test.lngGoodCals = good;
+        rig_.test.lngUndeterminedDays = 1;
+        rig_.test.BuildSummary(false);
+        EXPECT_EQ(rig_.test.strSummary, "");
     }
 }
 
@@ -131,7 +131,7 @@ TEST_F(Summary, StartsOnTheLastRunWhenNoneIsMarked)
 
 TEST_F(Summary, WritesTheDateAsTheRegionDoes)
 {
-    bench_.regional = regionalSettings("de-DE");
+    rig_.regional = regionalSettings("de-DE");
     EXPECT_THAT(summary(3, 0, false), testing::StartsWith("Starting on 10.03.2024 there are 3 "));
 }
 
@@ -157,12 +157,12 @@ namespace
 
 std::string summaryOf(std::string_view days, bool sixOfSeven = false)
 {
-    DriftBench bench;
-    setDays(bench, daysOf(days));
-    bench.test.blnSixOfSeven = sixOfSeven;
-    bench.test.EvaluateDriftTest();
-    bench.test.BuildSummary(true);
-    return bench.test.strSummary;
+    DriftRig rig;
+    setDays(rig, daysOf(days));
+    rig.test.blnSixOfSeven = sixOfSeven;
+    rig.test.EvaluateDriftTest();
+    rig.test.BuildSummary(true);
+    return rig.test.strSummary;
 }
 
 } // namespace

@@ -80,7 +80,7 @@ Date onDay(int day, int hour, int minute, int second)
     return makeDate(2024, 3, 10 + day, hour, minute, second);
 }
 
-DriftBench::DriftBench()
+DriftRig::DriftRig()
 {
     for (const PID pid :
          {kDriftUnit, kDriftUnitHours, kDriftStack, kDriftStackHours, kDriftSource, kDriftAnalyzer})
@@ -93,13 +93,13 @@ DriftBench::DriftBench()
     test.lngOpTimePID = kDriftUnitHours;
 }
 
-void DriftBench::setInterval(int days)
+void DriftRig::setInterval(int days)
 {
     test.dtStart = onDay(0);
     test.dtEnd = DateAddExact("n", -1, onDay(days));
 }
 
-void DriftBench::add(const std::shared_ptr<cls7DayAnalyzerCal>& run)
+void DriftRig::add(const std::shared_ptr<cls7DayAnalyzerCal>& run)
 {
     if (!test.dictCals)
         test.dictCals = std::make_shared<RunMap>();
@@ -165,10 +165,10 @@ std::vector<model::Day> daysOf(std::string_view text)
     return days;
 }
 
-void setDays(DriftBench& bench, const std::vector<model::Day>& days, std::size_t interval)
+void setDays(DriftRig& rig, const std::vector<model::Day>& days, std::size_t interval)
 {
-    bench.setInterval(static_cast<int>(interval));
-    HourlyValues& hours = bench.site->parameter(kDriftUnitHours).hours;
+    rig.setInterval(static_cast<int>(interval));
+    HourlyValues& hours = rig.site->parameter(kDriftUnitHours).hours;
     hours = {onDay(0), {}};
     for (std::size_t i = 0; i < interval; ++i) {
         const auto ofDay = hoursOf(days[i]);
@@ -179,10 +179,10 @@ void setDays(DriftBench& bench, const std::vector<model::Day>& days, std::size_t
     std::vector<model::Day> inOrder = days;
     std::stable_sort(inOrder.begin(), inOrder.end(),
                      [](const auto& one, const auto& other) { return one.date < other.date; });
-    bench.test.dictCals = std::make_shared<RunMap>();
+    rig.test.dictCals = std::make_shared<RunMap>();
     for (const model::Day& day : inOrder) {
         for (std::size_t run = 0; run < day.runs.size(); ++run)
-            bench.add(runAt(onDay(day.date, 6, static_cast<int>(run)), day.runs[run]));
+            rig.add(runAt(onDay(day.date, 6, static_cast<int>(run)), day.runs[run]));
     }
 }
 

@@ -28,11 +28,11 @@ Date onDay(int day, int hour = 0, int minute = 0, int second = 0);
 
 /// A drift test of kDriftAnalyzer on a site with a unit, a stack and their operating times, and the
 /// lines it posted. The unit has its operating time; nothing is linked to the stack.
-struct DriftBench {
-    DriftBench();
-    DriftBench(const DriftBench&) = delete;
-    DriftBench& operator=(const DriftBench&) = delete;
-    ~DriftBench() = default;
+struct DriftRig {
+    DriftRig();
+    DriftRig(const DriftRig&) = delete;
+    DriftRig& operator=(const DriftRig&) = delete;
+    ~DriftRig() = default;
 
     RegionalSettings regional;
     std::shared_ptr<SiteData> site = std::make_shared<SiteData>();
@@ -55,7 +55,7 @@ std::shared_ptr<clsStrippedCal> injection(float reference, float measured, float
 /// A run with both injections, within their limits or not.
 std::shared_ptr<cls7DayAnalyzerCal> runAt(Date time, model::Run facts = {});
 
-/// A zero and an upscale record of the bench's analyzer. Reference and measured value are 0 (zero)
+/// A zero and an upscale record of the rig's analyzer. Reference and measured value are 0 (zero)
 /// and 100 (upscale), the span is 200.
 RecordData zeroRecord(Date runTime);
 RecordData upscaleRecord(Date runTime);
@@ -71,12 +71,12 @@ std::vector<model::Day> daysOf(std::string_view text);
 /// The letter of one day of that text.
 model::Day dayOf(char letter);
 
-/// Makes the days the bench's data. The first `interval` days are the interval, in order; the
+/// Makes the days the rig's data. The first `interval` days are the interval, in order; the
 /// others lie outside of it and have runs only.
-void setDays(DriftBench& bench, const std::vector<model::Day>& days, std::size_t interval);
-inline void setDays(DriftBench& bench, const std::vector<model::Day>& days)
+void setDays(DriftRig& rig, const std::vector<model::Day>& days, std::size_t interval);
+inline void setDays(DriftRig& rig, const std::vector<model::Day>& days)
 {
-    setDays(bench, days, days.size());
+    setDays(rig, days, days.size());
 }
 
 /// Counters and marks of an evaluated test.

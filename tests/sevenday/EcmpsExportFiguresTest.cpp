@@ -1,4 +1,4 @@
-#include "sevenday/ExportBench.h"
+#include "sevenday/ExportRig.h"
 
 #include <gtest/gtest.h>
 
@@ -22,8 +22,8 @@ AnalyzerFacts withCode(std::int32_t code, const std::string& unitsText)
 }
 
 /// An export of one run whose zero and span gas both have that drift, on a span of 200.
-struct DriftBench : ExportBench {
-    DriftBench(const AnalyzerFacts& facts, float drift, bool usesAPS) : ExportBench(facts)
+struct DriftRig : ExportRig {
+    DriftRig(const AnalyzerFacts& facts, float drift, bool usesAPS) : ExportRig(facts)
     {
         run->ZeroCal = injection(0, drift, 5, usesAPS);
         run->SpanCal = injection(0, drift, 5, usesAPS);
@@ -95,11 +95,11 @@ class ExportError : public ::testing::TestWithParam<ErrorCase>
 TEST_P(ExportError, IsTheDriftOrAPercentOfSpan)
 {
     const ErrorCase& row = GetParam();
-    DriftBench bench(withCode(row.code, row.unitsText), row.drift, row.usesAPS);
-    EXPECT_EQ(bench.valueOf("ZeroCalibrationError"), row.error);
-    EXPECT_EQ(bench.valueOf("UpscaleCalibrationError"), row.error);
-    EXPECT_EQ(bench.valueOf("ZeroAPSIndicator"), row.usesAPS ? "1" : "0");
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    DriftRig rig(withCode(row.code, row.unitsText), row.drift, row.usesAPS);
+    EXPECT_EQ(rig.valueOf("ZeroCalibrationError"), row.error);
+    EXPECT_EQ(rig.valueOf("UpscaleCalibrationError"), row.error);
+    EXPECT_EQ(rig.valueOf("ZeroAPSIndicator"), row.usesAPS ? "1" : "0");
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 INSTANTIATE_TEST_SUITE_P(Errors, ExportError, ::testing::ValuesIn(kErrors),
@@ -107,12 +107,12 @@ INSTANTIATE_TEST_SUITE_P(Errors, ExportError, ::testing::ValuesIn(kErrors),
 
 TEST(ExportError, OfEachInjectionGoesByItsOwnAlternative)
 {
-    DriftBench bench({}, 3, false);
-    bench.run->SpanCal->UsesAPS = true;
-    EXPECT_EQ(bench.valueOf("ZeroCalibrationError"), "1.5");
-    EXPECT_EQ(bench.valueOf("UpscaleCalibrationError"), "3.0");
-    EXPECT_EQ(bench.valueOf("ZeroAPSIndicator"), "0");
-    EXPECT_EQ(bench.valueOf("UpscaleAPSIndicator"), "1");
+    DriftRig rig({}, 3, false);
+    rig.run->SpanCal->UsesAPS = true;
+    EXPECT_EQ(rig.valueOf("ZeroCalibrationError"), "1.5");
+    EXPECT_EQ(rig.valueOf("UpscaleCalibrationError"), "3.0");
+    EXPECT_EQ(rig.valueOf("ZeroAPSIndicator"), "0");
+    EXPECT_EQ(rig.valueOf("UpscaleAPSIndicator"), "1");
 }
 
 struct SpanZeroCase {
@@ -133,32 +133,31 @@ TEST(ExportError, OnASpanOfZeroIsEmptyWhateverIsAsked)
         {"no drift", 120, false, 0, "DEval-016: 6, Overflow"},
     };
     for (const SpanZeroCase& row : kRows) {
-        DriftBench bench(withCode(row.code, "ppm"), row.drift, row.usesAPS);
-        bench.run->InstrumentSpan = 0;
-        const std::string text = bench.text();
+        DriftRig rig(withCode(row.code, "ppm"), row.drift, row.usesAPS);
+        rig.run->InstrumentSpan = 0;
+        const std::string text = rig.text();
         EXPECT_NE(text.find("<ZeroCalibrationError/><UpscaleCalibrationError/>"), std::string::npos)
             << row.what << text;
-        EXPECT_EQ(bench.messages->lines(), Lines(2, row.line)) << row.what;
+        EXPECT_EQ(rig.messages->lines(), Lines(2, row.line)) << row.what;
     }
 }
 
 TEST(ExportError, OnASpanTooSmallForAPercentIsEmpty)
 {
-    DriftBench bench({}, 1000, false);
-    bench.run->InstrumentSpan = 1e-36F;
-    EXPECT_EQ(bench.valueOf("ZeroCalibrationError"), "");
-    EXPECT_EQ(bench.messages->lines(), Lines(2, "DEval-016: 6, Overflow"));
+    DriftRig rig({}, 1000, false);
+    rig.run->InstrumentSpan = 1e-36F;
+    EXPECT_EQ(rig.valueOf("ZeroCalibrationError"), "");
+    EXPECT_EQ(rig.messages->lines(), Lines(2, "DEval-016: 6, Overflow"));
 }
 
 TEST(ExportError, WithoutTheParameterIsEmpty)
 {
     const AnalyzerFacts facts = withCode(262, "%H2O");
-    DriftBench bench(facts, 3, true);
-    std::erase_if(bench.site->parameters,
+    DriftRig rig(facts, 3, true);
+    std::erase_if(rig.site->parameters,
                   [&](const auto& p) { return p.pid == facts.measuredPID(); });
-    EXPECT_EQ(bench.valueOf("ZeroCalibrationError"), "");
-    EXPECT_EQ(bench.messages->lines(),
-              Lines(2, "DEval-016: 5, Invalid procedure call or argument"));
+    EXPECT_EQ(rig.valueOf("ZeroCalibrationError"), "");
+    EXPECT_EQ(rig.messages->lines(), Lines(2, "DEval-016: 5, Invalid procedure call or argument"));
 }
 
 struct GasValueCase {
@@ -180,39 +179,39 @@ TEST(ExportGasValue, HasOneDecimalOrThoseOfAnAnalyzerOfFlowOrMoisture)
     for (const GasValueCase& row : kRows) {
         AnalyzerFacts facts = withCode(row.code, "scfh");
         facts.decimals = row.decimals;
-        DriftBench bench(facts, 0, false);
-        bench.run->ZeroCal = injection(row.value, 1, 5);
-        bench.run->SpanCal = injection(1, row.value, 5);
-        EXPECT_EQ(bench.valueOf("ZeroReferenceValue"), row.text) << row.code;
-        EXPECT_EQ(bench.valueOf("UpscaleMeasuredValue"), row.text) << row.code;
-        EXPECT_EQ(bench.valueOf("ZeroMeasuredValue").substr(0, 1), "1") << row.code;
-        EXPECT_EQ(bench.valueOf("UpscaleReferenceValue").substr(0, 1), "1") << row.code;
+        DriftRig rig(facts, 0, false);
+        rig.run->ZeroCal = injection(row.value, 1, 5);
+        rig.run->SpanCal = injection(1, row.value, 5);
+        EXPECT_EQ(rig.valueOf("ZeroReferenceValue"), row.text) << row.code;
+        EXPECT_EQ(rig.valueOf("UpscaleMeasuredValue"), row.text) << row.code;
+        EXPECT_EQ(rig.valueOf("ZeroMeasuredValue").substr(0, 1), "1") << row.code;
+        EXPECT_EQ(rig.valueOf("UpscaleReferenceValue").substr(0, 1), "1") << row.code;
     }
 }
 
 TEST(ExportGasValue, WithoutThePrecisionIsEmpty)
 {
-    DriftBench bench(withCode(262, "scfh"), 3, false);
-    bench.site->failure = [](const std::string& call, std::size_t) {
+    DriftRig rig(withCode(262, "scfh"), 3, false);
+    rig.site->failure = [](const std::string& call, std::size_t) {
         return call == "DIParameter.GetAttribute(-16)"
                    ? std::optional(Error(440, "the line is down"))
                    : std::nullopt;
     };
-    const std::string text = bench.text();
+    const std::string text = rig.text();
     for (const char* name : {"ZeroMeasuredValue", "UpscaleMeasuredValue", "ZeroReferenceValue",
                              "UpscaleReferenceValue"})
         EXPECT_NE(text.find("<" + std::string(name) + "/>"), std::string::npos) << text;
-    EXPECT_EQ(bench.messages->lines(), Lines(4, "DEval-017: 440, the line is down"));
+    EXPECT_EQ(rig.messages->lines(), Lines(4, "DEval-017: 440, the line is down"));
 }
 
 TEST(ExportFigures, HaveADecimalPointInEveryRegion)
 {
-    ExportBench bench({}, "de-DE");
+    ExportRig rig({}, "de-DE");
     CalRun run = runAt(kMorning);
     run->SpanCal->MeasuredValue = 163;
-    bench.show({dayOf(run)});
-    EXPECT_EQ(bench.valueOf("UpscaleCalibrationError"), "1.5");
-    EXPECT_EQ(bench.valueOf("UpscaleMeasuredValue"), "163.0");
+    rig.show({dayOf(run)});
+    EXPECT_EQ(rig.valueOf("UpscaleCalibrationError"), "1.5");
+    EXPECT_EQ(rig.valueOf("UpscaleMeasuredValue"), "163.0");
 }
 
 } // namespace k7deval::test

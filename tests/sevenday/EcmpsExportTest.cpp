@@ -1,4 +1,4 @@
-#include "sevenday/ExportBench.h"
+#include "sevenday/ExportRig.h"
 
 #include <gtest/gtest.h>
 
@@ -37,9 +37,9 @@ std::size_t countOf(const std::string& text, const std::string& piece)
     return count;
 }
 
-std::size_t countRuns(ExportBench& bench)
+std::size_t countRuns(ExportRig& rig)
 {
-    return countOf(bench.text(), "<CalibrationInjectionData>");
+    return countOf(rig.text(), "<CalibrationInjectionData>");
 }
 
 CalRun withAPS(CalRun run, bool zero, bool span)
@@ -57,8 +57,8 @@ TEST(Export, WritesTheWholeFile)
     // injection is held to the alternative: its drift of 5.04 stands in ppm.
     AnalyzerFacts facts;
     facts.scale = std::string("LOW");
-    ExportBench bench(facts);
-    bench.page.cmbTestReason.Pick(1);
+    ExportRig rig(facts);
+    rig.page.cmbTestReason.Pick(1);
     CalRun first = runAt(makeDate(2024, 3, 1, 8, 15));
     first->ZeroCal->MeasuredValue = 0.25F;
     first->ZeroCal->InjectionEndTime = makeDate(2024, 3, 1, 8, 5);
@@ -70,25 +70,25 @@ TEST(Export, WritesTheWholeFile)
     second->SpanCal->MeasuredValue = 154.96F;
     second->SpanCal->GasLevel = "MID";
     second->SpanCal->InjectionEndTime = makeDate(2024, 3, 2, 23, 59);
-    bench.show({dayOf(first), dayOf(second)});
-    EXPECT_EQ(bench.text(), golden("two-runs.xml"));
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    rig.show({dayOf(first), dayOf(second)});
+    EXPECT_EQ(rig.text(), golden("two-runs.xml"));
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(Export, WithNoRunCountedHasNoInjectionsAndNoDates)
 {
-    ExportBench bench;
-    bench.test.lngGoodCals = 0;
-    bench.show({dayWith(makeDate(2024, 3, 10), {unused(runAt(kMorning))})});
-    EXPECT_EQ(bench.text(), golden("no-run.xml"));
+    ExportRig rig;
+    rig.test.lngGoodCals = 0;
+    rig.show({dayWith(makeDate(2024, 3, 10), {unused(runAt(kMorning))})});
+    EXPECT_EQ(rig.text(), golden("no-run.xml"));
 }
 
 TEST(Export, OfAnEmptyListOfDaysIsWrittenToo)
 {
-    ExportBench bench;
-    bench.test.lngGoodCals = 0;
-    bench.test.objDaysToDisplay.resizeKeeping(-1);
-    EXPECT_EQ(bench.text(), golden("no-run.xml"));
+    ExportRig rig;
+    rig.test.lngGoodCals = 0;
+    rig.test.objDaysToDisplay.resizeKeeping(-1);
+    EXPECT_EQ(rig.text(), golden("no-run.xml"));
 }
 
 struct ScaleCodeCase {
@@ -102,9 +102,9 @@ TEST(Export, OnlyTheLowScaleIsCodedL)
          {ScaleCodeCase{"LOW", "L"}, {"MID", "H"}, {"HIGH", "H"}, {"SINGLE", "H"}, {"low", "H"}}) {
         AnalyzerFacts facts;
         facts.scale = std::string(row.scale);
-        ExportBench bench(facts);
-        bench.show({});
-        EXPECT_EQ(bench.valueOf("SpanScaleCode"), row.code) << row.scale;
+        ExportRig rig(facts);
+        rig.show({});
+        EXPECT_EQ(rig.valueOf("SpanScaleCode"), row.code) << row.scale;
     }
 }
 
@@ -129,20 +129,20 @@ TEST(Export, TheResultGoesByTheGoodRunsAndTheAlternativeSpecification)
         {"none", 0, 0, false, false, "FAILED"},
     };
     for (const ResultCase& row : kRows) {
-        ExportBench bench;
-        bench.test.lngGoodCals = row.goodCals;
-        bench.test.lngFailedCals = row.failedCals;
-        bench.show({dayOf(withAPS(runAt(kMorning), row.zeroAPS, row.spanAPS)),
-                    dayOf(runAt(kNextMorning))});
-        EXPECT_EQ(bench.valueOf("TestResultCode"), row.code) << row.what;
+        ExportRig rig;
+        rig.test.lngGoodCals = row.goodCals;
+        rig.test.lngFailedCals = row.failedCals;
+        rig.show({dayOf(withAPS(runAt(kMorning), row.zeroAPS, row.spanAPS)),
+                  dayOf(runAt(kNextMorning))});
+        EXPECT_EQ(rig.valueOf("TestResultCode"), row.code) << row.what;
     }
 }
 
 TEST(Export, AnAlternativeInARunThatIsNotCountedDoesNotMatter)
 {
-    ExportBench bench;
-    bench.show({dayOf(runAt(kMorning)), dayOf(withAPS(unused(runAt(kNextMorning)), true, true))});
-    EXPECT_EQ(bench.valueOf("TestResultCode"), "PASSED");
+    ExportRig rig;
+    rig.show({dayOf(runAt(kMorning)), dayOf(withAPS(unused(runAt(kNextMorning)), true, true))});
+    EXPECT_EQ(rig.valueOf("TestResultCode"), "PASSED");
 }
 
 TEST(Export, OnlyCountedRunsThatAreDisplayedGoOut)
@@ -150,17 +150,17 @@ TEST(Export, OnlyCountedRunsThatAreDisplayedGoOut)
     const Date day = makeDate(2024, 3, 10);
     const CalRun counted = runAt(kMorning);
     const CalRun notCounted = unused(runAt(makeDate(2024, 3, 10, 12, 0)));
-    ExportBench bench;
-    bench.show({dayWith(day, {counted, notCounted})});
-    EXPECT_EQ(countRuns(bench), 1U);
+    ExportRig rig;
+    rig.show({dayWith(day, {counted, notCounted})});
+    EXPECT_EQ(countRuns(rig), 1U);
     CalDay hidden = dayWith(day, {counted});
     hidden->DisplayedCals = RunArray();
-    bench.show({hidden});
-    EXPECT_EQ(countRuns(bench), 0U);
+    rig.show({hidden});
+    EXPECT_EQ(countRuns(rig), 0U);
     CalDay unmarked = dayWith(day, {notCounted});
     unmarked->DisplayedCals = RunArray({counted});
-    bench.show({unmarked});
-    EXPECT_EQ(countRuns(bench), 0U) << "the day itself is not used";
+    rig.show({unmarked});
+    EXPECT_EQ(countRuns(rig), 0U) << "the day itself is not used";
 }
 
 TEST(Export, RunsGoOutInTheOrderOfTheDaysAndTheirRuns)
@@ -170,9 +170,9 @@ TEST(Export, RunsGoOutInTheOrderOfTheDaysAndTheirRuns)
     const char* levels[] = {"ONE", "TWO", "THREE"};
     for (std::size_t i = 0; i < 3; ++i)
         runs[i]->SpanCal->GasLevel = levels[i];
-    ExportBench bench;
-    bench.show({dayWith(makeDate(2024, 3, 11), {runs[0], runs[1]}), dayOf(runs[2])});
-    const std::string text = bench.text();
+    ExportRig rig;
+    rig.show({dayWith(makeDate(2024, 3, 11), {runs[0], runs[1]}), dayOf(runs[2])});
+    const std::string text = rig.text();
     EXPECT_LT(text.find("ONE"), text.find("TWO"));
     EXPECT_LT(text.find("TWO"), text.find("THREE"));
     EXPECT_NE(text.find("THREE"), std::string::npos);
@@ -204,50 +204,50 @@ TEST(Export, BeginAndEndComeFromTheInjectionsAndNotFromTheRun)
         CalRun other = runAt(makeDate(2024, 3, 10, 12, 0));
         other->ZeroCal->InjectionEndTime = row.zeroEnd;
         other->SpanCal->InjectionEndTime = row.spanEnd;
-        ExportBench bench;
-        bench.show({dayOf(runAt(kMorning)), dayOf(other)});
-        EXPECT_EQ(bench.valueOf("BeginHour") + ":" + bench.valueOf("BeginMinute"), row.begin)
+        ExportRig rig;
+        rig.show({dayOf(runAt(kMorning)), dayOf(other)});
+        EXPECT_EQ(rig.valueOf("BeginHour") + ":" + rig.valueOf("BeginMinute"), row.begin)
             << row.what;
-        EXPECT_EQ(bench.valueOf("EndHour") + ":" + bench.valueOf("EndMinute"), row.end) << row.what;
-        EXPECT_EQ(bench.valueOf("BeginDate"), "2024-03-10") << row.what;
-        EXPECT_EQ(bench.valueOf("EndDate"), "2024-03-10") << row.what;
+        EXPECT_EQ(rig.valueOf("EndHour") + ":" + rig.valueOf("EndMinute"), row.end) << row.what;
+        EXPECT_EQ(rig.valueOf("BeginDate"), "2024-03-10") << row.what;
+        EXPECT_EQ(rig.valueOf("EndDate"), "2024-03-10") << row.what;
     }
 }
 
 TEST(Export, TheTestInformationIsWhatStandsOnThePage)
 {
-    ExportBench bench;
-    bench.show({});
-    auto& page = bench.page;
+    ExportRig rig;
+    rig.show({});
+    auto& page = rig.page;
     page.txtORIS.Type("00054");
     page.SetStackID("CS1;CS2");
     page.cmbStackID.Pick(1);
     page.txtComponentID.Type("9");
     page.txtTestNumber.Type("A<B & \"C\"");
     page.cmbTestReason.Pick(2);
-    EXPECT_EQ(bench.valueOf("ORISCode"), "54");
-    EXPECT_EQ(bench.valueOf("UnitID"), "CS2");
-    EXPECT_EQ(bench.valueOf("ComponentID"), "9");
-    EXPECT_EQ(bench.valueOf("TestNumber"), "A<B & \"C\"");
-    EXPECT_EQ(bench.valueOf("TestReasonCode"), "RECERT");
+    EXPECT_EQ(rig.valueOf("ORISCode"), "54");
+    EXPECT_EQ(rig.valueOf("UnitID"), "CS2");
+    EXPECT_EQ(rig.valueOf("ComponentID"), "9");
+    EXPECT_EQ(rig.valueOf("TestNumber"), "A<B & \"C\"");
+    EXPECT_EQ(rig.valueOf("TestReasonCode"), "RECERT");
 }
 
 TEST(Export, EveryRunIsMarkedOnlineAndItsGasLevelIsTakenAsItStands)
 {
     CalRun run = offline(runAt(kMorning));
     run->SpanCal->GasLevel = "low-ish ";
-    ExportBench bench;
-    bench.show({dayOf(run)});
-    EXPECT_EQ(bench.valueOf("OnLineOffLineIndicator"), "1");
-    EXPECT_EQ(bench.valueOf("UpscaleGasLevelCode"), "low-ish ");
+    ExportRig rig;
+    rig.show({dayOf(run)});
+    EXPECT_EQ(rig.valueOf("OnLineOffLineIndicator"), "1");
+    EXPECT_EQ(rig.valueOf("UpscaleGasLevelCode"), "low-ish ");
 }
 
 TEST(Export, KeepsTextsBeyondASCIIAsUTF8WithoutADeclaration)
 {
-    ExportBench bench;
-    bench.show({});
-    bench.page.SetTestNumber("Prüfung €");
-    const std::string text = bench.text();
+    ExportRig rig;
+    rig.show({});
+    rig.page.SetTestNumber("Prüfung €");
+    const std::string text = rig.text();
     EXPECT_TRUE(text.starts_with("<QualityAssuranceAndCert><ORISCode>50292</ORISCode>"
                                  "<Version>1.3</Version><TestSummaryData><UnitID>"))
         << text;
@@ -256,11 +256,11 @@ TEST(Export, KeepsTextsBeyondASCIIAsUTF8WithoutADeclaration)
 
 TEST(Export, TakesThePlaceOfAFileThatIsThere)
 {
-    ExportBench bench;
-    bench.show({});
-    testing::writeFile(bench.path, std::string(100000, 'x'));
-    EXPECT_TRUE(bench.text().ends_with("</QualityAssuranceAndCert>"));
-    EXPECT_EQ(bench.folder.names(), Lines{"7Day.xml"}) << "and leaves nothing beside it";
+    ExportRig rig;
+    rig.show({});
+    testing::writeFile(rig.path, std::string(100000, 'x'));
+    EXPECT_TRUE(rig.text().ends_with("</QualityAssuranceAndCert>"));
+    EXPECT_EQ(rig.folder.names(), Lines{"7Day.xml"}) << "and leaves nothing beside it";
 }
 
 } // namespace k7deval::test

@@ -34,9 +34,9 @@ std::optional<double> hourOf(char letter)
     }
 }
 
-void setHours(DriftBench& bench, Date start, std::string_view letters)
+void setHours(DriftRig& rig, Date start, std::string_view letters)
 {
-    HourlyValues& hours = bench.site->parameter(kDriftUnitHours).hours;
+    HourlyValues& hours = rig.site->parameter(kDriftUnitHours).hours;
     hours = {start, {}};
     for (const char letter : letters)
         hours.values.push_back(hourOf(letter));
@@ -79,12 +79,12 @@ class OperatingDay : public testing::TestWithParam<DayCase>
 
 TEST_P(OperatingDay, IsJudgedByItsHours)
 {
-    DriftBench bench;
-    bench.setInterval(1);
-    setHours(bench, onDay(0), GetParam().hours);
-    bench.test.AnalyzeOperatingDays();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre(GetParam().status));
-    EXPECT_THAT(bench.messages->lines(), IsEmpty());
+    DriftRig rig;
+    rig.setInterval(1);
+    setHours(rig, onDay(0), GetParam().hours);
+    rig.test.AnalyzeOperatingDays();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre(GetParam().status));
+    EXPECT_THAT(rig.messages->lines(), IsEmpty());
 }
 
 constexpr DayCase kDays[] = {
@@ -112,107 +112,107 @@ INSTANTIATE_TEST_SUITE_P(Analysis, OperatingDay, testing::ValuesIn(kDays),
 
 TEST(OperatingDays, StandInOrderUnderTheirDates)
 {
-    DriftBench bench;
-    bench.test.dtStart = makeDate(2024, 2, 28);
-    bench.test.dtEnd = makeDate(2024, 3, 1, 23, 59);
-    setHours(bench, bench.test.dtStart, ofDay("1") + ofDay("0") + ofDay("-"));
-    bench.test.AnalyzeOperatingDays();
+    DriftRig rig;
+    rig.test.dtStart = makeDate(2024, 2, 28);
+    rig.test.dtEnd = makeDate(2024, 3, 1, 23, 59);
+    setHours(rig, rig.test.dtStart, ofDay("1") + ofDay("0") + ofDay("-"));
+    rig.test.AnalyzeOperatingDays();
 
-    EXPECT_THAT(bench.test.dictDays.Keys(), ElementsAre("2024/02/28", "2024/02/29", "2024/03/01"));
-    EXPECT_EQ(bench.test.dictDays.Item("2024/02/29")->TStamp, makeDate(2024, 2, 29));
-    EXPECT_EQ(bench.test.dictDays.Item("2024/03/01")->TStamp, makeDate(2024, 3, 1));
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("operating", "idle", "idle?"));
+    EXPECT_THAT(rig.test.dictDays.Keys(), ElementsAre("2024/02/28", "2024/02/29", "2024/03/01"));
+    EXPECT_EQ(rig.test.dictDays.Item("2024/02/29")->TStamp, makeDate(2024, 2, 29));
+    EXPECT_EQ(rig.test.dictDays.Item("2024/03/01")->TStamp, makeDate(2024, 3, 1));
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("operating", "idle", "idle?"));
 }
 
 TEST(OperatingDays, EndWithTheLastHourOfTheInterval)
 {
-    DriftBench bench;
-    bench.setInterval(2);
-    setHours(bench, onDay(0), ofDay("") + ofDay("") + "1");
-    bench.test.AnalyzeOperatingDays();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("idle", "idle"));
+    DriftRig rig;
+    rig.setInterval(2);
+    setHours(rig, onDay(0), ofDay("") + ofDay("") + "1");
+    rig.test.AnalyzeOperatingDays();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("idle", "idle"));
 }
 
 TEST(OperatingDays, AreNotTouchedByAnHourWithoutDataOfTheDayBefore)
 {
-    DriftBench bench;
-    bench.setInterval(3);
-    setHours(bench, onDay(0), ofDay("") + ofDay("00000000000000000000000-") + ofDay("1"));
-    bench.test.AnalyzeOperatingDays();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("idle", "idle?", "operating"));
+    DriftRig rig;
+    rig.setInterval(3);
+    setHours(rig, onDay(0), ofDay("") + ofDay("00000000000000000000000-") + ofDay("1"));
+    rig.test.AnalyzeOperatingDays();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("idle", "idle?", "operating"));
 }
 
 TEST(OperatingDays, MayBeginWithinADay)
 {
-    DriftBench bench;
-    bench.test.dtStart = onDay(0, 22);
-    bench.test.dtEnd = onDay(1, 23, 59);
-    setHours(bench, bench.test.dtStart, "-1" + ofDay("0"));
-    bench.test.AnalyzeOperatingDays();
+    DriftRig rig;
+    rig.test.dtStart = onDay(0, 22);
+    rig.test.dtEnd = onDay(1, 23, 59);
+    setHours(rig, rig.test.dtStart, "-1" + ofDay("0"));
+    rig.test.AnalyzeOperatingDays();
 
-    EXPECT_THAT(bench.test.dictDays.Keys(), ElementsAre("2024/03/10", "2024/03/11"));
-    EXPECT_EQ(bench.test.dictDays.Item("2024/03/10")->TStamp, onDay(0));
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("operating?", "idle"));
+    EXPECT_THAT(rig.test.dictDays.Keys(), ElementsAre("2024/03/10", "2024/03/11"));
+    EXPECT_EQ(rig.test.dictDays.Item("2024/03/10")->TStamp, onDay(0));
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("operating?", "idle"));
 }
 
 TEST(OperatingDays, AddToTheDaysThatAreThere)
 {
-    DriftBench bench;
-    bench.setInterval(2);
-    setHours(bench, onDay(0), ofDay("1") + ofDay("-"));
-    bench.test.AnalyzeOperatingDays();
-    setHours(bench, onDay(0), ofDay("-") + ofDay("0"));
-    bench.test.AnalyzeOperatingDays();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("operating?", "idle?"));
+    DriftRig rig;
+    rig.setInterval(2);
+    setHours(rig, onDay(0), ofDay("1") + ofDay("-"));
+    rig.test.AnalyzeOperatingDays();
+    setHours(rig, onDay(0), ofDay("-") + ofDay("0"));
+    rig.test.AnalyzeOperatingDays();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("operating?", "idle?"));
 }
 
 TEST(OperatingDays, AreReadFromTheOperatingTimeThatWasFound)
 {
-    DriftBench bench;
-    bench.setInterval(1);
-    setHours(bench, onDay(0), ofDay("1"));
-    HourlyValues& stackHours = bench.site->parameter(kDriftStackHours).hours;
+    DriftRig rig;
+    rig.setInterval(1);
+    setHours(rig, onDay(0), ofDay("1"));
+    HourlyValues& stackHours = rig.site->parameter(kDriftStackHours).hours;
     stackHours = {onDay(0), std::vector<std::optional<double>>(24, 0.0)};
-    bench.test.lngOpTimePID = kDriftStackHours;
-    bench.test.AnalyzeOperatingDays();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("idle"));
+    rig.test.lngOpTimePID = kDriftStackHours;
+    rig.test.AnalyzeOperatingDays();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("idle"));
 }
 
 TEST(OperatingDays, AreAllUndeterminedWithoutAnOperatingTime)
 {
     for (const PID missing : {PID{0}, PID{kDriftUnitHours + 1}}) {
-        DriftBench bench;
-        bench.setInterval(3);
-        bench.test.lngOpTimePID = missing;
-        bench.test.AnalyzeOperatingDays();
+        DriftRig rig;
+        rig.setInterval(3);
+        rig.test.lngOpTimePID = missing;
+        rig.test.AnalyzeOperatingDays();
 
-        EXPECT_THAT(bench.test.dictDays.Keys(),
+        EXPECT_THAT(rig.test.dictDays.Keys(),
                     ElementsAre("2024/03/10", "2024/03/11", "2024/03/12"));
-        EXPECT_THAT(statusOf(bench.test), ElementsAre("idle?", "idle?", "idle?"));
-        EXPECT_EQ(bench.test.dictDays.Item("2024/03/12")->TStamp, onDay(2));
-        EXPECT_EQ(bench.site->countCalls("DIParameters.Item"), 0U);
-        EXPECT_THAT(bench.messages->lines(), IsEmpty());
+        EXPECT_THAT(statusOf(rig.test), ElementsAre("idle?", "idle?", "idle?"));
+        EXPECT_EQ(rig.test.dictDays.Item("2024/03/12")->TStamp, onDay(2));
+        EXPECT_EQ(rig.site->countCalls("DIParameters.Item"), 0U);
+        EXPECT_THAT(rig.messages->lines(), IsEmpty());
     }
 }
 
 TEST(OperatingDays, WithoutAnOperatingTimeBecomeSoByAnOnlineRun)
 {
-    DriftBench bench;
-    setDays(bench, daysOf("A+ a+"));
-    bench.test.lngOpTimePID = 0;
-    bench.test.EvaluateDriftTest();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("operating?", "idle?"));
-    EXPECT_EQ(bench.test.lngUndeterminedDays, 1);
+    DriftRig rig;
+    setDays(rig, daysOf("A+ a+"));
+    rig.test.lngOpTimePID = 0;
+    rig.test.EvaluateDriftTest();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("operating?", "idle?"));
+    EXPECT_EQ(rig.test.lngUndeterminedDays, 1);
 }
 
 TEST(OperatingDays, AreMadeAnewByEveryEvaluation)
 {
-    DriftBench bench;
-    setDays(bench, daysOf("QQQ"));
-    bench.test.EvaluateDriftTest();
-    setDays(bench, daysOf("PN"));
-    bench.test.EvaluateDriftTest();
-    EXPECT_THAT(statusOf(bench.test), ElementsAre("operating", "idle"));
+    DriftRig rig;
+    setDays(rig, daysOf("QQQ"));
+    rig.test.EvaluateDriftTest();
+    setDays(rig, daysOf("PN"));
+    rig.test.EvaluateDriftTest();
+    EXPECT_THAT(statusOf(rig.test), ElementsAre("operating", "idle"));
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "sevenday/RetrievalBench.h"
+#include "sevenday/RetrievalRig.h"
 
 #include <utility>
 
@@ -11,24 +11,24 @@ class OperatingTime : public Retrieval
 protected:
     void link(PID source, PID object)
     {
-        bench_.site->parameter(source).links[attribute::kLinkedObjectPID] = object;
+        rig_.site->parameter(source).links[attribute::kLinkedObjectPID] = object;
     }
     void giveStackItsOwn(PID hours)
     {
-        bench_.site->parameter(kDriftStack).links[attribute::kOperatingTimePID] = hours;
+        rig_.site->parameter(kDriftStack).links[attribute::kOperatingTimePID] = hours;
     }
     PID found()
     {
-        bench_.test.lngOpTimePID = 1;
+        rig_.test.lngOpTimePID = 1;
         retrieve();
-        return bench_.test.lngOpTimePID;
+        return rig_.test.lngOpTimePID;
     }
 };
 
 TEST_F(OperatingTime, OfTheUnitIsTakenWithoutRecords)
 {
     EXPECT_EQ(found(), kDriftUnitHours);
-    EXPECT_EQ(bench_.site->countCalls("DIRecord.SourceTagID"), 0U);
+    EXPECT_EQ(rig_.site->countCalls("DIRecord.SourceTagID"), 0U);
 }
 
 TEST_F(OperatingTime, OfTheUnitIsTakenWithoutALink)
@@ -39,7 +39,7 @@ TEST_F(OperatingTime, OfTheUnitIsTakenWithoutALink)
 
 TEST_F(OperatingTime, IsNoneForAUnitWithoutOne)
 {
-    bench_.site->parameter(kDriftUnit).links.clear();
+    rig_.site->parameter(kDriftUnit).links.clear();
     addUpscale(onDay(0, 8));
     EXPECT_EQ(found(), 0);
 }
@@ -54,7 +54,7 @@ TEST_F(OperatingTime, OfTheLinkedObjectWins)
 
 TEST_F(OperatingTime, OfTheLinkedObjectWinsForAUnitWithoutOne)
 {
-    bench_.site->parameter(kDriftUnit).links.clear();
+    rig_.site->parameter(kDriftUnit).links.clear();
     link(kDriftSource, kDriftStack);
     giveStackItsOwn(kDriftStackHours);
     addUpscale(onDay(0, 8));
@@ -87,7 +87,7 @@ TEST_F(OperatingTime, WithPidZeroNeverWins)
 {
     ParameterData zero;
     zero.pid = 0;
-    bench_.site->parameters.push_back(zero);
+    rig_.site->parameters.push_back(zero);
     addUpscale(onDay(0, 8));
     EXPECT_EQ(found(), kDriftUnitHours);
 }
@@ -98,7 +98,7 @@ TEST_F(OperatingTime, OfAParameterWithPidZeroWinsWithoutRecords)
     ParameterData zero;
     zero.pid = 0;
     zero.links[attribute::kOperatingTimePID] = kDriftStackHours;
-    bench_.site->parameters.push_back(zero);
+    rig_.site->parameters.push_back(zero);
     EXPECT_EQ(found(), kDriftStackHours);
 }
 
@@ -111,7 +111,7 @@ TEST_F(OperatingTime, GoesByTheFirstUpscaleRecord)
     addUpscale(onDay(0, 9)).sourceTag = kDriftAnalyzer;
     EXPECT_EQ(found(), kDriftStackHours);
 
-    std::swap(bench_.site->records[1], bench_.site->records[2]);
+    std::swap(rig_.site->records[1], rig_.site->records[2]);
     EXPECT_EQ(found(), kDriftUnitHours);
 }
 
@@ -123,7 +123,7 @@ TEST_F(OperatingTime, GoesByTheFirstZeroRecordWithoutUpscaleOnes)
     addZero(onDay(0, 9)).sourceTag = kDriftAnalyzer;
     EXPECT_EQ(found(), kDriftStackHours);
 
-    std::swap(bench_.site->records[0].sourceTag, bench_.site->records[1].sourceTag);
+    std::swap(rig_.site->records[0].sourceTag, rig_.site->records[1].sourceTag);
     EXPECT_EQ(found(), kDriftUnitHours);
 }
 

@@ -1,4 +1,4 @@
-#include "sevenday/ToolBench.h"
+#include "sevenday/ToolRig.h"
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ std::vector<Step> stepsOf(const std::vector<std::string>& calls)
 }
 
 /// A tool whose second Next, after a change of the interval, reads the calibrations again.
-struct SecondNext : ToolBench {
+struct SecondNext : ToolRig {
     SecondNext()
     {
         next().back();
@@ -44,44 +44,44 @@ struct SecondNext : ToolBench {
     }
 };
 
-template <class Bench> std::vector<std::string> callsOfNext()
+template <class Rig> std::vector<std::string> callsOfNext()
 {
-    Bench bench;
-    bench.site->calls.clear();
-    bench.next();
-    return bench.site->calls;
+    Rig rig;
+    rig.site->calls.clear();
+    rig.next();
+    return rig.site->calls;
 }
 
 /// Makes the next call of that number, from 0, fail.
-void failAt(ToolBench& bench, std::size_t number)
+void failAt(ToolRig& rig, std::size_t number)
 {
-    bench.site->calls.clear();
-    bench.site->failure = [number](const std::string&, std::size_t at) {
+    rig.site->calls.clear();
+    rig.site->failure = [number](const std::string&, std::size_t at) {
         return at == number ? std::optional(Error(440, "the line is down")) : std::nullopt;
     };
 }
 
 /// Page 2 as it is left by a Next that came to its end.
-void expectResultsPage(ToolBench& bench, const std::string& where)
+void expectResultsPage(ToolRig& rig, const std::string& where)
 {
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default) << where;
-    EXPECT_FALSE(bench.setUp().Visible()) << where;
-    EXPECT_TRUE(bench.result().Visible()) << where;
-    EXPECT_TRUE(bench.tool.cmdSave.Visible()) << where;
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled()) << where;
-    EXPECT_TRUE(bench.tool.chkPreview.Visible()) << where;
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default) << where;
+    EXPECT_FALSE(rig.setUp().Visible()) << where;
+    EXPECT_TRUE(rig.result().Visible()) << where;
+    EXPECT_TRUE(rig.tool.cmdSave.Visible()) << where;
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled()) << where;
+    EXPECT_TRUE(rig.tool.chkPreview.Visible()) << where;
 }
 
 /// The screen as it is left by a Next that ended half-way: neither page, and the hourglass.
-void expectNoPage(ToolBench& bench, const std::string& where)
+void expectNoPage(ToolRig& rig, const std::string& where)
 {
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass) << where;
-    EXPECT_FALSE(bench.setUp().Visible()) << where;
-    EXPECT_FALSE(bench.result().Visible()) << where;
-    EXPECT_TRUE(bench.tool.cmdBack.Enabled()) << where;
-    EXPECT_FALSE(bench.tool.cmdNext.Visible()) << where;
-    EXPECT_FALSE(bench.tool.cmdSave.Visible()) << where;
-    EXPECT_FALSE(bench.tool.chkPreview.Visible()) << where;
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass) << where;
+    EXPECT_FALSE(rig.setUp().Visible()) << where;
+    EXPECT_FALSE(rig.result().Visible()) << where;
+    EXPECT_TRUE(rig.tool.cmdBack.Enabled()) << where;
+    EXPECT_FALSE(rig.tool.cmdNext.Visible()) << where;
+    EXPECT_FALSE(rig.tool.cmdSave.Visible()) << where;
+    EXPECT_FALSE(rig.tool.chkPreview.Visible()) << where;
 }
 
 Lines linesOfFirstNext(Step step)
@@ -110,19 +110,19 @@ Lines linesOfSecondNext(Step step)
 
 TEST(WizardFailure, AtAnyCallOfTheFirstNextPostsTheLinesOfTheStepsThatNeedIt)
 {
-    const auto calls = callsOfNext<ToolBench>();
+    const auto calls = callsOfNext<ToolRig>();
     const auto steps = stepsOf(calls);
     ASSERT_GT(calls.size(), 100U) << "14 records";
     for (std::size_t i = 0; i < calls.size(); ++i) {
-        ToolBench bench;
-        failAt(bench, i);
-        ASSERT_NO_THROW(bench.next());
+        ToolRig rig;
+        failAt(rig, i);
+        ASSERT_NO_THROW(rig.next());
         const std::string where = calls[i] + ", call " + std::to_string(i);
-        EXPECT_EQ(bench.messages->lines(), linesOfFirstNext(steps[i])) << where;
+        EXPECT_EQ(rig.messages->lines(), linesOfFirstNext(steps[i])) << where;
         if (steps[i] == Step::AnalyzeOperatingDays)
-            expectResultsPage(bench, where);
+            expectResultsPage(rig, where);
         else
-            expectNoPage(bench, where);
+            expectNoPage(rig, where);
     }
 }
 
@@ -131,99 +131,99 @@ TEST(WizardFailure, AtAnyCallOfALaterNextKeepsTheCalibrationsOfTheLast)
     const auto calls = callsOfNext<SecondNext>();
     const auto steps = stepsOf(calls);
     for (std::size_t i = 0; i < calls.size(); ++i) {
-        SecondNext bench;
-        const auto runs = bench.test().dictCals;
-        failAt(bench, i);
-        ASSERT_NO_THROW(bench.next());
+        SecondNext rig;
+        const auto runs = rig.test().dictCals;
+        failAt(rig, i);
+        ASSERT_NO_THROW(rig.next());
         const std::string where = calls[i] + ", call " + std::to_string(i);
-        EXPECT_EQ(bench.messages->lines(), linesOfSecondNext(steps[i])) << where;
-        EXPECT_EQ(bench.test().dictCals == runs, steps[i] != Step::AnalyzeOperatingDays) << where;
+        EXPECT_EQ(rig.messages->lines(), linesOfSecondNext(steps[i])) << where;
+        EXPECT_EQ(rig.test().dictCals == runs, steps[i] != Step::AnalyzeOperatingDays) << where;
         if (steps[i] == Step::ReadSetup)
-            expectNoPage(bench, where);
+            expectNoPage(rig, where);
         else
-            expectResultsPage(bench, where);
+            expectResultsPage(rig, where);
     }
 }
 
 TEST(WizardFailure, AtAnyCallIsPostedWithSeverityFour)
 {
-    ToolBench bench;
-    failAt(bench, 0);
-    bench.next();
-    EXPECT_EQ(bench.messages->posted,
+    ToolRig rig;
+    failAt(rig, 0);
+    rig.next();
+    EXPECT_EQ(rig.messages->posted,
               (std::vector<std::pair<std::int32_t, std::string>>{{4, "DEval-001: " + kDown}}));
 }
 
 TEST(WizardFailure, AFailedRetrievalIsNotTriedAgainUntilTheSetupChanges)
 {
-    ToolBench bench;
-    bench.site->failure = [](const std::string& call, std::size_t) {
+    ToolRig rig;
+    rig.site->failure = [](const std::string& call, std::size_t) {
         return call == "DIServer.RecordStore" ? std::optional(Error(440)) : std::nullopt;
     };
-    bench.next().back();
-    bench.site->failure = nullptr;
-    bench.next().back();
-    EXPECT_EQ(bench.retrievals(), 0U);
-    ToolBench::enter(bench.setUp().txtToDate, "3/9/2024");
-    bench.next();
-    EXPECT_EQ(bench.retrievals(), 1U);
-    EXPECT_EQ(bench.summary(), "The 7-Day Drift Test has been passed.");
+    rig.next().back();
+    rig.site->failure = nullptr;
+    rig.next().back();
+    EXPECT_EQ(rig.retrievals(), 0U);
+    ToolRig::enter(rig.setUp().txtToDate, "3/9/2024");
+    rig.next();
+    EXPECT_EQ(rig.retrievals(), 1U);
+    EXPECT_EQ(rig.summary(), "The 7-Day Drift Test has been passed.");
 }
 
 TEST(WizardFailure, BackTakesTheHourglassAwayAndTheNextNextWorks)
 {
-    ToolBench bench;
-    failAt(bench, 0);
-    bench.next();
-    expectNoPage(bench, "failed");
-    bench.site->failure = nullptr;
-    bench.back();
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
-    EXPECT_TRUE(bench.setUp().Visible());
-    bench.next();
-    expectResultsPage(bench, "next");
-    EXPECT_EQ(bench.summary(), "The 7-Day Drift Test has been passed.");
+    ToolRig rig;
+    failAt(rig, 0);
+    rig.next();
+    expectNoPage(rig, "failed");
+    rig.site->failure = nullptr;
+    rig.back();
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
+    EXPECT_TRUE(rig.setUp().Visible());
+    rig.next();
+    expectResultsPage(rig, "next");
+    EXPECT_EQ(rig.summary(), "The 7-Day Drift Test has been passed.");
 }
 
 TEST(WizardFailure, WithoutAMessageSinkNothingIsPostedAndNothingEscapes)
 {
-    ToolBench bench;
-    bench.tool.Setup(nullptr, bench.server);
-    failAt(bench, 0);
-    EXPECT_NO_THROW(bench.next());
-    expectNoPage(bench, "failed");
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    ToolRig rig;
+    rig.tool.Setup(nullptr, rig.server);
+    failAt(rig, 0);
+    EXPECT_NO_THROW(rig.next());
+    expectNoPage(rig, "failed");
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(WizardFailure, WithoutAnAnalyzerNextEndsAtTheSetup)
 {
-    ToolBench bench(siteOfUnits());
-    bench.next();
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-001: " + kNotSet});
-    expectNoPage(bench, "no analyzer");
+    ToolRig rig(siteOfUnits());
+    rig.next();
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-001: " + kNotSet});
+    expectNoPage(rig, "no analyzer");
 }
 
 TEST(WizardFailure, WithAnUnknownRecordSourceTheRetrievalEnds)
 {
-    ToolBench bench;
-    for (auto& record : bench.site->records)
+    ToolRig rig;
+    for (auto& record : rig.site->records)
         record.sourceTag = std::int32_t{199900000};
-    bench.next();
-    ASSERT_FALSE(bench.messages->lines().empty());
-    EXPECT_EQ(bench.messages->lines().front(), "DEval-003: 5, Invalid procedure call or argument");
+    rig.next();
+    ASSERT_FALSE(rig.messages->lines().empty());
+    EXPECT_EQ(rig.messages->lines().front(), "DEval-003: 5, Invalid procedure call or argument");
 }
 
 TEST(WizardFailure, AReadingThatIsNoNumberEndsEachStepThatComparesIt)
 {
-    ToolBench bench;
-    bench.next().back();
-    bench.test().dictCals->Item("2024/03/03 08:15")->SpanCal->MeasuredValue =
+    ToolRig rig;
+    rig.next().back();
+    rig.test().dictCals->Item("2024/03/03 08:15")->SpanCal->MeasuredValue =
         std::numeric_limits<float>::infinity();
-    bench.next();
+    rig.next();
     // The limits, the evaluation, and the tree of the results page.
-    EXPECT_EQ(bench.messages->lines(), (Lines{"DEval-004: 6, Overflow", "DEval-006: 6, Overflow",
-                                              "DEval-001: 6, Overflow"}));
-    expectNoPage(bench, "no number");
+    EXPECT_EQ(rig.messages->lines(), (Lines{"DEval-004: 6, Overflow", "DEval-006: 6, Overflow",
+                                            "DEval-001: 6, Overflow"}));
+    expectNoPage(rig, "no number");
 }
 
 TEST(WizardFailure, AnAllowedFailureWithNothingMarkedHasNoDaysToShow)
@@ -232,14 +232,14 @@ TEST(WizardFailure, AnAllowedFailureWithNothingMarkedHasNoDaysToShow)
     // clears its mark, so that of the display of drift calibrations nothing is ever filled.
     auto site = operatedSite();
     addCal(*site, {.time = march(8), .spanMeasured = 170});
-    ToolBench bench(site);
-    bench.setUp().chk6of7.Press();
-    bench.setUp().optShowDriftTestCals.Press();
-    bench.next();
-    ASSERT_EQ(bench.test().lngGoodCals, 0);
-    ASSERT_EQ(bench.test().lngFailedCals, 1);
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-001: 9, Subscript out of range"});
-    expectNoPage(bench, "never sized");
+    ToolRig rig(site);
+    rig.setUp().chk6of7.Press();
+    rig.setUp().optShowDriftTestCals.Press();
+    rig.next();
+    ASSERT_EQ(rig.test().lngGoodCals, 0);
+    ASSERT_EQ(rig.test().lngFailedCals, 1);
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-001: 9, Subscript out of range"});
+    expectNoPage(rig, "never sized");
 }
 
 } // namespace k7deval::test

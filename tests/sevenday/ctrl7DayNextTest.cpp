@@ -1,4 +1,4 @@
-#include "sevenday/ToolBench.h"
+#include "sevenday/ToolRig.h"
 
 #include <gtest/gtest.h>
 
@@ -18,10 +18,10 @@ const std::string kPassed = "The 7-Day Drift Test has been passed.";
 
 TEST(WizardNext, AsksForTheRecordsOfTheAnalyzerTheScaleAndTheInterval)
 {
-    ToolBench bench;
-    ToolBench::enter(bench.setUp().txtFromDate, "3/1/2024");
-    ToolBench::enter(bench.setUp().txtToDate, "3/9/2024");
-    bench.next();
+    ToolRig rig;
+    ToolRig::enter(rig.setUp().txtFromDate, "3/1/2024");
+    ToolRig::enter(rig.setUp().txtToDate, "3/9/2024");
+    rig.next();
     RangeRecordQuery expected;
     expected.siteKey = "SITE";
     expected.argument2 = 0;
@@ -37,39 +37,39 @@ TEST(WizardNext, AsksForTheRecordsOfTheAnalyzerTheScaleAndTheInterval)
     expected.argument12 = 0;
     expected.argument13 = 0;
     expected.argument14 = 1;
-    ASSERT_EQ(bench.site->rangeQueries.size(), 1U);
-    EXPECT_EQ(bench.site->rangeQueries[0], expected);
+    ASSERT_EQ(rig.site->rangeQueries.size(), 1U);
+    EXPECT_EQ(rig.site->rangeQueries[0], expected);
 }
 
 TEST(WizardNext, AgainWithNothingChangedReadsNoCalibrationsAndEvaluatesAnew)
 {
-    ToolBench bench;
-    bench.next().back();
-    bench.site->calls.clear();
-    const auto runs = bench.test().dictCals;
-    const auto days = bench.test().dictDays.Item("2024/03/01");
-    bench.next();
-    EXPECT_EQ(bench.retrievals(), 1U);
-    EXPECT_EQ(bench.test().dictCals, runs);
-    EXPECT_EQ(bench.site->countCalls("DIParameter.ReadData"), 1U) << "the operating hours";
-    EXPECT_NE(bench.test().dictDays.Item("2024/03/01"), days);
-    EXPECT_EQ(bench.summary(), kPassed);
+    ToolRig rig;
+    rig.next().back();
+    rig.site->calls.clear();
+    const auto runs = rig.test().dictCals;
+    const auto days = rig.test().dictDays.Item("2024/03/01");
+    rig.next();
+    EXPECT_EQ(rig.retrievals(), 1U);
+    EXPECT_EQ(rig.test().dictCals, runs);
+    EXPECT_EQ(rig.site->countCalls("DIParameter.ReadData"), 1U) << "the operating hours";
+    EXPECT_NE(rig.test().dictDays.Item("2024/03/01"), days);
+    EXPECT_EQ(rig.summary(), kPassed);
 }
 
 TEST(WizardNext, AppliesTheLimitsEachTime)
 {
-    ToolBench bench;
-    bench.next().back();
-    const auto run = bench.test().dictCals->Item("2024/03/01 08:15");
+    ToolRig rig;
+    rig.next().back();
+    const auto run = rig.test().dictCals->Item("2024/03/01 08:15");
     run->SpanCal->DriftLimit = -1;
-    bench.next();
+    rig.next();
     EXPECT_EQ(run->SpanCal->DriftLimit, 5);
 }
 
 /// A change on the setup page between two Nexts.
 struct Change {
     const char* what;
-    std::function<void(ToolBench&)> make;
+    std::function<void(ToolRig&)> make;
     bool retrieves;
 };
 
@@ -79,37 +79,37 @@ void PrintTo(const Change& change, std::ostream* out)
 }
 
 const Change kChanges[] = {
-    {"Nothing", [](ToolBench&) {}, false},
-    {"FromDate", [](ToolBench& b) { ToolBench::enter(b.setUp().txtFromDate, "2/11/2024"); }, true},
-    {"ToDate", [](ToolBench& b) { ToolBench::enter(b.setUp().txtToDate, "3/9/2024"); }, true},
+    {"Nothing", [](ToolRig&) {}, false},
+    {"FromDate", [](ToolRig& b) { ToolRig::enter(b.setUp().txtFromDate, "2/11/2024"); }, true},
+    {"ToDate", [](ToolRig& b) { ToolRig::enter(b.setUp().txtToDate, "3/9/2024"); }, true},
     {"ToDateToAnImpossibleOne",
-     [](ToolBench& b) { ToolBench::enter(b.setUp().txtToDate, "2/30/2024"); }, false},
+     [](ToolRig& b) { ToolRig::enter(b.setUp().txtToDate, "2/30/2024"); }, false},
     {"ToDateToTheSameWithATime",
-     [](ToolBench& b) { ToolBench::enter(b.setUp().txtToDate, "3/10/2024 12:00"); }, false},
+     [](ToolRig& b) { ToolRig::enter(b.setUp().txtToDate, "3/10/2024 12:00"); }, false},
     {"BothDatesSwapped",
-     [](ToolBench& b) {
-         ToolBench::enter(b.setUp().txtFromDate, "3/10/2024");
-         ToolBench::enter(b.setUp().txtToDate, "2/10/2024");
+     [](ToolRig& b) {
+         ToolRig::enter(b.setUp().txtFromDate, "3/10/2024");
+         ToolRig::enter(b.setUp().txtToDate, "2/10/2024");
      },
      false},
-    {"OtherAnalyzer", [](ToolBench& b) { b.setUp().cmbAnalyzer.Pick(1); }, true},
-    {"OtherScaleOfTheAnalyzer", [](ToolBench& b) { b.setUp().cmbAnalyzer.Pick(2); }, true},
-    {"SameAnalyzerAgain", [](ToolBench& b) { b.setUp().cmbAnalyzer.Pick(0); }, false},
-    {"UnitWithoutAnalyzers", [](ToolBench& b) { b.setUp().cmbUnit.Pick(1); }, false},
-    {"LimitRule", [](ToolBench& b) { b.setUp().opt05Span.Press(); }, false},
+    {"OtherAnalyzer", [](ToolRig& b) { b.setUp().cmbAnalyzer.Pick(1); }, true},
+    {"OtherScaleOfTheAnalyzer", [](ToolRig& b) { b.setUp().cmbAnalyzer.Pick(2); }, true},
+    {"SameAnalyzerAgain", [](ToolRig& b) { b.setUp().cmbAnalyzer.Pick(0); }, false},
+    {"UnitWithoutAnalyzers", [](ToolRig& b) { b.setUp().cmbUnit.Pick(1); }, false},
+    {"LimitRule", [](ToolRig& b) { b.setUp().opt05Span.Press(); }, false},
     {"LimitValue",
-     [](ToolBench& b) {
+     [](ToolRig& b) {
          b.setUp().optOtherSpan.Press();
-         ToolBench::enter(b.setUp().txtOtherSpanValue, "4");
+         ToolRig::enter(b.setUp().txtOtherSpanValue, "4");
      },
      false},
-    {"APS", [](ToolBench& b) { b.setUp().chkUseAPS.Press(); }, false},
-    {"UseZeroCals", [](ToolBench& b) { b.setUp().optPS9GC.Press(); }, false},
-    {"SixOfSeven", [](ToolBench& b) { b.setUp().chk6of7.Press(); }, false},
-    {"IncludeManualCals", [](ToolBench& b) { b.setUp().chkManualCals.Press(); }, false},
-    {"Display", [](ToolBench& b) { b.setUp().optShowInterval.Press(); }, false},
-    {"Summary", [](ToolBench& b) { b.setUp().chkShowSummary.Press(); }, false},
-    {"TestInformation", [](ToolBench& b) { b.setUp().txtTestNumber.Type("T1"); }, false},
+    {"APS", [](ToolRig& b) { b.setUp().chkUseAPS.Press(); }, false},
+    {"UseZeroCals", [](ToolRig& b) { b.setUp().optPS9GC.Press(); }, false},
+    {"SixOfSeven", [](ToolRig& b) { b.setUp().chk6of7.Press(); }, false},
+    {"IncludeManualCals", [](ToolRig& b) { b.setUp().chkManualCals.Press(); }, false},
+    {"Display", [](ToolRig& b) { b.setUp().optShowInterval.Press(); }, false},
+    {"Summary", [](ToolRig& b) { b.setUp().chkShowSummary.Press(); }, false},
+    {"TestInformation", [](ToolRig& b) { b.setUp().txtTestNumber.Type("T1"); }, false},
 };
 
 /// A site with a second analyzer, and the first on a second scale under the same measured PID.
@@ -133,15 +133,15 @@ class WizardChange : public ::testing::TestWithParam<Change>
 
 TEST_P(WizardChange, ReadsTheCalibrationsAgainOnlyForAnotherIntervalOrAnalyzer)
 {
-    ToolBench bench(siteOfThreeAnalyzers());
-    bench.next().back();
-    ASSERT_EQ(bench.retrievals(), 1U);
-    GetParam().make(bench);
-    bench.next();
-    EXPECT_EQ(bench.retrievals(), GetParam().retrieves ? 2U : 1U);
-    EXPECT_EQ(bench.messages->lines(), Lines());
-    bench.back().next();
-    EXPECT_EQ(bench.retrievals(), GetParam().retrieves ? 2U : 1U) << "and once is enough";
+    ToolRig rig(siteOfThreeAnalyzers());
+    rig.next().back();
+    ASSERT_EQ(rig.retrievals(), 1U);
+    GetParam().make(rig);
+    rig.next();
+    EXPECT_EQ(rig.retrievals(), GetParam().retrieves ? 2U : 1U);
+    EXPECT_EQ(rig.messages->lines(), Lines());
+    rig.back().next();
+    EXPECT_EQ(rig.retrievals(), GetParam().retrieves ? 2U : 1U) << "and once is enough";
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, WizardChange, ::testing::ValuesIn(kChanges),
@@ -149,13 +149,13 @@ INSTANTIATE_TEST_SUITE_P(Changes, WizardChange, ::testing::ValuesIn(kChanges),
 
 TEST(WizardNext, AChangeOfALimitReachesTheRunsInMemory)
 {
-    ToolBench bench;
-    bench.next().back();
-    bench.setUp().optOtherSpan.Press();
-    ToolBench::enter(bench.setUp().txtOtherSpanValue, "0.4");
-    bench.next();
-    EXPECT_EQ(bench.test().dictCals->Item("2024/03/01 08:15")->SpanCal->DriftLimit, 0.8F);
-    EXPECT_EQ(bench.test().lngGoodCals, 0);
+    ToolRig rig;
+    rig.next().back();
+    rig.setUp().optOtherSpan.Press();
+    ToolRig::enter(rig.setUp().txtOtherSpanValue, "0.4");
+    rig.next();
+    EXPECT_EQ(rig.test().dictCals->Item("2024/03/01 08:15")->SpanCal->DriftLimit, 0.8F);
+    EXPECT_EQ(rig.test().lngGoodCals, 0);
 }
 
 TEST(WizardNext, SixOfSevenChangesTheOutcomeOfTheRunsInMemory)
@@ -164,13 +164,13 @@ TEST(WizardNext, SixOfSevenChangesTheOutcomeOfTheRunsInMemory)
     addCal(*site, {.time = march(3), .spanMeasured = 170});
     for (int day = 4; day <= 7; ++day)
         addCal(*site, {.time = march(day)});
-    ToolBench bench(site);
-    bench.next();
-    EXPECT_NE(bench.summary(), kPassed);
-    bench.back().setUp().chk6of7.Press();
-    bench.next();
-    EXPECT_EQ(bench.summary(), kPassed);
-    EXPECT_EQ(bench.retrievals(), 1U);
+    ToolRig rig(site);
+    rig.next();
+    EXPECT_NE(rig.summary(), kPassed);
+    rig.back().setUp().chk6of7.Press();
+    rig.next();
+    EXPECT_EQ(rig.summary(), kPassed);
+    EXPECT_EQ(rig.retrievals(), 1U);
 }
 
 TEST(WizardNext, ManualCalsChangeTheOutcomeOfTheRunsInMemory)
@@ -178,13 +178,13 @@ TEST(WizardNext, ManualCalsChangeTheOutcomeOfTheRunsInMemory)
     auto site = siteWithDailyCals(7);
     for (auto& record : site->records)
         record.manual = true;
-    ToolBench bench(site);
-    bench.next();
-    EXPECT_EQ(bench.test().lngGoodCals, 7);
-    bench.back().setUp().chkManualCals.Press();
-    bench.next();
-    EXPECT_EQ(bench.test().lngGoodCals, 0);
-    EXPECT_EQ(bench.retrievals(), 1U);
+    ToolRig rig(site);
+    rig.next();
+    EXPECT_EQ(rig.test().lngGoodCals, 7);
+    rig.back().setUp().chkManualCals.Press();
+    rig.next();
+    EXPECT_EQ(rig.test().lngGoodCals, 0);
+    EXPECT_EQ(rig.retrievals(), 1U);
 }
 
 TEST(WizardNext, UseZeroCalsReachesOnlyRunsThatAreReadAgain)
@@ -192,32 +192,32 @@ TEST(WizardNext, UseZeroCalsReachesOnlyRunsThatAreReadAgain)
     auto site = operatedSite();
     for (int day = 1; day <= 7; ++day)
         addCal(*site, {.time = march(day), .hasZero = false});
-    ToolBench bench(site);
-    const auto firstRun = [&] { return bench.test().dictCals->Item("2024/03/01 08:15"); };
-    bench.next().back();
+    ToolRig rig(site);
+    const auto firstRun = [&] { return rig.test().dictCals->Item("2024/03/01 08:15"); };
+    rig.next().back();
     EXPECT_TRUE(firstRun()->UseZeroCal);
-    bench.setUp().optPS9GC.Press();
-    bench.next().back();
-    EXPECT_FALSE(bench.test().blnUseZeroCals);
+    rig.setUp().optPS9GC.Press();
+    rig.next().back();
+    EXPECT_FALSE(rig.test().blnUseZeroCals);
     EXPECT_TRUE(firstRun()->UseZeroCal) << "the runs in memory";
-    EXPECT_EQ(bench.test().lngGoodCals, 0);
-    ToolBench::enter(bench.setUp().txtToDate, "3/9/2024");
-    bench.next();
+    EXPECT_EQ(rig.test().lngGoodCals, 0);
+    ToolRig::enter(rig.setUp().txtToDate, "3/9/2024");
+    rig.next();
     EXPECT_FALSE(firstRun()->UseZeroCal);
-    EXPECT_EQ(bench.test().lngGoodCals, 7);
+    EXPECT_EQ(rig.test().lngGoodCals, 7);
 }
 
 TEST(WizardNext, TakesTheWholeSetupIntoTheTest)
 {
-    ToolBench bench;
-    auto& page = bench.setUp();
-    ToolBench::enter(page.txtFromDate, "3/9/2024");
-    ToolBench::enter(page.txtToDate, "3/1/2024");
+    ToolRig rig;
+    auto& page = rig.setUp();
+    ToolRig::enter(page.txtFromDate, "3/9/2024");
+    ToolRig::enter(page.txtToDate, "3/1/2024");
     page.chk6of7.Press();
     page.chkManualCals.Press();
     page.optPS9GC.Press();
-    bench.next();
-    const DriftTest& test = bench.test();
+    rig.next();
+    const DriftTest& test = rig.test();
     EXPECT_EQ(test.lngAnalyzedPID, AnalyzerFacts().measuredPID());
     EXPECT_EQ(test.strAnalyzedScale, "HIGH");
     EXPECT_EQ(test.dtStart, makeDate(2024, 3, 1));

@@ -1,4 +1,4 @@
-#include "sevenday/ToolBench.h"
+#include "sevenday/ToolRig.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -13,39 +13,39 @@ namespace
 {
 
 /// The wizard stands on one of its pages, or on none with the hourglass.
-void expectAWholePage(ToolBench& bench)
+void expectAWholePage(ToolRig& rig)
 {
-    const bool first = bench.setUp().Visible();
-    const bool second = bench.result().Visible();
-    const bool stuck = bench.tool.MousePointer() == screen::MousePointer::Hourglass;
+    const bool first = rig.setUp().Visible();
+    const bool second = rig.result().Visible();
+    const bool stuck = rig.tool.MousePointer() == screen::MousePointer::Hourglass;
     RC_ASSERT(static_cast<int>(first) + static_cast<int>(second) + static_cast<int>(stuck) == 1);
-    RC_ASSERT(bench.tool.cmdNext.Visible() == first);
-    RC_ASSERT(bench.tool.cmdBack.Enabled() == !first);
-    RC_ASSERT(bench.tool.cmdSave.Visible() == second);
-    RC_ASSERT(bench.tool.chkPreview.Visible() == second);
-    RC_ASSERT(!second || bench.tool.cmdSave.Enabled());
+    RC_ASSERT(rig.tool.cmdNext.Visible() == first);
+    RC_ASSERT(rig.tool.cmdBack.Enabled() == !first);
+    RC_ASSERT(rig.tool.cmdSave.Visible() == second);
+    RC_ASSERT(rig.tool.chkPreview.Visible() == second);
+    RC_ASSERT(!second || rig.tool.cmdSave.Enabled());
 }
 
 /// A failure leaves a line, and only a failure does.
-void expectLinesOfTheTool(ToolBench& bench)
+void expectLinesOfTheTool(ToolRig& rig)
 {
-    const Lines lines = bench.messages->lines();
+    const Lines lines = rig.messages->lines();
     RC_ASSERT(std::all_of(lines.begin(), lines.end(),
                           [](const auto& line) { return line.starts_with("DEval-0"); }));
 }
 
-void act(ToolBench& bench, int kind, int number)
+void act(ToolRig& rig, int kind, int number)
 {
-    auto& page = bench.setUp();
+    auto& page = rig.setUp();
     switch (kind) {
     case 0:
-        bench.next();
+        rig.next();
         break;
     case 1:
-        bench.back();
+        rig.back();
         break;
     case 2:
-        ToolBench::enter(page.txtToDate, "3/" + std::to_string(number % 10 + 1) + "/2024");
+        ToolRig::enter(page.txtToDate, "3/" + std::to_string(number % 10 + 1) + "/2024");
         break;
     case 3:
         page.cmbUnit.Pick(number % 2);
@@ -60,8 +60,8 @@ void act(ToolBench& bench, int kind, int number)
         (number % 2 == 0 ? page.optPS9GC : page.opt025Span).Press();
         break;
     default:
-        bench.site->calls.clear();
-        bench.site->failure = [number](const std::string&, std::size_t at) {
+        rig.site->calls.clear();
+        rig.site->failure = [number](const std::string&, std::size_t at) {
             return at == static_cast<std::size_t>(number) ? std::optional(Error(440))
                                                           : std::nullopt;
         };
@@ -74,11 +74,11 @@ RC_GTEST_PROP(WizardProperties, NothingEscapesAndAWholePageStandsAfterAnyCourseO
 {
     const auto actions = *rc::gen::container<std::vector<std::pair<int, int>>>(
         rc::gen::pair(rc::gen::inRange(0, 8), rc::gen::inRange(0, 250)));
-    ToolBench bench;
+    ToolRig rig;
     for (const auto& [kind, number] : actions) {
-        act(bench, kind, number);
-        expectAWholePage(bench);
-        expectLinesOfTheTool(bench);
+        act(rig, kind, number);
+        expectAWholePage(rig);
+        expectLinesOfTheTool(rig);
     }
 }
 
@@ -90,14 +90,14 @@ RC_GTEST_PROP(WizardProperties, ANextIsTheSameAsThatOfAToolThatWasSetSoAtOnce, (
     const auto marks = *rc::gen::container<std::vector<bool>>(rc::gen::arbitrary<bool>());
     auto site = siteWithDailyCals(8);
     site->records[5].measured = 170.0F;
-    ToolBench wandering(site);
+    ToolRig wandering(site);
     for (std::size_t i = 0; i < std::min(days.size(), marks.size()); ++i) {
-        ToolBench::enter(wandering.setUp().txtToDate, "3/" + std::to_string(days[i]) + "/2024");
+        ToolRig::enter(wandering.setUp().txtToDate, "3/" + std::to_string(days[i]) + "/2024");
         wandering.setUp().chk6of7.SetChecked(marks[i]);
         wandering.next().back();
     }
-    ToolBench fresh(site);
-    ToolBench::enter(fresh.setUp().txtToDate, wandering.setUp().txtToDate.Text());
+    ToolRig fresh(site);
+    ToolRig::enter(fresh.setUp().txtToDate, wandering.setUp().txtToDate.Text());
     fresh.setUp().chk6of7.SetChecked(wandering.setUp().SixOfSevenCals());
     wandering.next();
     fresh.next();

@@ -1,4 +1,4 @@
-#include "sevenday/ResultBench.h"
+#include "sevenday/ResultRig.h"
 
 #include <gtest/gtest.h>
 
@@ -70,8 +70,8 @@ std::string quoted(const std::string& text)
 
 TEST(ResultStart, HasEveryLabelAndFrameWithItsText)
 {
-    const ResultBench bench;
-    const Snapshot all = snapshotOf(bench.page);
+    const ResultRig rig;
+    const Snapshot all = snapshotOf(rig.page);
     for (const LabelCase& row : kLabels) {
         EXPECT_EQ(all.at(std::string(row.name) + ".Kind"), "\"Label\"") << row.name;
         EXPECT_EQ(all.at(std::string(row.name) + ".Caption"), quoted(row.caption)) << row.name;
@@ -81,37 +81,37 @@ TEST(ResultStart, HasEveryLabelAndFrameWithItsText)
         EXPECT_EQ(all.at(std::string(row.name) + ".Caption"), quoted(row.caption)) << row.name;
     }
     // The tree, its images and the five pictures of the legend are all that is left.
-    EXPECT_EQ(bench.page.Widgets().size(), std::size(kLabels) + std::size(kFrames) + 7);
+    EXPECT_EQ(rig.page.Widgets().size(), std::size(kLabels) + std::size(kFrames) + 7);
 }
 
 TEST(ResultStart, TheTreeHasNoEntryAtAll)
 {
-    const ResultBench bench;
-    EXPECT_TRUE(bench.page.tvwCalTimes.Nodes().empty());
-    EXPECT_EQ(bench.page.tvwCalTimes.SelectedItem(), nullptr);
+    const ResultRig rig;
+    EXPECT_TRUE(rig.page.tvwCalTimes.Nodes().empty());
+    EXPECT_EQ(rig.page.tvwCalTimes.SelectedItem(), nullptr);
 }
 
 TEST(ResultStart, TheLegendIsBlendedWithThePageAndTheTreesImagesWithItsWindow)
 {
-    const ResultBench bench;
-    const Snapshot all = snapshotOf(bench.page);
+    const ResultRig rig;
+    const Snapshot all = snapshotOf(rig.page);
     for (const char* key : kLegend) {
         const std::string image = std::string("img") + key;
         EXPECT_EQ(all.at(image + ".Picture"), quoted(key));
         EXPECT_EQ(all.at(image + ".BackColor"), "\"0x8000000F\"");
     }
-    EXPECT_EQ(bench.page.imgOnOffLine.Keys(),
+    EXPECT_EQ(rig.page.imgOnOffLine.Keys(),
               (Lines{"OnlinePass", "OfflinePass", "OnlineFail", "OfflineFail", "OpDayNoCals"}));
-    EXPECT_EQ(bench.page.imgOnOffLine.BackColor(), 0x80000005U);
+    EXPECT_EQ(rig.page.imgOnOffLine.BackColor(), 0x80000005U);
 }
 
 TEST(ResultTexts, AreTakenAsTheyStand)
 {
-    ResultBench bench;
+    ResultRig rig;
     const std::string text = "first\r\nsecond  \r\nthird";
-    EXPECT_EQ(bench.changesBy([&] {
-        bench.page.SetSummaryText(text);
-        bench.page.SetAnalyzerText("GT3 NOX/H ");
+    EXPECT_EQ(rig.changesBy([&] {
+        rig.page.SetSummaryText(text);
+        rig.page.SetAnalyzerText("GT3 NOX/H ");
     }),
               (Lines{"lblAnalyzerLabel.Caption: \"\" -> \"GT3 NOX/H \"",
                      "lblSummary.Caption: \"\" -> \"" + text + "\""}));
@@ -119,11 +119,11 @@ TEST(ResultTexts, AreTakenAsTheyStand)
 
 TEST(ResultDetails, APassedRunShowsItsFiguresInBlack)
 {
-    ResultBench bench;
+    ResultRig rig;
     CalRun run = runAt(kMorning);
     run->ZeroCal = injection(0.25F, 0.5F, 2.5F);
     run->SpanCal = injection(160, 158.75F, 5, true);
-    const auto changes = bench.changesBy([&] { bench.show({dayWith(kDay, {run})}); });
+    const auto changes = rig.changesBy([&] { rig.show({dayWith(kDay, {run})}); });
     const std::string entry = R"([Key="3/10/2024 08:15", Text="3/10/2024 08:15", )"
                               R"(Image="OnlinePass", BackColor="0x00FFFFFF", Children=[]])";
     EXPECT_EQ(
@@ -144,8 +144,8 @@ TEST(ResultDetails, APassedRunShowsItsFiguresInBlack)
 
 TEST(ResultDetails, AFailedRunIsRedAndBoldAndSoIsTheDriftThatFailedIt)
 {
-    ResultBench bench;
-    auto& page = bench.show({dayWith(kDay, {offline(failedRunAt(kMorning))})});
+    ResultRig rig;
+    auto& page = rig.show({dayWith(kDay, {offline(failedRunAt(kMorning))})});
     EXPECT_EQ(page.lblCalResultLabel.Caption(), "Failed");
     EXPECT_EQ(page.lblCalResultLabel.ForeColor(), 255U);
     EXPECT_TRUE(page.lblCalResultLabel.Bold());
@@ -158,8 +158,8 @@ TEST(ResultDetails, AFailedRunIsRedAndBoldAndSoIsTheDriftThatFailedIt)
 
 TEST(ResultDetails, APassedRunBehindAFailedOneIsBlackAgain)
 {
-    ResultBench bench;
-    auto& page = bench.show({dayWith(kDay, {failedRunAt(kMorning), runAt(kEvening)})});
+    ResultRig rig;
+    auto& page = rig.show({dayWith(kDay, {failedRunAt(kMorning), runAt(kEvening)})});
     page.tvwCalTimes.Press("3/10/2024 08:15");
     ASSERT_TRUE(page.lblCalResultLabel.Bold());
     page.tvwCalTimes.Press("3/10/2024 20:15");
@@ -189,11 +189,11 @@ constexpr DriftColourCase kDriftColours[] = {
 TEST(ResultDetails, OnlyADriftAboveItsLimitIsRed)
 {
     for (const DriftColourCase& row : kDriftColours) {
-        ResultBench bench;
+        ResultRig rig;
         CalRun run = runAt(kMorning);
         run->ZeroCal = injection(100, row.measured, row.limit);
         run->SpanCal = injection(100, row.measured, row.limit);
-        auto& page = bench.show({dayWith(kDay, {run})});
+        auto& page = rig.show({dayWith(kDay, {run})});
         EXPECT_EQ(page.zero.driftData.ForeColor(), row.expected) << row.what;
         EXPECT_EQ(page.span.driftData.ForeColor(), row.expected) << row.what;
     }
@@ -219,12 +219,12 @@ constexpr FigureCase kFigures[] = {
 TEST(ResultDetails, FiguresAreInPlainNumberForm)
 {
     for (const FigureCase& row : kFigures) {
-        ResultBench bench;
+        ResultRig rig;
         CalRun run = runAt(kMorning);
         run->InstrumentSpan = row.value;
         run->ZeroCal = injection(row.value, 0, row.value);
         run->SpanCal = injection(0, row.value, row.value);
-        auto& page = bench.show({dayWith(kDay, {run})});
+        auto& page = rig.show({dayWith(kDay, {run})});
         EXPECT_EQ(page.lblInstSpanData.Caption(), row.text);
         EXPECT_EQ(page.zero.refData.Caption(), row.text);
         EXPECT_EQ(page.zero.limitData.Caption(), row.text);
@@ -235,25 +235,25 @@ TEST(ResultDetails, FiguresAreInPlainNumberForm)
 
 TEST(ResultDetails, TheDriftIsTheOneKeptToFourDecimals)
 {
-    ResultBench bench;
+    ResultRig rig;
     CalRun run = runAt(kMorning);
     run->SpanCal = injection(0, 0.12345678F, 1);
-    EXPECT_EQ(bench.show({dayWith(kDay, {run})}).span.driftData.Caption(), "0.1235");
+    EXPECT_EQ(rig.show({dayWith(kDay, {run})}).span.driftData.Caption(), "0.1235");
 }
 
 TEST(ResultDetails, DatesAndFiguresAreWrittenAsTheRegionDoes)
 {
-    ResultBench bench("de-DE");
+    ResultRig rig("de-DE");
     CalRun run = runAt(kEvening);
     run->InstrumentSpan = 12.5F;
-    auto& page = bench.show({dayWith(kDay, {run})});
+    auto& page = rig.show({dayWith(kDay, {run})});
     EXPECT_EQ(page.lblCalTimeData.Caption(), "10.03.2024 20:15");
     EXPECT_EQ(page.lblInstSpanData.Caption(), "12,5");
 }
 
 TEST(ResultDetails, AnAbsentInjectionLeavesItsFiveFieldsEmpty)
 {
-    ResultBench bench;
+    ResultRig rig;
     CalRun whole = runAt(kMorning);
     whole->ZeroCal->UsesAPS = true;
     whole->SpanCal->UsesAPS = true;
@@ -261,7 +261,7 @@ TEST(ResultDetails, AnAbsentInjectionLeavesItsFiveFieldsEmpty)
     withoutZero->ZeroCal = nullptr;
     CalRun withoutSpan = runAt(makeDate(2024, 3, 10, 22, 15));
     withoutSpan->SpanCal = nullptr;
-    auto& page = bench.show({dayWith(kDay, {whole, withoutZero, withoutSpan})});
+    auto& page = rig.show({dayWith(kDay, {whole, withoutZero, withoutSpan})});
 
     page.tvwCalTimes.Press("3/10/2024 08:15");
     EXPECT_EQ(page.zero.apsLabel.Caption() + page.span.apsLabel.Caption(), "APSAPS");
@@ -280,11 +280,11 @@ TEST(ResultDetails, AnAbsentInjectionLeavesItsFiveFieldsEmpty)
 
 TEST(ResultDetails, APressOfADayBlanksThemAndLeavesTheColoursOfTheFailedRunBefore)
 {
-    ResultBench bench;
-    auto& page = bench.show({dayWith(kDay, {failedRunAt(kMorning), runAt(kEvening)})});
+    ResultRig rig;
+    auto& page = rig.show({dayWith(kDay, {failedRunAt(kMorning), runAt(kEvening)})});
     page.tvwCalTimes.Press("3/10/2024 08:15");
     EXPECT_EQ(
-        bench.changesBy([&] { page.tvwCalTimes.Press("3/10/2024"); }),
+        rig.changesBy([&] { page.tvwCalTimes.Press("3/10/2024"); }),
         (Lines{"lblCalOnline.Caption: \"On-Line\" -> \"\"",
                "lblCalResultLabel.Caption: \"Failed\" -> \"\"",
                "lblCalTimeData.Caption: \"3/10/2024 08:15\" -> \"\"",
@@ -302,14 +302,14 @@ TEST(ResultDetails, APressOfADayBlanksThemAndLeavesTheColoursOfTheFailedRunBefor
 
 TEST(ResultDetails, AShownRunStaysWithItsTreeEntry)
 {
-    ResultBench bench;
+    ResultRig rig;
     CalRun run = runAt(kMorning);
     const std::weak_ptr<cls7DayAnalyzerCal> held = run;
-    bench.show({dayWith(kDay, {std::exchange(run, nullptr)})});
+    rig.show({dayWith(kDay, {std::exchange(run, nullptr)})});
     EXPECT_FALSE(held.expired());
-    bench.page.tvwCalTimes.Press("3/10/2024 08:15");
-    EXPECT_EQ(bench.page.lblCalResultLabel.Caption(), "Passed");
-    bench.page.ClearTreeView();
+    rig.page.tvwCalTimes.Press("3/10/2024 08:15");
+    EXPECT_EQ(rig.page.lblCalResultLabel.Caption(), "Passed");
+    rig.page.ClearTreeView();
     EXPECT_TRUE(held.expired());
 }
 

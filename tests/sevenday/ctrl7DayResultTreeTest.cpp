@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "sevenday/ResultBench.h"
+#include "sevenday/ResultRig.h"
 
 #include <gtest/gtest.h>
 
@@ -19,55 +19,55 @@ const Lines kNothingToShow = {"NA [OfflineFail] light"};
 
 Lines treeOf(const std::vector<CalDay>& days)
 {
-    ResultBench bench;
-    return linesOf(bench.show(days).tvwCalTimes);
+    ResultRig rig;
+    return linesOf(rig.show(days).tvwCalTimes);
 }
 
 } // namespace
 
 TEST(ResultTree, ClearedItHasTheEntryNAWhichIsNotSelected)
 {
-    ResultBench bench;
-    bench.page.ClearTreeView();
-    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), kNothingToShow);
-    EXPECT_EQ(bench.page.tvwCalTimes.SelectedItem(), nullptr);
-    EXPECT_EQ(runOf(*bench.page.tvwCalTimes.Nodes().front()), nullptr);
+    ResultRig rig;
+    rig.page.ClearTreeView();
+    EXPECT_EQ(linesOf(rig.page.tvwCalTimes), kNothingToShow);
+    EXPECT_EQ(rig.page.tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_EQ(runOf(*rig.page.tvwCalTimes.Nodes().front()), nullptr);
 }
 
 TEST(ResultTree, ClearingBlanksTheDetails)
 {
-    ResultBench bench;
-    bench.show({dayWith(kDay, {runAt(kMorning)})}).ClearTreeView();
-    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), kNothingToShow);
-    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "");
-    EXPECT_EQ(bench.page.lblCalResultLabel.Caption(), "");
-    EXPECT_EQ(bench.page.span.refData.Caption(), "");
+    ResultRig rig;
+    rig.show({dayWith(kDay, {runAt(kMorning)})}).ClearTreeView();
+    EXPECT_EQ(linesOf(rig.page.tvwCalTimes), kNothingToShow);
+    EXPECT_EQ(rig.page.lblCalTimeData.Caption(), "");
+    EXPECT_EQ(rig.page.lblCalResultLabel.Caption(), "");
+    EXPECT_EQ(rig.page.span.refData.Caption(), "");
 }
 
 TEST(ResultTree, APressOfTheEntryNASelectsIt)
 {
-    ResultBench bench;
-    bench.page.ClearTreeView();
-    bench.page.tvwCalTimes.Press("NA");
-    ASSERT_NE(bench.page.tvwCalTimes.SelectedItem(), nullptr);
-    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "");
+    ResultRig rig;
+    rig.page.ClearTreeView();
+    rig.page.tvwCalTimes.Press("NA");
+    ASSERT_NE(rig.page.tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_EQ(rig.page.lblCalTimeData.Caption(), "");
 }
 
 TEST(ResultTree, AnEmptyArrayIsNothingToShow)
 {
-    ResultBench bench;
-    bench.show({dayWith(kDay, {runAt(kMorning)})});
-    bench.show({});
-    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), kNothingToShow);
-    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "");
+    ResultRig rig;
+    rig.show({dayWith(kDay, {runAt(kMorning)})});
+    rig.show({});
+    EXPECT_EQ(linesOf(rig.page.tvwCalTimes), kNothingToShow);
+    EXPECT_EQ(rig.page.lblCalTimeData.Caption(), "");
 }
 
 TEST(ResultTree, AnArrayNeverSizedFailsAtItsFirstElement)
 {
-    ResultBench bench;
-    bench.show({dayWith(kDay, {runAt(kMorning)})});
-    EXPECT_EQ(errorOf([&] { return bench.page.SetTreeView(DayArray()), 0; }), 9);
-    EXPECT_TRUE(bench.page.tvwCalTimes.Nodes().empty());
+    ResultRig rig;
+    rig.show({dayWith(kDay, {runAt(kMorning)})});
+    EXPECT_EQ(errorOf([&] { return rig.page.SetTreeView(DayArray()), 0; }), 9);
+    EXPECT_TRUE(rig.page.tvwCalTimes.Nodes().empty());
 }
 
 TEST(ResultTree, ADayWithoutDisplayedRunsIsAnOperatingDayWithoutCalsAndNeverUsed)
@@ -195,62 +195,61 @@ TEST(ResultTree, ADayIsWhiteWhenOneOfItsRunsIsUsed)
 
 TEST(ResultTree, TheFirstEntryIsSelectedAndItsDetailsShown)
 {
-    ResultBench bench;
-    auto& page =
-        bench.show({dayWith(kDay, {runAt(kMorning)}), dayWith(kDay, {runAt(kNextMorning)})});
+    ResultRig rig;
+    auto& page = rig.show({dayWith(kDay, {runAt(kMorning)}), dayWith(kDay, {runAt(kNextMorning)})});
     EXPECT_EQ(page.tvwCalTimes.SelectedItem(), page.tvwCalTimes.Nodes().front().get());
     EXPECT_EQ(page.lblCalTimeData.Caption(), "3/10/2024 08:15");
 }
 
 TEST(ResultTree, AFirstEntryOfADayLeavesTheDetailsBlank)
 {
-    ResultBench bench;
-    auto& page = bench.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
+    ResultRig rig;
+    auto& page = rig.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
     EXPECT_EQ(page.tvwCalTimes.SelectedItem()->Key, "3/10/2024");
     EXPECT_EQ(page.lblCalTimeData.Caption(), "");
 }
 
 TEST(ResultTree, EachCallBuildsItAnew)
 {
-    ResultBench bench;
-    bench.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
-    bench.show({dayWith(kDay, {runAt(kNextMorning)})});
-    EXPECT_EQ(linesOf(bench.page.tvwCalTimes), Lines{"3/11/2024 08:15 [OnlinePass] white"});
-    EXPECT_EQ(bench.page.lblCalTimeData.Caption(), "3/11/2024 08:15");
+    ResultRig rig;
+    rig.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
+    rig.show({dayWith(kDay, {runAt(kNextMorning)})});
+    EXPECT_EQ(linesOf(rig.page.tvwCalTimes), Lines{"3/11/2024 08:15 [OnlinePass] white"});
+    EXPECT_EQ(rig.page.lblCalTimeData.Caption(), "3/11/2024 08:15");
 }
 
 TEST(ResultTree, TwoRunsOfOneMinuteFailAtTheSecond)
 {
-    ResultBench bench;
+    ResultRig rig;
     CalDay day = dayWith(kDay, {runAt(kMorning)});
     day->DisplayedCals =
         RunArray({runAt(kMorning), runAt(makeDate(2024, 3, 10, 8, 15, 20)), runAt(kEvening)});
-    EXPECT_EQ(errorOf([&] { return bench.show({day}), 0; }), 457);
-    EXPECT_EQ(linesOf(bench.page.tvwCalTimes),
+    EXPECT_EQ(errorOf([&] { return rig.show({day}), 0; }), 457);
+    EXPECT_EQ(linesOf(rig.page.tvwCalTimes),
               (Lines{"3/10/2024 [] other colour", "  3/10/2024 08:15 [OnlinePass] white"}));
-    EXPECT_EQ(bench.page.tvwCalTimes.SelectedItem(), nullptr);
+    EXPECT_EQ(rig.page.tvwCalTimes.SelectedItem(), nullptr);
 }
 
 TEST(ResultTree, TwoDaysOfOneDateFailAtTheSecond)
 {
-    ResultBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.show({dayWith(kDay, {}), dayWith(kDay, {})}), 0; }), 457);
+    ResultRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.show({dayWith(kDay, {}), dayWith(kDay, {})}), 0; }), 457);
 }
 
 TEST(ResultTree, DatesAreWrittenAsTheRegionDoes)
 {
-    ResultBench bench("de-DE");
-    bench.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
-    EXPECT_EQ(linesOf(bench.page.tvwCalTimes),
+    ResultRig rig("de-DE");
+    rig.show({dayWith(kDay, {runAt(kMorning), runAt(kEvening)})});
+    EXPECT_EQ(linesOf(rig.page.tvwCalTimes),
               (Lines{"10.03.2024 [OnlinePass] white", "  10.03.2024 08:15 [OnlinePass] white",
                      "  10.03.2024 20:15 [OnlinePass] white"}));
 }
 
 TEST(ResultTree, AChildHoldsItsRunAndADayHoldsNone)
 {
-    ResultBench bench;
+    ResultRig rig;
     const CalRun morning = runAt(kMorning);
-    auto& page = bench.show({dayWith(kDay, {morning, runAt(kEvening)})});
+    auto& page = rig.show({dayWith(kDay, {morning, runAt(kEvening)})});
     EXPECT_EQ(runOf(*page.tvwCalTimes.Find("3/10/2024 08:15")), morning);
     EXPECT_EQ(runOf(*page.tvwCalTimes.Find("3/10/2024")), nullptr);
 }

@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -60,13 +60,13 @@ class SetUpAnalyzerOfCode : public ::testing::TestWithParam<CodeCase>
 TEST_P(SetUpAnalyzerOfCode, GetsItsSpecification)
 {
     for (const std::int32_t program : {75, 60}) {
-        SetUpBench bench(siteOf(withCode(GetParam().code, program)));
-        bench.setup();
-        EXPECT_EQ(selectedSpecification(bench.page), GetParam().option);
-        EXPECT_EQ(bench.page.SixOfSevenCals(), GetParam().sixOfSeven);
-        EXPECT_EQ(bench.page.chkUseAPS.isChecked(), GetParam().isPpm && program == 75);
-        EXPECT_EQ(bench.page.Is40CFR75(), program == 75);
-        EXPECT_EQ(bench.page.fraTestInfo.Visible(), program == 75);
+        SetUpRig rig(siteOf(withCode(GetParam().code, program)));
+        rig.setup();
+        EXPECT_EQ(selectedSpecification(rig.page), GetParam().option);
+        EXPECT_EQ(rig.page.SixOfSevenCals(), GetParam().sixOfSeven);
+        EXPECT_EQ(rig.page.chkUseAPS.isChecked(), GetParam().isPpm && program == 75);
+        EXPECT_EQ(rig.page.Is40CFR75(), program == 75);
+        EXPECT_EQ(rig.page.fraTestInfo.Visible(), program == 75);
     }
 }
 
@@ -75,8 +75,8 @@ INSTANTIATE_TEST_SUITE_P(Codes, SetUpAnalyzerOfCode, ::testing::ValuesIn(kCodes)
 
 TEST(SetUpAnalyzer, APickTakesBackWhatTheUserChose)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.optOtherSpan.Press();
     page.chk6of7.Press();
     page.chkUseAPS.SetChecked(false);
@@ -89,8 +89,8 @@ TEST(SetUpAnalyzer, APickTakesBackWhatTheUserChose)
 
 TEST(SetUpAnalyzer, TheOptionRuleRunsWithThePick)
 {
-    SetUpBench bench(siteOf(withCode(230, 75)));
-    auto& page = bench.setup().page;
+    SetUpRig rig(siteOf(withCode(230, 75)));
+    auto& page = rig.setup().page;
     EXPECT_FALSE(page.chkUseAPS.Enabled());
     EXPECT_TRUE(page.txtOtherSpanValue.Enabled());
     EXPECT_EQ(page.txtOtherSpanValue.Text(), "3");
@@ -98,11 +98,11 @@ TEST(SetUpAnalyzer, TheOptionRuleRunsWithThePick)
 
 TEST(SetUpAnalyzer, ACheckedAPSIsClearedForAnAnalyzerThatHasNone)
 {
-    SetUpBench bench;
+    SetUpRig rig;
     AnalyzerFacts co = withCode(140, 75);
     co.name = "CO";
-    addAnalyzer(*bench.site, co);
-    auto& page = bench.setup().page;
+    addAnalyzer(*rig.site, co);
+    auto& page = rig.setup().page;
     EXPECT_TRUE(page.chkUseAPS.isChecked());
     page.cmbAnalyzer.Pick(1);
     EXPECT_FALSE(page.chkUseAPS.isChecked());
@@ -139,10 +139,10 @@ TEST(SetUpAnalyzer, TheTestNumberIsBuiltOfGasScaleAndComponent)
         facts.testNumberBase = std::string(row.base);
         facts.scale = std::string(row.scale);
         facts.component = std::string(row.component);
-        SetUpBench bench(siteOf(facts));
-        bench.setup();
-        EXPECT_EQ(bench.page.TestNumber(), row.expected) << row.what;
-        EXPECT_EQ(bench.page.ComponentID(), row.component) << row.what;
+        SetUpRig rig(siteOf(facts));
+        rig.setup();
+        EXPECT_EQ(rig.page.TestNumber(), row.expected) << row.what;
+        EXPECT_EQ(rig.page.ComponentID(), row.component) << row.what;
     }
 }
 
@@ -150,8 +150,8 @@ TEST(SetUpAnalyzer, WhatItIsIsReadFromTheCalibrationParameter)
 {
     AnalyzerFacts facts;
     facts.scale = std::string("LOW");
-    SetUpBench bench(siteOf(facts));
-    auto& page = bench.setup().page;
+    SetUpRig rig(siteOf(facts));
+    auto& page = rig.setup().page;
     EXPECT_EQ(page.AnalyzedPID(), facts.measuredPID());
     EXPECT_EQ(page.AnalyzedScale(), "LOW");
     EXPECT_EQ(page.AnalyzerInfoText(), "GT3 NOX/L");
@@ -159,30 +159,30 @@ TEST(SetUpAnalyzer, WhatItIsIsReadFromTheCalibrationParameter)
 
 TEST(SetUpAnalyzer, WhatItIsIsReadWhenAsked)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
-    bench.site->parameter(AnalyzerFacts().calibrationPID()).attributes[attribute::kScale] =
+    SetUpRig rig;
+    auto& page = rig.setup().page;
+    rig.site->parameter(AnalyzerFacts().calibrationPID()).attributes[attribute::kScale] =
         std::string("SINGLE");
     EXPECT_EQ(page.AnalyzedScale(), "SINGLE");
 }
 
 TEST(SetUpAnalyzer, OneThatIsGoneClearsTheFlagAndKeepsTheAnalyzerBefore)
 {
-    SetUpBench bench;
+    SetUpRig rig;
     AnalyzerFacts co = withCode(140, 75);
     co.name = "CO";
-    addAnalyzer(*bench.site, co);
-    auto& page = bench.setup().page;
-    std::erase_if(bench.site->parameters,
+    addAnalyzer(*rig.site, co);
+    auto& page = rig.setup().page;
+    std::erase_if(rig.site->parameters,
                   [&](const auto& p) { return p.pid == co.calibrationPID(); });
     EXPECT_EQ(
-        bench.changesBy([&] { page.cmbAnalyzer.Pick(1); }),
+        rig.changesBy([&] { page.cmbAnalyzer.Pick(1); }),
         (Lines{"chk6of7.Value: 0 -> 1", "chkUseAPS.Enabled: True -> False",
                "chkUseAPS.Value: 1 -> 0", "cmbAnalyzer.ListIndex: 0 -> 1",
                "cmbAnalyzer.Text: \"NOX/H\" -> \"CO/H\"", "fraTestInfo.Visible: True -> False",
                "opt025Span.Value: True -> False", "opt05Span.Value: False -> True"}));
     EXPECT_EQ(page.AnalyzedPID(), AnalyzerFacts().measuredPID());
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 struct PrecisionCase {
@@ -200,8 +200,8 @@ TEST(SetUpAnalyzer, ThePrecisionIsAFormatOfItsDecimals)
     for (const PrecisionCase& row : kRows) {
         AnalyzerFacts facts;
         facts.decimals = row.decimals;
-        SetUpBench bench(siteOf(facts));
-        EXPECT_EQ(bench.setup().page.AnalyzedPrecision(), row.format) << row.decimals;
+        SetUpRig rig(siteOf(facts));
+        EXPECT_EQ(rig.setup().page.AnalyzedPrecision(), row.format) << row.decimals;
     }
 }
 
@@ -210,17 +210,17 @@ TEST(SetUpAnalyzer, APrecisionOfLessThanNoCharacterIsAnError)
     for (const std::int32_t decimals : {-3, std::numeric_limits<std::int32_t>::min()}) {
         AnalyzerFacts facts;
         facts.decimals = decimals;
-        SetUpBench bench(siteOf(facts));
-        EXPECT_EQ(errorOf([&] { return bench.setup().page.AnalyzedPrecision(); }), 5) << decimals;
+        SetUpRig rig(siteOf(facts));
+        EXPECT_EQ(errorOf([&] { return rig.setup().page.AnalyzedPrecision(); }), 5) << decimals;
     }
 }
 
 TEST(SetUpAnalyzer, ANullWhereAValueIsNeededIsAnErrorOfItsReader)
 {
     AnalyzerFacts facts;
-    SetUpBench bench(siteOf(facts));
-    auto& page = bench.setup().page;
-    auto& attributes = bench.site->parameter(facts.calibrationPID()).attributes;
+    SetUpRig rig(siteOf(facts));
+    auto& page = rig.setup().page;
+    auto& attributes = rig.site->parameter(facts.calibrationPID()).attributes;
     attributes[attribute::kMeasuredPID] = Null{};
     attributes[attribute::kScale] = Null{};
     attributes[attribute::kDecimals] = Null{};

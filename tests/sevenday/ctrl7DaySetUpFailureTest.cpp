@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -35,8 +35,8 @@ std::shared_ptr<SiteData> richSite()
 /// An action on the page, and what goes before it.
 struct Action {
     const char* what;
-    std::function<void(SetUpBench&)> prepare;
-    std::function<void(SetUpBench&)> act;
+    std::function<void(SetUpRig&)> prepare;
+    std::function<void(SetUpRig&)> act;
 };
 
 void PrintTo(const Action& action, std::ostream* out)
@@ -45,11 +45,11 @@ void PrintTo(const Action& action, std::ostream* out)
 }
 
 const Action kActions[] = {
-    {"Setup", [](SetUpBench&) {}, [](SetUpBench& bench) { bench.setup(); }},
-    {"UnitPick", [](SetUpBench& bench) { bench.setup(); },
-     [](SetUpBench& bench) { bench.page.cmbUnit.Pick(0); }},
-    {"AnalyzerPick", [](SetUpBench& bench) { bench.setup(); },
-     [](SetUpBench& bench) { bench.page.cmbAnalyzer.Pick(1); }},
+    {"Setup", [](SetUpRig&) {}, [](SetUpRig& rig) { rig.setup(); }},
+    {"UnitPick", [](SetUpRig& rig) { rig.setup(); },
+     [](SetUpRig& rig) { rig.page.cmbUnit.Pick(0); }},
+    {"AnalyzerPick", [](SetUpRig& rig) { rig.setup(); },
+     [](SetUpRig& rig) { rig.page.cmbAnalyzer.Pick(1); }},
 };
 
 /// Which rule a call to the data is made in.
@@ -65,33 +65,33 @@ struct Course {
 
 Course courseOf(const Action& action)
 {
-    SetUpBench bench(richSite());
-    action.prepare(bench);
+    SetUpRig rig(richSite());
+    action.prepare(rig);
     Course course;
     Rule rule = Rule::None;
-    bench.page.cmbUnit.Changed.Connect([&] {
-        if (bench.page.cmbUnit.ListIndex() == 0)
+    rig.page.cmbUnit.Changed.Connect([&] {
+        if (rig.page.cmbUnit.ListIndex() == 0)
             rule = Rule::Unit;
     });
-    bench.page.cmbAnalyzer.Changed.Connect([&] {
-        if (bench.page.cmbAnalyzer.ListIndex() >= 0)
+    rig.page.cmbAnalyzer.Changed.Connect([&] {
+        if (rig.page.cmbAnalyzer.ListIndex() >= 0)
             rule = Rule::Analyzer;
     });
-    bench.site->failure = [&](const std::string& call, std::size_t) -> std::optional<Error> {
+    rig.site->failure = [&](const std::string& call, std::size_t) -> std::optional<Error> {
         course.calls.push_back(call);
         course.rules.push_back(rule);
-        course.pages.push_back(snapshotOf(bench.page));
+        course.pages.push_back(snapshotOf(rig.page));
         return std::nullopt;
     };
-    action.act(bench);
+    action.act(rig);
     return course;
 }
 
 /// Makes the call of that number, counted from the action's first one, fail.
-void failAt(SetUpBench& bench, std::size_t number)
+void failAt(SetUpRig& rig, std::size_t number)
 {
-    const std::size_t index = bench.site->calls.size() + number;
-    bench.site->failure = [index](const std::string&, std::size_t at) {
+    const std::size_t index = rig.site->calls.size() + number;
+    rig.site->failure = [index](const std::string&, std::size_t at) {
         return at == index ? std::optional(Error(440, "the line is down")) : std::nullopt;
     };
 }
@@ -114,31 +114,31 @@ TEST_P(SetUpFailure, AtAnyCallPostsTheLineOfTheRuleAndLeavesThePageAsItStood)
     const Course course = courseOf(GetParam());
     ASSERT_GT(course.calls.size(), 5U);
     for (std::size_t i = 0; i < course.calls.size(); ++i) {
-        SetUpBench bench(richSite());
-        GetParam().prepare(bench);
-        failAt(bench, i);
-        const int reachedHost = errorOf([&] { return GetParam().act(bench), 0; });
+        SetUpRig rig(richSite());
+        GetParam().prepare(rig);
+        failAt(rig, i);
+        const int reachedHost = errorOf([&] { return GetParam().act(rig), 0; });
         const std::string where = course.calls[i] + ", call " + std::to_string(i);
         EXPECT_EQ(reachedHost, course.rules[i] == Rule::None ? 440 : 0) << where;
-        EXPECT_EQ(bench.messages->lines(), linesOf(course.rules[i])) << where;
-        EXPECT_EQ(changesBetween(course.pages[i], snapshotOf(bench.page)), Lines()) << where;
+        EXPECT_EQ(rig.messages->lines(), linesOf(course.rules[i])) << where;
+        EXPECT_EQ(changesBetween(course.pages[i], snapshotOf(rig.page)), Lines()) << where;
     }
 }
 
 TEST_P(SetUpFailure, AtAnyCallCanBeMadeUpForByPickingAgain)
 {
-    SetUpBench undisturbed(richSite());
+    SetUpRig undisturbed(richSite());
     GetParam().prepare(undisturbed);
     GetParam().act(undisturbed);
     const std::size_t calls = courseOf(GetParam()).calls.size();
     for (std::size_t i = 0; i < calls; ++i) {
-        SetUpBench bench(richSite());
-        GetParam().prepare(bench);
-        failAt(bench, i);
-        static_cast<void>(errorOf([&] { return GetParam().act(bench), 0; }));
-        bench.setup();
-        GetParam().act(bench);
-        EXPECT_EQ(changesBetween(snapshotOf(undisturbed.page), snapshotOf(bench.page)), Lines())
+        SetUpRig rig(richSite());
+        GetParam().prepare(rig);
+        failAt(rig, i);
+        static_cast<void>(errorOf([&] { return GetParam().act(rig), 0; }));
+        rig.setup();
+        GetParam().act(rig);
+        EXPECT_EQ(changesBetween(snapshotOf(undisturbed.page), snapshotOf(rig.page)), Lines())
             << "call " << i;
     }
 }
@@ -150,8 +150,8 @@ namespace
 {
 
 /// A page on which the first call of that name fails while it is set up.
-struct FailingSetup : SetUpBench {
-    explicit FailingSetup(const std::string& call, std::size_t passing = 0) : SetUpBench(richSite())
+struct FailingSetup : SetUpRig {
+    explicit FailingSetup(const std::string& call, std::size_t passing = 0) : SetUpRig(richSite())
     {
         site->failure = [this, call, passing](const std::string& made, std::size_t) {
             const bool fails = made == call && site->countCalls(call) == passing + 1;
@@ -165,76 +165,76 @@ struct FailingSetup : SetUpBench {
 
 TEST(SetUpFailure, AFailingCollectionLeavesAnEmptyList)
 {
-    const FailingSetup bench("DIServer.ParametersOfUnit");
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines());
-    EXPECT_EQ(bench.messages->posted,
+    const FailingSetup rig("DIServer.ParametersOfUnit");
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines());
+    EXPECT_EQ(rig.messages->posted,
               (std::vector<std::pair<std::int32_t, std::string>>{{4, "DEval-018: " + kFailure}}));
 }
 
 TEST(SetUpFailure, AFailingSecondParameterLeavesTheFirstInTheListAndNoneSelected)
 {
-    const FailingSetup bench("DIParameter.GetAttribute(-300)", 1);
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{"NOX/H"});
-    EXPECT_EQ(bench.page.cmbAnalyzer.ListIndex(), -1);
-    EXPECT_EQ(bench.page.txtORIS.Text(), "");
-    EXPECT_FALSE(bench.page.Is40CFR75());
+    const FailingSetup rig("DIParameter.GetAttribute(-300)", 1);
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
+    EXPECT_EQ(rig.page.cmbAnalyzer.ListIndex(), -1);
+    EXPECT_EQ(rig.page.txtORIS.Text(), "");
+    EXPECT_FALSE(rig.page.Is40CFR75());
 }
 
 TEST(SetUpFailure, AListLeftPartlyFilledCanBePickedFrom)
 {
-    FailingSetup bench("DIParameter.GetAttribute(-300)", 1);
-    bench.page.cmbAnalyzer.Pick(0);
-    EXPECT_EQ(bench.page.AnalyzedPID(), AnalyzerFacts().measuredPID());
+    FailingSetup rig("DIParameter.GetAttribute(-300)", 1);
+    rig.page.cmbAnalyzer.Pick(0);
+    EXPECT_EQ(rig.page.AnalyzedPID(), AnalyzerFacts().measuredPID());
 }
 
 TEST(SetUpFailure, AnAnalyzerWhosePIDFailsStandsInTheListWithoutAParameterBehindIt)
 {
     // The first two calls of the member are those of the units.
-    FailingSetup bench("DIParameter.PID", 2);
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{"NOX/H"});
-    EXPECT_EQ(bench.page.cmbAnalyzer.ItemDataList(), std::vector<std::int32_t>{1});
-    bench.page.cmbAnalyzer.Pick(0);
-    EXPECT_TRUE(bench.page.optOtherSpan.isSelected());
-    EXPECT_EQ(errorOf([&] { return bench.page.AnalyzedPID(); }), 91);
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-018: " + kFailure});
+    FailingSetup rig("DIParameter.PID", 2);
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
+    EXPECT_EQ(rig.page.cmbAnalyzer.ItemDataList(), std::vector<std::int32_t>{1});
+    rig.page.cmbAnalyzer.Pick(0);
+    EXPECT_TRUE(rig.page.optOtherSpan.isSelected());
+    EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedPID(); }), 91);
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-018: " + kFailure});
 }
 
 TEST(SetUpFailure, FailingUnitFactsLeaveTheWholeListAndNoneSelected)
 {
-    const FailingSetup bench("DIParameter.GetAttribute(-97)");
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
-    EXPECT_EQ(bench.page.cmbAnalyzer.ListIndex(), -1);
-    EXPECT_EQ(bench.page.txtORIS.Text(), "50292");
-    EXPECT_EQ(bench.page.txtStackID.Text(), "");
+    const FailingSetup rig("DIParameter.GetAttribute(-97)");
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
+    EXPECT_EQ(rig.page.cmbAnalyzer.ListIndex(), -1);
+    EXPECT_EQ(rig.page.txtORIS.Text(), "50292");
+    EXPECT_EQ(rig.page.txtStackID.Text(), "");
 }
 
 TEST(SetUpFailure, AFailingAnalyzerHasItsSpecificationAlready)
 {
-    const FailingSetup bench("DIParameters.Exists");
-    EXPECT_TRUE(bench.page.opt025Span.isSelected());
-    EXPECT_TRUE(bench.page.chkUseAPS.isChecked());
-    EXPECT_FALSE(bench.page.Is40CFR75());
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-019: " + kFailure});
+    const FailingSetup rig("DIParameters.Exists");
+    EXPECT_TRUE(rig.page.opt025Span.isSelected());
+    EXPECT_TRUE(rig.page.chkUseAPS.isChecked());
+    EXPECT_FALSE(rig.page.Is40CFR75());
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-019: " + kFailure});
 }
 
 TEST(SetUpFailure, ANullInAUnitsFactsPostsTheUnitsLine)
 {
     auto site = siteOf({});
     site->parameter(kGT3).attributes[attribute::kOrisCode] = Null{};
-    SetUpBench bench(site);
-    bench.setup();
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-018: 94, Invalid use of Null"});
+    SetUpRig rig(site);
+    rig.setup();
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-018: 94, Invalid use of Null"});
 }
 
 TEST(SetUpFailure, ANullComponentPostsTheAnalyzersLine)
 {
     AnalyzerFacts facts;
     facts.component = Null{};
-    SetUpBench bench(siteOf(facts));
-    bench.setup();
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-019: 94, Invalid use of Null"});
-    EXPECT_TRUE(bench.page.Is40CFR75());
-    EXPECT_EQ(bench.page.TestNumber(), "");
+    SetUpRig rig(siteOf(facts));
+    rig.setup();
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-019: 94, Invalid use of Null"});
+    EXPECT_TRUE(rig.page.Is40CFR75());
+    EXPECT_EQ(rig.page.TestNumber(), "");
 }
 
 TEST(SetUpFailure, ANullScaleLeavesTheTestNumberAtItsGas)
@@ -242,10 +242,10 @@ TEST(SetUpFailure, ANullScaleLeavesTheTestNumberAtItsGas)
     AnalyzerFacts facts;
     facts.scale = Null{};
     facts.testNumberBase = std::string("O2DRY");
-    SetUpBench bench(siteOf(facts));
-    bench.setup();
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-019: 94, Invalid use of Null"});
-    EXPECT_EQ(bench.page.TestNumber(), "O2");
+    SetUpRig rig(siteOf(facts));
+    rig.setup();
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-019: 94, Invalid use of Null"});
+    EXPECT_EQ(rig.page.TestNumber(), "O2");
 }
 
 TEST(SetUpFailure, AMeasuredParameterThatIsGonePostsTheUnitsLine)
@@ -253,15 +253,15 @@ TEST(SetUpFailure, AMeasuredParameterThatIsGonePostsTheUnitsLine)
     auto site = siteOf({});
     std::erase_if(site->parameters,
                   [](const auto& p) { return p.pid == AnalyzerFacts().measuredPID(); });
-    SetUpBench bench(site);
-    bench.setup();
-    EXPECT_EQ(bench.messages->lines(), Lines{"DEval-018: 5, Invalid procedure call or argument"});
+    SetUpRig rig(site);
+    rig.setup();
+    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-018: 5, Invalid procedure call or argument"});
 }
 
 TEST(SetUpFailure, AnAbsentServerFailsTheSetup)
 {
-    SetUpBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.page.Setup(bench.messages, nullptr), 0; }), 91);
+    SetUpRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.page.Setup(rig.messages, nullptr), 0; }), 91);
 }
 
 } // namespace k7deval::test

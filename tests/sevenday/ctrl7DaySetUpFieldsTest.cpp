@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -42,28 +42,28 @@ constexpr TextCase kOrisCodes[] = {
 TEST(SetUpFields, TheOrisCodeBecomesAPlainNumberOrNothing)
 {
     for (const TextCase& row : kOrisCodes) {
-        SetUpBench bench;
-        bench.setup();
-        SetUpBench::enter(bench.page.txtORIS, row.typed);
-        EXPECT_EQ(bench.page.txtORIS.Text(), row.shown) << row.what;
+        SetUpRig rig;
+        rig.setup();
+        SetUpRig::enter(rig.page.txtORIS, row.typed);
+        EXPECT_EQ(rig.page.txtORIS.Text(), row.shown) << row.what;
     }
 }
 
 TEST(SetUpFields, AnOrisCodeByCodeIsRefusedAboveSixDigitsWhenTheFieldIsLeft)
 {
-    SetUpBench bench;
-    bench.setup();
-    bench.page.SetOrisCode(1000000);
-    EXPECT_EQ(bench.page.txtORIS.Text(), "1000000");
-    bench.page.txtORIS.Leave();
-    EXPECT_EQ(bench.page.txtORIS.Text(), "");
+    SetUpRig rig;
+    rig.setup();
+    rig.page.SetOrisCode(1000000);
+    EXPECT_EQ(rig.page.txtORIS.Text(), "1000000");
+    rig.page.txtORIS.Leave();
+    EXPECT_EQ(rig.page.txtORIS.Text(), "");
 }
 
 TEST(SetUpFields, TheOrisCodeIsNotTouchedBeforeTheFieldIsLeft)
 {
-    SetUpBench bench;
-    bench.setup().page.txtORIS.Type("00x");
-    EXPECT_EQ(bench.page.txtORIS.Text(), "00x");
+    SetUpRig rig;
+    rig.setup().page.txtORIS.Type("00x");
+    EXPECT_EQ(rig.page.txtORIS.Text(), "00x");
 }
 
 struct LimitTextCase {
@@ -96,11 +96,11 @@ class SetUpLimitField : public ::testing::TestWithParam<LimitTextCase>
 
 TEST_P(SetUpLimitField, TakesANumberForTheSpanLimitOrReturnsToTheLastOne)
 {
-    SetUpBench bench;
-    auto& page = bench.page;
+    SetUpRig rig;
+    auto& page = rig.page;
     page.optOtherSpan.Press();
-    SetUpBench::enter(page.txtOtherSpanValue, "8");
-    SetUpBench::enter(page.txtOtherSpanValue, GetParam().typed);
+    SetUpRig::enter(page.txtOtherSpanValue, "8");
+    SetUpRig::enter(page.txtOtherSpanValue, GetParam().typed);
     EXPECT_EQ(page.txtOtherSpanValue.Text(), GetParam().shown) << GetParam().what;
     EXPECT_EQ(page.PercentOfSpanLimit(), GetParam().limit) << GetParam().what;
     EXPECT_EQ(page.AbsoluteLimit(), 5) << "the other limit stays";
@@ -108,11 +108,11 @@ TEST_P(SetUpLimitField, TakesANumberForTheSpanLimitOrReturnsToTheLastOne)
 
 TEST_P(SetUpLimitField, TakesANumberForTheAbsoluteLimitOrReturnsToTheLastOne)
 {
-    SetUpBench bench;
-    auto& page = bench.page;
+    SetUpRig rig;
+    auto& page = rig.page;
     page.optOtherAbsolute.Press();
-    SetUpBench::enter(page.txtOtherAbsoluteValue, "8");
-    SetUpBench::enter(page.txtOtherAbsoluteValue, GetParam().typed);
+    SetUpRig::enter(page.txtOtherAbsoluteValue, "8");
+    SetUpRig::enter(page.txtOtherAbsoluteValue, GetParam().typed);
     EXPECT_EQ(page.txtOtherAbsoluteValue.Text(), GetParam().shown) << GetParam().what;
     EXPECT_EQ(page.AbsoluteLimit(), GetParam().limit) << GetParam().what;
     EXPECT_EQ(page.PercentOfSpanLimit(), 3) << "the other limit stays";
@@ -122,20 +122,20 @@ INSTANTIATE_TEST_SUITE_P(Texts, SetUpLimitField, ::testing::ValuesIn(kLimitTexts
 
 TEST(SetUpFields, ALimitThatIsTypedButNotLeftDoesNotCountYet)
 {
-    SetUpBench bench;
-    bench.page.optOtherSpan.Press();
-    bench.page.txtOtherSpanValue.Type("4");
-    EXPECT_EQ(bench.page.PercentOfSpanLimit(), 3);
+    SetUpRig rig;
+    rig.page.optOtherSpan.Press();
+    rig.page.txtOtherSpanValue.Type("4");
+    EXPECT_EQ(rig.page.PercentOfSpanLimit(), 3);
 }
 
 TEST(SetUpFields, LimitsAreReadAndShownWithTheRegionsMark)
 {
-    SetUpBench bench(siteOf({}), "de-DE");
-    auto& page = bench.page;
+    SetUpRig rig(siteOf({}), "de-DE");
+    auto& page = rig.page;
     page.optOtherSpan.Press();
-    SetUpBench::enter(page.txtOtherSpanValue, "2,5");
+    SetUpRig::enter(page.txtOtherSpanValue, "2,5");
     EXPECT_EQ(page.PercentOfSpanLimit(), 2.5F);
-    SetUpBench::enter(page.txtOtherSpanValue, "x");
+    SetUpRig::enter(page.txtOtherSpanValue, "x");
     EXPECT_EQ(page.txtOtherSpanValue.Text(), "2,5");
 }
 
@@ -172,10 +172,10 @@ const DateCase kDates[] = {
 TEST(SetUpFields, ADateIsTakenWithoutItsTimeAndRewrittenOrComesBack)
 {
     for (const DateCase& row : kDates) {
-        SetUpBench bench;
-        auto& page = bench.page;
-        SetUpBench::enter(page.txtToDate, "12/31/2099");
-        SetUpBench::enter(page.txtFromDate, row.typed);
+        SetUpRig rig;
+        auto& page = rig.page;
+        SetUpRig::enter(page.txtToDate, "12/31/2099");
+        SetUpRig::enter(page.txtFromDate, row.typed);
         EXPECT_EQ(page.txtFromDate.Text(), row.shown) << row.what;
         EXPECT_EQ(dateParts(page.StartDate()), row.date) << row.what;
         EXPECT_EQ(page.StartDate(), dateOnly(page.StartDate())) << row.what;
@@ -184,70 +184,70 @@ TEST(SetUpFields, ADateIsTakenWithoutItsTimeAndRewrittenOrComesBack)
 
 TEST(SetUpFields, TheToDateGoesByTheSameRules)
 {
-    SetUpBench bench;
-    auto& page = bench.page;
-    SetUpBench::enter(page.txtToDate, "3/12/2024 08:15");
+    SetUpRig rig;
+    auto& page = rig.page;
+    SetUpRig::enter(page.txtToDate, "3/12/2024 08:15");
     EXPECT_EQ(page.txtToDate.Text(), "3/12/2024");
     EXPECT_EQ(page.EndDate(), makeDate(2024, 3, 12));
-    SetUpBench::enter(page.txtToDate, "soon");
+    SetUpRig::enter(page.txtToDate, "soon");
     EXPECT_EQ(page.txtToDate.Text(), "3/12/2024");
     EXPECT_EQ(page.StartDate(), makeDate(2024, 2, 10)) << "the from date stays";
 }
 
 TEST(SetUpFields, AFromDateAfterTheToDateGivesTheSameInterval)
 {
-    SetUpBench bench;
-    auto& page = bench.page;
-    SetUpBench::enter(page.txtFromDate, "3/10/2024");
-    SetUpBench::enter(page.txtToDate, "2/10/2024");
+    SetUpRig rig;
+    auto& page = rig.page;
+    SetUpRig::enter(page.txtFromDate, "3/10/2024");
+    SetUpRig::enter(page.txtToDate, "2/10/2024");
     EXPECT_EQ(page.StartDate(), makeDate(2024, 2, 10));
     EXPECT_EQ(page.EndDate(), makeDate(2024, 3, 10));
 }
 
 TEST(SetUpFields, ADateOfAnotherRegionIsReadInItsOrder)
 {
-    SetUpBench bench(siteOf({}), "de-DE");
-    SetUpBench::enter(bench.page.txtFromDate, "1.3.2024");
-    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 3, 1));
-    EXPECT_EQ(bench.page.txtFromDate.Text(), "01.03.2024");
+    SetUpRig rig(siteOf({}), "de-DE");
+    SetUpRig::enter(rig.page.txtFromDate, "1.3.2024");
+    EXPECT_EQ(rig.page.StartDate(), makeDate(2024, 3, 1));
+    EXPECT_EQ(rig.page.txtFromDate.Text(), "01.03.2024");
 }
 
 TEST(SetUpCalendar, IsShownAtTheDateAndItsAnswerTaken)
 {
-    SetUpBench bench;
-    bench.services.dateAnswer = makeDate(2024, 1, 5);
-    EXPECT_EQ(bench.changesBy([&] { bench.page.cmdFromDate.Press(); }),
+    SetUpRig rig;
+    rig.services.dateAnswer = makeDate(2024, 1, 5);
+    EXPECT_EQ(rig.changesBy([&] { rig.page.cmdFromDate.Press(); }),
               Lines{"txtFromDate.Text: \"2/10/2024\" -> \"1/5/2024\""});
-    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 1, 5));
-    bench.services.dateAnswer = makeDate(2024, 4, 6);
-    EXPECT_EQ(bench.changesBy([&] { bench.page.cmdToDate.Press(); }),
+    EXPECT_EQ(rig.page.StartDate(), makeDate(2024, 1, 5));
+    rig.services.dateAnswer = makeDate(2024, 4, 6);
+    EXPECT_EQ(rig.changesBy([&] { rig.page.cmdToDate.Press(); }),
               Lines{"txtToDate.Text: \"3/10/2024\" -> \"4/6/2024\""});
-    EXPECT_EQ(bench.page.EndDate(), makeDate(2024, 4, 6));
-    EXPECT_EQ(bench.services.dateRequests,
+    EXPECT_EQ(rig.page.EndDate(), makeDate(2024, 4, 6));
+    EXPECT_EQ(rig.services.dateRequests,
               (std::vector<std::pair<std::string, Date>>{{"7-Day Drift", makeDate(2024, 2, 10)},
                                                          {"7-Day Drift", makeDate(2024, 3, 10)}}));
 }
 
 TEST(SetUpCalendar, WithoutAnAnswerTheDateStays)
 {
-    SetUpBench bench;
-    EXPECT_EQ(bench.changesBy([&] {
-        bench.page.cmdFromDate.Press();
-        bench.page.cmdToDate.Press();
+    SetUpRig rig;
+    EXPECT_EQ(rig.changesBy([&] {
+        rig.page.cmdFromDate.Press();
+        rig.page.cmdToDate.Press();
     }),
               Lines());
-    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 2, 10));
-    EXPECT_EQ(bench.page.EndDate(), makeDate(2024, 3, 10));
+    EXPECT_EQ(rig.page.StartDate(), makeDate(2024, 2, 10));
+    EXPECT_EQ(rig.page.EndDate(), makeDate(2024, 3, 10));
 }
 
 TEST(SetUpCalendar, AFailingCalendarReachesTheHost)
 {
-    SetUpBench bench;
-    bench.setup();
-    bench.services.dateError = Error(errors::kAutomation);
-    EXPECT_EQ(errorOf([&] { return bench.page.cmdFromDate.Press(), 0; }), 440);
-    EXPECT_EQ(bench.messages->lines(), Lines());
-    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 2, 10));
+    SetUpRig rig;
+    rig.setup();
+    rig.services.dateError = Error(errors::kAutomation);
+    EXPECT_EQ(errorOf([&] { return rig.page.cmdFromDate.Press(), 0; }), 440);
+    EXPECT_EQ(rig.messages->lines(), Lines());
+    EXPECT_EQ(rig.page.StartDate(), makeDate(2024, 2, 10));
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -36,8 +36,8 @@ Limits limitsOf(const ctrl7DaySetUp& page)
 }
 
 /// A page whose other span limit is 7 and whose other absolute limit is 9.
-struct LimitsBench : SetUpBench {
-    LimitsBench()
+struct LimitsRig : SetUpRig {
+    LimitsRig()
     {
         page.optOtherSpan.Press();
         enter(page.txtOtherSpanValue, "7");
@@ -77,10 +77,10 @@ class SetUpLimits : public ::testing::TestWithParam<LimitCase>
 
 TEST_P(SetUpLimits, FollowTheOptionAndTheAPS)
 {
-    LimitsBench bench;
-    bench.page.chkUseAPS.SetChecked(GetParam().useAPS);
-    (bench.page.*GetParam().member).SetSelected(true);
-    EXPECT_EQ(limitsOf(bench.page), GetParam().expected);
+    LimitsRig rig;
+    rig.page.chkUseAPS.SetChecked(GetParam().useAPS);
+    (rig.page.*GetParam().member).SetSelected(true);
+    EXPECT_EQ(limitsOf(rig.page), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Options, SetUpLimits, ::testing::ValuesIn(kLimits),
@@ -91,13 +91,13 @@ INSTANTIATE_TEST_SUITE_P(Options, SetUpLimits, ::testing::ValuesIn(kLimits),
 
 TEST(SetUpLimits, StartAtThreePercentAndFive)
 {
-    SetUpBench bench;
-    bench.page.optOtherSpan.Press();
-    EXPECT_EQ(limitsOf(bench.page), (Limits{1, 5, 3, -999, true}));
-    EXPECT_EQ(bench.page.txtOtherSpanValue.Text(), "3");
-    bench.page.optOtherAbsolute.Press();
-    EXPECT_EQ(limitsOf(bench.page), (Limits{0, 5, 3, -999, true}));
-    EXPECT_EQ(bench.page.txtOtherAbsoluteValue.Text(), "5");
+    SetUpRig rig;
+    rig.page.optOtherSpan.Press();
+    EXPECT_EQ(limitsOf(rig.page), (Limits{1, 5, 3, -999, true}));
+    EXPECT_EQ(rig.page.txtOtherSpanValue.Text(), "3");
+    rig.page.optOtherAbsolute.Press();
+    EXPECT_EQ(limitsOf(rig.page), (Limits{0, 5, 3, -999, true}));
+    EXPECT_EQ(rig.page.txtOtherAbsoluteValue.Text(), "5");
 }
 
 struct OptionCase {
@@ -130,15 +130,15 @@ protected:
 TEST_P(SetUpOption, LeavesItsFieldsEnabledAndTheAPSAsItWas)
 {
     for (const bool useAPS : {true, false}) {
-        LimitsBench bench;
+        LimitsRig rig;
         // From an option with everything the other way round.
-        (GetParam().apsEnabled ? bench.page.optOtherSpan : bench.page.opt025Span).Press();
-        bench.page.chkUseAPS.SetChecked(useAPS);
-        (bench.page.*GetParam().member).Press();
-        EXPECT_EQ(bench.page.chkUseAPS.Enabled(), GetParam().apsEnabled);
-        EXPECT_EQ(bench.page.chkUseAPS.isChecked(), useAPS);
-        expectField(bench.page.txtOtherSpanValue, GetParam().otherSpan);
-        expectField(bench.page.txtOtherAbsoluteValue, GetParam().otherAbsolute);
+        (GetParam().apsEnabled ? rig.page.optOtherSpan : rig.page.opt025Span).Press();
+        rig.page.chkUseAPS.SetChecked(useAPS);
+        (rig.page.*GetParam().member).Press();
+        EXPECT_EQ(rig.page.chkUseAPS.Enabled(), GetParam().apsEnabled);
+        EXPECT_EQ(rig.page.chkUseAPS.isChecked(), useAPS);
+        expectField(rig.page.txtOtherSpanValue, GetParam().otherSpan);
+        expectField(rig.page.txtOtherAbsoluteValue, GetParam().otherAbsolute);
     }
 }
 
@@ -147,36 +147,36 @@ INSTANTIATE_TEST_SUITE_P(Options, SetUpOption, ::testing::ValuesIn(kOptions),
 
 TEST(SetUpOption, APSStaysCheckedAndDisabledUnderFivePercentOfSpan)
 {
-    SetUpBench bench;
-    bench.setup().page.opt05Span.Press();
-    EXPECT_TRUE(bench.page.chkUseAPS.isChecked());
-    EXPECT_FALSE(bench.page.chkUseAPS.Enabled());
-    EXPECT_EQ(bench.page.AbsoluteLimit(), 5);
-    EXPECT_EQ(bench.page.LimitRules(), 1);
+    SetUpRig rig;
+    rig.setup().page.opt05Span.Press();
+    EXPECT_TRUE(rig.page.chkUseAPS.isChecked());
+    EXPECT_FALSE(rig.page.chkUseAPS.Enabled());
+    EXPECT_EQ(rig.page.AbsoluteLimit(), 5);
+    EXPECT_EQ(rig.page.LimitRules(), 1);
 }
 
 TEST(SetUpOption, PressingTheSelectedOptionAgainLeavesTheTypedLimitAlone)
 {
-    SetUpBench bench;
-    bench.page.optOtherSpan.Press();
-    bench.page.txtOtherSpanValue.Type("4");
-    bench.page.optOtherSpan.Press();
-    EXPECT_EQ(bench.page.txtOtherSpanValue.Text(), "4");
+    SetUpRig rig;
+    rig.page.optOtherSpan.Press();
+    rig.page.txtOtherSpanValue.Type("4");
+    rig.page.optOtherSpan.Press();
+    EXPECT_EQ(rig.page.txtOtherSpanValue.Text(), "4");
 }
 
 TEST(SetUpOption, ALimitComesBackWithItsOption)
 {
-    LimitsBench bench;
-    bench.page.opt05Span.Press();
-    bench.page.optOtherSpan.Press();
-    EXPECT_EQ(bench.page.txtOtherSpanValue.Text(), "7");
-    EXPECT_EQ(bench.page.PercentOfSpanLimit(), 7);
+    LimitsRig rig;
+    rig.page.opt05Span.Press();
+    rig.page.optOtherSpan.Press();
+    EXPECT_EQ(rig.page.txtOtherSpanValue.Text(), "7");
+    EXPECT_EQ(rig.page.PercentOfSpanLimit(), 7);
 }
 
 TEST(SetUpOption, TheSixSpecificationsAreOneGroupAndTheThreeDisplaysAnother)
 {
-    LimitsBench bench;
-    auto& page = bench.page;
+    LimitsRig rig;
+    auto& page = rig.page;
     page.optShowInterval.Press();
     EXPECT_TRUE(page.optOtherAbsolute.isSelected());
     EXPECT_TRUE(page.ShowInterval());
@@ -188,8 +188,8 @@ TEST(SetUpOption, TheSixSpecificationsAreOneGroupAndTheThreeDisplaysAnother)
 
 TEST(SetUpOption, TheCheckBoxesAreReadAsTheyStand)
 {
-    SetUpBench bench;
-    auto& page = bench.page;
+    SetUpRig rig;
+    auto& page = rig.page;
     page.chkManualCals.Press();
     page.chkShowSummary.Press();
     page.chk6of7.Press();

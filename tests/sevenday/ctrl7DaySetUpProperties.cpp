@@ -1,4 +1,4 @@
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -60,9 +60,9 @@ void chooseOn(ctrl7DaySetUp& page, Specification specification)
 }
 
 /// One action of a user, on the page and on the model. A negative number stands for junk.
-void act(SetUpBench& bench, SpecificationModel& model, int kind, int number)
+void act(SetUpRig& rig, SpecificationModel& model, int kind, int number)
 {
-    auto& page = bench.page;
+    auto& page = rig.page;
     const std::string typed = number < 0 ? "junk" : std::to_string(number);
     switch (kind) {
     case 0:
@@ -70,12 +70,12 @@ void act(SetUpBench& bench, SpecificationModel& model, int kind, int number)
         model.aps = model.aps != model.offersAPS();
         break;
     case 1:
-        SetUpBench::enter(page.txtOtherSpanValue, typed);
+        SetUpRig::enter(page.txtOtherSpanValue, typed);
         if (model.offersSpanLimit() && number >= 0)
             model.spanLimit = number;
         break;
     case 2:
-        SetUpBench::enter(page.txtOtherAbsoluteValue, typed);
+        SetUpRig::enter(page.txtOtherAbsoluteValue, typed);
         if (model.offersAbsoluteLimit() && number >= 0)
             model.absoluteLimit = number;
         break;
@@ -109,22 +109,22 @@ RC_GTEST_PROP(SetUpProperties, AnyCourseOfActionsOnTheSpecificationsIsAsTheModel
 {
     const auto actions = *rc::gen::container<std::vector<std::pair<int, int>>>(
         rc::gen::pair(rc::gen::inRange(0, 9), rc::gen::inRange(-5, 50)));
-    SetUpBench bench;
+    SetUpRig rig;
     SpecificationModel model;
     for (const auto& [kind, number] : actions) {
-        act(bench, model, kind, number);
-        expectAsModel(bench.page, model);
+        act(rig, model, kind, number);
+        expectAsModel(rig.page, model);
     }
 }
 
 RC_GTEST_PROP(SetUpProperties, WhateverIsTypedIntoADateTheIntervalStaysInOrderAndReadable,
               (const std::vector<std::string>& texts))
 {
-    SetUpBench bench;
-    auto& page = bench.page;
+    SetUpRig rig;
+    auto& page = rig.page;
     bool from = true;
     for (const std::string& text : texts) {
-        SetUpBench::enter(from ? page.txtFromDate : page.txtToDate, text);
+        SetUpRig::enter(from ? page.txtFromDate : page.txtToDate, text);
         from = !from;
         RC_ASSERT(page.StartDate() <= page.EndDate());
     }

@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -74,21 +74,21 @@ constexpr WidgetCase kWidgets[] = {
 
 TEST(SetUpStart, HasEveryWidgetWithItsKindAndText)
 {
-    const SetUpBench bench;
-    const Snapshot all = snapshotOf(bench.page);
+    const SetUpRig rig;
+    const Snapshot all = snapshotOf(rig.page);
     for (const WidgetCase& row : kWidgets) {
         const std::string name = row.name;
         ASSERT_TRUE(all.contains(name + ".Kind")) << name;
         EXPECT_EQ(all.at(name + ".Kind"), '"' + std::string(row.kind) + '"') << name;
         EXPECT_EQ(all.at(name + "." + row.property), row.text) << name;
     }
-    EXPECT_EQ(bench.page.Widgets().size(), std::size(kWidgets));
+    EXPECT_EQ(rig.page.Widgets().size(), std::size(kWidgets));
 }
 
 TEST(SetUpStart, ChecksManualCalsAndTheSummaryAndShowsAllCalsToTheTestEnd)
 {
-    const SetUpBench bench;
-    const auto& page = bench.page;
+    const SetUpRig rig;
+    const auto& page = rig.page;
     EXPECT_TRUE(page.IncludeManualCals());
     EXPECT_TRUE(page.ShowSummary());
     EXPECT_FALSE(page.SixOfSevenCals());
@@ -100,21 +100,21 @@ TEST(SetUpStart, ChecksManualCalsAndTheSummaryAndShowsAllCalsToTheTestEnd)
 
 TEST(SetUpStart, TheIntervalIsTheMonthUpToToday)
 {
-    const SetUpBench bench;
-    EXPECT_EQ(bench.page.StartDate(), makeDate(2024, 2, 10));
-    EXPECT_EQ(bench.page.EndDate(), makeDate(2024, 3, 10));
+    const SetUpRig rig;
+    EXPECT_EQ(rig.page.StartDate(), makeDate(2024, 2, 10));
+    EXPECT_EQ(rig.page.EndDate(), makeDate(2024, 3, 10));
 }
 
 TEST(SetUpStart, TheDatesAreWrittenInTheRegionsShortForm)
 {
-    EXPECT_EQ(SetUpBench(siteOf({}), "de-DE").page.txtFromDate.Text(), "10.02.2024");
-    EXPECT_EQ(SetUpBench(siteOf({}), "en-GB").page.txtToDate.Text(), "10/03/2024");
+    EXPECT_EQ(SetUpRig(siteOf({}), "de-DE").page.txtFromDate.Text(), "10.02.2024");
+    EXPECT_EQ(SetUpRig(siteOf({}), "en-GB").page.txtToDate.Text(), "10/03/2024");
 }
 
 TEST(SetUpStart, BeforeAnyAnalyzerNoSpecificationIsChosen)
 {
-    const SetUpBench bench;
-    const auto& page = bench.page;
+    const SetUpRig rig;
+    const auto& page = rig.page;
     for (const screen::OptionButton* option :
          {&page.opt025Span, &page.opt05Span, &page.opt005Absolute, &page.optOtherSpan,
           &page.optOtherAbsolute, &page.optPS9GC})
@@ -128,8 +128,8 @@ TEST(SetUpStart, BeforeAnyAnalyzerNoSpecificationIsChosen)
 
 TEST(SetUpStart, TheTestInformationIsHiddenAndTheFirstReasonSelected)
 {
-    const SetUpBench bench;
-    const auto& page = bench.page;
+    const SetUpRig rig;
+    const auto& page = rig.page;
     EXPECT_FALSE(page.Is40CFR75());
     EXPECT_FALSE(page.fraTestInfo.Visible());
     EXPECT_FALSE(page.cmbStackID.Visible());
@@ -140,41 +140,41 @@ TEST(SetUpStart, TheTestInformationIsHiddenAndTheFirstReasonSelected)
 
 TEST(SetUpStart, TheFieldsOfTheTestInformationLimitWhatIsTyped)
 {
-    const SetUpBench bench;
-    EXPECT_EQ(bench.page.txtORIS.MaxLength(), 6);
-    EXPECT_EQ(bench.page.txtStackID.MaxLength(), 6);
-    EXPECT_EQ(bench.page.txtComponentID.MaxLength(), 3);
-    EXPECT_EQ(bench.page.txtTestNumber.MaxLength(), 0);
+    const SetUpRig rig;
+    EXPECT_EQ(rig.page.txtORIS.MaxLength(), 6);
+    EXPECT_EQ(rig.page.txtStackID.MaxLength(), 6);
+    EXPECT_EQ(rig.page.txtComponentID.MaxLength(), 3);
+    EXPECT_EQ(rig.page.txtTestNumber.MaxLength(), 0);
 }
 
 TEST(SetUpStart, WhatAsksForAnAnalyzerFailsBeforeThereIsOne)
 {
-    const SetUpBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.page.AnalyzedPID(); }), 91);
-    EXPECT_EQ(errorOf([&] { return bench.page.AnalyzedScale(); }), 91);
-    EXPECT_EQ(errorOf([&] { return bench.page.AnalyzedPrecision(); }), 91);
+    const SetUpRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedPID(); }), 91);
+    EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedScale(); }), 91);
+    EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedPrecision(); }), 91);
 }
 
 TEST(SetUpStart, TheUnitPIDFailsBeforeThereIsAUnit)
 {
-    const SetUpBench bench;
-    EXPECT_EQ(errorOf([&] { return bench.page.AnalyzedUnitPID(); }), 381);
+    const SetUpRig rig;
+    EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedUnitPID(); }), 381);
 }
 
 TEST(SetUpSetup, ListsTheUnitsInTheirOrderAndPicksTheFirst)
 {
-    SetUpBench bench;
-    bench.setup();
-    EXPECT_EQ(bench.page.cmbUnit.List(), (Lines{"GT3", "GT4"}));
-    EXPECT_EQ(bench.page.cmbUnit.ItemDataList(), (std::vector<std::int32_t>{kGT3, kGT4}));
-    EXPECT_EQ(bench.page.AnalyzedUnitPID(), kGT3);
+    SetUpRig rig;
+    rig.setup();
+    EXPECT_EQ(rig.page.cmbUnit.List(), (Lines{"GT3", "GT4"}));
+    EXPECT_EQ(rig.page.cmbUnit.ItemDataList(), (std::vector<std::int32_t>{kGT3, kGT4}));
+    EXPECT_EQ(rig.page.AnalyzedUnitPID(), kGT3);
 }
 
 TEST(SetUpSetup, RunsTheRulesOfTheFirstUnitAndOfItsFirstAnalyzer)
 {
-    SetUpBench bench;
+    SetUpRig rig;
     EXPECT_EQ(
-        bench.changesBy([&] { bench.setup(); }),
+        rig.changesBy([&] { rig.setup(); }),
         (Lines{"chkUseAPS.Value: 0 -> 1", "cmbAnalyzer.ItemData: [] -> [1]",
                "cmbAnalyzer.List: [] -> [\"NOX/H\"]", "cmbAnalyzer.ListIndex: -1 -> 0",
                "cmbAnalyzer.Text: \"\" -> \"NOX/H\"",
@@ -185,40 +185,40 @@ TEST(SetUpSetup, RunsTheRulesOfTheFirstUnitAndOfItsFirstAnalyzer)
                "txtORIS.Text: \"\" -> \"50292\"", "txtOtherAbsoluteValue.Enabled: True -> False",
                "txtOtherSpanValue.Enabled: True -> False", "txtStackID.Text: \"\" -> \"GT3\"",
                "txtTestNumber.Text: \"\" -> \"NOXH_101_7DAY\""}));
-    EXPECT_TRUE(bench.messages->posted.empty());
+    EXPECT_TRUE(rig.messages->posted.empty());
 }
 
 TEST(SetUpSetup, ASecondSetupStartsTheListOfUnitsAnew)
 {
-    SetUpBench bench;
-    bench.setup().setup();
-    EXPECT_EQ(bench.page.cmbUnit.ListCount(), 2);
+    SetUpRig rig;
+    rig.setup().setup();
+    EXPECT_EQ(rig.page.cmbUnit.ListCount(), 2);
 }
 
 TEST(SetUpSetup, ASiteWithoutUnitsFailsAtTheFirstPick)
 {
-    SetUpBench bench(std::make_shared<SiteData>());
-    EXPECT_EQ(errorOf([&] { return bench.setup(), 0; }), 381);
-    EXPECT_TRUE(bench.messages->posted.empty());
+    SetUpRig rig(std::make_shared<SiteData>());
+    EXPECT_EQ(errorOf([&] { return rig.setup(), 0; }), 381);
+    EXPECT_TRUE(rig.messages->posted.empty());
 }
 
 TEST(SetUpSetup, WorksWithoutAMessageSink)
 {
-    SetUpBench bench;
-    bench.site->failure = [](const std::string& call, std::size_t) {
+    SetUpRig rig;
+    rig.site->failure = [](const std::string& call, std::size_t) {
         return call == "DIServer.ParametersOfUnit" ? std::optional(Error(440)) : std::nullopt;
     };
-    EXPECT_NO_THROW(bench.page.Setup(nullptr, serve(bench.site)));
-    EXPECT_EQ(bench.page.cmbUnit.Text(), "GT3");
+    EXPECT_NO_THROW(rig.page.Setup(nullptr, serve(rig.site)));
+    EXPECT_EQ(rig.page.cmbUnit.Text(), "GT3");
 }
 
 TEST(SetUpTerminate, DropsTheSinkAndTheData)
 {
-    SetUpBench bench;
-    std::weak_ptr<MessageSink> sink = bench.messages;
-    const auto server = serve(bench.site);
-    bench.page.Setup(std::exchange(bench.messages, nullptr), server);
-    bench.page.Terminate();
+    SetUpRig rig;
+    std::weak_ptr<MessageSink> sink = rig.messages;
+    const auto server = serve(rig.site);
+    rig.page.Setup(std::exchange(rig.messages, nullptr), server);
+    rig.page.Terminate();
     EXPECT_TRUE(sink.expired());
     EXPECT_EQ(server.use_count(), 1);
 }

@@ -1,5 +1,5 @@
 #include "foundation/ExpectError.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -26,8 +26,8 @@ TEST(SetUpTestInfo, AStackIDWithASemicolonBecomesAList)
         {"an empty one in between", "CS1;;CS3", {"CS1", "", "CS3"}},
     };
     for (const StackCase& row : rows) {
-        SetUpBench bench;
-        auto& page = bench.setup().page;
+        SetUpRig rig;
+        auto& page = rig.setup().page;
         page.SetStackID(row.value);
         EXPECT_EQ(page.cmbStackID.List(), row.listed) << row.what;
         EXPECT_EQ(page.cmbStackID.Visible(), !row.listed.empty()) << row.what;
@@ -39,8 +39,8 @@ TEST(SetUpTestInfo, AStackIDWithASemicolonBecomesAList)
 
 TEST(SetUpTestInfo, TheStackIDIsTheSelectedOrTypedStackOfTheList)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.SetStackID("CS1;CS2");
     page.cmbStackID.Pick(1);
     EXPECT_EQ(page.StackID(), "CS2");
@@ -50,8 +50,8 @@ TEST(SetUpTestInfo, TheStackIDIsTheSelectedOrTypedStackOfTheList)
 
 TEST(SetUpTestInfo, ASingleStackBringsTheTextFieldBack)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.SetStackID("CS1;CS2");
     page.SetStackID("CS3");
     EXPECT_EQ(page.StackID(), "CS3");
@@ -61,8 +61,8 @@ TEST(SetUpTestInfo, ASingleStackBringsTheTextFieldBack)
 
 TEST(SetUpTestInfo, ANewListTakesThePlaceOfTheOld)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.SetStackID("CS1;CS2");
     page.cmbStackID.Pick(1);
     page.SetStackID("MS1;MS2;MS3");
@@ -72,8 +72,8 @@ TEST(SetUpTestInfo, ANewListTakesThePlaceOfTheOld)
 
 TEST(SetUpTestInfo, TheTypedStackIsTheStackID)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.txtStackID.Type("CS12345");
     EXPECT_EQ(page.StackID(), "CS1234");
 }
@@ -90,8 +90,8 @@ TEST(SetUpTestInfo, RecertificationAndDiagnosticGoOutCrossed)
         {"Recertification", "DIAG"},
         {"Diagnostic", "RECERT"},
     };
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     for (int i = 0; i < 3; ++i) {
         page.cmbTestReason.Pick(i);
         EXPECT_EQ(page.cmbTestReason.Text(), kReasons[i].text);
@@ -101,8 +101,8 @@ TEST(SetUpTestInfo, RecertificationAndDiagnosticGoOutCrossed)
 
 TEST(SetUpTestInfo, AnyOtherReasonIsAnInitialCertification)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.cmbTestReason.AddItem("Quality Assurance", 4);
     page.cmbTestReason.Pick(3);
     EXPECT_EQ(page.TestReason(), "INITIAL");
@@ -110,16 +110,16 @@ TEST(SetUpTestInfo, AnyOtherReasonIsAnInitialCertification)
 
 TEST(SetUpTestInfo, ATypedReasonIsNoEntryAndAnError)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.cmbTestReason.Type("Diagnostic");
     EXPECT_EQ(errorOf([&] { return page.TestReason(); }), 381);
 }
 
 TEST(SetUpTestInfo, ComponentAndTestNumberAreTheirFields)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.txtComponentID.Type("2024");
     EXPECT_EQ(page.ComponentID(), "202");
     page.SetComponentID("2024");
@@ -132,8 +132,8 @@ TEST(SetUpTestInfo, ComponentAndTestNumberAreTheirFields)
 
 TEST(SetUpTestInfo, TheOrisCodeIsTheNumberOfItsField)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.SetOrisCode(54);
     EXPECT_EQ(page.txtORIS.Text(), "54");
     EXPECT_EQ(page.OrisCode(), 54);
@@ -143,8 +143,8 @@ TEST(SetUpTestInfo, TheOrisCodeIsTheNumberOfItsField)
 
 TEST(SetUpTestInfo, AnOrisCodeThatIsNoNumberIsAnError)
 {
-    SetUpBench bench;
-    auto& page = bench.setup().page;
+    SetUpRig rig;
+    auto& page = rig.setup().page;
     page.txtORIS.SetText("");
     EXPECT_EQ(errorOf([&] { return page.OrisCode(); }), 13);
     page.txtORIS.SetText("GT3");
@@ -155,9 +155,9 @@ TEST(SetUpTestInfo, AnOrisCodeThatIsNoNumberIsAnError)
 
 TEST(SetUpTestInfo, TheFlagShowsAndHidesTheFrame)
 {
-    SetUpBench bench;
-    auto& page = bench.page;
-    EXPECT_EQ(bench.changesBy([&] { page.SetIs40CFR75(true); }),
+    SetUpRig rig;
+    auto& page = rig.page;
+    EXPECT_EQ(rig.changesBy([&] { page.SetIs40CFR75(true); }),
               Lines{"fraTestInfo.Visible: False -> True"});
     EXPECT_TRUE(page.Is40CFR75());
     page.SetIs40CFR75(false);
@@ -169,10 +169,10 @@ TEST(SetUpTestInfo, HiddenFieldsTakeNoTyping)
 {
     AnalyzerFacts facts;
     facts.program = 60;
-    SetUpBench bench(siteOf(facts));
-    bench.setup();
-    SetUpBench::enter(bench.page.txtORIS, "54");
-    EXPECT_EQ(bench.page.txtORIS.Text(), "50292");
+    SetUpRig rig(siteOf(facts));
+    rig.setup();
+    SetUpRig::enter(rig.page.txtORIS, "54");
+    EXPECT_EQ(rig.page.txtORIS.Text(), "50292");
 }
 
 } // namespace k7deval::test

@@ -1,4 +1,4 @@
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 
 #include <gtest/gtest.h>
 
@@ -31,20 +31,20 @@ std::shared_ptr<SiteData> siteWith(const std::vector<AnalyzerFacts>& analyzers)
 /// The analyzers that the list shows of a site.
 Lines listOf(const std::vector<AnalyzerFacts>& analyzers)
 {
-    SetUpBench bench(siteWith(analyzers));
-    bench.setup();
-    EXPECT_EQ(bench.messages->lines(), Lines());
-    return bench.page.cmbAnalyzer.List();
+    SetUpRig rig(siteWith(analyzers));
+    rig.setup();
+    EXPECT_EQ(rig.messages->lines(), Lines());
+    return rig.page.cmbAnalyzer.List();
 }
 
 const Variant kHigh = std::string("HIGH");
 
 /// The PID of the analyzer that stands behind the first entry: the selected parameter's measured
 /// PID tells which of several calibration parameters of one name it is.
-PID measuredPIDOfEntry(SetUpBench& bench, std::int32_t entry)
+PID measuredPIDOfEntry(SetUpRig& rig, std::int32_t entry)
 {
-    bench.page.cmbAnalyzer.Pick(entry);
-    return bench.page.AnalyzedPID();
+    rig.page.cmbAnalyzer.Pick(entry);
+    return rig.page.AnalyzedPID();
 }
 
 } // namespace
@@ -64,9 +64,9 @@ TEST(SetUpUnit, TheScaleIsAppendedToTheNameOfTheAnalyzer)
         {"padded", std::string("LOW "), "NOX"}, {"Null", Null{}, "NOX"},
     };
     for (const ScaleCase& row : rows) {
-        SetUpBench bench(siteOf(analyzer("NOX", row.scale)));
-        bench.setup();
-        EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{row.name}) << row.what;
+        SetUpRig rig(siteOf(analyzer("NOX", row.scale)));
+        rig.setup();
+        EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{row.name}) << row.what;
     }
 }
 
@@ -87,9 +87,9 @@ TEST(SetUpUnit, AsksForTheParametersOfTypeThreeOnly)
     other.type = 4;
     other.attributes[attribute::kScale] = std::string("LOW");
     site->parameters.push_back(other);
-    SetUpBench bench(site);
-    bench.setup();
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{"NOX/H"});
+    SetUpRig rig(site);
+    rig.setup();
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
 }
 
 TEST(SetUpUnit, LeavesOutWhatIsNoCalibration)
@@ -130,10 +130,10 @@ TEST(SetUpUnit, TellsNamesApartByCase)
 TEST(SetUpUnit, OfTwoOfOneNameTheLaterOneWithAComponentReplacesTheFirst)
 {
     const AnalyzerFacts later = analyzer("NOX", kHigh, 2);
-    SetUpBench bench(siteWith({analyzer("NOX", kHigh), later}));
-    bench.setup();
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), Lines{"NOX/H"});
-    EXPECT_EQ(measuredPIDOfEntry(bench, 0), later.measuredPID());
+    SetUpRig rig(siteWith({analyzer("NOX", kHigh), later}));
+    rig.setup();
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
+    EXPECT_EQ(measuredPIDOfEntry(rig, 0), later.measuredPID());
 }
 
 TEST(SetUpUnit, OfTwoOfOneNameTheLaterOneWithoutAComponentIsPassedOver)
@@ -141,9 +141,9 @@ TEST(SetUpUnit, OfTwoOfOneNameTheLaterOneWithoutAComponentIsPassedOver)
     const AnalyzerFacts first = analyzer("NOX", kHigh);
     const Variant without[] = {std::string(), Null{}, Empty{}};
     for (const Variant& component : without) {
-        SetUpBench bench(siteWith({first, analyzer("NOX", kHigh, 2, component)}));
-        bench.setup();
-        EXPECT_EQ(measuredPIDOfEntry(bench, 0), first.measuredPID());
+        SetUpRig rig(siteWith({first, analyzer("NOX", kHigh, 2, component)}));
+        rig.setup();
+        EXPECT_EQ(measuredPIDOfEntry(rig, 0), first.measuredPID());
     }
 }
 
@@ -151,84 +151,84 @@ TEST(SetUpUnit, TheLaterOneReplacesTheAnalyzerListedLastAndNotItsNamesake)
 {
     const AnalyzerFacts nox = analyzer("NOX", kHigh);
     const AnalyzerFacts secondNox = analyzer("NOX", kHigh, 3);
-    SetUpBench bench(siteWith({nox, analyzer("CO", kHigh, 2), secondNox}));
-    bench.setup();
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
-    EXPECT_EQ(measuredPIDOfEntry(bench, 0), nox.measuredPID());
-    EXPECT_EQ(measuredPIDOfEntry(bench, 1), secondNox.measuredPID());
+    SetUpRig rig(siteWith({nox, analyzer("CO", kHigh, 2), secondNox}));
+    rig.setup();
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
+    EXPECT_EQ(measuredPIDOfEntry(rig, 0), nox.measuredPID());
+    EXPECT_EQ(measuredPIDOfEntry(rig, 1), secondNox.measuredPID());
 }
 
 TEST(SetUpUnit, WithAnAnalyzerTheUnitsFactsAreTaken)
 {
-    SetUpBench bench;
-    bench.setup();
-    EXPECT_EQ(bench.page.txtORIS.Text(), "50292");
-    EXPECT_EQ(bench.page.StackID(), "GT3");
-    EXPECT_TRUE(bench.page.txtStackID.Visible());
+    SetUpRig rig;
+    rig.setup();
+    EXPECT_EQ(rig.page.txtORIS.Text(), "50292");
+    EXPECT_EQ(rig.page.StackID(), "GT3");
+    EXPECT_TRUE(rig.page.txtStackID.Visible());
 }
 
 TEST(SetUpUnit, OnlyTrailingBlanksOfTheIdentifierGo)
 {
-    SetUpBench bench;
-    bench.site->parameter(kGT3).attributes[attribute::kUnitIdentifier] = std::string(" CS 1  ");
-    bench.setup();
-    EXPECT_EQ(bench.page.StackID(), " CS 1");
+    SetUpRig rig;
+    rig.site->parameter(kGT3).attributes[attribute::kUnitIdentifier] = std::string(" CS 1  ");
+    rig.setup();
+    EXPECT_EQ(rig.page.StackID(), " CS 1");
 }
 
 TEST(SetUpUnit, AUnitOfSeveralStacksOffersThem)
 {
-    SetUpBench bench;
-    auto& attributes = bench.site->parameter(kGT3).attributes;
+    SetUpRig rig;
+    auto& attributes = rig.site->parameter(kGT3).attributes;
     attributes[attribute::kSeveralStacks] = true;
     attributes[attribute::kStackIdentifiers] = std::string("CS1  ;MS2");
-    bench.setup();
-    EXPECT_EQ(bench.page.cmbStackID.List(), (Lines{"CS1", "MS2"}));
-    EXPECT_EQ(bench.page.StackID(), "CS1");
-    EXPECT_EQ(bench.page.txtStackID.Text(), "GT3");
-    EXPECT_FALSE(bench.page.txtStackID.Visible());
+    rig.setup();
+    EXPECT_EQ(rig.page.cmbStackID.List(), (Lines{"CS1", "MS2"}));
+    EXPECT_EQ(rig.page.StackID(), "CS1");
+    EXPECT_EQ(rig.page.txtStackID.Text(), "GT3");
+    EXPECT_FALSE(rig.page.txtStackID.Visible());
 }
 
 TEST(SetUpUnit, StacksThatAreNotMarkedAsSeveralAreNotOffered)
 {
-    SetUpBench bench;
-    auto& attributes = bench.site->parameter(kGT3).attributes;
+    SetUpRig rig;
+    auto& attributes = rig.site->parameter(kGT3).attributes;
     attributes[attribute::kStackIdentifiers] = std::string("CS1;MS2");
     for (const Variant& several : {Variant(false), Variant(Null{})}) {
         attributes[attribute::kSeveralStacks] = several;
-        bench.setup();
-        EXPECT_EQ(bench.page.StackID(), "GT3");
+        rig.setup();
+        EXPECT_EQ(rig.page.StackID(), "GT3");
     }
 }
 
 TEST(SetUpUnit, AUnitWithoutAnalyzersShowsNAAndLeavesTheFieldsOfTheUnitBefore)
 {
-    SetUpBench bench;
-    bench.setup();
+    SetUpRig rig;
+    rig.setup();
     EXPECT_EQ(
-        bench.changesBy([&] { bench.page.cmbUnit.Pick(1); }),
+        rig.changesBy([&] { rig.page.cmbUnit.Pick(1); }),
         (Lines{"cmbAnalyzer.ItemData: [1] -> [0]", "cmbAnalyzer.List: [\"NOX/H\"] -> [\"N/A\"]",
                "cmbAnalyzer.Text: \"NOX/H\" -> \"N/A\"", "cmbUnit.ListIndex: 0 -> 1",
                "cmbUnit.Text: \"GT3\" -> \"GT4\"", "fraTestInfo.Visible: True -> False"}));
-    EXPECT_FALSE(bench.page.Is40CFR75());
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    EXPECT_FALSE(rig.page.Is40CFR75());
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(SetUpUnit, APickOfNAKeepsTheAnalyzerSelectedBefore)
 {
-    SetUpBench bench;
-    bench.setup();
-    bench.page.cmbUnit.Pick(1);
-    EXPECT_EQ(bench.page.AnalyzedPID(), AnalyzerFacts().measuredPID());
-    EXPECT_EQ(bench.changesBy([&] { bench.page.cmbAnalyzer.Pick(0); }), Lines());
+    SetUpRig rig;
+    rig.setup();
+    rig.page.cmbUnit.Pick(1);
+    EXPECT_EQ(rig.page.AnalyzedPID(), AnalyzerFacts().measuredPID());
+    EXPECT_EQ(rig.changesBy([&] { rig.page.cmbAnalyzer.Pick(0); }), Lines());
 }
 
 TEST(SetUpUnit, PickingTheUnitAgainRunsItsRuleAgain)
 {
-    SetUpBench bench;
-    bench.setup();
-    addAnalyzer(*bench.site, analyzer("CO", kHigh, 2));
-    bench.page.cmbUnit.Pick(0);
-    EXPECT_EQ(bench.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
+    SetUpRig rig;
+    rig.setup();
+    addAnalyzer(*rig.site, analyzer("CO", kHigh, 2));
+    rig.page.cmbUnit.Pick(0);
+    EXPECT_EQ(rig.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
 }
 
 } // namespace k7deval::test

@@ -1,5 +1,5 @@
-#include "sevenday/ResultBench.h"
-#include "sevenday/ToolBench.h"
+#include "sevenday/ResultRig.h"
+#include "sevenday/ToolRig.h"
 
 #include <gtest/gtest.h>
 
@@ -23,9 +23,9 @@ Lines outsideResults(Lines changes)
     return changes;
 }
 
-Lines treeOf(ToolBench& bench)
+Lines treeOf(ToolRig& rig)
 {
-    return linesOf(bench.result().tvwCalTimes);
+    return linesOf(rig.result().tvwCalTimes);
 }
 
 const Lines kSevenPassed = {
@@ -41,15 +41,15 @@ const Lines kNothingToShow = {"NA [OfflineFail] light"};
 
 TEST(Wizard, HasItsButtonsWithTheirCaptions)
 {
-    ToolBench bench;
-    EXPECT_EQ(bench.tool.cmdBack.Caption(), "<< Back");
-    EXPECT_EQ(bench.tool.cmdNext.Caption(), "Next >>");
-    EXPECT_EQ(bench.tool.cmdSave.Caption(), "Save");
-    EXPECT_EQ(bench.tool.chkPreview.Caption(), "Preview Report After Saving");
+    ToolRig rig;
+    EXPECT_EQ(rig.tool.cmdBack.Caption(), "<< Back");
+    EXPECT_EQ(rig.tool.cmdNext.Caption(), "Next >>");
+    EXPECT_EQ(rig.tool.cmdSave.Caption(), "Save");
+    EXPECT_EQ(rig.tool.chkPreview.Caption(), "Preview Report After Saving");
     for (const char* name : {"cmdBack", "cmdNext", "cmdSave", "chkPreview", "CommonDialog1",
                              "ctrl7DaySetUp1", "ctrl7DayResult1"})
-        EXPECT_NE(bench.tool.Find(name), nullptr) << name;
-    EXPECT_EQ(bench.tool.Widgets().size(), 7U);
+        EXPECT_NE(rig.tool.Find(name), nullptr) << name;
+    EXPECT_EQ(rig.tool.Widgets().size(), 7U);
 }
 
 TEST(Wizard, CannotSaveBeforeTheFirstSetup)
@@ -64,8 +64,8 @@ TEST(Wizard, CannotSaveBeforeTheFirstSetup)
 
 TEST(WizardSetup, ShowsTheFirstPage)
 {
-    ToolBench bench;
-    const Snapshot all = snapshotOf(bench.tool);
+    ToolRig rig;
+    const Snapshot all = snapshotOf(rig.tool);
     const std::pair<const char*, const char*> expected[] = {
         {"MousePointer", "0"},
         {"ctrl7DaySetUp1.Visible", "True"},
@@ -85,21 +85,21 @@ TEST(WizardSetup, ShowsTheFirstPage)
     };
     for (const auto& [property, value] : expected)
         EXPECT_EQ(all.at(property), value) << property;
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(WizardSetup, ListsUnitsAndAnalyzers)
 {
-    ToolBench bench;
-    EXPECT_EQ(bench.setUp().AnalyzerInfoText(), "GT3 NOX/H");
+    ToolRig rig;
+    EXPECT_EQ(rig.setUp().AnalyzerInfoText(), "GT3 NOX/H");
 }
 
 TEST(WizardSetup, PutsTheSaveButtonOnTheVerySpotOfNext)
 {
-    ToolBench bench;
-    bench.tool.cmdNext.SetPlace({1200, 6000, 1095, 375});
-    bench.tool.Setup(bench.messages, bench.server);
-    EXPECT_EQ(bench.tool.cmdSave.Place(), (screen::Geometry{1200, 6000, 1095, 375}));
+    ToolRig rig;
+    rig.tool.cmdNext.SetPlace({1200, 6000, 1095, 375});
+    rig.tool.Setup(rig.messages, rig.server);
+    EXPECT_EQ(rig.tool.cmdSave.Place(), (screen::Geometry{1200, 6000, 1095, 375}));
 }
 
 TEST(WizardSetup, ASiteWithoutUnitsReachesTheHost)
@@ -113,153 +113,153 @@ TEST(WizardSetup, ASiteWithoutUnitsReachesTheHost)
 
 TEST(WizardNext, ShowsTheResultsPage)
 {
-    ToolBench bench;
-    EXPECT_EQ(outsideResults(bench.changesBy([&] { bench.next(); })),
+    ToolRig rig;
+    EXPECT_EQ(outsideResults(rig.changesBy([&] { rig.next(); })),
               (Lines{"chkPreview.Visible: False -> True", "cmdBack.Enabled: False -> True",
                      "cmdNext.Visible: True -> False", "cmdSave.Enabled: False -> True",
                      "cmdSave.Visible: False -> True", "ctrl7DayResult1.Visible: False -> True",
                      "ctrl7DaySetUp1.Visible: True -> False"}));
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(WizardNext, FillsTheResultsPage)
 {
-    ToolBench bench;
-    bench.next();
-    EXPECT_EQ(bench.summary(), kPassed);
-    EXPECT_EQ(bench.result().lblAnalyzerLabel.Caption(), "GT3 NOX/H");
-    EXPECT_EQ(treeOf(bench), kSevenPassed);
-    EXPECT_EQ(bench.result().lblCalTimeData.Caption(), "3/1/2024 08:15");
-    EXPECT_EQ(bench.result().zero.limitData.Caption(), "5");
+    ToolRig rig;
+    rig.next();
+    EXPECT_EQ(rig.summary(), kPassed);
+    EXPECT_EQ(rig.result().lblAnalyzerLabel.Caption(), "GT3 NOX/H");
+    EXPECT_EQ(treeOf(rig), kSevenPassed);
+    EXPECT_EQ(rig.result().lblCalTimeData.Caption(), "3/1/2024 08:15");
+    EXPECT_EQ(rig.result().zero.limitData.Caption(), "5");
 }
 
 TEST(WizardNext, TheHourglassStandsAndNoResultIsOnShowWhileItWorks)
 {
-    ToolBench bench;
+    ToolRig rig;
     std::size_t calls = 0;
-    bench.site->failure = [&](const std::string&, std::size_t) -> std::optional<Error> {
+    rig.site->failure = [&](const std::string&, std::size_t) -> std::optional<Error> {
         ++calls;
-        EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Hourglass);
-        EXPECT_FALSE(bench.setUp().Visible());
-        EXPECT_FALSE(bench.result().Visible());
-        EXPECT_TRUE(bench.tool.cmdBack.Enabled());
-        EXPECT_FALSE(bench.tool.cmdNext.Visible());
-        EXPECT_FALSE(bench.tool.cmdSave.Visible());
-        EXPECT_FALSE(bench.tool.chkPreview.Visible());
+        EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
+        EXPECT_FALSE(rig.setUp().Visible());
+        EXPECT_FALSE(rig.result().Visible());
+        EXPECT_TRUE(rig.tool.cmdBack.Enabled());
+        EXPECT_FALSE(rig.tool.cmdNext.Visible());
+        EXPECT_FALSE(rig.tool.cmdSave.Visible());
+        EXPECT_FALSE(rig.tool.chkPreview.Visible());
         return std::nullopt;
     };
-    bench.next();
+    rig.next();
     EXPECT_GT(calls, 20U);
-    EXPECT_EQ(bench.tool.MousePointer(), screen::MousePointer::Default);
+    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
 TEST(WizardBack, ShowsTheFirstPageAndClearsNothing)
 {
-    ToolBench bench;
-    bench.next();
+    ToolRig rig;
+    rig.next();
     EXPECT_EQ(
-        bench.changesBy([&] { bench.back(); }),
+        rig.changesBy([&] { rig.back(); }),
         (Lines{"chkPreview.Visible: True -> False", "cmdBack.Enabled: True -> False",
                "cmdNext.Visible: False -> True", "cmdSave.Visible: True -> False",
                "ctrl7DayResult1.Visible: True -> False", "ctrl7DaySetUp1.Visible: False -> True"}));
-    EXPECT_EQ(bench.test().lngGoodCals, 7);
-    EXPECT_EQ(bench.test().strSummary, kPassed);
+    EXPECT_EQ(rig.test().lngGoodCals, 7);
+    EXPECT_EQ(rig.test().strSummary, kPassed);
 }
 
 TEST(WizardBack, ThePreviewKeepsWhatTheUserChose)
 {
-    ToolBench bench;
-    bench.next();
-    bench.tool.chkPreview.Press();
-    bench.back().next();
-    EXPECT_FALSE(bench.tool.chkPreview.isChecked());
-    EXPECT_TRUE(bench.tool.cmdSave.Enabled());
+    ToolRig rig;
+    rig.next();
+    rig.tool.chkPreview.Press();
+    rig.back().next();
+    EXPECT_FALSE(rig.tool.chkPreview.isChecked());
+    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(WizardDisplay, UpToTheTestEndLeavesOutWhatComesBehindIt)
 {
-    ToolBench bench(siteWithDailyCals(9));
-    bench.next();
-    EXPECT_EQ(treeOf(bench), kSevenPassed);
+    ToolRig rig(siteWithDailyCals(9));
+    rig.next();
+    EXPECT_EQ(treeOf(rig), kSevenPassed);
 }
 
 TEST(WizardDisplay, TheIntervalShowsAll)
 {
-    ToolBench bench(siteWithDailyCals(9));
-    bench.setUp().optShowInterval.Press();
-    bench.next();
+    ToolRig rig(siteWithDailyCals(9));
+    rig.setUp().optShowInterval.Press();
+    rig.next();
     Lines expected = kSevenPassed;
     expected.insert(expected.end(),
                     {"3/8/2024 08:15 [OnlinePass] light", "3/9/2024 08:15 [OnlinePass] light"});
-    EXPECT_EQ(treeOf(bench), expected);
+    EXPECT_EQ(treeOf(rig), expected);
 }
 
 TEST(WizardDisplay, OnlyDriftCalsLeavesOutWhatIsNotUsed)
 {
     auto site = siteWithDailyCals(9);
     addCal(*site, {.time = march(2, 20, 15), .manual = true});
-    ToolBench bench(site);
-    bench.setUp().optShowDriftTestCals.Press();
-    bench.next();
-    EXPECT_EQ(treeOf(bench), kSevenPassed);
+    ToolRig rig(site);
+    rig.setUp().optShowDriftTestCals.Press();
+    rig.next();
+    EXPECT_EQ(treeOf(rig), kSevenPassed);
 }
 
 TEST(WizardDisplay, WithoutCalibrationsTheTreeIsClearedAndTheSummarySaysSo)
 {
-    ToolBench bench(operatedSite());
-    bench.next();
-    EXPECT_EQ(treeOf(bench), kNothingToShow);
-    EXPECT_EQ(bench.summary(), "There are no calibrations in selected time range.");
-    EXPECT_EQ(bench.messages->lines(), Lines());
+    ToolRig rig(operatedSite());
+    rig.next();
+    EXPECT_EQ(treeOf(rig), kNothingToShow);
+    EXPECT_EQ(rig.summary(), "There are no calibrations in selected time range.");
+    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(WizardDisplay, WithNothingCountedOnlyTheDisplayOfDriftCalsIsCleared)
 {
     auto site = operatedSite();
     addCal(*site, {.time = march(9), .spanMeasured = 170});
-    ToolBench bench(site);
-    bench.next();
-    ASSERT_EQ(bench.test().lngGoodCals + bench.test().lngFailedCals, 0);
-    EXPECT_EQ(treeOf(bench).back(), "3/9/2024 08:15 [OnlineFail] light");
-    bench.back().setUp().optShowDriftTestCals.Press();
-    bench.next();
-    EXPECT_EQ(treeOf(bench), kNothingToShow);
+    ToolRig rig(site);
+    rig.next();
+    ASSERT_EQ(rig.test().lngGoodCals + rig.test().lngFailedCals, 0);
+    EXPECT_EQ(treeOf(rig).back(), "3/9/2024 08:15 [OnlineFail] light");
+    rig.back().setUp().optShowDriftTestCals.Press();
+    rig.next();
+    EXPECT_EQ(treeOf(rig), kNothingToShow);
 }
 
 TEST(WizardDisplay, AClearedTreeComesBackWithTheNextDisplay)
 {
-    ToolBench bench;
-    bench.setUp().optShowDriftTestCals.Press();
-    bench.setUp().chkManualCals.Press();
-    for (auto& record : bench.site->records)
+    ToolRig rig;
+    rig.setUp().optShowDriftTestCals.Press();
+    rig.setUp().chkManualCals.Press();
+    for (auto& record : rig.site->records)
         record.manual = true;
-    bench.next();
-    EXPECT_EQ(treeOf(bench), kNothingToShow);
-    bench.back().setUp().chkManualCals.Press();
-    bench.next();
-    EXPECT_EQ(treeOf(bench), kSevenPassed);
+    rig.next();
+    EXPECT_EQ(treeOf(rig), kNothingToShow);
+    rig.back().setUp().chkManualCals.Press();
+    rig.next();
+    EXPECT_EQ(treeOf(rig), kSevenPassed);
 }
 
 TEST(WizardDisplay, TheSummaryIsShownOnlyWhenAskedFor)
 {
-    ToolBench bench;
-    bench.setUp().chkShowSummary.Press();
-    bench.next();
-    EXPECT_EQ(bench.summary(), "");
-    bench.back().setUp().chkShowSummary.Press();
-    bench.next();
-    EXPECT_EQ(bench.summary(), kPassed);
+    ToolRig rig;
+    rig.setUp().chkShowSummary.Press();
+    rig.next();
+    EXPECT_EQ(rig.summary(), "");
+    rig.back().setUp().chkShowSummary.Press();
+    rig.next();
+    EXPECT_EQ(rig.summary(), kPassed);
 }
 
 TEST(WizardTerminate, DropsTheSinkAndTheData)
 {
-    ToolBench bench;
-    const std::weak_ptr<MessageSink> sink = bench.messages;
-    bench.next();
-    bench.messages.reset();
-    bench.tool.Terminate();
+    ToolRig rig;
+    const std::weak_ptr<MessageSink> sink = rig.messages;
+    rig.next();
+    rig.messages.reset();
+    rig.tool.Terminate();
     EXPECT_TRUE(sink.expired());
-    EXPECT_EQ(bench.server.use_count(), 1);
+    EXPECT_EQ(rig.server.use_count(), 1);
 }
 
 } // namespace k7deval::test

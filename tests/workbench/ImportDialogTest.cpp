@@ -1,6 +1,6 @@
 #include "workbench/ImportDialog.h"
-#include "workbench/ImportBench.h"
 #include "workbench/ImportNames.h"
+#include "workbench/ImportRig.h"
 
 #include <gmock/gmock.h>
 
@@ -42,187 +42,186 @@ TEST(Import, TakesDroppedFilesIntoANewSite)
 {
     const TemporaryDirectory directory;
     const auto site = directory / "plant.k7site";
-    ImportBench bench(site);
-    bench.hands.photograph("import-empty");
-    dropFiles(*bench.dialog, {sitedb::test::sampleFile("hourly_load_GT3.csv.gz"),
-                              sitedb::test::sampleFile("ecmps_qa_50292.json"),
-                              sitedb::test::sampleFile("spans.csv")});
-    ASSERT_EQ(bench.files().rowCount(), 3);
-    EXPECT_EQ(bench.row(0), QStringList({"spans.csv", "span table", "waiting"}));
-    EXPECT_EQ(bench.row(1), QStringList({"hourly_load_GT3.csv.gz", "hourly load", "waiting"}));
-    EXPECT_EQ(bench.row(2), QStringList({"ecmps_qa_50292.json", "ECMPS QA data", "waiting"}));
-    bench.hands.type("unit of hourly_load_GT3.csv.gz", "GT3");
-    bench.hands.click("leaveOut");
-    bench.import();
+    ImportRig rig(site);
+    rig.hands.photograph("import-empty");
+    dropFiles(*rig.dialog, {sitedb::test::sampleFile("hourly_load_GT3.csv.gz"),
+                            sitedb::test::sampleFile("ecmps_qa_50292.json"),
+                            sitedb::test::sampleFile("spans.csv")});
+    ASSERT_EQ(rig.files().rowCount(), 3);
+    EXPECT_EQ(rig.row(0), QStringList({"spans.csv", "span table", "waiting"}));
+    EXPECT_EQ(rig.row(1), QStringList({"hourly_load_GT3.csv.gz", "hourly load", "waiting"}));
+    EXPECT_EQ(rig.row(2), QStringList({"ecmps_qa_50292.json", "ECMPS QA data", "waiting"}));
+    rig.hands.type("unit of hourly_load_GT3.csv.gz", "GT3");
+    rig.hands.click("leaveOut");
+    rig.import();
     for (int row = 0; row < 3; ++row)
-        EXPECT_EQ(bench.row(row)[2], "taken");
-    EXPECT_EQ(bench.hands.text("status"), "3 files taken.");
-    EXPECT_THAT(bench.report(), HasSubstr("Taken: spans.csv (span table)\n4 units\n16 analyzers\n"
-                                          "17 spans\n"));
-    EXPECT_THAT(bench.report(), HasSubstr("Stepped over: The column \"heat_input_mmbtu\".\n"));
-    EXPECT_THAT(bench.report(), HasSubstr("Left out: ecmps_qa_50292.json: testSummaryData[1]"));
-    EXPECT_TRUE(bench.dialog->hasTaken());
+        EXPECT_EQ(rig.row(row)[2], "taken");
+    EXPECT_EQ(rig.hands.text("status"), "3 files taken.");
+    EXPECT_THAT(rig.report(), HasSubstr("Taken: spans.csv (span table)\n4 units\n16 analyzers\n"
+                                        "17 spans\n"));
+    EXPECT_THAT(rig.report(), HasSubstr("Stepped over: The column \"heat_input_mmbtu\".\n"));
+    EXPECT_THAT(rig.report(), HasSubstr("Left out: ecmps_qa_50292.json: testSummaryData[1]"));
+    EXPECT_TRUE(rig.dialog->hasTaken());
     EXPECT_EQ(unitsIn(site), QStringList({"GT1", "GT2", "GT3", "GT4"}));
-    bench.hands.photograph("import-taken");
+    rig.hands.photograph("import-taken");
 }
 
 TEST(Import, AFileThatTakesNoUnitIsNotAskedForOne)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("spans.csv", kSpans));
-    bench.add(held.directory.write("load.csv", kLoad));
-    EXPECT_EQ(bench.files().cellWidget(0, 3), nullptr);
-    auto& unit = bench.hands.view<QComboBox>("unit of load.csv");
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("spans.csv", kSpans));
+    rig.add(held.directory.write("load.csv", kLoad));
+    EXPECT_EQ(rig.files().cellWidget(0, 3), nullptr);
+    auto& unit = rig.hands.view<QComboBox>("unit of load.csv");
     EXPECT_EQ(unit.count(), 1);
     EXPECT_EQ(unit.itemText(0), "U1");
     EXPECT_EQ(unit.currentText(), "");
-    EXPECT_EQ(bench.files().cellWidget(1, 4), nullptr);
-    bench.add(
+    EXPECT_EQ(rig.files().cellWidget(1, 4), nullptr);
+    rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
-    EXPECT_EQ(bench.hands.view<QLineEdit>("component of hours.csv").text(), "");
+    EXPECT_EQ(rig.hands.view<QLineEdit>("component of hours.csv").text(), "");
 }
 
 TEST(Import, ARefusedFileCanBeCorrectedAndIsTakenAlone)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("spans.csv", kSpans));
-    bench.add(held.directory.write("load.csv", kLoad));
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "taken");
-    EXPECT_EQ(bench.row(1)[2], "refused");
-    EXPECT_EQ(bench.hands.text("status"), "1 file taken, 1 refused.");
-    EXPECT_THAT(bench.report(),
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("spans.csv", kSpans));
+    rig.add(held.directory.write("load.csv", kLoad));
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "taken");
+    EXPECT_EQ(rig.row(1)[2], "refused");
+    EXPECT_EQ(rig.hands.text("status"), "1 file taken, 1 refused.");
+    EXPECT_THAT(rig.report(),
                 HasSubstr("Refused, nothing was taken: load.csv (hourly load)\n"
                           "load.csv: unit: the unit that the load belongs to has to be named."));
-    bench.hands.photograph("import-refused");
-    bench.hands.pick("unit of load.csv", "U2");
-    bench.hands.pressMnemonic(Qt::Key_I);
-    bench.waitForEnd();
-    EXPECT_EQ(bench.row(1)[2], "taken");
-    EXPECT_EQ(bench.hands.text("status"), "1 file taken.");
-    EXPECT_THAT(bench.report(), HasSubstr("Taken: load.csv (hourly load)\n2 hours\n1 hour with"));
-    EXPECT_FALSE(bench.hands.view<QPushButton>("import").isEnabled());
+    rig.hands.photograph("import-refused");
+    rig.hands.pick("unit of load.csv", "U2");
+    rig.hands.pressMnemonic(Qt::Key_I);
+    rig.waitForEnd();
+    EXPECT_EQ(rig.row(1)[2], "taken");
+    EXPECT_EQ(rig.hands.text("status"), "1 file taken.");
+    EXPECT_THAT(rig.report(), HasSubstr("Taken: load.csv (hourly load)\n2 hours\n1 hour with"));
+    EXPECT_FALSE(rig.hands.view<QPushButton>("import").isEnabled());
     EXPECT_EQ(sitedb::test::count(held.site, "SELECT COUNT(*) FROM import_log"), 3);
 }
 
 TEST(Import, AQaFileIsRefusedUnlessUnreadableInjectionsAreLeftOut)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write(
+    ImportRig rig(held.path);
+    rig.add(held.directory.write(
         "qa.json",
         sitedb::test::patchedQa(
             "replace", "/testSummaryData/1/calibrationInjectionData/0/zeroInjectionHour", "24")));
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "refused");
-    EXPECT_THAT(bench.report(), HasSubstr("24 is no hour from 0 to 23."));
-    EXPECT_FALSE(bench.dialog->hasTaken());
-    bench.hands.click("leaveOut");
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "taken");
-    EXPECT_THAT(bench.report(), HasSubstr("1 injection left out\n"));
-    EXPECT_TRUE(bench.dialog->hasTaken());
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "refused");
+    EXPECT_THAT(rig.report(), HasSubstr("24 is no hour from 0 to 23."));
+    EXPECT_FALSE(rig.dialog->hasTaken());
+    rig.hands.click("leaveOut");
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "taken");
+    EXPECT_THAT(rig.report(), HasSubstr("1 injection left out\n"));
+    EXPECT_TRUE(rig.dialog->hasTaken());
 }
 
 TEST(Import, AFileOfNoKnownFormatIsNotAddedButTold)
 {
     SmallSite held;
-    ImportBench bench(held.path);
+    ImportRig rig(held.path);
     const auto notes = held.directory.write("notes.txt", "Dear operator\n");
-    dropFiles(*bench.dialog, {notes, held.directory.write("load.csv", kLoad)});
-    EXPECT_EQ(bench.files().rowCount(), 1);
-    EXPECT_EQ(bench.report(), "Not added: notes.txt\nnotes.txt: this is none of the files that can "
-                              "be imported.");
+    dropFiles(*rig.dialog, {notes, held.directory.write("load.csv", kLoad)});
+    EXPECT_EQ(rig.files().rowCount(), 1);
+    EXPECT_EQ(rig.report(), "Not added: notes.txt\nnotes.txt: this is none of the files that can "
+                            "be imported.");
 }
 
 TEST(Import, TheReportCanBeCopiedWithTheKeys)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("notes.txt", "Dear operator\n"));
-    auto& report = bench.hands.view<QTextEdit>("report");
-    bench.hands.pressMnemonic(Qt::Key_P);
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("notes.txt", "Dear operator\n"));
+    auto& report = rig.hands.view<QTextEdit>("report");
+    rig.hands.pressMnemonic(Qt::Key_P);
     ASSERT_TRUE(report.hasFocus());
     QTest::keyClick(&report, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&report, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), bench.report());
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), rig.report());
 }
 
 TEST(Import, AFileIsOnTheListOnceAndCanBeRemoved)
 {
     SmallSite held;
-    ImportBench bench(held.path);
+    ImportRig rig(held.path);
     const auto file = held.directory.write("load.csv", kLoad);
-    bench.add(file);
-    bench.add(file);
-    ASSERT_EQ(bench.files().rowCount(), 1);
-    EXPECT_FALSE(bench.hands.view<QPushButton>("remove").isEnabled());
-    bench.files().setFocus();
-    bench.files().selectRow(0);
-    bench.hands.pressMnemonic(Qt::Key_R);
-    EXPECT_EQ(bench.files().rowCount(), 0);
-    EXPECT_FALSE(bench.hands.view<QPushButton>("import").isEnabled());
+    rig.add(file);
+    rig.add(file);
+    ASSERT_EQ(rig.files().rowCount(), 1);
+    EXPECT_FALSE(rig.hands.view<QPushButton>("remove").isEnabled());
+    rig.files().setFocus();
+    rig.files().selectRow(0);
+    rig.hands.pressMnemonic(Qt::Key_R);
+    EXPECT_EQ(rig.files().rowCount(), 0);
+    EXPECT_FALSE(rig.hands.view<QPushButton>("import").isEnabled());
 }
 
 TEST(Import, ProgressIsSeenAndCancelledInTheMiddleNothingOfTheFileIsKept)
 {
     LongImport task;
-    ImportBench bench(task.held.path);
-    bench.add(task.file);
-    bench.importUpToTheMiddle();
-    EXPECT_THAT(bench.hands.text("status"),
+    ImportRig rig(task.held.path);
+    rig.add(task.file);
+    rig.importUpToTheMiddle();
+    EXPECT_THAT(rig.hands.text("status"),
                 testing::MatchesRegex("emissions.json: .*B of .* MB, .* hours"));
-    EXPECT_FALSE(bench.hands.view<QPushButton>("add").isEnabled());
-    bench.hands.photograph("import-progress");
-    bench.hands.click("cancel");
-    bench.waitForEnd();
+    EXPECT_FALSE(rig.hands.view<QPushButton>("add").isEnabled());
+    rig.hands.photograph("import-progress");
+    rig.hands.click("cancel");
+    rig.waitForEnd();
     task.expectSiteAsItWas();
-    EXPECT_EQ(bench.row(0)[2], "cancelled");
-    EXPECT_EQ(bench.hands.text("status"), "0 files taken, then cancelled.");
-    EXPECT_EQ(bench.report(),
-              "Cancelled, nothing was taken: emissions.json (ECMPS emissions data)");
-    EXPECT_FALSE(bench.dialog->hasTaken());
-    EXPECT_TRUE(bench.hands.view<QPushButton>("import").isEnabled());
+    EXPECT_EQ(rig.row(0)[2], "cancelled");
+    EXPECT_EQ(rig.hands.text("status"), "0 files taken, then cancelled.");
+    EXPECT_EQ(rig.report(), "Cancelled, nothing was taken: emissions.json (ECMPS emissions data)");
+    EXPECT_FALSE(rig.dialog->hasTaken());
+    EXPECT_TRUE(rig.hands.view<QPushButton>("import").isEnabled());
 }
 
 TEST(Import, FilesTakenBeforeACancelStayAndThoseBehindWait)
 {
     LongImport task;
-    ImportBench bench(task.held.path);
-    bench.add(task.held.directory.write("spans.csv", kSpans));
-    bench.add(task.file);
-    bench.add(task.held.directory.write("qa.json", sitedb::test::smallQa()));
-    bench.importUpToTheMiddle();
-    bench.hands.click("cancel");
-    bench.waitForEnd();
-    EXPECT_EQ(bench.row(0)[2], "taken");
-    EXPECT_EQ(bench.row(1)[2], "cancelled");
-    EXPECT_EQ(bench.row(2)[2], "waiting");
-    EXPECT_EQ(bench.hands.text("status"), "1 file taken, then cancelled.");
-    EXPECT_TRUE(bench.dialog->hasTaken());
+    ImportRig rig(task.held.path);
+    rig.add(task.held.directory.write("spans.csv", kSpans));
+    rig.add(task.file);
+    rig.add(task.held.directory.write("qa.json", sitedb::test::smallQa()));
+    rig.importUpToTheMiddle();
+    rig.hands.click("cancel");
+    rig.waitForEnd();
+    EXPECT_EQ(rig.row(0)[2], "taken");
+    EXPECT_EQ(rig.row(1)[2], "cancelled");
+    EXPECT_EQ(rig.row(2)[2], "waiting");
+    EXPECT_EQ(rig.hands.text("status"), "1 file taken, then cancelled.");
+    EXPECT_TRUE(rig.dialog->hasTaken());
 }
 
 TEST(Import, ClosingTheDialogInTheMiddleLeavesTheSiteAsItWas)
 {
     LongImport task;
-    ImportBench bench(task.held.path);
-    bench.add(task.file);
-    bench.importUpToTheMiddle();
-    bench.hands.press(Qt::Key_Escape);
-    EXPECT_FALSE(bench.dialog->isVisible());
+    ImportRig rig(task.held.path);
+    rig.add(task.file);
+    rig.importUpToTheMiddle();
+    rig.hands.press(Qt::Key_Escape);
+    EXPECT_FALSE(rig.dialog->isVisible());
     task.expectSiteAsItWas();
-    EXPECT_FALSE(bench.dialog->hasTaken());
+    EXPECT_FALSE(rig.dialog->hasTaken());
 }
 
 TEST(Import, TheEndOfTheDialogInTheMiddleLeavesTheSiteAsItWas)
 {
     LongImport task;
-    ImportBench bench(task.held.path);
-    bench.add(task.file);
-    bench.importUpToTheMiddle();
-    bench.dialog.reset();
+    ImportRig rig(task.held.path);
+    rig.add(task.file);
+    rig.importUpToTheMiddle();
+    rig.dialog.reset();
     task.expectSiteAsItWas();
     settle();
 }
@@ -232,10 +231,10 @@ TEST(Import, TheSiteCanBeOpenForReadingMeanwhile)
     SmallSite held;
     const auto server = sitedb::SiteDatabase::open(held.path, sitedb::OpenMode::ReadOnly).server();
     ASSERT_EQ(server->Units().size(), 1U);
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("spans.csv", kSpans));
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "taken");
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("spans.csv", kSpans));
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "taken");
     EXPECT_EQ(server->Units().size(), 2U);
 }
 
@@ -243,13 +242,13 @@ TEST(Import, ANewSiteIsRemovedWhenNothingWasTaken)
 {
     const TemporaryDirectory directory;
     const auto site = directory / "plant.k7site";
-    ImportBench bench(site);
-    bench.add(directory.write("load.csv", kLoad));
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "refused");
+    ImportRig rig(site);
+    rig.add(directory.write("load.csv", kLoad));
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "refused");
     EXPECT_FALSE(std::filesystem::exists(site));
-    bench.hands.type("unit of load.csv", "U1");
-    bench.import();
+    rig.hands.type("unit of load.csv", "U1");
+    rig.import();
     EXPECT_EQ(unitsIn(site), QStringList("U1"));
 }
 
@@ -257,37 +256,37 @@ TEST(Import, AFileThatIsNoSiteIsToldAndLeftAlone)
 {
     const TemporaryDirectory directory;
     const auto site = directory.write("plant.k7site", "no site");
-    ImportBench bench(site);
-    bench.add(directory.write("spans.csv", kSpans));
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "waiting");
-    EXPECT_EQ(bench.hands.text("status"), "0 files taken, the site can't be used.");
-    EXPECT_THAT(bench.report(), HasSubstr("plant.k7site: the file is no site database."));
+    ImportRig rig(site);
+    rig.add(directory.write("spans.csv", kSpans));
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "waiting");
+    EXPECT_EQ(rig.hands.text("status"), "0 files taken, the site can't be used.");
+    EXPECT_THAT(rig.report(), HasSubstr("plant.k7site: the file is no site database."));
     EXPECT_EQ(sitedb::test::readFile(site), "no site");
 }
 
 TEST(Import, TheUnitsOfAnImportCanBePickedAfterIt)
 {
     EmptySite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("load.csv", kLoad));
-    bench.add(held.directory.write("spans.csv", kSpans));
-    bench.import();
-    EXPECT_EQ(bench.row(0)[2], "refused");
-    EXPECT_EQ(bench.hands.view<QComboBox>("unit of load.csv").itemText(0), "U2");
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("load.csv", kLoad));
+    rig.add(held.directory.write("spans.csv", kSpans));
+    rig.import();
+    EXPECT_EQ(rig.row(0)[2], "refused");
+    EXPECT_EQ(rig.hands.view<QComboBox>("unit of load.csv").itemText(0), "U2");
 }
 
 TEST(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("load.csv", kLoad));
-    bench.add(
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("load.csv", kLoad));
+    rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
-    bench.files().setFocus();
+    rig.files().setFocus();
     std::string order;
     for (int step = 0; step < 9; ++step) {
-        bench.hands.press(Qt::Key_Tab);
+        rig.hands.press(Qt::Key_Tab);
         order += QApplication::focusWidget()->objectName().toStdString() + "; ";
     }
     EXPECT_EQ(order, "unit of load.csv; unit of hours.csv; component of hours.csv; add; remove; "
@@ -297,21 +296,21 @@ TEST(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
 TEST(Import, NoPartKeepsADropFromTheDialog)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(
+    ImportRig rig(held.path);
+    rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
-    for (const QWidget* part : bench.dialog->findChildren<QWidget*>())
+    for (const QWidget* part : rig.dialog->findChildren<QWidget*>())
         EXPECT_FALSE(part->acceptDrops()) << part->objectName().toStdString();
 }
 
 TEST(Import, EveryPartHasAName)
 {
     SmallSite held;
-    ImportBench bench(held.path);
-    bench.add(held.directory.write("load.csv", kLoad));
-    bench.add(
+    ImportRig rig(held.path);
+    rig.add(held.directory.write("load.csv", kLoad));
+    rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
-    EXPECT_EQ(namelessParts(*bench.dialog), QStringList());
+    EXPECT_EQ(namelessParts(*rig.dialog), QStringList());
 }
 
 } // namespace k7deval::workbench::test

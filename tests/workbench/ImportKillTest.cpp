@@ -1,4 +1,4 @@
-#include "workbench/ImportBench.h"
+#include "workbench/ImportRig.h"
 
 #include <gtest/gtest.h>
 

@@ -40,16 +40,16 @@ const QStringList kAllTools{"7-Day Drift", "Load Evaluation", "Range Evaluation"
 
 TEST(Workbench, ShowsTheToolsOfASite)
 {
-    const Workbench bench;
-    EXPECT_EQ(bench.titles(), kAllTools);
-    EXPECT_EQ(bench.window.windowTitle(), "bethpage - K7DEval");
-    Operator(*bench.window.window()).photograph("workbench");
+    const Workbench rig;
+    EXPECT_EQ(rig.titles(), kAllTools);
+    EXPECT_EQ(rig.window.windowTitle(), "bethpage - K7DEval");
+    Operator(*rig.window.window()).photograph("workbench");
 }
 
 TEST(Workbench, EvaluatesADriftTestOfTheSample)
 {
-    Workbench bench;
-    const Operator hands = bench.at(0);
+    Workbench rig;
+    const Operator hands = rig.at(0);
     hands.pick("cmbUnit", "GT4");
     hands.pick("cmbAnalyzer", "NOX 206/H");
     hands.enter("txtFromDate", "5/4/2018");
@@ -59,13 +59,13 @@ TEST(Workbench, EvaluatesADriftTestOfTheSample)
               "Starting on 5/16/2018 there are 6 on-line cal(s) counted in the 7-Day Drift Test.\n"
               "1 more on-line daily cal(s) are needed to pass the Drift Test.");
     EXPECT_EQ(hands.text("lblZeroDriftData"), "-220.79");
-    Operator(*bench.window.window()).photograph("workbench-drift");
+    Operator(*rig.window.window()).photograph("workbench-drift");
 }
 
 TEST(Workbench, EvaluatesAYearOfLoad)
 {
-    Workbench bench;
-    const Operator hands = bench.at(1);
+    Workbench rig;
+    const Operator hands = rig.at(1);
     hands.pick("cmbUnit", "GT4");
     hands.enter("txtMinSafe", "30");
     hands.enter("txtCapacity", "84");
@@ -75,60 +75,60 @@ TEST(Workbench, EvaluatesAYearOfLoad)
     hands.click("cmdCalculate");
     EXPECT_THAT(hands.text("lblHeader"), testing::HasSubstr("GT4"));
     EXPECT_THAT(hands.text("lblMidOpPercent"), testing::EndsWith("% Mid Op Load"));
-    Operator(*bench.window.window()).photograph("workbench-load");
+    Operator(*rig.window.window()).photograph("workbench-load");
 }
 
 TEST(Workbench, AClosedToolCanBeOpenedAgain)
 {
-    Workbench bench;
-    bench.at(1).click("cmdClose");
+    Workbench rig;
+    rig.at(1).click("cmdClose");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(bench.titles(), QStringList({"7-Day Drift", "Range Evaluation", "Data"}));
-    bench.choose({"Tools", "2 Load Evaluation"});
-    EXPECT_EQ(bench.titles().last(), "Load Evaluation");
-    EXPECT_GT(bench.at(3).view<QComboBox>("cmbUnit").count(), 0);
+    EXPECT_EQ(rig.titles(), QStringList({"7-Day Drift", "Range Evaluation", "Data"}));
+    rig.choose({"Tools", "2 Load Evaluation"});
+    EXPECT_EQ(rig.titles().last(), "Load Evaluation");
+    EXPECT_GT(rig.at(3).view<QComboBox>("cmbUnit").count(), 0);
 }
 
 TEST(Workbench, APostedLineStandsWithItsTime)
 {
-    const Workbench bench;
-    auto& panel = *bench.window.findChild<MessagePanel*>("messages");
+    const Workbench rig;
+    auto& panel = *rig.window.findChild<MessagePanel*>("messages");
     const RegionalSettings regional;
-    sinkOf(panel, bench.clock, regional)->Post(4, "DEval-006: 9, Subscript out of range");
-    ASSERT_EQ(bench.messages().rowCount(), 1);
-    EXPECT_EQ(bench.messages().item(0, 0)->text(), "5/2/2024 9:30:00 AM");
-    EXPECT_EQ(bench.messages().item(0, 2)->text(), "DEval-006: 9, Subscript out of range");
+    sinkOf(panel, rig.clock, regional)->Post(4, "DEval-006: 9, Subscript out of range");
+    ASSERT_EQ(rig.messages().rowCount(), 1);
+    EXPECT_EQ(rig.messages().item(0, 0)->text(), "5/2/2024 9:30:00 AM");
+    EXPECT_EQ(rig.messages().item(0, 2)->text(), "DEval-006: 9, Subscript out of range");
 }
 
 TEST(Workbench, AFileThatIsNoSiteLeavesTheSiteOpen)
 {
-    Workbench bench;
+    Workbench rig;
     QString told;
     whenDialogComes([&told](QDialog& dialog) {
         told = dynamic_cast<QMessageBox&>(dialog).text();
         dialog.accept();
     });
-    bench.window.openSite(QString::fromStdString(sitedb::test::sampleFile("spans.csv").string()));
+    rig.window.openSite(QString::fromStdString(sitedb::test::sampleFile("spans.csv").string()));
     EXPECT_TRUE(told.startsWith("Error 75: ")) << told.toStdString();
-    EXPECT_EQ(bench.titles(), kAllTools);
-    EXPECT_EQ(bench.window.windowTitle(), "bethpage - K7DEval");
+    EXPECT_EQ(rig.titles(), kAllTools);
+    EXPECT_EQ(rig.window.windowTitle(), "bethpage - K7DEval");
 }
 
 TEST(Workbench, AnotherSiteTakesThePlaceOfTheFirst)
 {
-    Workbench bench;
-    bench.window.openSite(QString::fromStdString(sampleSite()));
+    Workbench rig;
+    rig.window.openSite(QString::fromStdString(sampleSite()));
     settle();
-    EXPECT_EQ(bench.titles(), kAllTools);
+    EXPECT_EQ(rig.titles(), kAllTools);
 }
 
 TEST(Workbench, WithoutASiteSaysHowToGetOne)
 {
-    const Workbench bench("");
-    EXPECT_EQ(bench.label("startTitle").text(), "No site is open");
-    EXPECT_FALSE(bench.entry({"File", "Import Files..."}).isEnabled());
-    EXPECT_FALSE(bench.entry({"Tools"}).isEnabled());
-    EXPECT_FALSE(bench.window.findChild<QListWidget*>("recentSites")->isVisible());
+    const Workbench rig("");
+    EXPECT_EQ(rig.label("startTitle").text(), "No site is open");
+    EXPECT_FALSE(rig.entry({"File", "Import Files..."}).isEnabled());
+    EXPECT_FALSE(rig.entry({"Tools"}).isEnabled());
+    EXPECT_FALSE(rig.window.findChild<QListWidget*>("recentSites")->isVisible());
 }
 
 TEST(Workbench, ARecentSiteIsOpenedWithAKey)
@@ -137,58 +137,57 @@ TEST(Workbench, ARecentSiteIsOpenedWithAKey)
     {
         const Workbench first(sampleSite(), memory);
     }
-    const Workbench bench("", memory);
-    auto& recent = *bench.window.findChild<QListWidget*>("recentSites");
+    const Workbench rig("", memory);
+    auto& recent = *rig.window.findChild<QListWidget*>("recentSites");
     ASSERT_EQ(recent.count(), 1);
     recent.setFocus();
     QTest::keyClick(&recent, Qt::Key_Return);
     settle();
-    EXPECT_EQ(bench.titles(), kAllTools);
-    EXPECT_THAT(
-        bench.entry({"File", "Open Recent"}).menu()->actions().front()->text().toStdString(),
-        testing::HasSubstr("bethpage.k7site"));
-    bench.choose({"File", "Open Recent", "Clear List"});
+    EXPECT_EQ(rig.titles(), kAllTools);
+    EXPECT_THAT(rig.entry({"File", "Open Recent"}).menu()->actions().front()->text().toStdString(),
+                testing::HasSubstr("bethpage.k7site"));
+    rig.choose({"File", "Open Recent", "Clear List"});
     EXPECT_TRUE(memory->settings.recentSites().isEmpty());
 }
 
 TEST(Workbench, ARecentSiteThatIsGoneIsToldAndForgotten)
 {
-    Workbench bench("");
-    bench.window.offerSite("/nowhere/lost.site");
+    Workbench rig("");
+    rig.window.offerSite("/nowhere/lost.site");
     QString told;
     whenDialogComes([&told](QDialog& dialog) {
         told = dynamic_cast<QMessageBox&>(dialog).text();
         dialog.accept();
     });
-    bench.window.openSite("/nowhere/lost.site");
+    rig.window.openSite("/nowhere/lost.site");
     EXPECT_TRUE(told.startsWith("Error 53: ")) << told.toStdString();
-    EXPECT_TRUE(bench.memory->settings.recentSites().isEmpty());
-    EXPECT_FALSE(bench.window.findChild<QListWidget*>("recentSites")->isVisible());
-    EXPECT_EQ(bench.label("startTitle").text(), "No site is open");
+    EXPECT_TRUE(rig.memory->settings.recentSites().isEmpty());
+    EXPECT_FALSE(rig.window.findChild<QListWidget*>("recentSites")->isVisible());
+    EXPECT_EQ(rig.label("startTitle").text(), "No site is open");
 }
 
 TEST(Workbench, ANewSiteIsEmptyAndAsksForFiles)
 {
-    const Workbench bench("");
-    const QString path = bench.memory->folder.filePath("plant.site");
-    bench.memory->settings.setFolderOf(path);
+    const Workbench rig("");
+    const QString path = rig.memory->folder.filePath("plant.site");
+    rig.memory->settings.setFolderOf(path);
     whenDialogComes([](QDialog& dialog) {
         dialog.findChild<QLineEdit*>()->setText("plant");
         dialog.accept();
     });
-    bench.choose({"File", "New Site..."});
+    rig.choose({"File", "New Site..."});
     EXPECT_TRUE(QFileInfo::exists(path));
-    EXPECT_EQ(bench.label("startTitle").text(), "plant.site has no units yet");
-    EXPECT_EQ(bench.label("siteLine").text(), "plant.site");
-    EXPECT_EQ(bench.label("siteLine").toolTip(), path);
-    EXPECT_TRUE(bench.entry({"File", "Import Files..."}).isEnabled());
-    EXPECT_FALSE(bench.entry({"Tools"}).isEnabled());
+    EXPECT_EQ(rig.label("startTitle").text(), "plant.site has no units yet");
+    EXPECT_EQ(rig.label("siteLine").text(), "plant.site");
+    EXPECT_EQ(rig.label("siteLine").toolTip(), path);
+    EXPECT_TRUE(rig.entry({"File", "Import Files..."}).isEnabled());
+    EXPECT_FALSE(rig.entry({"Tools"}).isEnabled());
 }
 
 TEST(Workbench, ANewSiteNeverTakesThePlaceOfAFile)
 {
-    Workbench bench("");
-    QFile file(bench.memory->folder.filePath("plant.site"));
+    Workbench rig("");
+    QFile file(rig.memory->folder.filePath("plant.site"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("kept");
     file.close();
@@ -197,7 +196,7 @@ TEST(Workbench, ANewSiteNeverTakesThePlaceOfAFile)
         told = dynamic_cast<QMessageBox&>(dialog).text();
         dialog.accept();
     });
-    bench.window.newSite(file.fileName());
+    rig.window.newSite(file.fileName());
     EXPECT_TRUE(told.endsWith("Open it, or choose another name.")) << told.toStdString();
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "kept");
@@ -207,12 +206,12 @@ TEST(Workbench, AnotherRegionWritesDatesItsWayAndIsRemembered)
 {
     const auto memory = std::make_shared<Memory>();
     {
-        Workbench bench(sampleSite(), memory);
-        EXPECT_EQ(bench.at(0).view<QLineEdit>("txtToDate").text(), "5/2/2024");
-        bench.tabs().setCurrentIndex(1);
-        bench.choose({"View", "Numbers and Dates", "German (Germany)"});
-        EXPECT_EQ(bench.tabs().currentIndex(), 1);
-        EXPECT_EQ(bench.at(0).view<QLineEdit>("txtToDate").text(), "02.05.2024");
+        Workbench rig(sampleSite(), memory);
+        EXPECT_EQ(rig.at(0).view<QLineEdit>("txtToDate").text(), "5/2/2024");
+        rig.tabs().setCurrentIndex(1);
+        rig.choose({"View", "Numbers and Dates", "German (Germany)"});
+        EXPECT_EQ(rig.tabs().currentIndex(), 1);
+        EXPECT_EQ(rig.at(0).view<QLineEdit>("txtToDate").text(), "02.05.2024");
     }
     Workbench again(sampleSite(), memory);
     EXPECT_EQ(again.at(0).view<QLineEdit>("txtToDate").text(), "02.05.2024");
@@ -223,9 +222,9 @@ TEST(Workbench, TheLayoutOfTheWindowIsKept)
 {
     const auto memory = std::make_shared<Memory>();
     {
-        Workbench bench("", memory);
-        bench.choose({"View", "Messages"});
-        bench.window.close();
+        Workbench rig("", memory);
+        rig.choose({"View", "Messages"});
+        rig.window.close();
     }
     const Workbench again("", memory);
     EXPECT_FALSE(again.messages().isVisible());
@@ -233,14 +232,14 @@ TEST(Workbench, TheLayoutOfTheWindowIsKept)
 
 TEST(Workbench, APostedLineBringsThePanelBack)
 {
-    const Workbench bench;
-    bench.choose({"View", "Messages"});
-    ASSERT_FALSE(bench.messages().isVisible());
-    auto& panel = *bench.window.findChild<MessagePanel*>("messages");
+    const Workbench rig;
+    rig.choose({"View", "Messages"});
+    ASSERT_FALSE(rig.messages().isVisible());
+    auto& panel = *rig.window.findChild<MessagePanel*>("messages");
     panel.add("9:30", 4, "DEval-006: 9, Subscript out of range");
     panel.add("9:31", 4, "DEval-003: 94, Invalid use of Null");
     settle();
-    EXPECT_TRUE(bench.messages().isVisible());
+    EXPECT_TRUE(rig.messages().isVisible());
     panel.setFocus();
     panel.selectRow(1);
     QTest::keyClick(&panel, Qt::Key_C, Qt::ControlModifier);
@@ -249,23 +248,23 @@ TEST(Workbench, APostedLineBringsThePanelBack)
 
 TEST(Workbench, ToolsAreReachedByTheirNumbers)
 {
-    const Workbench bench;
-    QTest::keyClick(bench.window.windowHandle(), Qt::Key_3, Qt::ControlModifier);
-    EXPECT_EQ(bench.tabs().currentIndex(), 2);
-    QTest::keyClick(bench.window.windowHandle(), Qt::Key_2, Qt::ControlModifier);
-    EXPECT_EQ(bench.tabs().currentIndex(), 1);
+    const Workbench rig;
+    QTest::keyClick(rig.window.windowHandle(), Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(rig.tabs().currentIndex(), 2);
+    QTest::keyClick(rig.window.windowHandle(), Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(rig.tabs().currentIndex(), 1);
 }
 
 TEST(Workbench, AScreenReaderFindsItsWay)
 {
-    const Workbench bench;
-    for (int tab = 0; tab < bench.tabs().count(); ++tab) {
-        bench.tabs().setCurrentIndex(tab);
+    const Workbench rig;
+    for (int tab = 0; tab < rig.tabs().count(); ++tab) {
+        rig.tabs().setCurrentIndex(tab);
         settle();
-        EXPECT_THAT(qt::test::faultsForAScreenReader(bench.window), testing::IsEmpty());
+        EXPECT_THAT(qt::test::faultsForAScreenReader(rig.window), testing::IsEmpty());
     }
-    bench.choose({"Help", "Help on This Tool"});
-    EXPECT_THAT(qt::test::faultsForAScreenReader(*bench.window.findChild<QDialog*>("help")),
+    rig.choose({"Help", "Help on This Tool"});
+    EXPECT_THAT(qt::test::faultsForAScreenReader(*rig.window.findChild<QDialog*>("help")),
                 testing::IsEmpty());
     const Workbench empty("");
     EXPECT_THAT(qt::test::faultsForAScreenReader(empty.window), testing::IsEmpty());
@@ -273,17 +272,17 @@ TEST(Workbench, AScreenReaderFindsItsWay)
 
 TEST(Workbench, PrintsTheToolOnViewFromItsMenu)
 {
-    Workbench bench;
-    const Operator hands = bench.at(1);
+    Workbench rig;
+    const Operator hands = rig.at(1);
     hands.enter("txtMinSafe", "30");
     hands.enter("txtCapacity", "84");
-    const auto titleOfPreview = [&bench] {
+    const auto titleOfPreview = [&rig] {
         auto title = std::make_shared<QString>();
         whenDialogComes([title](QDialog& dialog) {
             *title = dialog.windowTitle();
             dialog.reject();
         });
-        bench.choose({"File", "Print Preview..."});
+        rig.choose({"File", "Print Preview..."});
         return *title;
     };
     hands.click("cmdCalculate");
@@ -292,33 +291,33 @@ TEST(Workbench, PrintsTheToolOnViewFromItsMenu)
 
 TEST(Workbench, PrintsNothingWhereThereIsNoResult)
 {
-    const Workbench bench;
-    bench.choose({"File", "Print..."});
-    bench.tabs().setCurrentIndex(3);
-    bench.choose({"File", "Print Preview..."});
+    const Workbench rig;
+    rig.choose({"File", "Print..."});
+    rig.tabs().setCurrentIndex(3);
+    rig.choose({"File", "Print Preview..."});
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST(Workbench, HelpIsOnTheToolOnView)
 {
-    const Workbench bench;
-    bench.tabs().setCurrentIndex(2);
-    QTest::keyClick(bench.window.windowHandle(), Qt::Key_F1);
+    const Workbench rig;
+    rig.tabs().setCurrentIndex(2);
+    QTest::keyClick(rig.window.windowHandle(), Qt::Key_F1);
     settle();
-    auto& page = *bench.window.findChild<QTextBrowser*>("helpPage");
+    auto& page = *rig.window.findChild<QTextBrowser*>("helpPage");
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ(page.documentTitle(), "Range Evaluation");
     EXPECT_TRUE(page.toPlainText().contains("very low sulfur fuel"));
-    const Operator reader(*bench.window.findChild<QDialog*>("help"));
+    const Operator reader(*rig.window.findChild<QDialog*>("help"));
     reader.photograph("help-range");
 }
 
 TEST(Workbench, EveryTopicOfHelpHasItsPage)
 {
-    const Workbench bench("");
-    bench.choose({"Help", "Help on This Tool"});
-    auto& topics = *bench.window.findChild<QListWidget*>("helpTopics");
-    auto& page = *bench.window.findChild<QTextBrowser*>("helpPage");
+    const Workbench rig("");
+    rig.choose({"Help", "Help on This Tool"});
+    auto& topics = *rig.window.findChild<QListWidget*>("helpTopics");
+    auto& page = *rig.window.findChild<QTextBrowser*>("helpPage");
     EXPECT_EQ(topics.currentItem()->text(), "Sites and files");
     for (int row = 0; row < topics.count(); ++row) {
         topics.setCurrentRow(row);
@@ -329,11 +328,11 @@ TEST(Workbench, EveryTopicOfHelpHasItsPage)
 
 TEST(Workbench, ALinkOfHelpLeadsToItsTopic)
 {
-    const Workbench bench("");
-    bench.choose({"Help", "Help on This Tool"});
-    auto& page = *bench.window.findChild<QTextBrowser*>("helpPage");
+    const Workbench rig("");
+    rig.choose({"Help", "Help on This Tool"});
+    auto& page = *rig.window.findChild<QTextBrowser*>("helpPage");
     page.setSource(QUrl("qrc:/k7deval/help/drift.html"));
-    EXPECT_EQ(bench.window.findChild<QListWidget*>("helpTopics")->currentItem()->text(),
+    EXPECT_EQ(rig.window.findChild<QListWidget*>("helpTopics")->currentItem()->text(),
               "7-Day Drift");
     EXPECT_EQ(page.documentTitle(), "7-Day Drift");
 }

@@ -64,34 +64,34 @@ std::vector<std::string> sharedLetters(const MainWindow& window)
 
 TEST(Mnemonics, NoTwoOnViewShareALetter)
 {
-    Workbench bench;
-    bench.window.resize(1366, 768);
-    const auto look = [&bench](const char* name) {
-        Operator(*bench.window.window()).photograph(name);
-        EXPECT_THAT(sharedLetters(bench.window), IsEmpty()) << name;
+    Workbench rig;
+    rig.window.resize(1366, 768);
+    const auto look = [&rig](const char* name) {
+        Operator(*rig.window.window()).photograph(name);
+        EXPECT_THAT(sharedLetters(rig.window), IsEmpty()) << name;
     };
-    const Operator drift = bench.at(0);
+    const Operator drift = rig.at(0);
     look("window-drift-setup");
     drift.click("cmdNext");
     ASSERT_TRUE(drift.view<QWidget>("cmdPrint").isVisible());
     look("window-drift-results");
     for (const int tab : {1, 2}) {
-        bench.at(tab).click("cmdCalculate");
-        ASSERT_TRUE(bench.at(tab).view<QWidget>("cmdPrint").isVisible());
+        rig.at(tab).click("cmdCalculate");
+        ASSERT_TRUE(rig.at(tab).view<QWidget>("cmdPrint").isVisible());
         look(tab == 1 ? "window-load" : "window-range");
     }
-    static_cast<void>(bench.at(3));
+    static_cast<void>(rig.at(3));
     look("window-data");
 }
 
 TEST(Mnemonics, TheTabulatorGoesRoundTheWindow)
 {
-    Workbench bench;
-    const Operator drift = bench.at(0);
+    Workbench rig;
+    const Operator drift = rig.at(0);
     drift.click("cmdNext");
     EXPECT_EQ(drift.walk("cmdPrint").mid(0, 5),
               QStringList({"cmdPrint", "cmdPrintPreview", "chkPreview", "cmdBack", "cmdSave"}));
-    const Operator load = bench.at(1);
+    const Operator load = rig.at(1);
     load.click("cmdCalculate");
     const QStringList way = load.walk("cmdCalculate");
     EXPECT_EQ(way.mid(0, 6), QStringList({"cmdCalculate", "cmdSave", "chkPreview", "cmdPrint",
@@ -102,11 +102,11 @@ TEST(Mnemonics, TheTabulatorGoesRoundTheWindow)
 
 TEST(Mnemonics, ALetterOfAMenuOpensItFromATool)
 {
-    Workbench bench;
-    bench.at(0).view<QWidget>("txtFromDate").setFocus();
-    const Operator window(*bench.window.window());
+    Workbench rig;
+    rig.at(0).view<QWidget>("txtFromDate").setFocus();
+    const Operator window(*rig.window.window());
     window.pressMnemonic(Qt::Key_F);
-    const QAction* open = bench.window.menuBar()->activeAction();
+    const QAction* open = rig.window.menuBar()->activeAction();
     ASSERT_NE(open, nullptr);
     EXPECT_EQ(open->text(), "&File");
     window.press(Qt::Key_Escape);

@@ -1,6 +1,6 @@
 #include "sitedb/EmissionsCase.h"
 #include "sitedb/sql/Connection.h"
-#include "workbench/ImportBench.h"
+#include "workbench/ImportRig.h"
 #include "workbench/Workbench.h"
 
 #include <gmock/gmock.h>
@@ -52,13 +52,13 @@ std::shared_ptr<QString> textOfNextBox()
 
 TEST(SiteFlow, AnEmptySiteIsFilledByDroppingFilesOnTheWindow)
 {
-    Workbench bench("");
-    bench.window.newSite(bench.memory->folder.filePath("plant.site"));
+    Workbench rig("");
+    rig.window.newSite(rig.memory->folder.filePath("plant.site"));
     importAllWhenAsked();
-    dropFiles(bench.window, {sampleFile("spans.csv")});
-    EXPECT_EQ(bench.tabs().count(), 4);
-    EXPECT_EQ(bench.tabs().currentIndex(), 0);
-    const auto& units = bench.at(1).view<QComboBox>("cmbUnit");
+    dropFiles(rig.window, {sampleFile("spans.csv")});
+    EXPECT_EQ(rig.tabs().count(), 4);
+    EXPECT_EQ(rig.tabs().currentIndex(), 0);
+    const auto& units = rig.at(1).view<QComboBox>("cmbUnit");
     EXPECT_EQ(units.count(), 4);
     EXPECT_EQ(units.itemText(0), "GT1");
 }
@@ -66,55 +66,55 @@ TEST(SiteFlow, AnEmptySiteIsFilledByDroppingFilesOnTheWindow)
 TEST(SiteFlow, AnImportLeavesTheOperatorAtHisTool)
 {
     sitedb::test::SmallSite held;
-    Workbench bench(held.path.string());
-    bench.tabs().setCurrentIndex(2);
+    Workbench rig(held.path.string());
+    rig.tabs().setCurrentIndex(2);
     importAllWhenAsked();
-    dropFiles(bench.window, {held.directory.write("spans.csv", kSpansOfU2)});
-    EXPECT_EQ(bench.tabs().currentIndex(), 2);
-    EXPECT_GE(bench.at(2).view<QComboBox>("cmbUnit").findText("U2"), 0);
+    dropFiles(rig.window, {held.directory.write("spans.csv", kSpansOfU2)});
+    EXPECT_EQ(rig.tabs().currentIndex(), 2);
+    EXPECT_GE(rig.at(2).view<QComboBox>("cmbUnit").findText("U2"), 0);
 }
 
 TEST(SiteFlow, AnImportThatTookNothingLeavesTheToolsAlone)
 {
     const sitedb::test::SmallSite held;
-    Workbench bench(held.path.string());
-    const Operator hands = bench.at(0);
+    Workbench rig(held.path.string());
+    const Operator hands = rig.at(0);
     hands.enter("txtToDate", "1/15/2023");
     whenDialogComes([](QDialog& dialog) { dialog.reject(); });
-    bench.window.importFiles({});
-    EXPECT_EQ(bench.at(0).view<QLineEdit>("txtToDate").text(), "1/15/2023");
+    rig.window.importFiles({});
+    EXPECT_EQ(rig.at(0).view<QLineEdit>("txtToDate").text(), "1/15/2023");
 }
 
 TEST(SiteFlow, ADroppedSiteIsOpened)
 {
     const sitedb::test::SmallSite held;
-    Workbench bench("");
+    Workbench rig("");
     const auto site = held.directory / "other.site";
     std::filesystem::copy_file(held.path, site);
-    dropFiles(bench.window, {site});
-    EXPECT_EQ(bench.window.windowTitle(), "other - K7DEval");
-    EXPECT_EQ(bench.tabs().count(), 4);
+    dropFiles(rig.window, {site});
+    EXPECT_EQ(rig.window.windowTitle(), "other - K7DEval");
+    EXPECT_EQ(rig.tabs().count(), 4);
 }
 
 TEST(SiteFlow, FilesDroppedWithoutASiteAreAskedToWait)
 {
-    Workbench bench("");
+    Workbench rig("");
     const auto told = textOfNextBox();
-    dropFiles(bench.window, {sampleFile("spans.csv")});
+    dropFiles(rig.window, {sampleFile("spans.csv")});
     EXPECT_EQ(*told, "Open a site first, or make a new one, to take the files into.");
 }
 
 TEST(SiteFlow, TheFacilityOfTheSiteIsShown)
 {
     sitedb::test::SmallSite held;
-    const Workbench bench(held.path.string());
+    const Workbench rig(held.path.string());
     whenDialogComes([](QDialog& dialog) {
         const Operator hands(dialog);
         hands.type("facility", "Plant of the North");
         hands.press(Qt::Key_Return);
     });
-    bench.choose({"File", "Site Properties..."});
-    EXPECT_THAT(bench.label("siteLine").text().toStdString(),
+    rig.choose({"File", "Site Properties..."});
+    EXPECT_THAT(rig.label("siteLine").text().toStdString(),
                 testing::StartsWith("Plant of the North   "));
 }
 
@@ -123,32 +123,32 @@ TEST(SiteFlow, ASiteThatCanNotBeReadIsToldAndLeavesTheOneBefore)
     const sitedb::test::SmallSite held;
     sitedb::test::SmallSite damaged;
     damaged.site.connection().execute("DROP TABLE lookup");
-    Workbench bench(held.path.string());
+    Workbench rig(held.path.string());
     const auto told = textOfNextBox();
-    bench.window.openSite(QString::fromStdString(damaged.path.string()));
+    rig.window.openSite(QString::fromStdString(damaged.path.string()));
     EXPECT_TRUE(told->contains("lookup")) << told->toStdString();
-    EXPECT_EQ(bench.tabs().count(), 4);
-    EXPECT_EQ(bench.label("siteLine").toolTip(), QString::fromStdString(held.path.string()));
+    EXPECT_EQ(rig.tabs().count(), 4);
+    EXPECT_EQ(rig.label("siteLine").toolTip(), QString::fromStdString(held.path.string()));
 }
 
 TEST(SiteFlow, AnEmptySiteCanBeNamed)
 {
-    Workbench bench("");
-    bench.window.newSite(bench.memory->folder.filePath("plant.site"));
+    Workbench rig("");
+    rig.window.newSite(rig.memory->folder.filePath("plant.site"));
     whenDialogComes([](QDialog& dialog) {
         const Operator hands(dialog);
         hands.type("facility", "Plant of the North");
         hands.press(Qt::Key_Return);
     });
-    bench.choose({"File", "Site Properties..."});
-    EXPECT_EQ(bench.label("siteLine").text(), "Plant of the North   plant.site");
+    rig.choose({"File", "Site Properties..."});
+    EXPECT_EQ(rig.label("siteLine").text(), "Plant of the North   plant.site");
 }
 
 // As when the desktop's session ends.
 TEST(SiteFlow, ClosingTheProgramDuringAnImportLeavesTheSiteAsItWas)
 {
     LongImport source;
-    Workbench bench(source.held.path.string());
+    Workbench rig(source.held.path.string());
     bool wasInTheMiddle = false;
     whenDialogComes([&](QDialog& dialog) {
         const Operator hands(dialog);
@@ -157,9 +157,9 @@ TEST(SiteFlow, ClosingTheProgramDuringAnImportLeavesTheSiteAsItWas)
         wasInTheMiddle = QTest::qWaitFor([&] { return bar.value() > 50; }, kLongest);
         QApplication::closeAllWindows();
     });
-    dropFiles(bench.window, {source.file});
+    dropFiles(rig.window, {source.file});
     EXPECT_TRUE(wasInTheMiddle);
-    EXPECT_FALSE(bench.window.isVisible());
+    EXPECT_FALSE(rig.window.isVisible());
     source.expectSiteAsItWas();
 }
 

@@ -20,8 +20,8 @@ using qt::test::Operator;
 
 /// A site with the units U1, whose maximum load a plan tells, and CS1, and an operator at its
 /// properties.
-struct PropertiesBench {
-    explicit PropertiesBench(const std::string& region = "en-US") : region_(region)
+struct PropertiesRig {
+    explicit PropertiesRig(const std::string& region = "en-US") : region_(region)
     {
         importText(held, "plan.json", sitedb::test::smallPlan());
         held.site.setCapacity("CS1", 84.5);
@@ -55,85 +55,84 @@ private:
 
 TEST(SiteProperties, ShowTheFacilityAndTheCapacitiesOfItsUnits)
 {
-    const PropertiesBench bench;
-    EXPECT_EQ(bench.field("facility").text(), "Small Plant");
-    EXPECT_EQ(bench.field("capacity of U1").text(), "");
-    EXPECT_EQ(bench.field("capacity of U1").placeholderText(), "150 by the plan");
-    EXPECT_EQ(bench.field("capacity of CS1").text(), "84.5");
-    bench.hands->photograph("properties");
+    const PropertiesRig rig;
+    EXPECT_EQ(rig.field("facility").text(), "Small Plant");
+    EXPECT_EQ(rig.field("capacity of U1").text(), "");
+    EXPECT_EQ(rig.field("capacity of U1").placeholderText(), "150 by the plan");
+    EXPECT_EQ(rig.field("capacity of CS1").text(), "84.5");
+    rig.hands->photograph("properties");
 }
 
 TEST(SiteProperties, KeepWhatTheOperatorChanges)
 {
-    PropertiesBench bench;
-    bench.hands->enter("facility", "O'Neill & Sons");
-    bench.hands->enter("capacity of U1", " 1,050.25 ");
-    bench.hands->enter("capacity of CS1", "");
-    bench.hands->press(Qt::Key_Enter);
-    EXPECT_EQ(bench.dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(bench.held.site.facilityName(), "O'Neill & Sons");
-    EXPECT_EQ(bench.capacity(0), 1050.25);
-    EXPECT_EQ(bench.capacity(1), std::nullopt);
-    bench.sitDown();
-    EXPECT_EQ(bench.field("capacity of U1").text(), "1050.25");
+    PropertiesRig rig;
+    rig.hands->enter("facility", "O'Neill & Sons");
+    rig.hands->enter("capacity of U1", " 1,050.25 ");
+    rig.hands->enter("capacity of CS1", "");
+    rig.hands->press(Qt::Key_Enter);
+    EXPECT_EQ(rig.dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(rig.held.site.facilityName(), "O'Neill & Sons");
+    EXPECT_EQ(rig.capacity(0), 1050.25);
+    EXPECT_EQ(rig.capacity(1), std::nullopt);
+    rig.sitDown();
+    EXPECT_EQ(rig.field("capacity of U1").text(), "1050.25");
 }
 
 TEST(SiteProperties, ReadAndShowNumbersAsTheRegionWritesThem)
 {
-    PropertiesBench bench("de-DE");
-    EXPECT_EQ(bench.field("capacity of CS1").text(), "84,5");
-    bench.hands->enter("capacity of U1", "99,5");
-    bench.hands->click("ok");
-    EXPECT_EQ(bench.capacity(0), 99.5);
+    PropertiesRig rig("de-DE");
+    EXPECT_EQ(rig.field("capacity of CS1").text(), "84,5");
+    rig.hands->enter("capacity of U1", "99,5");
+    rig.hands->click("ok");
+    EXPECT_EQ(rig.capacity(0), 99.5);
 }
 
 TEST(SiteProperties, TellAtTheFieldWhatIsNoCapacityAndWriteNothing)
 {
-    PropertiesBench bench;
-    const std::string before = sitedb::test::dump(bench.held.site);
+    PropertiesRig rig;
+    const std::string before = sitedb::test::dump(rig.held.site);
     for (const char* text : {"much", "0", "-5", "1000000"}) {
-        bench.hands->enter("facility", "Other");
-        bench.hands->enter("capacity of U1", "100");
-        bench.hands->enter("capacity of CS1", text);
-        bench.hands->click("ok");
-        EXPECT_TRUE(bench.dialog->isVisible());
-        EXPECT_EQ(bench.hands->text("fault of CS1"), "This is no number above 0 and up to 999999.");
-        EXPECT_EQ(bench.hands->text("fault of U1"), "");
-        EXPECT_TRUE(bench.field("capacity of CS1").hasFocus());
-        EXPECT_EQ(sitedb::test::dump(bench.held.site), before) << text;
+        rig.hands->enter("facility", "Other");
+        rig.hands->enter("capacity of U1", "100");
+        rig.hands->enter("capacity of CS1", text);
+        rig.hands->click("ok");
+        EXPECT_TRUE(rig.dialog->isVisible());
+        EXPECT_EQ(rig.hands->text("fault of CS1"), "This is no number above 0 and up to 999999.");
+        EXPECT_EQ(rig.hands->text("fault of U1"), "");
+        EXPECT_TRUE(rig.field("capacity of CS1").hasFocus());
+        EXPECT_EQ(sitedb::test::dump(rig.held.site), before) << text;
     }
-    bench.hands->photograph("properties-fault");
-    bench.hands->enter("capacity of CS1", "84");
-    EXPECT_EQ(bench.hands->text("fault of CS1"), "");
-    bench.hands->click("ok");
-    EXPECT_FALSE(bench.dialog->isVisible());
-    EXPECT_EQ(bench.capacity(1), 84);
+    rig.hands->photograph("properties-fault");
+    rig.hands->enter("capacity of CS1", "84");
+    EXPECT_EQ(rig.hands->text("fault of CS1"), "");
+    rig.hands->click("ok");
+    EXPECT_FALSE(rig.dialog->isVisible());
+    EXPECT_EQ(rig.capacity(1), 84);
 }
 
 TEST(SiteProperties, WriteNothingWhenNothingWasChangedOrWhenCancelled)
 {
-    PropertiesBench bench;
+    PropertiesRig rig;
     // More digits than a field shows.
-    bench.held.site.setCapacity("U1", 100.0 / 3);
-    const std::string before = sitedb::test::dump(bench.held.site);
-    bench.sitDown();
-    bench.hands->click("ok");
-    EXPECT_EQ(sitedb::test::dump(bench.held.site), before);
-    bench.sitDown();
-    bench.hands->enter("facility", "Other");
-    bench.hands->press(Qt::Key_Escape);
-    EXPECT_EQ(sitedb::test::dump(bench.held.site), before);
+    rig.held.site.setCapacity("U1", 100.0 / 3);
+    const std::string before = sitedb::test::dump(rig.held.site);
+    rig.sitDown();
+    rig.hands->click("ok");
+    EXPECT_EQ(sitedb::test::dump(rig.held.site), before);
+    rig.sitDown();
+    rig.hands->enter("facility", "Other");
+    rig.hands->press(Qt::Key_Escape);
+    EXPECT_EQ(sitedb::test::dump(rig.held.site), before);
 }
 
 TEST(SiteProperties, TellWhyASiteCanNotBeWritten)
 {
-    PropertiesBench bench;
-    bench.hands->enter("facility", "Other");
-    const sitedb::sql::Transaction writing(bench.held.site.connection());
-    bench.hands->click("ok");
-    EXPECT_TRUE(bench.dialog->isVisible());
-    EXPECT_EQ(bench.hands->text("siteFault"),
-              "site.k7site: another program is writing to the site.");
+    PropertiesRig rig;
+    rig.hands->enter("facility", "Other");
+    const sitedb::sql::Transaction writing(rig.held.site.connection());
+    rig.hands->click("ok");
+    EXPECT_TRUE(rig.dialog->isVisible());
+    EXPECT_EQ(rig.hands->text("siteFault"), "site.k7site: another program is writing to the site.");
 }
 
 TEST(SiteProperties, SayThatThereIsNoUnitYet)
@@ -148,8 +147,8 @@ TEST(SiteProperties, SayThatThereIsNoUnitYet)
 
 TEST(SiteProperties, EveryPartHasAName)
 {
-    const PropertiesBench bench;
-    EXPECT_EQ(namelessParts(*bench.dialog), QStringList());
+    const PropertiesRig rig;
+    EXPECT_EQ(namelessParts(*rig.dialog), QStringList());
 }
 
 } // namespace k7deval::workbench::test

@@ -1,4 +1,4 @@
-#include "sevenday/ExportBench.h"
+#include "sevenday/ExportRig.h"
 
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
@@ -6,8 +6,8 @@
 namespace k7deval::test
 {
 
-ExportBench::ExportBench(const AnalyzerFacts& facts, const std::string& region)
-    : SetUpBench(siteOf(facts), region)
+ExportRig::ExportRig(const AnalyzerFacts& facts, const std::string& region)
+    : SetUpRig(siteOf(facts), region)
 {
     setup();
     test.irm = messages;
@@ -16,19 +16,19 @@ ExportBench::ExportBench(const AnalyzerFacts& facts, const std::string& region)
     test.lngGoodCals = 7;
 }
 
-ExportBench& ExportBench::show(const std::vector<CalDay>& days)
+ExportRig& ExportRig::show(const std::vector<CalDay>& days)
 {
     test.objDaysToDisplay = arrayOf(days);
     return *this;
 }
 
-std::string ExportBench::text()
+std::string ExportRig::text()
 {
     EXPECT_EQ(write(), std::nullopt);
     return testing::contentOf(path);
 }
 
-std::string ExportBench::valueOf(const std::string& element)
+std::string ExportRig::valueOf(const std::string& element)
 {
     pugi::xml_document document;
     const std::string content = text();

@@ -13,15 +13,15 @@ namespace k7deval::test
 {
 
 /// The setup page on a site of plain data, created on 10 March 2024 at 14:30.
-struct SetUpBench {
-    explicit SetUpBench(std::shared_ptr<SiteData> data = siteOf({}),
-                        const std::string& region = "en-US")
+struct SetUpRig {
+    explicit SetUpRig(std::shared_ptr<SiteData> data = siteOf({}),
+                      const std::string& region = "en-US")
         : site(std::move(data)), regional(regionalSettings(region))
     {
     }
 
     /// Hands over the sink and the site, which lists the units and picks the first.
-    SetUpBench& setup()
+    SetUpRig& setup()
     {
         page.Setup(messages, serve(site));
         return *this;

@@ -1,4 +1,4 @@
-#include "range/RangeBench.h"
+#include "range/RangeRig.h"
 
 #include <algorithm>
 #include <array>
@@ -70,7 +70,7 @@ std::shared_ptr<SiteData> siteOfTwoUnits()
     return site;
 }
 
-RangeBench& RangeBench::hours(const std::vector<std::optional<double>>& values, std::int32_t status)
+RangeRig& RangeRig::hours(const std::vector<std::optional<double>>& values, std::int32_t status)
 {
     series() = {};
     for (std::size_t hour = 0; hour < values.size(); ++hour)
@@ -78,14 +78,14 @@ RangeBench& RangeBench::hours(const std::vector<std::optional<double>>& values, 
     return *this;
 }
 
-RangeBench& RangeBench::limits(const std::string& mec, const std::string& mpc)
+RangeRig& RangeRig::limits(const std::string& mec, const std::string& mpc)
 {
     enter(tool.txtMEC, mec);
     enter(tool.txtMPC, mpc);
     return *this;
 }
 
-std::vector<ReadRequest> RangeBench::takeReads()
+std::vector<ReadRequest> RangeRig::takeReads()
 {
     return std::exchange(site->reads, {});
 }

@@ -36,10 +36,8 @@ inline std::vector<std::string> linesOf(const screen::TreeView& tree)
 }
 
 /// The results page by itself.
-struct ResultBench {
-    explicit ResultBench(const std::string& region = "en-US") : regional(regionalSettings(region))
-    {
-    }
+struct ResultRig {
+    explicit ResultRig(const std::string& region = "en-US") : regional(regionalSettings(region)) {}
 
     /// Shows days with some displayed runs.
     ctrl7DayResult& show(const std::vector<CalDay>& days)

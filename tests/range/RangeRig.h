@@ -68,28 +68,27 @@ struct RangeTool {
 
 /// The range tool on a site of plain data: if not said otherwise GT1's NOX with a range of 100, an
 /// expected value of 20 and a potential one of 100, up to the first quarter of 2024.
-struct RangeBench : RangeTool {
-    explicit RangeBench(std::shared_ptr<SiteData> data = siteOfNOx(),
-                        Date now = makeDate(2024, 5, 15, 14, 30),
-                        const std::string& region = "en-US")
+struct RangeRig : RangeTool {
+    explicit RangeRig(std::shared_ptr<SiteData> data = siteOfNOx(),
+                      Date now = makeDate(2024, 5, 15, 14, 30), const std::string& region = "en-US")
         : RangeTool(now, region), site(std::move(data)), server(serve(site))
     {
         tool.SetDIServer(server);
     }
 
-    RangeBench& calculate()
+    RangeRig& calculate()
     {
         tool.cmdCalculate.Press();
         return *this;
     }
-    RangeBench& range(const std::string& text)
+    RangeRig& range(const std::string& text)
     {
         enter(tool.txtRange, text);
         return *this;
     }
     /// Values from the first hour of 2024 on, in place of the hours that were there.
-    RangeBench& hours(const std::vector<std::optional<double>>& values, std::int32_t status = 0);
-    RangeBench& limits(const std::string& mec, const std::string& mpc);
+    RangeRig& hours(const std::vector<std::optional<double>>& values, std::int32_t status = 0);
+    RangeRig& limits(const std::string& mec, const std::string& mpc);
 
     [[nodiscard]] HourlyValues& series() const { return site->parameter(kNOx).hours; }
     [[nodiscard]] const RangeEvaluation& results() const { return tool.Evaluation(); }

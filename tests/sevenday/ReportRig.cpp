@@ -1,4 +1,4 @@
-#include "sevenday/ReportBench.h"
+#include "sevenday/ReportRig.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 namespace k7deval::test
 {
 
-ReportBench::ReportBench(const AnalyzerFacts& facts, const std::string& region)
-    : SetUpBench(siteOf(facts), region)
+ReportRig::ReportRig(const AnalyzerFacts& facts, const std::string& region)
+    : SetUpRig(siteOf(facts), region)
 {
     site->facilityName = "Bethpage";
     setup();
@@ -17,7 +17,7 @@ ReportBench::ReportBench(const AnalyzerFacts& facts, const std::string& region)
     test.dictCals = std::make_shared<RunMap>();
 }
 
-ReportBench& ReportBench::show(const std::vector<CalDay>& days)
+ReportRig& ReportRig::show(const std::vector<CalDay>& days)
 {
     test.objDaysToDisplay = arrayOf(days);
     for (const CalDay& day : days) {
@@ -27,7 +27,7 @@ ReportBench& ReportBench::show(const std::vector<CalDay>& days)
     return *this;
 }
 
-ReportDocument& ReportBench::build()
+ReportDocument& ReportRig::build()
 {
     document = report.build();
     EXPECT_NE(document, nullptr);
@@ -35,7 +35,7 @@ ReportDocument& ReportBench::build()
     return *document;
 }
 
-ReportPage& ReportBench::sheet(std::size_t index)
+ReportPage& ReportRig::sheet(std::size_t index)
 {
     if (!document)
         build();

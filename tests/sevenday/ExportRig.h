@@ -2,7 +2,7 @@
 
 #include "sevenday/DriftDays.h"
 #include "sevenday/EcmpsExport.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 #include "support/TemporaryFolder.h"
 
 #include <memory>
@@ -14,10 +14,10 @@ namespace k7deval::test
 
 /// A drift test made by hand and its export, on the setup page of an analyzer. The test is passed
 /// with seven good runs; its days never were sized.
-struct ExportBench : SetUpBench {
-    explicit ExportBench(const AnalyzerFacts& facts = {}, const std::string& region = "en-US");
+struct ExportRig : SetUpRig {
+    explicit ExportRig(const AnalyzerFacts& facts = {}, const std::string& region = "en-US");
 
-    ExportBench& show(const std::vector<CalDay>& days);
+    ExportRig& show(const std::vector<CalDay>& days);
 
     std::optional<Error> write() { return exporter.WriteEcmpsExport(path); }
     /// The text of the file, written anew without a failure.

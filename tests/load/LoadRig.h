@@ -57,27 +57,26 @@ struct LoadTool {
 
 /// The load tool on a site of plain data, with GT1 and its load picked: minimum 0, capacity 100,
 /// four quarters ending with the first of 2024.
-struct LoadBench : LoadTool {
-    explicit LoadBench(std::shared_ptr<SiteData> data = siteOfLoads(),
-                       Date now = makeDate(2024, 5, 10, 14, 30),
-                       const std::string& region = "en-US")
+struct LoadRig : LoadTool {
+    explicit LoadRig(std::shared_ptr<SiteData> data = siteOfLoads(),
+                     Date now = makeDate(2024, 5, 10, 14, 30), const std::string& region = "en-US")
         : LoadTool(now, region), site(std::move(data))
     {
         tool.SetDIServer(serve(site));
     }
 
-    LoadBench& calculate()
+    LoadRig& calculate()
     {
         tool.cmdCalculate.Press();
         return *this;
     }
-    LoadBench& range(const std::string& minimum, const std::string& capacity)
+    LoadRig& range(const std::string& minimum, const std::string& capacity)
     {
         enter(tool.txtMinSafe, minimum);
         enter(tool.txtCapacity, capacity);
         return *this;
     }
-    LoadBench& specify(const std::string& from, const std::string& to)
+    LoadRig& specify(const std::string& from, const std::string& to)
     {
         tool.optTimeSelect.Press();
         enter(tool.txtFrom, from);
@@ -85,9 +84,9 @@ struct LoadBench : LoadTool {
         return *this;
     }
     /// One hour a value, from the first of January 2024 on. These are all hours of the load.
-    LoadBench& hours(const std::vector<double>& values, std::int32_t status = 0);
+    LoadRig& hours(const std::vector<double>& values, std::int32_t status = 0);
     /// Gives the load as many hours of a value, behind those it has.
-    LoadBench& addHours(std::size_t count, double value);
+    LoadRig& addHours(std::size_t count, double value);
 
     [[nodiscard]] HourlyValues& load() const { return site->parameter(kGT1Load).hours; }
     [[nodiscard]] const LoadEvaluation& results() const { return tool.Evaluation(); }

@@ -42,22 +42,22 @@ std::shared_ptr<SiteData> siteWithDailyCals(int days);
 
 /// The 7-Day tool on a site of plain data, on 10 March 2024 at 14:30. Its interval starts as the
 /// month up to that day.
-struct ToolBench {
-    explicit ToolBench(std::shared_ptr<SiteData> data = siteWithDailyCals(7))
+struct ToolRig {
+    explicit ToolRig(std::shared_ptr<SiteData> data = siteWithDailyCals(7))
         : site(std::move(data)), server(serve(site))
     {
         tool.Setup(messages, server);
     }
-    ToolBench(const ToolBench&) = delete;
-    ToolBench& operator=(const ToolBench&) = delete;
-    ~ToolBench() = default;
+    ToolRig(const ToolRig&) = delete;
+    ToolRig& operator=(const ToolRig&) = delete;
+    ~ToolRig() = default;
 
-    ToolBench& next()
+    ToolRig& next()
     {
         tool.cmdNext.Press();
         return *this;
     }
-    ToolBench& back()
+    ToolRig& back()
     {
         tool.cmdBack.Press();
         return *this;

@@ -21,8 +21,8 @@ namespace k7deval::workbench::test
 inline constexpr int kLongest = 120'000;
 
 /// An operator at the import of files into a site.
-struct ImportBench {
-    explicit ImportBench(const std::filesystem::path& site)
+struct ImportRig {
+    explicit ImportRig(const std::filesystem::path& site)
         : dialog(std::make_unique<ImportDialog>(QString::fromStdString(site.string()), clock,
                                                 nullptr)),
           hands(*dialog)

@@ -1,4 +1,4 @@
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 
 #include <ostream>
 
@@ -30,7 +30,7 @@ std::shared_ptr<SiteData> siteOfLoads()
                              unitNamed(kGT2, "GT2"), hourlyNamed(kGT2Load, "GT2 Load")});
 }
 
-LoadBench& LoadBench::hours(const std::vector<double>& values, std::int32_t status)
+LoadRig& LoadRig::hours(const std::vector<double>& values, std::int32_t status)
 {
     load() = {};
     Date hour = makeDate(2024, 1, 1);
@@ -41,7 +41,7 @@ LoadBench& LoadBench::hours(const std::vector<double>& values, std::int32_t stat
     return *this;
 }
 
-LoadBench& LoadBench::addHours(std::size_t count, double value)
+LoadRig& LoadRig::addHours(std::size_t count, double value)
 {
     if (load().values.empty())
         load().start = makeDate(2024, 1, 1);
@@ -49,7 +49,7 @@ LoadBench& LoadBench::addHours(std::size_t count, double value)
     return *this;
 }
 
-std::vector<ReadRequest> LoadBench::takeReads()
+std::vector<ReadRequest> LoadRig::takeReads()
 {
     std::vector<ReadRequest> reads;
     reads.swap(site->reads);

@@ -1,4 +1,4 @@
-#include "sevenday/ToolBench.h"
+#include "sevenday/ToolRig.h"
 
 namespace k7deval::test
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "load/LoadBench.h"
+#include "load/LoadRig.h"
 #include "support/PlacedText.h"
 
 #include <memory>
@@ -38,9 +38,9 @@ PlacedText rightAligned(const std::string& text, double x, double y);
 
 /// GT1 of the facility "Bethpage" on 10 May 2024 at 14:30, with a minimum of 10 and a capacity of
 /// 110.
-struct ReportBench : LoadBench {
-    explicit ReportBench(const std::string& region = "en-US")
-        : LoadBench(siteOfLoads(), makeDate(2024, 5, 10, 14, 30), region)
+struct ReportRig : LoadRig {
+    explicit ReportRig(const std::string& region = "en-US")
+        : LoadRig(siteOfLoads(), makeDate(2024, 5, 10, 14, 30), region)
     {
         site->facilityName = "Bethpage";
         range("10", "110");
@@ -52,7 +52,7 @@ struct ReportBench : LoadBench {
         return *document->Pages().begin();
     }
     /// So many hours in a bin.
-    ReportBench& inBin(int bin, std::size_t count)
+    ReportRig& inBin(int bin, std::size_t count)
     {
         addHours(count, 10 + bin * 5 - 2.5);
         return *this;

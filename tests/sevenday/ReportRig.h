@@ -2,7 +2,7 @@
 
 #include "sevenday/DriftDays.h"
 #include "sevenday/DriftReport.h"
-#include "sevenday/SetUpBench.h"
+#include "sevenday/SetUpRig.h"
 #include "support/PlacedText.h"
 
 #include <memory>
@@ -14,11 +14,11 @@ namespace k7deval::test
 
 /// A drift test made by hand and its report, on the setup page of a NOx analyzer with one decimal,
 /// on 10 March 2024 at 14:30. The test has no runs and no summary.
-struct ReportBench : SetUpBench {
-    explicit ReportBench(const AnalyzerFacts& facts = {}, const std::string& region = "en-US");
+struct ReportRig : SetUpRig {
+    explicit ReportRig(const AnalyzerFacts& facts = {}, const std::string& region = "en-US");
 
     /// Makes the days those to display, and their runs those of the test.
-    ReportBench& show(const std::vector<CalDay>& days);
+    ReportRig& show(const std::vector<CalDay>& days);
 
     /// The report as it would be saved, which must not fail.
     ReportDocument& build();

@@ -59,39 +59,39 @@ void failAt(SiteData& site, const std::string& name, std::size_t number = 1);
 
 /// The list of parameters on the site, measured by a font so wide that a header has no more dashes
 /// than it needs.
-struct ParamSelectBench {
-    ParamSelectBench()
+struct ParamSelectRig {
+    ParamSelectRig()
     {
         tool.jgexGrid.TextWidth = [](const std::string&) { return 1e6F; };
         tool.SetDIServer(serve(site));
     }
-    ParamSelectBench(const ParamSelectBench&) = delete;
-    ParamSelectBench& operator=(const ParamSelectBench&) = delete;
-    ~ParamSelectBench() = default;
+    ParamSelectRig(const ParamSelectRig&) = delete;
+    ParamSelectRig& operator=(const ParamSelectRig&) = delete;
+    ~ParamSelectRig() = default;
 
-    ParamSelectBench& filtered()
+    ParamSelectRig& filtered()
     {
         tool.SetShowUnitCombo(true);
         return *this;
     }
-    ParamSelectBench& withoutAllUnits()
+    ParamSelectRig& withoutAllUnits()
     {
         tool.SetAllUnitsInCombo(false);
         return *this;
     }
     /// Headers are made where the unit changes.
-    ParamSelectBench& list(const PIDs& pids)
+    ParamSelectRig& list(const PIDs& pids)
     {
         tool.SetParamList(pids);
         return *this;
     }
     /// The list brings its own units.
-    ParamSelectBench& listWithUnits(const PIDs& pids)
+    ParamSelectRig& listWithUnits(const PIDs& pids)
     {
         tool.SetParamList(pids, true);
         return *this;
     }
-    ParamSelectBench& tick(const Indexes& gridRows)
+    ParamSelectRig& tick(const Indexes& gridRows)
     {
         for (const std::int32_t row : gridRows)
             tool.jgexGrid.Edit(row, true);
@@ -103,28 +103,28 @@ struct ParamSelectBench {
 };
 
 /// The drop-down boxes on the site.
-struct SingleBench {
-    SingleBench() { tool.SetDIServer(serve(site)); }
-    SingleBench(const SingleBench&) = delete;
-    SingleBench& operator=(const SingleBench&) = delete;
-    ~SingleBench() = default;
+struct SingleRig {
+    SingleRig() { tool.SetDIServer(serve(site)); }
+    SingleRig(const SingleRig&) = delete;
+    SingleRig& operator=(const SingleRig&) = delete;
+    ~SingleRig() = default;
 
-    SingleBench& filtered(bool on = true)
+    SingleRig& filtered(bool on = true)
     {
         tool.SetShowUnitCombo(on);
         return *this;
     }
-    SingleBench& withoutAllUnits()
+    SingleRig& withoutAllUnits()
     {
         tool.SetAllUnitsInCombo(false);
         return *this;
     }
-    SingleBench& list(const PIDs& pids)
+    SingleRig& list(const PIDs& pids)
     {
         tool.SetParamList(pids);
         return *this;
     }
-    SingleBench& listWithUnits(const PIDs& pids)
+    SingleRig& listWithUnits(const PIDs& pids)
     {
         tool.SetParamList(pids, true);
         return *this;

@@ -1,4 +1,4 @@
-#include "load/LoadReportBench.h"
+#include "load/LoadReportRig.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 
 #include "cli/Texts.h"
 #include "foundation/FileFunctions.h"
-#include "sitedb/CsvTable.h"
-#include "sitedb/SourceFile.h"
-#include "sitedb/TimeText.h"
+#include "sitedb/read/CsvTable.h"
+#include "sitedb/read/SourceFile.h"
+#include "sitedb/tables/TimeText.h"
 
 #include <set>
 #include <utility>

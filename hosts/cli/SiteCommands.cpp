@@ -6,10 +6,10 @@
 #include "cli/UsageError.h"
 #include "foundation/FileFunctions.h"
 #include "sevenday/ctrl7Day.h"
-#include "sitedb/CsvTable.h"
 #include "sitedb/Import.h"
 #include "sitedb/NewSite.h"
-#include "sitedb/SourceFile.h"
+#include "sitedb/PlainText.h"
+#include "sitedb/read/SourceFile.h"
 
 #include <ostream>
 

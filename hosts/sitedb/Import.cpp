@@ -1,7 +1,7 @@
 #include "sitedb/Import.h"
 
-#include "sitedb/ImportSteps.h"
-#include "sitedb/SiteIds.h"
+#include "sitedb/formats/ImportSteps.h"
+#include "sitedb/tables/SiteIds.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Date.h"
-#include "foundation/Error.h"
 #include "sitedb/SiteDatabase.h"
+#include "sitedb/read/ImportError.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,24 +15,6 @@
 /// as it was.
 namespace k7deval::sitedb
 {
-
-/// Why a file was not taken: one plain sentence that names the file, the line or JSON path, and the
-/// field. Errors of the database itself are a plain Error.
-class ImportError : public Error
-{
-public:
-    explicit ImportError(const std::string& sentence, int number = errors::kInvalidCall)
-        : Error(number, sentence)
-    {
-    }
-};
-
-/// The operator ended an import before it was done.
-class ImportCancelled : public ImportError
-{
-public:
-    using ImportError::ImportError;
-};
 
 /// What a file is, as far as that can be told before it is imported.
 struct FileKind {

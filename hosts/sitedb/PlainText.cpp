@@ -1,5 +1,9 @@
 #include "sitedb/PlainText.h"
 
+#include <array>
+#include <charconv>
+#include <cmath>
+
 namespace k7deval::sitedb
 {
 
@@ -29,6 +33,25 @@ std::string utf8Text(const std::filesystem::path& path)
 {
     const std::u8string text = path.u8string();
     return {text.begin(), text.end()};
+}
+
+std::optional<double> plainNumber(std::string_view text)
+{
+    double value = 0;
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    if (text.empty() || read.ec != std::errc() || read.ptr != end || !std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
+std::string numberText(double value)
+{
+    // The smallest numbers have more than 300 zeros behind the point.
+    std::array<char, 400> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+    return {text.data(), end.ptr};
 }
 
 } // namespace k7deval::sitedb

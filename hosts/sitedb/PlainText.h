@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,5 +15,12 @@ std::string utf8Text(const std::filesystem::path& path);
 bool isPrintable(char letter);
 /// A text in quotes for a sentence: cut if it is long, with "?" for what is not printable ASCII.
 std::string inQuotes(std::string_view text);
+
+/// The number that a text holds: digits with an optional minus, decimal point and exponent, nothing
+/// else.
+std::optional<double> plainNumber(std::string_view text);
+
+/// A number without needless zeros and without an exponent.
+std::string numberText(double value);
 
 } // namespace k7deval::sitedb

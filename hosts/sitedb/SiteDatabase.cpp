@@ -1,13 +1,12 @@
 #include "sitedb/SiteDatabase.h"
 
-#include "sitedb/CsvTable.h"
 #include "sitedb/PlainText.h"
-#include "sitedb/Schema.h"
-#include "sitedb/SiteIds.h"
-#include "sitedb/SiteServer.h"
-#include "sitedb/SiteWriter.h"
-#include "sitedb/StatusWords.h"
 #include "sitedb/sql/SqliteConnection.h"
+#include "sitedb/tables/Schema.h"
+#include "sitedb/tables/SiteIds.h"
+#include "sitedb/tables/SiteServer.h"
+#include "sitedb/tables/SiteWriter.h"
+#include "sitedb/tables/StatusWords.h"
 
 #include <utility>
 

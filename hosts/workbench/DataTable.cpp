@@ -1,7 +1,7 @@
 #include "workbench/DataTable.h"
 
 #include "qt/Texts.h"
-#include "sitedb/CsvTable.h"
+#include "sitedb/PlainText.h"
 
 #include <QItemSelectionModel>
 

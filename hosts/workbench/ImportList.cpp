@@ -2,7 +2,7 @@
 
 #include "foundation/FileFunctions.h"
 #include "qt/Texts.h"
-#include "sitedb/SiteIds.h"
+#include "sitedb/tables/SiteIds.h"
 
 #include <QComboBox>
 #include <QFileInfo>

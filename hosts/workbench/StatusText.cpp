@@ -1,8 +1,8 @@
 #include "workbench/StatusText.h"
 
 #include "qt/Texts.h"
-#include "sitedb/SiteIds.h"
-#include "sitedb/SiteStatusCodes.h"
+#include "sitedb/tables/SiteIds.h"
+#include "sitedb/tables/SiteStatusCodes.h"
 
 namespace k7deval::workbench
 {

@@ -1,9 +1,9 @@
 #include "sitedb/EmissionsCase.h"
 
-#include "sitedb/CsvTable.h"
+#include "sitedb/PlainText.h"
 #include "sitedb/SiteQueries.h"
-#include "sitedb/TimeText.h"
 #include "sitedb/sql/Connection.h"
+#include "sitedb/tables/TimeText.h"
 
 namespace k7deval::sitedb::test
 {

@@ -1,6 +1,6 @@
 #include "sitedb/PlanCase.h"
 
-#include "sitedb/CsvTable.h"
+#include "sitedb/PlainText.h"
 #include "sitedb/SiteQueries.h"
 
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 #include "sitedb/PlanCase.h"
-#include "sitedb/SiteIds.h"
 #include "sitedb/SiteQueries.h"
+#include "sitedb/tables/SiteIds.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

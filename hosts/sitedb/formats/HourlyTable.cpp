@@ -1,0 +1,84 @@
+#include "sitedb/formats/HourlyTable.h"
+
+#include "sitedb/formats/ImportSteps.h"
+#include "sitedb/tables/TimeText.h"
+
+namespace k7deval::sitedb
+{
+
+namespace
+{
+
+constexpr int kLastHour = 23;
+constexpr std::size_t kRowsBetweenProgress = 1000;
+
+} // namespace
+
+HourlyTable::HourlyTable(const CsvTable& table, const SourceFile& file, sql::Connection& connection)
+    : table_(table), file_(file), hours_(connection), day_(table.column("date")),
+      hour_(table.column("hour"))
+{
+}
+
+SiteHour HourlyTable::hourOf(const CsvRow& row) const
+{
+    SiteHour hour;
+    hour.day = table_.field(row, day_);
+    if (!dayNumber(hour.day))
+        throw table_.error(row, day_, inQuotes(hour.day) + " is no date");
+    hour.hour = table_.wholeNumber(row, hour_);
+    if (hour.hour < 0 || hour.hour > kLastHour)
+        throw table_.error(row, hour_, std::to_string(hour.hour) + " is no hour from 0 to 23");
+    return hour;
+}
+
+void HourlyTable::add(const CsvRow& row, PID pid, const std::string& what, const SiteHour& hour)
+{
+    const auto outcome = hours_.add(pid, hour);
+    if (outcome != HourWriter::Outcome::Taken)
+        throw file_.error("line " + std::to_string(row.line) + ": date and hour",
+                          HourWriter::fault(outcome, what, hour));
+}
+
+// A table is held in memory: what tells how far its import is are the rows.
+void takeRows(const CsvTable& table, const SourceFile& file, const ImportOptions& options,
+              const std::function<void(const CsvRow&)>& take)
+{
+    const std::size_t count = table.rows().size();
+    for (std::size_t index = 0; index < count; ++index) {
+        if (index % kRowsBetweenProgress == 0)
+            tellProgress(options, file,
+                         file.size * static_cast<std::int64_t>(index) /
+                             static_cast<std::int64_t>(count),
+                         index);
+        take(table.rows()[index]);
+    }
+}
+
+std::vector<std::string> otherColumns(const CsvTable& table, const std::set<std::string>& used)
+{
+    std::vector<std::string> sentences;
+    for (const auto& column : table.header()) {
+        if (!used.contains(column))
+            sentences.push_back("The column " + inQuotes(column) + ".");
+    }
+    return sentences;
+}
+
+std::int32_t namedUnit(SiteWriter& writer, const SourceFile& file, const std::string& name,
+                       const std::string& what)
+{
+    if (name.empty())
+        throw file.error("unit", "the unit that the " + what + " to has to be named");
+    const std::string fault = identifierFault(name, kUnitIdentifierLength);
+    if (!fault.empty())
+        throw file.error("unit", fault);
+    if (const auto known = writer.findUnit(name))
+        return *known;
+    const auto added = writer.addUnit(name);
+    if (!added)
+        throw file.error("unit", noMoreUnits(name));
+    return *added;
+}
+
+} // namespace k7deval::sitedb

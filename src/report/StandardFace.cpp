@@ -21,6 +21,11 @@ struct FreeDocument {
 };
 using Document = std::unique_ptr<std::remove_pointer_t<HPDF_Doc>, FreeDocument>;
 
+// The line metrics of all three faces. The extents that the faces state themselves are those of
+// letters without accents: rows set by these would touch.
+constexpr int kAscender = 905;
+constexpr int kDescender = -212;
+
 constexpr std::size_t kHyphen = 0x2D;
 constexpr std::size_t kSoftHyphen = 0xAD;
 
@@ -59,7 +64,7 @@ StandardFace StandardFace::ofCode(int fontCode)
     HPDF_Font font = HPDF_GetFont(document.get(), standardFaceName(fontCode), "WinAnsiEncoding");
     if (font == nullptr)
         throw std::bad_alloc();
-    return {HPDF_Font_GetAscent(font), HPDF_Font_GetDescent(font), advances(font)};
+    return {kAscender, kDescender, advances(font)};
 }
 
 } // namespace k7deval

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-/// The histogram of hours on paper, in points worked by hand: a text of Helvetica at 10 points is
-/// 9.25 high, and each of its digits 5.56 wide.
+/// The histogram of hours on paper, in points worked by hand: a digit of Helvetica at 10 points is
+/// 5.56 wide.
 namespace k7deval::test
 {
 
@@ -18,7 +18,6 @@ constexpr histogram::InnerMarks kMarks{180, 612};
 constexpr float kBottom = 100;
 constexpr float kTop = 400;
 constexpr double kDigit = 5.56;
-constexpr double kHeight = 9.25;
 
 class HistogramPage : public ::testing::Test
 {
@@ -61,11 +60,11 @@ TEST_F(HistogramPage, TheHeadIsFourCentredRowsOverAFooterThatNamesTheReport)
     const float y = histogram::drawHead(
         page,
         {.facility = "0000", .heading = "000", .period = "00", .analyzed = "0", .printed = "now"});
-    EXPECT_NEAR(y, 563.05 - 3 * 13.1, 1e-3);
-    expectText(page, {"000 now", 7, 8, 36, 49.1 - 7.4});
+    EXPECT_NEAR(y, 563.05 - 3 * kHeadingRow, 1e-3);
+    expectText(page, {"000 now", 7, 8, 36, kFooterY});
     expectText(page, {"0000", 6, 14, 392 - 2 * 0.556 * 14, 563.05});
-    expectText(page, {"000", 6, 12, 392 - 1.5 * 0.556 * 12, 563.05 - 13.1});
-    expectText(page, {"00", 6, 12, 392 - 0.556 * 12, 563.05 - 2 * 13.1});
+    expectText(page, {"000", 6, 12, 392 - 1.5 * 0.556 * 12, 563.05 - kHeadingRow});
+    expectText(page, {"00", 6, 12, 392 - 0.556 * 12, 563.05 - 2 * kHeadingRow});
     expectText(page, {"0", 6, 12, 392 - 0.5 * 0.556 * 12, y});
     EXPECT_EQ(countTexts(page), 5U);
     ASSERT_EQ(page.Lines().Count(), 1);
@@ -76,9 +75,9 @@ TEST_F(HistogramPage, ThePercentsStandOverTheHoursOfTheirLevels)
 {
     const float top = histogram::drawLevels(
         page, {{{108, "11", "1"}, {396, "2222", "2"}, {684, "3", "333"}}}, 520);
-    const double percents = 520 - 2 * kHeight - 2;
-    const double hours = percents - kHeight - 2;
-    EXPECT_NEAR(top, hours - kHeight - 2, 1e-3);
+    const double percents = 520 - 2 * kBodyHeight - 2;
+    const double hours = percents - kBodyRow;
+    EXPECT_NEAR(top, hours - kBodyRow, 1e-3);
     expectText(page, {"11", 5, 10, 108 - kDigit, percents});
     expectText(page, {"2222", 5, 10, 396 - 2 * kDigit, percents});
     expectText(page, {"3", 5, 10, 684 - kDigit / 2, percents});
@@ -92,8 +91,8 @@ TEST_F(HistogramPage, TheScaleClimbsInTwoRowsUnderItsMarks)
 {
     const float bottom =
         histogram::drawScale(page, kMarks, {{{"0", "11", "222", "33"}, {"5", "6", "7", "8"}}}, 90);
-    const double second = 90 + kHeight + 2;
-    EXPECT_NEAR(bottom, second + kHeight + 2, 1e-3);
+    const double second = 90 + kBodyRow;
+    EXPECT_NEAR(bottom, second + kBodyRow, 1e-3);
     expectText(page, {"0", 5, 10, 36, 90});
     expectText(page, {"11", 5, 10, 180 - kDigit, 90});
     expectText(page, {"222", 5, 10, 612 - 1.5 * kDigit, 90});
@@ -150,19 +149,19 @@ TEST_F(HistogramPage, TheHoursStandUprightAboveTheirBarOrInsideWhereThereIsNoRoo
     ASSERT_EQ(countTexts(page), 2U);
     for (const ReportTextItem& item : page.TextItems())
         EXPECT_EQ(item.Orientation(), 2);
-    expectText(page, {"30", 5, 10, 5 * 36 + 18 + kHeight / 2, kBottom + 75 + 1});
-    expectText(page, {"120", 5, 10, 20 * 36 + 18 + kHeight / 2, kTop - 3 * kDigit - 1});
+    expectText(page, {"30", 5, 10, 5 * 36 + 18 + kBodyHeight / 2, kBottom + 75 + 1});
+    expectText(page, {"120", 5, 10, 20 * 36 + 18 + kBodyHeight / 2, kTop - 3 * kDigit - 1});
 }
 
 TEST_F(HistogramPage, HoursThatFitBelowTheTopStandAboveTheirBar)
 {
     // 288 of 300 points are filled: two digits of 5.56 fit into the 12 left, three don't.
     draw(binsOf({{1, 96}, {2, 100}}));
-    expectText(page, {"96", 5, 10, 36 + 18 + kHeight / 2, kBottom + 288 + 1});
+    expectText(page, {"96", 5, 10, 36 + 18 + kBodyHeight / 2, kBottom + 288 + 1});
     ReportDocument other;
     ReportPage& fuller = layout::addPage(other);
     histogram::drawChart(fuller, kMarks, binsOf({{1, 960}, {2, 1000}}), kBottom, kTop);
-    expectText(fuller, {"960", 5, 10, 36 + 18 + kHeight / 2, kBottom + 288 - 3 * kDigit - 1});
+    expectText(fuller, {"960", 5, 10, 36 + 18 + kBodyHeight / 2, kBottom + 288 - 3 * kDigit - 1});
 }
 
 TEST_F(HistogramPage, TheHoursAreTakenAsSingles)

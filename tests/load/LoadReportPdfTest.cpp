@@ -76,7 +76,7 @@ TEST(LoadReportPdf, HasItsWordsInTheirPlaces)
     EXPECT_NEAR(middleOf(page.word("30%")), 252, 0.1);
     EXPECT_NEAR(middleOf(page.word("60%")), 468, 0.1);
     EXPECT_NEAR(page.word("Maximum").right, 756, 0.1);
-    EXPECT_NEAR(page.word("5/10/2024").bottom, 49.1 - kFooterHeight, 0.6);
+    EXPECT_NEAR(page.word("5/10/2024").bottom, kFooterY, 0.6);
 }
 
 TEST(LoadReportPdf, ReadsAsItsRows)

@@ -10,24 +10,19 @@
 namespace k7deval::test
 {
 
-/// Helvetica is 0.925 of its size high (ascender 718, descender -207).
-inline constexpr double kBodyHeight = 9.25;    // At 10 points.
-inline constexpr double kHeadingHeight = 11.1; // At 12 points.
-inline constexpr double kFooterHeight = 7.4;   // At 8 points.
-
 /// The rows of the page, from the top down.
 inline constexpr double kFacilityY = 563.05;
-inline constexpr double kTitleY = kFacilityY - kHeadingHeight - 2;
-inline constexpr double kPeriodY = kTitleY - kHeadingHeight - 2;
-inline constexpr double kHeaderY = kPeriodY - kHeadingHeight - 2;
+inline constexpr double kTitleY = kFacilityY - kHeadingRow;
+inline constexpr double kPeriodY = kTitleY - kHeadingRow;
+inline constexpr double kHeaderY = kPeriodY - kHeadingRow;
 inline constexpr double kPercentsY = kHeaderY - 2 * kBodyHeight - 2;
-inline constexpr double kHoursY = kPercentsY - kBodyHeight - 2;
-inline constexpr double kChartTop = kHoursY - kBodyHeight - 2;
+inline constexpr double kHoursY = kPercentsY - kBodyRow;
+inline constexpr double kChartTop = kHoursY - kBodyRow;
 /// And from the bottom up.
 inline constexpr double kBeyondY = 49.2 + kBodyHeight;
 inline constexpr double kNamesY = kBeyondY + kBodyHeight + 5;
-inline constexpr double kValuesY = kNamesY + kBodyHeight + 2;
-inline constexpr double kChartBottom = kValuesY + kBodyHeight + 2;
+inline constexpr double kValuesY = kNamesY + kBodyRow;
+inline constexpr double kChartBottom = kValuesY + kBodyRow;
 
 /// The width of a text on paper in points.
 double widthOf(const std::string& text, int font = 5, float size = 10);

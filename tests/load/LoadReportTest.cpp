@@ -52,16 +52,16 @@ TEST(LoadReport, IsOneLandscapePage)
 
 TEST(LoadReport, TheRowsStandWhereTheirHeightsPutThem)
 {
-    EXPECT_NEAR(kTitleY, 549.95, 1e-9);
-    EXPECT_NEAR(kPeriodY, 536.85, 1e-9);
-    EXPECT_NEAR(kHeaderY, 523.75, 1e-9);
-    EXPECT_NEAR(kPercentsY, 503.25, 1e-9);
-    EXPECT_NEAR(kHoursY, 492, 1e-9);
-    EXPECT_NEAR(kChartTop, 480.75, 1e-9);
-    EXPECT_NEAR(kBeyondY, 58.45, 1e-9);
-    EXPECT_NEAR(kNamesY, 72.7, 1e-9);
-    EXPECT_NEAR(kValuesY, 83.95, 1e-9);
-    EXPECT_NEAR(kChartBottom, 95.2, 1e-9);
+    EXPECT_NEAR(kTitleY, 547.646, 1e-9);
+    EXPECT_NEAR(kPeriodY, 532.242, 1e-9);
+    EXPECT_NEAR(kHeaderY, 516.838, 1e-9);
+    EXPECT_NEAR(kPercentsY, 492.498, 1e-9);
+    EXPECT_NEAR(kHoursY, 479.328, 1e-9);
+    EXPECT_NEAR(kChartTop, 466.158, 1e-9);
+    EXPECT_NEAR(kBeyondY, 60.37, 1e-9);
+    EXPECT_NEAR(kNamesY, 76.54, 1e-9);
+    EXPECT_NEAR(kValuesY, 89.71, 1e-9);
+    EXPECT_NEAR(kChartBottom, 102.88, 1e-9);
     EXPECT_NEAR(widthOf("Bethpage", 6, 14), 63.784, 0.001);
     EXPECT_NEAR(widthOf("30%"), 5.56 * 2 + 8.89, 0.001);
 }
@@ -114,8 +114,7 @@ TEST(LoadReport, TheFooterHangsBelowItsRuleWithTheTimeOfTheReport)
 {
     SixHoursRig rig;
     rig.clock.set(makeDate(2024, 5, 11, 9, 5));
-    expectText(rig.page(),
-               {"Load Evaluation Summary 5/11/2024 9:05 AM", 7, 8, 36, 49.1 - kFooterHeight});
+    expectText(rig.page(), {"Load Evaluation Summary 5/11/2024 9:05 AM", 7, 8, 36, kFooterY});
 }
 
 TEST(LoadReport, HasNoOtherTexts)
@@ -130,7 +129,7 @@ TEST(LoadReport, IsWrittenAsTheRegionDoes)
 {
     SixHoursRig rig("de-DE");
     const ReportPage& page = rig.page();
-    expectText(page, {"Load Evaluation Summary 10.05.2024 14:30", 7, 8, 36, 41.7});
+    expectText(page, {"Load Evaluation Summary 10.05.2024 14:30", 7, 8, 36, kFooterY});
     expectText(page, centred("33,3% Mid Op Load", 360, kPercentsY));
     expectText(page, rightAligned("1 hour(s) over 110 - Maximum 150,5", 756, kBeyondY));
 }

@@ -202,6 +202,27 @@ TEST(ReportPainter, ADashedLineIsDrawnForAThirdOfItsLength)
     EXPECT_NEAR(inkAt(image, 70), 130 / 3.0, 2);
 }
 
+TEST(ReportPainter, TheTextOfAFooterIsClearOfTheRuleItHangsFrom)
+{
+    ReportDocument document;
+    ReportPage& page = layout::addPage(document);
+    layout::drawRule(page, layout::kFooterRule);
+    layout::drawFooterText(page, "7-Day Drift Summary (EPA)");
+    const QImage image = painted(page);
+    const auto isBlank = [&](int row) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGray(image.pixel(x, row)) != 255)
+                return false;
+        }
+        return true;
+    };
+    const int rule = static_cast<int>((page.Height() - layout::kFooterRule) * kScale);
+    EXPECT_FALSE(isBlank(rule));
+    EXPECT_TRUE(isBlank(rule + kScale / 2 + 1)) << "half a point below the rule";
+    EXPECT_TRUE(isBlank(rule + kScale)) << "a point below it";
+    EXPECT_FALSE(isBlank(rule + 4 * kScale)) << "the letters";
+}
+
 TEST(ReportPainter, ContentIsAllThatStandsOnAPage)
 {
     SamplePage sample;

@@ -3,31 +3,29 @@
 
 #include <gtest/gtest.h>
 
-/// What stands on the page of the report, at positions worked by hand: a text of Helvetica is 0.925
-/// of its size high and as wide as the advances of its characters together.
+/// What stands on the page of the report, at positions worked by hand: a text is as wide as
+/// the advances of its characters together.
 namespace k7deval::test
 {
 
 namespace
 {
 
-/// A body text is 9.25 high, a heading 11.1.
-constexpr double kHeight = 9.25;
 constexpr double kDigit = 5.56;
 
-constexpr double kHeading = 563.05 - 11.1 - 2;
-constexpr double kPeriod = kHeading - 13.1;
-constexpr double kHeader = kPeriod - 13.1;
-constexpr double kPercents = kHeader - 2 * kHeight - 2;
-constexpr double kHours = kPercents - 11.25;
-constexpr double kChartTop = kHours - 11.25;
+constexpr double kHeading = 563.05 - kHeadingRow;
+constexpr double kPeriod = kHeading - kHeadingRow;
+constexpr double kHeader = kPeriod - kHeadingRow;
+constexpr double kPercents = kHeader - 2 * kBodyHeight - 2;
+constexpr double kHours = kPercents - kBodyRow;
+constexpr double kChartTop = kHours - kBodyRow;
 
-constexpr double kOverRange = 49.2 + kHeight;
-constexpr double kAboveMPC = kOverRange + 11.25;
-constexpr double kAboveMEC = kAboveMPC + 11.25;
-constexpr double kMarks = kAboveMEC + kHeight + 5;
-constexpr double kValues = kMarks + 11.25;
-constexpr double kChartBottom = kValues + 11.25;
+constexpr double kOverRange = 49.2 + kBodyHeight;
+constexpr double kAboveMPC = kOverRange + kBodyRow;
+constexpr double kAboveMEC = kAboveMPC + kBodyRow;
+constexpr double kMarks = kAboveMEC + kBodyHeight + 5;
+constexpr double kValues = kMarks + kBodyRow;
+constexpr double kChartBottom = kValues + kBodyRow;
 
 /// The report of an evaluation with one low, two middle and three high hours.
 struct PageRig : RangeRig {
@@ -84,12 +82,12 @@ TEST(RangeReport, IsOneLandscapePage)
 TEST(RangeReport, TheFooterBearsTheTimeOfTheReport)
 {
     PageRig rig;
-    expectText(rig.page(), {"Range Evaluation Summary 5/15/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
+    expectText(rig.page(), {"Range Evaluation Summary 5/15/2024 2:30 PM", 7, 8, 36, kFooterY});
     expectLine(rig.line(0), 36, 49.1, 756, 49.1);
     EXPECT_FALSE(rig.line(0).isDashed());
     rig.clock.set(makeDate(2024, 12, 31, 9, 5));
     rig.build();
-    expectText(rig.page(), {"Range Evaluation Summary 12/31/2024 9:05 AM", 7, 8, 36, 41.7});
+    expectText(rig.page(), {"Range Evaluation Summary 12/31/2024 9:05 AM", 7, 8, 36, kFooterY});
 }
 
 TEST(RangeReport, TheTopRowsAreCentredOnTheirLine)
@@ -192,7 +190,7 @@ TEST(RangeReport, TheBarsStandInTheScaleOfTheFullest)
 TEST(RangeReport, TheHoursStandUprightAtTheirBars)
 {
     PageRig rig;
-    const double middle = 18 + kHeight / 2;
+    const double middle = 18 + kBodyHeight / 2;
     const double full = kChartTop - kChartBottom;
     expectText(rig.page(), {"1", 5, 10, 2 * 36 + middle, kChartBottom + full / 3 + 1});
     expectText(rig.page(), {"2", 5, 10, 6 * 36 + middle, kChartBottom + full * 2 / 3 + 1});
@@ -244,7 +242,7 @@ TEST(RangeReport, IsWrittenAsTheRegionDoes)
     const ReportPage& page = *document->Pages().begin();
     EXPECT_EQ(textsAt(page, kValues), (Lines{"0", "2,5", "10", "12,5"}));
     EXPECT_EQ(textsAt(page, kPercents), (Lines{"33,3%", "33,3%", "33,3%"}));
-    expectText(page, {"Range Evaluation Summary 15.05.2024 14:30", 7, 8, 36, 41.7});
+    expectText(page, {"Range Evaluation Summary 15.05.2024 14:30", 7, 8, 36, kFooterY});
 }
 
 TEST(RangeReport, NeedsTheDataOfItsSite)

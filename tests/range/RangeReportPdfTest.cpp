@@ -19,8 +19,8 @@ using testing::PdfWord;
 constexpr int kBarGrey = 0xB4;
 constexpr int kWhite = 0xFF;
 /// Where the chart stands on the page.
-constexpr double kBottom = 117.7;
-constexpr double kTop = 480.75;
+constexpr double kBottom = 129.22;
+constexpr double kTop = 466.158;
 
 /// The saved report of one low, 250 middle and 500 high hours.
 struct PdfRig : RangeRig {
@@ -71,7 +71,7 @@ TEST(RangeReportPdf, HasItsWordsInTheirPlaces)
     EXPECT_NEAR(middleOf(page.word("66.6%")), 684, 0.1);
     EXPECT_NEAR(page.word("Maximum").right, 756, 0.1);
     EXPECT_NEAR(middleOf(page.word("20%")), 180, 0.1);
-    EXPECT_NEAR(page.word("replacement:").bottom, 80.95, 1);
+    EXPECT_NEAR(page.word("replacement:").bottom, 86.71, 1);
 }
 
 TEST(RangeReportPdf, ReadsAsTheScreen)

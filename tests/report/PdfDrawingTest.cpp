@@ -1,3 +1,4 @@
+#include "report/PageLayout.h"
 #include "report/ReportDocument.h"
 #include "report/TestFonts.h"
 #include "support/PdfImage.h"
@@ -124,8 +125,8 @@ TEST_F(PdfDrawing, TheLowerEdgeOfATextIsAtItsY)
 {
     addText("standard", 100, 200);
     addText("\u0394", 100, 300);
-    EXPECT_THAT(source(), HasSubstr("\n1 0 0 1 100 202.07 Tm\n/F1 10 Tf\n(standard) Tj"))
-        << "the base line of Helvetica lies 207/1000 of the size above the lower edge";
+    EXPECT_THAT(source(), HasSubstr("\n1 0 0 1 100 202.12 Tm\n/F1 10 Tf\n(standard) Tj"))
+        << "the base line of Helvetica lies 212/1000 of the size above the lower edge";
     EXPECT_THAT(source(), HasSubstr("\n1 0 0 1 100 302.36 Tm"))
         << "that of the other face 236/1000";
 }
@@ -140,12 +141,36 @@ TEST_F(PdfDrawing, ATextLiesBetweenItsYAndItsHeightAboveIt)
     EXPECT_LT(image.darkest(100, 200, 160, 201.5), 128) << "the descenders reach it";
 }
 
+TEST_F(PdfDrawing, TheTextOfAFooterIsClearOfTheRuleItHangsFrom)
+{
+    page.SetHeight(60);
+    page.SetWidth(200);
+    layout::drawRule(page, layout::kFooterRule);
+    layout::drawFooterText(page, "7-Day Drift Summary (EPA)");
+    const PdfImage image = PdfImage::render(saved(), 1, 8);
+    EXPECT_LT(image.darkest(36, 48.9, 199, 49.3), 60) << "the rule, half a point wide";
+    EXPECT_EQ(image.darkest(36, 48, 199, 48.7), 255) << "blank between rule and letters";
+    EXPECT_LT(image.darkest(36, 42, 199, 47.5), 60) << "the letters";
+}
+
+TEST_F(PdfDrawing, AnAccentedCapitalIsClearOfTheRowAboveIt)
+{
+    page.SetHeight(60);
+    page.SetWidth(200);
+    float y = 50;
+    for (int row = 0; row < 2; ++row)
+        y = layout::centreBelow(addText("Enjoy (|) \u00C5", 0, 0), 100, y);
+    const PdfImage image = PdfImage::render(saved(), 1, 8);
+    const double top = double(y) + 11.17;
+    EXPECT_EQ(image.darkest(0, top + 0.8, 199, top + 1.6), 255) << "blank between the two rows";
+}
+
 TEST_F(PdfDrawing, ATextTurnedUpwardStartsAtItsPlaceAndRunsUp)
 {
     ReportTextItem& item = addText("Upward", 300, 100);
     item.SetOrientation(2);
     const std::string path = saved();
-    EXPECT_THAT(testing::pdfSource(path), HasSubstr("\n0 1 -1 0 297.93 100 Tm\n"));
+    EXPECT_THAT(testing::pdfSource(path), HasSubstr("\n0 1 -1 0 297.88 100 Tm\n"));
     const PdfWord word = testing::pdfPages(path).at(0).word("Upward");
     EXPECT_NEAR(word.bottom, 100, kNear);
     EXPECT_NEAR(word.top, 100 + item.Width(), kNear);

@@ -145,7 +145,7 @@ TEST(ReportTextItem, StacksRowsOnTheValueReadBack)
         item.SetY(y - item.Height() - 2);
         y = item.Y();
     }
-    EXPECT_FLOAT_EQ(y, 563.05F - 3 * 11.25F);
+    EXPECT_FLOAT_EQ(y, 563.05F - 3 * 13.17F);
 }
 
 TEST(ReportTextItem, RefusesAFontThatIsNone)

@@ -60,7 +60,7 @@ TEST(TextHeight, IsFromTheDescenderToTheAscender)
         item.SetFont(font);
         for (const float size : {8.0F, 10.0F, 12.0F, 14.0F}) {
             item.SetSize(size);
-            EXPECT_FLOAT_EQ(item.Height(), size * (718 + 207) / 1000);
+            EXPECT_FLOAT_EQ(item.Height(), size * (905 + 212) / 1000);
         }
     }
 }
@@ -69,7 +69,7 @@ TEST(TextHeight, IsThatOfTheFaceThatDrawsTheText)
 {
     ReportDocument document(testing::sansOnly());
     ReportTextItem& item = document.Pages().Add().TextItems().Add("");
-    EXPECT_FLOAT_EQ(item.Height(), 9.25F) << "an empty text has the standard face's";
+    EXPECT_FLOAT_EQ(item.Height(), 11.17F) << "an empty text has the standard face's";
     item.SetText("\u03A3");
     EXPECT_FLOAT_EQ(item.Height(), 11.64F) << "1901 and -483 of 2048 units";
 }

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-/// What stands on a page of the report, at positions worked by hand: a text of Helvetica is 0.925
-/// of its size high and as wide as the advances of its characters together.
+/// What stands on a page of the report, at positions worked by hand: a text is as wide as
+/// the advances of its characters together.
 namespace k7deval::test
 {
 
@@ -87,8 +87,8 @@ TEST(ReportHead, HasTheFacilityTheToolAndTheAnalyzerOnTheCentreLine)
     ReportRig rig;
     const ReportPage& page = rig.sheet(0);
     expectText(page, {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
-    expectText(page, {"7-Day Drift Test", 6, 12, 392 - 88.68 / 2, 563.05 - 11.1 - 2});
-    expectText(page, {"GT3 NOX/H", 5, 10, 392 - 53.9 / 2, 549.95 - 9.25 - 2});
+    expectText(page, {"7-Day Drift Test", 6, 12, 392 - 88.68 / 2, 563.05 - kHeadingRow});
+    expectText(page, {"GT3 NOX/H", 5, 10, 392 - 53.9 / 2, 547.646 - kBodyRow});
     EXPECT_EQ(countTexts(page), kHeadTexts);
 }
 
@@ -96,9 +96,9 @@ TEST(ReportHead, HasTwoLinesOfColumnHeads)
 {
     ReportRig rig;
     for (const CentredText& head : kUpperHeads)
-        expectCentred(rig.sheet(0), head, 538.7 - 11.25);
+        expectCentred(rig.sheet(0), head, 534.476 - kBodyRow);
     for (const CentredText& head : kLowerHeads)
-        expectCentred(rig.sheet(0), head, 527.45 - 11.25);
+        expectCentred(rig.sheet(0), head, 521.306 - kBodyRow);
 }
 
 TEST(ReportHead, HasARuleUnderItAndOneOverTheFooter)
@@ -106,7 +106,7 @@ TEST(ReportHead, HasARuleUnderItAndOneOverTheFooter)
     ReportRig rig;
     const auto& lines = rig.sheet(0).Lines();
     ASSERT_EQ(lines.Count(), 2);
-    const double expected[] = {49.1, 514.2};
+    const double expected[] = {49.1, 506.136};
     for (int i = 0; i < 2; ++i) {
         const ReportLine& line = *std::next(lines.begin(), i);
         EXPECT_EQ(line.X1(), 36);
@@ -115,19 +115,19 @@ TEST(ReportHead, HasARuleUnderItAndOneOverTheFooter)
         EXPECT_EQ(line.Y2(), line.Y1());
         EXPECT_FALSE(line.isDashed());
     }
-    EXPECT_NEAR(kHeadRule, 514.2, 1e-9);
+    EXPECT_NEAR(kHeadRule, 506.136, 1e-9);
 }
 
 TEST(ReportHead, TheFooterHangsBelowItsRuleWithTheTimeOfTheReport)
 {
     ReportRig rig;
-    expectText(rig.sheet(0), {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, 49.1 - 7.4});
+    expectText(rig.sheet(0), {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, kFooterY});
 }
 
 TEST(ReportHead, TheFooterIsWrittenAsTheRegionDoes)
 {
     ReportRig rig({}, "de-DE");
-    expectText(rig.sheet(0), {"7-Day Drift Summary 10.03.2024 14:30", 7, 8, 36, 41.7});
+    expectText(rig.sheet(0), {"7-Day Drift Summary 10.03.2024 14:30", 7, 8, 36, kFooterY});
 }
 
 TEST(ReportHead, AFacilityWithoutANameHasAStandIn)
@@ -172,15 +172,15 @@ TEST(ReportRow, HasElevenTextsCentredOnTheColumns)
         {"On-Line", 716, 35.57},
     };
     for (const CentredText& text : texts)
-        expectCentred(page, text, 514.2 - 9.25 - 2);
-    expectCentred(page, {"6.0", 586, 13.9}, 502.95, 6);
+        expectCentred(page, text, 506.136 - kBodyRow);
+    expectCentred(page, {"6.0", 586, 13.9}, 492.966, 6);
     EXPECT_EQ(countTexts(page), kHeadTexts + kRowTexts);
 }
 
 TEST(ReportRow, TellsAnOfflineRun)
 {
     RowRig rig(offline(runAt(kMorning)));
-    expectCentred(rig.sheet(0), {"Off-Line", 716, 35.57}, 502.95);
+    expectCentred(rig.sheet(0), {"Off-Line", 716, 35.57}, 492.966);
 }
 
 TEST(ReportRow, LeavesTheColumnsOfAnAbsentInjectionEmpty)
@@ -267,8 +267,8 @@ TEST(ReportRow, ARunThatIsNotUsedHasABandAcrossTheWholeWidth)
     const ReportRectangle& band = *bands.begin();
     EXPECT_EQ(band.X(), 36);
     EXPECT_EQ(band.Width(), 720);
-    EXPECT_NEAR(band.Y(), 502.95 - 1, 0.001);
-    EXPECT_NEAR(band.Height(), 514.2 - 1 - 501.95 - 3, 0.001);
+    EXPECT_NEAR(band.Y(), 492.966 - 1, 0.001);
+    EXPECT_NEAR(band.Height(), 506.136 - 1 - 491.966 - 3, 0.001);
     EXPECT_EQ(band.FillColor(), 0xF0F0F0);
     EXPECT_EQ(band.LineColor(), 0xF0F0F0);
 }

@@ -5,17 +5,17 @@
 
 /// Which rows the report has, where its pages break, and where the outcome stands.
 ///
-/// Under the head at 514.2 a row takes 11.25. With an outcome the rows keep 4 of them free, so the
-/// break comes behind the row that gets below 48 + 45 = 93: the 38th at 86.7. Without one it comes
-/// behind the 42nd at 41.7.
+/// Under the head at 506.136 a row takes 13.17. With an outcome the rows keep 4 of them free, so
+/// the break comes behind the row that gets below 48 + 52.68 = 100.68: the 31st at 97.866. Without
+/// one it comes behind the 35th at 45.186.
 namespace k7deval::test
 {
 
 namespace
 {
 
-constexpr int kRowsAboveAnOutcome = 38;
-constexpr int kRowsAlone = 42;
+constexpr int kRowsAboveAnOutcome = 31;
+constexpr int kRowsAlone = 35;
 constexpr const char* kOutcome = "The 7-Day Drift Test has been passed.";
 
 /// A report of so many rows.
@@ -30,7 +30,7 @@ struct PagingRig : ReportRig {
     /// The number that a page bears; empty for none.
     std::string numberOf(std::size_t index)
     {
-        for (const std::string& text : textsAt(sheet(index), 49.1 - 7.4)) {
+        for (const std::string& text : textsAt(sheet(index), kFooterY)) {
             if (text.starts_with("Page"))
                 return text;
         }
@@ -77,18 +77,18 @@ TEST(ReportPaging, TheRowBeforeTheLimitLeavesTheReportOnOnePage)
 {
     PagingRig rig(kRowsAboveAnOutcome - 1);
     EXPECT_EQ(rig.countPages(), 1U);
-    // The 37th row is at 97.95; one row is left free, and the outcome hangs below it.
-    expectText(rig.sheet(0), {kOutcome, 5, 10, 36, 97.95 - 11.25 - 11.25});
+    // The 30th row is at 111.036; one row is left free, and the outcome hangs below it.
+    expectText(rig.sheet(0), {kOutcome, 5, 10, 36, 111.036 - 2 * kBodyRow});
 }
 
 TEST(ReportPaging, TheRowThatCrossesTheLimitStaysAndThePageBreaksBehindIt)
 {
     PagingRig rig(kRowsAboveAnOutcome);
     ASSERT_EQ(rig.countPages(), 2U);
-    EXPECT_EQ(rig.rowsOn(0), 38U);
-    EXPECT_EQ(textsAt(rig.sheet(0), 86.7).front(), "2/7/2024 08:15");
+    EXPECT_EQ(rig.rowsOn(0), 31U);
+    EXPECT_EQ(textsAt(rig.sheet(0), 97.866).front(), "1/31/2024 08:15");
     EXPECT_EQ(rig.rowsOn(1), 0U);
-    expectText(rig.sheet(1), {kOutcome, 5, 10, 36, 514.2 - 11.25 - 11.25});
+    expectText(rig.sheet(1), {kOutcome, 5, 10, 36, kHeadRule - 2 * kBodyRow});
 }
 
 TEST(ReportPaging, FromTwoPagesOnEachBearsItsNumber)
@@ -98,7 +98,7 @@ TEST(ReportPaging, FromTwoPagesOnEachBearsItsNumber)
     EXPECT_EQ(rig.numberOf(0), "Page 1");
     EXPECT_EQ(rig.numberOf(1), "Page 2");
     EXPECT_EQ(rig.numberOf(2), "Page 3");
-    EXPECT_EQ(rig.rowsOn(1), 38U);
+    EXPECT_EQ(rig.rowsOn(1), 31U);
     EXPECT_EQ(rig.rowsOn(2), 1U);
 }
 
@@ -106,8 +106,8 @@ TEST(ReportPaging, ANumberStandsAtTheRightMargin)
 {
     // "Page 1" is 3169 thousandths wide: P 667, a 556, g 556, e 556, blank 278, 1 556.
     PagingRig rig(kRowsAboveAnOutcome);
-    expectText(rig.sheet(0), {"Page 1", 7, 8, 756 - 25.352, 41.7});
-    expectText(rig.sheet(1), {"Page 2", 7, 8, 756 - 25.352, 41.7});
+    expectText(rig.sheet(0), {"Page 1", 7, 8, 756 - 25.352, kFooterY});
+    expectText(rig.sheet(1), {"Page 2", 7, 8, 756 - 25.352, kFooterY});
 }
 
 TEST(ReportPaging, EachPageHasHeadFooterAndSize)
@@ -119,18 +119,17 @@ TEST(ReportPaging, EachPageHasHeadFooterAndSize)
         EXPECT_EQ(page.Width(), 792);
         EXPECT_EQ(page.Lines().Count(), 2);
         expectText(page, {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
-        expectText(page, {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, 41.7});
+        expectText(page, {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, kFooterY});
     }
-    EXPECT_EQ(textsAt(rig.sheet(1), rowY(1)).front(), "2/8/2024 08:15");
+    EXPECT_EQ(textsAt(rig.sheet(1), rowY(1)).front(), "2/1/2024 08:15");
 }
 
 TEST(ReportPaging, WithoutAnOutcomeTheRowsRunDownToTheFooter)
 {
     PagingRig rig(kRowsAlone + 1, "");
     ASSERT_EQ(rig.countPages(), 2U);
-    EXPECT_EQ(rig.rowsOn(0), 42U);
-    EXPECT_EQ(textsAt(rig.sheet(0), 41.7).front(), "7-Day Drift Summary 3/10/2024 2:30 PM")
-        << "the last row and the footer are level";
+    EXPECT_EQ(rig.rowsOn(0), 35U);
+    EXPECT_EQ(textsAt(rig.sheet(0), 45.186).front(), "2/4/2024 08:15");
     EXPECT_EQ(rig.rowsOn(1), 1U);
     EXPECT_EQ(countTexts(rig.sheet(1)), 24U + 11U + 1U) << "no outcome";
 }
@@ -180,7 +179,7 @@ TEST(ReportRows, EachRowIsShadedByItself)
     ASSERT_EQ(bands.Count(), 2);
     EXPECT_NEAR(bands.begin()->Y(), rowY(1) - 1, 0.01);
     EXPECT_NEAR(std::next(bands.begin())->Y(), rowY(3) - 1, 0.01);
-    EXPECT_NEAR(std::next(bands.begin())->Height(), 8.25, 0.01);
+    EXPECT_NEAR(std::next(bands.begin())->Height(), 10.17, 0.01);
 }
 
 TEST(ReportRows, WithoutRunsTheOutcomeStandsAtOnceUnderTheHead)
@@ -188,7 +187,7 @@ TEST(ReportRows, WithoutRunsTheOutcomeStandsAtOnceUnderTheHead)
     ReportRig rig;
     rig.test.objDaysToDisplay = arrayOf(daysOfOneRun(2));
     rig.test.strSummary = "There are no calibrations in selected time range.";
-    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, 514.2 - 11.25});
+    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, kHeadRule - kBodyRow});
     EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
     EXPECT_EQ(rig.countPages(), 1U);
 }
@@ -215,7 +214,7 @@ TEST(ReportRows, WithoutADisplayedRunTheOutcomeStandsAQuarterOfTheWayDown)
     const CalRun hidden = runAt(makeDate(2024, 3, 2, 8, 15));
     rig.test.dictCals->Add(minuteKey(hidden->CalTime), hidden);
     rig.test.strSummary = kOutcome;
-    expectText(rig.sheet(0), {kOutcome, 5, 10, 36, 514.2 - 514.2 / 4 - 11.25});
+    expectText(rig.sheet(0), {kOutcome, 5, 10, 36, kHeadRule - kHeadRule / 4 - kBodyRow});
     EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
 }
 
@@ -235,8 +234,8 @@ TEST(ReportOutcome, ALineBreakSplitsItAndLeavesAnEmptyLine)
     ReportRig rig;
     rig.test.strSummary = "first\r\nsecond";
     const ReportPage& page = rig.sheet(0);
-    expectText(page, {"first", 5, 10, 36, 502.95});
-    expectText(page, {"second", 5, 10, 36, 502.95 - 2 * 11.25});
+    expectText(page, {"first", 5, 10, 36, 492.966});
+    expectText(page, {"second", 5, 10, 36, 492.966 - 2 * kBodyRow});
     EXPECT_EQ(countTexts(page), 26U);
 }
 
@@ -244,7 +243,7 @@ TEST(ReportOutcome, OnlyTheFirstLineBreakSplitsIt)
 {
     ReportRig rig;
     rig.test.strSummary = "first\r\nsecond\r\nthird";
-    expectText(rig.sheet(0), {"second\r\nthird", 5, 10, 36, 480.45});
+    expectText(rig.sheet(0), {"second\r\nthird", 5, 10, 36, 466.626});
     EXPECT_EQ(countTexts(rig.sheet(0)), 26U);
 }
 
@@ -252,7 +251,7 @@ TEST(ReportOutcome, ALineFeedAloneIsNoLineBreak)
 {
     ReportRig rig;
     rig.test.strSummary = "first\nsecond\r";
-    expectText(rig.sheet(0), {"first\nsecond\r", 5, 10, 36, 502.95});
+    expectText(rig.sheet(0), {"first\nsecond\r", 5, 10, 36, 492.966});
     EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
 }
 
@@ -260,7 +259,7 @@ TEST(ReportOutcome, IsNotWrappedAtThePagesEdge)
 {
     ReportRig rig;
     rig.test.strSummary = std::string(400, 'W');
-    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, 502.95});
+    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, 492.966});
 }
 
 } // namespace k7deval::test

@@ -34,16 +34,14 @@ struct ReportRig : SetUpRig {
     std::unique_ptr<ReportDocument> document;
 };
 
-/// Where the first row hangs: the rule under the head of a page. Helvetica is 0.925 of its size
-/// high (ascender 718, descender -207), so head and rows come down from 563.05 by the title's 11.1
-/// + 2, and five or more times by 9.25 + 2.
-inline constexpr double kHeadRule = 563.05 - 13.1 - 3 * 11.25 - 2;
-inline constexpr double kRowHeight = 11.25;
+/// Where the first row hangs: the rule under the head of a page, which comes down from 563.05 by
+/// the title and three rows of body text.
+inline constexpr double kHeadRule = 563.05 - kHeadingRow - 3 * kBodyRow - 2;
 
 /// The lower edge of a page's n-th row, from 1.
 inline double rowY(int n)
 {
-    return kHeadRule - n * kRowHeight;
+    return kHeadRule - n * kBodyRow;
 }
 
 /// So many days from 1 January 2024, each with one used run at 08:15.

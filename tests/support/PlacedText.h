@@ -10,6 +10,17 @@
 namespace k7deval::test
 {
 
+/// The heights of texts in the standard faces: 1.117 of their size, 0.905 above the base line and
+/// 0.212 below it.
+inline constexpr double kBodyHeight = 11.17;     // At 10 points.
+inline constexpr double kHeadingHeight = 13.404; // At 12 points.
+inline constexpr double kFooterHeight = 8.936;   // At 8 points.
+/// From one row of body text or headings to the next, with a gap of 2 between them.
+inline constexpr double kBodyRow = kBodyHeight + 2;
+inline constexpr double kHeadingRow = kHeadingHeight + 2;
+/// A footer hangs from its rule at 49.1.
+inline constexpr double kFooterY = 49.1 - kFooterHeight;
+
 /// A text as it stands on a page: font code, size, and its lower left corner in points.
 struct PlacedText {
     std::string text;

@@ -49,9 +49,9 @@ public:
     void ReadData(DIDataSet& set) override
     {
         const bool hasValues = set.StartTime() >= first_;
-        std::fill(set.Statuses().begin(), set.Statuses().end(), hasValues ? kMeasured : 0);
+        std::fill(set.statuses().begin(), set.statuses().end(), hasValues ? kMeasured : 0);
         std::size_t number = 0;
-        for (double& value : set.Values())
+        for (double& value : set.values())
             value = hasValues ? reading(number++) : std::numeric_limits<double>::quiet_NaN();
     }
 
@@ -76,10 +76,10 @@ void LoadOfTwelveQuarters(benchmark::State& state)
     LoadEvaluation evaluation;
     evaluation.MinSafeValue = kLow;
     evaluation.CapacityValue = kTop;
-    evaluation.SetThresholds({});
+    evaluation.setThresholds({});
     for (auto _ : state) {
-        evaluation.Reset();
-        evaluation.Run(hours, words, {makeDate(2021, 12, 31, 23), makeDate(2019, 1, 1)});
+        evaluation.reset();
+        evaluation.run(hours, words, {makeDate(2021, 12, 31, 23), makeDate(2019, 1, 1)});
         benchmark::DoNotOptimize(evaluation.Bins);
     }
 }
@@ -94,10 +94,10 @@ void RangeOfTwelveQuarters(benchmark::State& state)
     evaluation.RangeValue = kTop;
     evaluation.MECValue = kLow;
     evaluation.MPCValue = kTop;
-    evaluation.SetThresholds({});
+    evaluation.setThresholds({});
     for (auto _ : state) {
-        evaluation.Reset();
-        evaluation.Run(hours, words, makeDate(2021, 12, 31, 23), {true, true});
+        evaluation.reset();
+        evaluation.run(hours, words, makeDate(2021, 12, 31, 23), {true, true});
         benchmark::DoNotOptimize(evaluation.Bins);
     }
 }

@@ -27,7 +27,7 @@ nlohmann::ordered_json screenAsJson(const DriftSession& session)
 {
     nlohmann::ordered_json document;
     document["Screen"] = toJson(session.control().Properties());
-    document["Test"] = toJson(session.control().Test());
+    document["Test"] = toJson(session.control().test());
     document["Messages"] = session.postedLines();
     return document;
 }
@@ -69,7 +69,7 @@ Status runDrift(const DriftRequest& request, const Console& console)
     if (const std::string failure = session.failure(); !failure.empty())
         throw UsageError(failure);
     save(session, request);
-    return request.check && !session.control().Test().isPassed() ? Status::NotPassed : Status::Done;
+    return request.check && !session.control().test().isPassed() ? Status::NotPassed : Status::Done;
 }
 
 } // namespace k7deval::cli

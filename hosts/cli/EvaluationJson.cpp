@@ -32,7 +32,7 @@ Json toJson(const ParameterScales& parameters)
 
 Json evaluationToJson(const ctrlMaxMW& tool)
 {
-    const LoadEvaluation& evaluation = tool.Evaluation();
+    const LoadEvaluation& evaluation = tool.evaluation();
     return {{"HighThreshold", numberToJson(evaluation.HighThreshold)},
             {"LowThreshold", numberToJson(evaluation.LowThreshold)},
             {"MinSafeValue", numberToJson(evaluation.MinSafeValue)},
@@ -51,7 +51,7 @@ Json evaluationToJson(const ctrlMaxMW& tool)
 
 Json evaluationToJson(const ctrlRangeEval& tool)
 {
-    const RangeEvaluation& evaluation = tool.Evaluation();
+    const RangeEvaluation& evaluation = tool.evaluation();
     return {{"RangeValue", numberToJson(evaluation.RangeValue)},
             {"LowThreshold", numberToJson(evaluation.LowThreshold)},
             {"HighThreshold", numberToJson(evaluation.HighThreshold)},

@@ -57,7 +57,7 @@ void HistogramCommand::pickParameter()
     if (!request_.unit.empty())
         pick(screen.cmbUnit, request_.unit, "There is no unit " + inQuotes(request_.unit));
     const std::string unit = "Unit " + screen.cmbUnit.Text();
-    if (screen.cmbParam.ListCount() == 0)
+    if (screen.cmbParam.listCount() == 0)
         throw UsageError(unit + " has no parameter with hourly values.");
     if (!request_.parameter.empty())
         pick(screen.cmbParam, request_.parameter,

@@ -54,7 +54,7 @@ std::vector<std::string> edgesOf(const std::string& toolTip)
 std::string barText(const histogram::HistogramTool& tool, int number)
 {
     const screen::Line& scale = tool.linMin;
-    const float share = tool.lblBar[number].Place().Height / (scale.Y2() - scale.Y1());
+    const float share = tool.lblBar[number].place().Height / (scale.Y2() - scale.Y1());
     std::string bar(static_cast<std::size_t>(std::ceil(share * kBarCharacters)), '#');
     return bar;
 }
@@ -109,7 +109,7 @@ std::string limitText(const screen::CheckBox& box, const screen::TextBox& field)
 
 void printScreen(const ctrlMaxMW& tool, const RegionalSettings& regional, std::ostream& out)
 {
-    const LoadEvaluation& evaluation = tool.Evaluation();
+    const LoadEvaluation& evaluation = tool.evaluation();
     out << tool.lblHeader.Caption() << '\n';
     printParameter(tool, out);
     out << captioned(tool.lblMinSafeValue.Caption(), tool.txtMinSafe.Text()) << '\n'
@@ -125,7 +125,7 @@ void printScreen(const ctrlMaxMW& tool, const RegionalSettings& regional, std::o
 
 void printScreen(const ctrlRangeEval& tool, const RegionalSettings& regional, std::ostream& out)
 {
-    const RangeEvaluation& evaluation = tool.Evaluation();
+    const RangeEvaluation& evaluation = tool.evaluation();
     out << captioned(tool.lblHeader.Caption(), tool.cmbScale.Text()) << '\n';
     printParameter(tool, out);
     out << captioned(tool.lblRange.Caption(), tool.txtRange.Text()) << '\n'

@@ -18,7 +18,7 @@ constexpr const char* kNoLimit = "none";
 
 void requireAnalyzers(const ctrlRangeEval& tool)
 {
-    if (tool.cmbUnit.ListCount() == 0)
+    if (tool.cmbUnit.listCount() == 0)
         throw UsageError("The site " + tool.DIServer()->SiteKey() +
                          " has no analyzer with a range to evaluate; import its spans or its "
                          "monitoring plan first.");
@@ -61,7 +61,7 @@ private:
 
     [[nodiscard]] std::string causeOf(const Error& error) const override
     {
-        if (tool_.Evaluation().RangeValue == 0)
+        if (tool_.evaluation().RangeValue == 0)
             return "because the range is 0";
         return error.number() == errors::kSubscript ? "because a value lies too far below 0" : "";
     }
@@ -82,9 +82,9 @@ private:
 /// A line for each scale of each parameter of the unit that is picked.
 void printRanges(ctrlRangeEval& tool, std::ostream& out)
 {
-    for (std::int32_t parameter = 0; parameter < tool.cmbParam.ListCount(); ++parameter) {
+    for (std::int32_t parameter = 0; parameter < tool.cmbParam.listCount(); ++parameter) {
         tool.cmbParam.Pick(parameter);
-        for (std::int32_t scale = 0; scale < tool.cmbScale.ListCount(); ++scale) {
+        for (std::int32_t scale = 0; scale < tool.cmbScale.listCount(); ++scale) {
             tool.cmbScale.Pick(scale);
             out << tool.cmbUnit.Text() << '\t' << tool.cmbParam.Text() << '\t'
                 << tool.cmbScale.Text() << '\t' << tool.txtRange.Text() << '\n';

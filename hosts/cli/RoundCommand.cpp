@@ -133,7 +133,7 @@ Status runRound(const RoundRequest& request, const Console& console)
             lines.print(test, {"no verdict", "none", failure});
             continue;
         }
-        lines.print(test, findingOf(session.control().Test()));
+        lines.print(test, findingOf(session.control().test()));
         const std::string stem = request.out + "/" + test.unit + "_" + test.testNumber;
         session.savePdf(stem + ".pdf");
         if (session.isUnder40CFR75())

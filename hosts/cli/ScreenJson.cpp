@@ -126,7 +126,7 @@ Json numberToJson(float value)
 {
     if (!std::isfinite(value))
         return nullptr;
-    return ToDouble(GeneralNumber(value, {}), RegionalSettings{});
+    return toDouble(GeneralNumber(value, {}), RegionalSettings{});
 }
 
 Json timeToJson(Date time)

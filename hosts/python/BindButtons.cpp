@@ -22,7 +22,7 @@ void setChecked(CheckBox& box, Int32 value)
 {
     if (value != 0 && value != 1)
         throw Error(errors::kInvalidCall);
-    box.SetChecked(value == 1);
+    box.setChecked(value == 1);
 }
 
 } // namespace
@@ -42,7 +42,7 @@ void bindButtons(py::module_& module)
     py::class_<OptionButton, Widget, std::shared_ptr<OptionButton>>(
         module, "OptionButton", collectedPart(), "One of several exclusive choices.")
         .def_property_readonly("Caption", &OptionButton::Caption, "Its text.")
-        .def_property("Value", &OptionButton::isSelected, &OptionButton::SetSelected,
+        .def_property("Value", &OptionButton::isSelected, &OptionButton::setSelected,
                       "It is selected. Becoming selected clears the others of its group and runs\n"
                       "the click rule.")
         .def("Press", &OptionButton::Press, "The user's press: selects the option.");

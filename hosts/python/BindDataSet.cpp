@@ -18,14 +18,14 @@ namespace
 void setValue(const HostDataPoint& self, const py::object& value)
 {
     if (value.is_none())
-        self.slot().SetNull();
+        self.slot().setNull();
     else
         self.slot().SetValue(doubleIn(variantOf(value), RegionalSettings{}));
 }
 
 HostDataPoint pointAt(const std::shared_ptr<DIDataSet>& set, Date time)
 {
-    return {set, set->ItemByTime(time).Index()};
+    return {set, set->ItemByTime(time).index()};
 }
 
 void bindDataPoint(py::module_& module)

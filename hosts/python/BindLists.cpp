@@ -17,7 +17,7 @@ void bindLists(py::module_& module)
     py::class_<ComboBox, screen::Widget, std::shared_ptr<ComboBox>>(
         module, "ComboBox", collectedPart(), "A list to pick from, with or without an edit field.")
         .def_property_readonly("List", &ComboBox::List, "The texts of its entries, a copy.")
-        .def_property_readonly("ItemData", &ComboBox::ItemDataList,
+        .def_property_readonly("ItemData", &ComboBox::itemDataList,
                                "The numbers behind its entries, a copy.")
         .def_property(
             "ListIndex", &ComboBox::ListIndex,

@@ -63,7 +63,7 @@ void column(Class& control, const char* name, Value ParamRow::*member, const cha
     control.def_property_readonly(
         name,
         [member](const Control& self) -> std::optional<std::vector<Value>> {
-            const Array<ParamRow>& rows = self.Rows().All();
+            const Array<ParamRow>& rows = self.rows().all();
             if (!rows.isSized())
                 return std::nullopt;
             std::vector<Value> values;
@@ -81,7 +81,7 @@ template <class Class> void bindRows(Class& control)
     column(control, "RowNames", &ParamRow::name, "The name of each row.");
     column(control, "RowIsUnit", &ParamRow::isUnit, "The row stands for a unit.");
     control.def_property_readonly(
-        "RowCount", [](const Control& self) { return self.Rows().Count(); },
+        "RowCount", [](const Control& self) { return self.rows().Count(); },
         "How many rows count.");
 }
 

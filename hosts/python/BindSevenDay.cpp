@@ -20,7 +20,7 @@ template <class Value>
 void state(ToolClass& tool, const char* name, Value DriftTest::*member, const char* doc)
 {
     tool.def_property_readonly(
-        name, [member](const ctrl7Day& self) { return self.Test().*member; }, doc);
+        name, [member](const ctrl7Day& self) { return self.test().*member; }, doc);
 }
 
 void bindWhatIsTested(ToolClass& tool)
@@ -43,7 +43,7 @@ void bindWhatIsTested(ToolClass& tool)
 
 py::object runs(const ctrl7Day& tool)
 {
-    const auto& runs = tool.Test().dictCals;
+    const auto& runs = tool.test().dictCals;
     return runs ? py::cast(*runs) : py::none();
 }
 
@@ -97,10 +97,10 @@ void bindSevenDay(py::module_& module, const HostStateHandle& host)
         "Hands over the message sink (an object with Post(severity, text), or None) and the data,\n"
         "and shows the first page.");
     tool.def_property_readonly(
-            "DIServer", [](const ctrl7Day& self) { return pythonServer(self.Test().DIServer); },
+            "DIServer", [](const ctrl7Day& self) { return pythonServer(self.test().DIServer); },
             "The data of Setup.")
         .def_property_readonly(
-            "irm", [](const ctrl7Day& self) { return pythonSink(self.Test().irm); },
+            "irm", [](const ctrl7Day& self) { return pythonSink(self.test().irm); },
             "The message sink of Setup.");
     bindParts(tool);
     bindWhatIsTested(tool);

@@ -24,11 +24,11 @@ using screen::Widget;
 template <class Class> void place(Class& widgets, const char* name, float Geometry::*side)
 {
     widgets.def_property(
-        name, [side](const Widget& self) { return self.Place().*side; },
+        name, [side](const Widget& self) { return self.place().*side; },
         [side](Widget& self, Float32 twips) {
-            Geometry place = self.Place();
+            Geometry place = self.place();
             place.*side = twips;
-            self.SetPlace(place);
+            self.setPlace(place);
         },
         "Twips, 15 to a pixel; 0 where the control leaves the layout to its view.");
 }

@@ -25,8 +25,8 @@ template <class Control> void resize(Control& control, Float32 width, Float32 he
     if constexpr (requires { control.Resize(width, height); }) {
         control.Resize(width, height);
     } else {
-        const screen::Geometry place = control.Place();
-        control.SetPlace({place.Left, place.Top, width, height});
+        const screen::Geometry place = control.place();
+        control.setPlace({place.Left, place.Top, width, height});
     }
 }
 
@@ -55,7 +55,7 @@ void result(Class& tool, const char* name, Value Results::*member, const char* d
 {
     using Tool = typename Class::type;
     tool.def_property_readonly(
-        name, [member](const Tool& self) { return self.Evaluation().*member; }, doc);
+        name, [member](const Tool& self) { return self.evaluation().*member; }, doc);
 }
 
 /// The data as a property.

@@ -52,8 +52,8 @@ int visit(const References& references, visitproc visitor, void* argument)
 const ReferencesHandle& referencesOf(screen::Widget& widget)
 {
     screen::Widget* root = &widget;
-    while (root->Parent() != nullptr)
-        root = root->Parent();
+    while (root->parent() != nullptr)
+        root = root->parent();
     auto* referrer = dynamic_cast<Referrer*>(root);
     assert(referrer != nullptr);
     return referrer->references();

@@ -127,8 +127,8 @@ void fillSlots(DIDataSet& set, py::handle values, py::handle statuses)
 {
     // Into a copy first, so that a failure leaves the set as it was.
     DIDataSet filled = set;
-    fill(values, filled.Values());
-    fill(statuses, filled.Statuses());
+    fill(values, filled.values());
+    fill(statuses, filled.statuses());
     set = std::move(filled);
 }
 

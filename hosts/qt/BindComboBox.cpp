@@ -54,14 +54,14 @@ void fitWidth(QComboBox& view)
 /// Rows are changed in place, since a list is filled entry by entry.
 void showEntries(QComboBox& view, const screen::ComboBox& model)
 {
-    for (int row = 0; row < model.ListCount(); ++row) {
+    for (int row = 0; row < model.listCount(); ++row) {
         const QString text = toQString(model.List()[static_cast<std::size_t>(row)]);
         if (row >= view.count())
             view.addItem(text);
         else if (view.itemText(row) != text)
             view.setItemText(row, text);
     }
-    while (view.count() > model.ListCount())
+    while (view.count() > model.listCount())
         view.removeItem(view.count() - 1);
     fitWidth(view);
 }
@@ -101,7 +101,7 @@ void makeEditable(QComboBox& view)
 
 void bind(QComboBox& view, screen::ComboBox& model)
 {
-    if (model.HasEditField())
+    if (model.hasEditField())
         makeEditable(view);
     new WheelGuard(view);
     view.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

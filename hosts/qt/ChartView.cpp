@@ -97,7 +97,7 @@ void ChartView::placeRow(const Row& row, int top) const
 {
     for (const auto& [model, view] : row) {
         const int width = std::min(view->sizeHint().width(), this->width());
-        const screen::Geometry& place = model->Place();
+        const screen::Geometry& place = model->place();
         double left = across(place.Left);
         if (model->Alignment() == screen::Alignment::Centre)
             left = across(place.Left + place.Width / 2) - width / 2.0;
@@ -122,7 +122,7 @@ QSize ChartView::minimumSizeHint() const
 
 double ChartView::across(float twips) const
 {
-    return static_cast<double>(twips) / tool_->fraResults.Place().Width * width();
+    return static_cast<double>(twips) / tool_->fraResults.place().Width * width();
 }
 
 /// Between the upper row of texts and the lower two, from the top of the marks to the lower edge of
@@ -137,7 +137,7 @@ double ChartView::down(float twips) const
 
 QRect ChartView::barRect(int bar) const
 {
-    const screen::Geometry& place = tool_->lblBar[bar].Place();
+    const screen::Geometry& place = tool_->lblBar[bar].place();
     if (place.Height == 0)
         return {};
     const int left = static_cast<int>(std::lround(across(place.Left)));
@@ -149,7 +149,7 @@ QRect ChartView::barRect(int bar) const
 
 QRect ChartView::columnRect(int bar) const
 {
-    const screen::Geometry& place = tool_->lblBar[bar].Place();
+    const screen::Geometry& place = tool_->lblBar[bar].place();
     const int left = static_cast<int>(across(place.Left));
     const int right = static_cast<int>(across(place.Left + place.Width));
     return {left, rowHeight(), right - left, height() - 3 * rowHeight()};
@@ -157,7 +157,7 @@ QRect ChartView::columnRect(int bar) const
 
 const histogram::BarTexts& ChartView::texts(int bar) const
 {
-    return tool_->lblBar.Texts(bar);
+    return tool_->lblBar.texts(bar);
 }
 
 QString ChartView::tip(int bar) const
@@ -169,7 +169,7 @@ QString ChartView::tip(int bar) const
 int ChartView::barAt(int x) const
 {
     for (int bar = 1; bar < histogram::BarLabels::Count(); ++bar) {
-        const screen::Geometry& place = tool_->lblBar[bar].Place();
+        const screen::Geometry& place = tool_->lblBar[bar].place();
         if (x >= across(place.Left) && x < across(place.Left + place.Width))
             return bar;
     }
@@ -230,7 +230,7 @@ void ChartView::showTip(int bar)
     currentBar_ = bar;
     update();
     const QRect rect = barRect(bar);
-    const QPoint top(static_cast<int>(across(tool_->lblBar[bar].Place().Left)),
+    const QPoint top(static_cast<int>(across(tool_->lblBar[bar].place().Left)),
                      rect.isEmpty() ? height() / 2 : rect.top());
     QToolTip::showText(mapToGlobal(top), tip(bar), this);
     tellFocus(*this, bar);

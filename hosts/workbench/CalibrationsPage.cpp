@@ -116,7 +116,7 @@ void CalibrationsPage::propose(const DIParameterList& calibrations)
 void CalibrationsPage::select(PID calibration)
 {
     screen::ComboBox& list = calibrations_.cmbPID;
-    const auto& pids = list.ItemDataList();
+    const auto& pids = list.itemDataList();
     const auto found = std::ranges::find(pids, calibration);
     if (found != pids.end())
         list.SetListIndex(static_cast<std::int32_t>(found - pids.begin()));

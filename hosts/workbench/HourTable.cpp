@@ -27,7 +27,7 @@ bool isThere(double value)
 
 bool HourSeries::hasValue() const
 {
-    return std::ranges::any_of(hours.Values(), isThere);
+    return std::ranges::any_of(hours.values(), isThere);
 }
 
 HourSeries readSeries(DIServer& server, PID pid, Date first, std::int32_t hours)
@@ -46,7 +46,7 @@ HourTable::HourTable(std::vector<HourSeries> series, DIStatusCodes& codes,
     : series_(std::move(series)), regional_(&regional)
 {
     for (const auto& one : series_) {
-        for (const std::int32_t word : one.hours.Statuses()) {
+        for (const std::int32_t word : one.hours.statuses()) {
             if (!statuses_.contains(word))
                 statuses_[word] = statusText(codes, word);
         }
@@ -59,7 +59,7 @@ int HourTable::hoursWithValue() const
     for (int row = 0; row < rows(); ++row) {
         const auto slot = static_cast<std::size_t>(row);
         count += std::ranges::any_of(
-            series_, [&](const HourSeries& one) { return isThere(one.hours.Values()[slot]); });
+            series_, [&](const HourSeries& one) { return isThere(one.hours.values()[slot]); });
     }
     return count;
 }
@@ -68,13 +68,13 @@ bool HourTable::hasContent() const
 {
     return std::ranges::any_of(series_, [](const HourSeries& one) {
         const auto isSet = [](std::int32_t word) { return word != 0; };
-        return one.hasValue() || std::ranges::any_of(one.hours.Statuses(), isSet);
+        return one.hasValue() || std::ranges::any_of(one.hours.statuses(), isSet);
     });
 }
 
 QStringList HourTable::statusTextsIn(int column) const
 {
-    const auto words = seriesOf(column).hours.Statuses();
+    const auto words = seriesOf(column).hours.statuses();
     QStringList texts;
     for (const std::int32_t word : std::set<std::int32_t>(words.begin(), words.end()))
         texts << statuses_.at(word).brief;
@@ -100,7 +100,7 @@ QString HourTable::cell(int row, int column, Reader reader) const
         return column == 0 ? dayText(row, reader) : hourText(row, reader);
     if (isStatus(column))
         return statusOf(row, column).brief;
-    const double value = seriesOf(column).hours.Values()[static_cast<std::size_t>(row)];
+    const double value = seriesOf(column).hours.values()[static_cast<std::size_t>(row)];
     return cellText(isThere(value) ? Variant(value) : Variant(Null{}), reader, *regional_);
 }
 
@@ -133,7 +133,7 @@ const HourSeries& HourTable::seriesOf(int column) const
 
 const StatusText& HourTable::statusOf(int row, int column) const
 {
-    return statuses_.at(seriesOf(column).hours.Statuses()[static_cast<std::size_t>(row)]);
+    return statuses_.at(seriesOf(column).hours.statuses()[static_cast<std::size_t>(row)]);
 }
 
 QString HourTable::dayText(int row, Reader reader) const

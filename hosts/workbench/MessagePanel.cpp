@@ -28,7 +28,7 @@ public:
         if (!panel_)
             return;
         const Date now = clock_->now();
-        panel_->add(qt::toQString(ShortDate(now, *regional_) + " " + LongTime(now, *regional_)),
+        panel_->add(qt::toQString(ShortDate(now, *regional_) + " " + longTime(now, *regional_)),
                     severity, qt::toQString(text));
     }
 

@@ -60,7 +60,7 @@ std::optional<Date> newestValue(DIParameter& parameter, Date now, Date firstDay)
         DIDataSet hours;
         hours.Init(start, static_cast<std::int32_t>(hourBoundariesBetween(start, end)), "h", 1, 0);
         parameter.ReadData(hours);
-        const auto values = hours.Values();
+        const auto values = hours.values();
         for (std::size_t slot = values.size(); slot > 0; --slot) {
             if (std::isfinite(values[slot - 1]))
                 return std::optional(DateAddExact("h", static_cast<double>(slot - 1), start));

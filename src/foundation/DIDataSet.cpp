@@ -18,7 +18,7 @@ constexpr double kNoValue = std::numeric_limits<double>::quiet_NaN();
 
 Variant DIDataPoint::Value() const
 {
-    const double value = set_->Values()[slot_];
+    const double value = set_->values()[slot_];
     if (std::isnan(value))
         return Null{};
     return value;
@@ -26,22 +26,22 @@ Variant DIDataPoint::Value() const
 
 std::int32_t DIDataPoint::Status() const
 {
-    return set_->Statuses()[slot_];
+    return set_->statuses()[slot_];
 }
 
 void DIDataPoint::SetValue(double value)
 {
-    set_->Values()[slot_] = value;
+    set_->values()[slot_] = value;
 }
 
-void DIDataPoint::SetNull()
+void DIDataPoint::setNull()
 {
-    set_->Values()[slot_] = kNoValue;
+    set_->values()[slot_] = kNoValue;
 }
 
 void DIDataPoint::SetStatus(std::int32_t status)
 {
-    set_->Statuses()[slot_] = status;
+    set_->statuses()[slot_] = status;
 }
 
 void DIDataSet::Init(Date start, std::int32_t count, const std::string& interval,

@@ -21,11 +21,11 @@ public:
     DIDataPoint(DIDataSet& set, std::size_t slot) : set_(&set), slot_(slot) {}
 
     /// Its position in the set, from 1.
-    [[nodiscard]] std::int32_t Index() const { return static_cast<std::int32_t>(slot_) + 1; }
+    [[nodiscard]] std::int32_t index() const { return static_cast<std::int32_t>(slot_) + 1; }
     [[nodiscard]] Variant Value() const;
     [[nodiscard]] std::int32_t Status() const;
     void SetValue(double value);
-    void SetNull();
+    void setNull();
     void SetStatus(std::int32_t status);
 
 private:
@@ -55,10 +55,10 @@ public:
     [[nodiscard]] DIDataPoint ItemByTime(Date time);
 
     /// The slots as arrays, for a host that fills them in one go and an engine that scans them.
-    [[nodiscard]] std::span<double> Values() { return values_; }
-    [[nodiscard]] std::span<const double> Values() const { return values_; }
-    [[nodiscard]] std::span<std::int32_t> Statuses() { return statuses_; }
-    [[nodiscard]] std::span<const std::int32_t> Statuses() const { return statuses_; }
+    [[nodiscard]] std::span<double> values() { return values_; }
+    [[nodiscard]] std::span<const double> values() const { return values_; }
+    [[nodiscard]] std::span<std::int32_t> statuses() { return statuses_; }
+    [[nodiscard]] std::span<const std::int32_t> statuses() const { return statuses_; }
 
 private:
     Date start_;

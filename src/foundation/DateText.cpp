@@ -49,7 +49,7 @@ std::string ShortDate(Date value, const RegionalSettings& settings)
     return month + separator + day + separator + year;
 }
 
-std::string LongTime(Date value, const RegionalSettings& settings)
+std::string longTime(Date value, const RegionalSettings& settings)
 {
     const DateParts parts = dateParts(value);
     const bool twelveHours = settings.twelveHourLongTime;
@@ -59,7 +59,7 @@ std::string LongTime(Date value, const RegionalSettings& settings)
            (twelveHours ? halfDayMark(parts.hour, settings) : std::string());
 }
 
-std::string MediumTime(Date value, const RegionalSettings& settings)
+std::string mediumTime(Date value, const RegionalSettings& settings)
 {
     const DateParts parts = dateParts(value);
     return padded(twelveHour(parts.hour), true) + ':' + padded(parts.minute, true) +

@@ -10,8 +10,8 @@ namespace k7deval
 {
 
 std::string ShortDate(Date value, const RegionalSettings& settings);  ///< "3/10/2024"
-std::string LongTime(Date value, const RegionalSettings& settings);   ///< "3:05:09 PM"
-std::string MediumTime(Date value, const RegionalSettings& settings); ///< "03:05 PM"
+std::string longTime(Date value, const RegionalSettings& settings);   ///< "3:05:09 PM"
+std::string mediumTime(Date value, const RegionalSettings& settings); ///< "03:05 PM"
 std::string ShortTime(Date value, const RegionalSettings& settings);  ///< "15:05"
 
 /// The hour of a day (0 to 23) as a twelve-hour clock shows it: 12, 1, ... 11.

@@ -226,7 +226,7 @@ float roundTrip(float value, int places)
     return nearestSingle(roundTripToDouble(value, places));
 }
 
-double ToDouble(std::string_view text, const RegionalSettings& settings)
+double toDouble(std::string_view text, const RegionalSettings& settings)
 {
     const auto number = NumericText::read(text, settings);
     if (!number)
@@ -237,7 +237,7 @@ double ToDouble(std::string_view text, const RegionalSettings& settings)
 std::optional<double> numberIn(std::string_view text, const RegionalSettings& settings)
 {
     try {
-        return ToDouble(text, settings);
+        return toDouble(text, settings);
     } catch (const Error&) {
         return std::nullopt;
     }
@@ -255,10 +255,10 @@ float ToSingle(double value)
 
 float ToSingle(std::string_view text, const RegionalSettings& settings)
 {
-    return nearestSingle(ToDouble(text, settings));
+    return nearestSingle(toDouble(text, settings));
 }
 
-std::int32_t ToInt32(double value)
+std::int32_t toInt32(double value)
 {
     const double nearest = std::nearbyint(value);
     const bool inRange = nearest >= std::numeric_limits<std::int32_t>::min() &&
@@ -268,9 +268,9 @@ std::int32_t ToInt32(double value)
     return static_cast<std::int32_t>(nearest);
 }
 
-std::int32_t ToInt32(std::string_view text, const RegionalSettings& settings)
+std::int32_t toInt32(std::string_view text, const RegionalSettings& settings)
 {
-    return ToInt32(ToDouble(text, settings));
+    return toInt32(toDouble(text, settings));
 }
 
 } // namespace k7deval

@@ -39,7 +39,7 @@ float roundTrip(float value, int places);
 /// The same, read back as a double.
 double roundTripToDouble(float value, int places);
 
-/// Whether the text is a number as the region writes it; see ToDouble.
+/// Whether the text is a number as the region writes it; see toDouble.
 bool IsNumeric(std::string_view text, const RegionalSettings& settings);
 // A string and a literal fit a Variant as well as a view; these settle it.
 inline bool IsNumeric(const std::string& text, const RegionalSettings& settings)
@@ -54,16 +54,16 @@ inline bool IsNumeric(const char* text, const RegionalSettings& settings)
 /// The number that a text holds: blanks around, a sign before or behind or parentheses, the
 /// currency mark at either end, group marks ahead of the decimal mark, an exponent with E or D.
 /// Error 13 when the text is not numeric, 6 when the number is too large; one too small is 0.
-double ToDouble(std::string_view text, const RegionalSettings& settings);
+double toDouble(std::string_view text, const RegionalSettings& settings);
 /// The number that a text holds; nothing where it holds none, or one too large for any number.
 std::optional<double> numberIn(std::string_view text, const RegionalSettings& settings);
 /// The nearest single; error 6 out of a single's range.
 float ToSingle(double value);
-/// As ToDouble, then the nearest single; error 6 out of a single's range.
+/// As toDouble, then the nearest single; error 6 out of a single's range.
 float ToSingle(std::string_view text, const RegionalSettings& settings);
-/// As ToDouble, then the nearest integer, halves to even; error 6 out of range.
-std::int32_t ToInt32(std::string_view text, const RegionalSettings& settings);
+/// As toDouble, then the nearest integer, halves to even; error 6 out of range.
+std::int32_t toInt32(std::string_view text, const RegionalSettings& settings);
 /// The nearest integer, halves to even; error 6 out of range.
-std::int32_t ToInt32(double value);
+std::int32_t toInt32(double value);
 
 } // namespace k7deval

@@ -37,8 +37,8 @@ bool isValidInteger(PID pid)
 struct ValidPIDTest {
     bool operator()(std::int16_t value) const { return isValidInteger(value); }
     bool operator()(std::int32_t value) const { return isValidInteger(value); }
-    bool operator()(float value) const { return isValidInteger(ToInt32(value)); }
-    bool operator()(double value) const { return isValidInteger(ToInt32(value)); }
+    bool operator()(float value) const { return isValidInteger(toInt32(value)); }
+    bool operator()(double value) const { return isValidInteger(toInt32(value)); }
     bool operator()(const std::string& value) const { return TextToPID(value, false) != 0; }
     template <class Other> bool operator()(const Other&) const { return false; }
 };
@@ -144,7 +144,7 @@ std::string PIDToText(PID pid)
            padded(PIDPart(pid, pidpart::kSuffix), 2);
 }
 
-std::string NameWithPID(PID pid, const std::string& name)
+std::string nameWithPID(PID pid, const std::string& name)
 {
     return "[" + PIDToText(pid) + "] " + name;
 }

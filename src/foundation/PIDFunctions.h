@@ -37,7 +37,7 @@ bool IsValidPID(const Variant& value);
 /// "#0-000-0-00-00", or the empty text for a PID that is not valid.
 std::string PIDToText(PID pid);
 /// "[#0-000-0-00-00] name", as lists show a parameter with its PID.
-std::string NameWithPID(PID pid, const std::string& name);
+std::string nameWithPID(PID pid, const std::string& name);
 /// The PID that a text holds, at its end or (bracketed) in the square brackets that open it; else
 /// 0.
 PID TextToPID(std::string text, bool bracketed);

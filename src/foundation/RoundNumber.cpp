@@ -111,7 +111,7 @@ struct Rounding {
             return Empty{};
         // A text becomes a number only where its sign is put aside, so a positive one stays as it
         // is.
-        const double value = ToDouble(text, settings);
+        const double value = toDouble(text, settings);
         return GeneralNumber(value < 0 ? roundedReal(value, digits) : value, settings);
     }
 };

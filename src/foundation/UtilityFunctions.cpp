@@ -45,7 +45,7 @@ struct HourForm {
 
 HourForm hourForm(Date value, const RegionalSettings& settings)
 {
-    const std::string text = upperCase(LongTime(value, settings));
+    const std::string text = upperCase(longTime(value, settings));
     return {text.find_first_of("PA") != std::string::npos, startsWithTwoDigits(text)};
 }
 
@@ -67,7 +67,7 @@ std::string derivedTime(Date value, std::int32_t style, const RegionalSettings& 
     if (style == 2 || style == 12)
         text = hourAlone(value, form, settings);
     else
-        text = form.twelveHours ? MediumTime(value, settings) : ShortTime(value, settings);
+        text = form.twelveHours ? mediumTime(value, settings) : ShortTime(value, settings);
     if (!form.twoDigits && startsWithTwoDigits(text) && text.front() == '0')
         text.erase(0, 1);
     return text;
@@ -79,9 +79,9 @@ std::string timeText(Date value, std::int32_t style, const RegionalSettings& set
     case -3:
     case 1:
     case 11:
-        return LongTime(value, settings);
+        return longTime(value, settings);
     case -2:
-        return MediumTime(value, settings);
+        return mediumTime(value, settings);
     case -1:
         return ShortTime(value, settings);
     case 13:

@@ -37,7 +37,7 @@ struct DoubleReader {
         return static_cast<double>(value.tenThousandths) / kCurrencyScale;
     }
     double operator()(Date value) const { return value.days; }
-    double operator()(const std::string& text) const { return ToDouble(text, settings); }
+    double operator()(const std::string& text) const { return toDouble(text, settings); }
     template <class Number> double operator()(Number value) const
     {
         return static_cast<double>(value);
@@ -74,7 +74,7 @@ struct TextWriter {
     std::string operator()(Currency value) const { return currencyText(value, settings); }
     std::string operator()(Date value) const
     {
-        return ShortDate(value, settings) + ' ' + LongTime(value, settings);
+        return ShortDate(value, settings) + ' ' + longTime(value, settings);
     }
     std::string operator()(const std::string& text) const { return text; }
 };
@@ -100,7 +100,7 @@ double doubleIn(const Variant& value, const RegionalSettings& settings)
 
 std::int32_t integerIn(const Variant& value, const RegionalSettings& settings)
 {
-    return ToInt32(doubleIn(value, settings));
+    return toInt32(doubleIn(value, settings));
 }
 
 bool booleanIn(const Variant& value, const RegionalSettings& settings)

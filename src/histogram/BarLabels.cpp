@@ -63,7 +63,7 @@ screen::Label& BarLabels::operator[](int index) const
     return *labels_[static_cast<std::size_t>(index)];
 }
 
-const BarTexts& BarLabels::Texts(int index) const
+const BarTexts& BarLabels::texts(int index) const
 {
     if (index < 0 || index > kBinCount)
         throw Error(errors::kSubscript);
@@ -77,11 +77,11 @@ void BarLabels::place(int bar)
     const auto edge = [&](int bars) {
         return onGrid(static_cast<float>(static_cast<double>(bars) / kBinCount * width + begin));
     };
-    screen::Geometry place = (*this)[bar].Place();
+    screen::Geometry place = (*this)[bar].place();
     place.Left = edge(bar - 1);
     // Neighbouring bars share one pixel of border.
     place.Width = edge(bar) - place.Left + kGrid;
-    (*this)[bar].SetPlace(place);
+    (*this)[bar].setPlace(place);
 }
 
 void BarLabels::ResetBars()
@@ -89,7 +89,7 @@ void BarLabels::ResetBars()
     texts_.fill({});
     for (int bar = 1; bar <= kBinCount; ++bar) {
         screen::Label& label = (*this)[bar];
-        label.SetPlace({label.Place().Left, linBase_->Y1(), label.Place().Width, kGrid});
+        label.setPlace({label.place().Left, linBase_->Y1(), label.place().Width, kGrid});
         label.SetToolTipText("");
     }
 }
@@ -120,7 +120,7 @@ void BarLabels::draw(int bar, std::int32_t hours, std::int32_t peak)
     if (hours > 0 && top == base)
         top = base - kGrid;
     screen::Label& label = (*this)[bar];
-    label.SetPlace({label.Place().Left, top, label.Place().Width, base - top});
+    label.setPlace({label.place().Left, top, label.place().Width, base - top});
 }
 
 } // namespace k7deval::histogram

@@ -34,7 +34,7 @@ public:
     /// Error 9 outside 0 to 20.
     [[nodiscard]] screen::Label& operator[](int index) const;
     /// What a bar stands for; the tool tip is made of it. Error 9 outside 0 to 20.
-    [[nodiscard]] const BarTexts& Texts(int index) const;
+    [[nodiscard]] const BarTexts& texts(int index) const;
     [[nodiscard]] static constexpr int Count() { return kBinCount + 1; }
 
     /// Flat bars without tool tips.

@@ -50,8 +50,8 @@ HistogramTool::HistogramTool(const ToolLook& look, const screen::Surroundings& s
       lbl100(fraResults, "lbl100", "Maximum", {4530, 3000, 1350, 0}, Alignment::Right),
       surroundings_(surroundings), title_(look.title)
 {
-    SetPlace(look.control);
-    fraResults.SetPlace(look.fraResults);
+    setPlace(look.control);
+    fraResults.setPlace(look.fraResults);
     cmdSave.SetEnabled(false);
     cmdClose.Clicked.Connect([this] { CloseClicked.raise(); });
     cmdSave.Clicked.Connect([this] { saveClick(); });
@@ -81,7 +81,7 @@ std::string HistogramTool::parameterEntry(DIParameter& parameter) const
 {
     if (!chkShowPID.isChecked())
         return parameter.Name(0);
-    return NameWithPID(parameter.PID(), parameter.Name(0));
+    return nameWithPID(parameter.PID(), parameter.Name(0));
 }
 
 std::optional<HistogramTool::HourSource> HistogramTool::hoursOf(PID pid) const
@@ -105,7 +105,7 @@ void HistogramTool::showLevels(const InRangeHours& hours, const LevelTails& tail
 {
     // Hours outside the range are left out, so that the three percents add up to 100.
     const auto show = [&](screen::Label& label, std::int32_t count, const std::string& tail) {
-        label.SetCaption(percentText(count, hours.TotalInRange(), tail, surroundings_.regional));
+        label.SetCaption(percentText(count, hours.totalInRange(), tail, surroundings_.regional));
     };
     show(lblLowOpPercent, hours.LowHours, tails.low);
     show(lblMidOpPercent, hours.MidHours, tails.mid);

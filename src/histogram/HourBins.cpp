@@ -73,7 +73,7 @@ std::int32_t binByDefinition(float value, float low, float range)
     const float rounded = roundTrip(share, kPlaces);
     // The ceiling is taken as the floor of the negative.
     const float negative = ToSingle(-static_cast<double>(rounded) * kBinCount);
-    const std::int32_t bin = ToInt32(-std::floor(roundTripToDouble(negative, kPlaces)));
+    const std::int32_t bin = toInt32(-std::floor(roundTripToDouble(negative, kPlaces)));
     return bin == 0 ? 1 : bin;
 }
 
@@ -104,7 +104,7 @@ int BinScale::binOfOther(float value) const
     return bin;
 }
 
-void InRangeHours::ResetInRange()
+void InRangeHours::resetInRange()
 {
     Bins.fill(0);
     HighHours = 0;
@@ -112,7 +112,7 @@ void InRangeHours::ResetInRange()
     LowHours = 0;
 }
 
-void InRangeHours::CountInRange(float value, const BinScale& scale)
+void InRangeHours::countInRange(float value, const BinScale& scale)
 {
     ++Bins[static_cast<std::size_t>(scale.binOf(value))];
     if (value > HighThreshold)

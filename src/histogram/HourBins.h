@@ -65,11 +65,11 @@ struct InRangeHours {
     std::int32_t LowHours = 0;
     HourBins Bins{};
 
-    void ResetInRange();
+    void resetInRange();
     /// Counts an hour in its bin and in its level. An hour on a threshold belongs below it.
-    void CountInRange(float value, const BinScale& scale);
+    void countInRange(float value, const BinScale& scale);
     /// The hours of all levels.
-    [[nodiscard]] std::int32_t TotalInRange() const { return LowHours + MidHours + HighHours; }
+    [[nodiscard]] std::int32_t totalInRange() const { return LowHours + MidHours + HighHours; }
 };
 
 /// A threshold as it is kept: rounded to six decimals by way of its text.

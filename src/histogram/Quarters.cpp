@@ -104,10 +104,10 @@ Date GetQuarterStart(Date time)
 void offerQuarters(screen::ComboBox& cmbQTR, screen::ComboBox& cmbYear, Date today)
 {
     for (int number = 1; number <= kQuarters; ++number)
-        cmbQTR.AddItem(nameOf(number));
+        cmbQTR.addItem(nameOf(number));
     const int presentYear = dateParts(today).year;
     for (int back = 0; back < kYearsOffered; ++back)
-        cmbYear.AddItem(std::to_string(presentYear - back));
+        cmbYear.addItem(std::to_string(presentYear - back));
     const Quarter last = lastFinishedQuarter(today);
     select(cmbQTR, nameOf(last.number));
     select(cmbYear, std::to_string(last.year));

@@ -22,21 +22,21 @@ float LoadEvaluation::Range() const
     return ToSingle(static_cast<double>(CapacityValue) - MinSafeValue);
 }
 
-void LoadEvaluation::SetThresholds(const RegionalSettings& regional)
+void LoadEvaluation::setThresholds(const RegionalSettings& regional)
 {
     const double range = Range();
     HighThreshold = histogram::sixDecimals(range * kHighShare + MinSafeValue, regional);
     LowThreshold = histogram::sixDecimals(range * kLowShare + MinSafeValue, regional);
 }
 
-void LoadEvaluation::Reset()
+void LoadEvaluation::reset()
 {
-    ResetInRange();
+    resetInRange();
     OverHours = 0;
     UnderHours = 0;
 }
 
-void LoadEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes,
+void LoadEvaluation::run(DIParameter& parameter, DIStatusCodes& statusCodes,
                          const LoadPeriod& period)
 {
     const histogram::BinScale scale(MinSafeValue, CapacityValue);
@@ -53,8 +53,8 @@ void LoadEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes,
 std::int32_t LoadEvaluation::takeHours(const DIDataSet& hours, DIStatusCodes& statusCodes,
                                        const histogram::BinScale& scale)
 {
-    const auto values = hours.Values();
-    const auto statuses = hours.Statuses();
+    const auto values = hours.values();
+    const auto statuses = hours.statuses();
     std::int32_t validHours = 0;
     for (std::size_t hour = 0; hour < values.size(); ++hour) {
         const bool isNumeric = !std::isnan(values[hour]);
@@ -81,7 +81,7 @@ void LoadEvaluation::takeHour(float value, const histogram::BinScale& scale)
             MaxObserved = value;
         return;
     }
-    CountInRange(value, scale);
+    countInRange(value, scale);
 }
 
 } // namespace k7deval

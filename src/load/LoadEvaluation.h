@@ -31,12 +31,12 @@ struct LoadEvaluation : histogram::InRangeHours {
     /// The capacity above the minimum, as a single. Error 6 when it is too wide for one.
     [[nodiscard]] float Range() const;
     /// Sets the values at 60% and at 30% of the range, kept to six decimals.
-    void SetThresholds(const RegionalSettings& regional);
+    void setThresholds(const RegionalSettings& regional);
     /// Zeroes all but MaxObserved.
-    void Reset();
+    void reset();
     /// Spreads the hours of a period, read quarter by quarter from the newest backward: four
     /// quarters with at least one valid hour, looked for in twelve, or all from a first day on.
-    void Run(DIParameter& parameter, DIStatusCodes& statusCodes, const LoadPeriod& period);
+    void run(DIParameter& parameter, DIStatusCodes& statusCodes, const LoadPeriod& period);
 
 private:
     [[nodiscard]] std::int32_t takeHours(const DIDataSet& hours, DIStatusCodes& statusCodes,

@@ -37,7 +37,7 @@ void ctrlMaxMW::startUp()
 {
     txtMinSafe.SetText("0");
     txtCapacity.SetText("0");
-    optTimeEnd.SetSelected(true);
+    optTimeEnd.setSelected(true);
     const Date today = CurrentDateTime(surroundings_.clock);
     histogram::offerQuarters(cmbQTR, cmbYear, today);
     const histogram::Quarter last = histogram::lastFinishedQuarter(today);

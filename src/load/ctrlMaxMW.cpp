@@ -87,9 +87,9 @@ void ctrlMaxMW::connectRules()
 void ctrlMaxMW::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
 {
     setServer(std::move(server));
-    cmbUnit.Clear();
+    cmbUnit.clear();
     if (DIServer() == nullptr) {
-        cmbParam.Clear();
+        cmbParam.clear();
     } else {
         screen::offerUnits(cmbUnit, data());
     }
@@ -112,10 +112,10 @@ void ctrlMaxMW::unitRule()
 void ctrlMaxMW::listParameters(std::int32_t unit)
 {
     const auto parameters = data().ParametersOfUnitTypes(kLoadTypes, unit, 3, "h");
-    cmbParam.Clear();
+    cmbParam.clear();
     for (const auto& parameter : parameters) {
         const std::string entry = parameterEntry(present(parameter));
-        cmbParam.AddItem(entry, parameter->PID());
+        cmbParam.addItem(entry, parameter->PID());
     }
 }
 
@@ -123,12 +123,12 @@ void ctrlMaxMW::listParameters(std::int32_t unit)
 void ctrlMaxMW::proposeParameter()
 {
     Candidates candidates;
-    for (std::int32_t row = 0; row < cmbParam.ListCount(); ++row) {
+    for (std::int32_t row = 0; row < cmbParam.listCount(); ++row) {
         const auto index = static_cast<std::size_t>(row);
         if (upperCase(cmbParam.List()[index]).find("BIN") == std::string::npos)
-            candidates.consider(row, cmbParam.ItemDataList()[index]);
+            candidates.consider(row, cmbParam.itemDataList()[index]);
     }
-    if (cmbParam.ListCount() > 0)
+    if (cmbParam.listCount() > 0)
         cmbParam.SetListIndex(candidates.best());
 }
 
@@ -165,10 +165,10 @@ void ctrlMaxMW::showPIDRule()
     if (DIServer() == nullptr)
         return;
     const auto parameters = data().Parameters();
-    for (std::int32_t row = 0; row < cmbParam.ListCount(); ++row) {
-        const PID pid = cmbParam.ItemDataList()[static_cast<std::size_t>(row)];
+    for (std::int32_t row = 0; row < cmbParam.listCount(); ++row) {
+        const PID pid = cmbParam.itemDataList()[static_cast<std::size_t>(row)];
         if (present(parameters).Exists(pid))
-            cmbParam.SetItemText(row, parameterEntry(present(parameters->Item(pid, -1))));
+            cmbParam.setItemText(row, parameterEntry(present(parameters->Item(pid, -1))));
     }
 }
 
@@ -194,15 +194,15 @@ void ctrlMaxMW::EvaluateLoad(PID pid)
 {
     evaluation_.MinSafeValue = ToSingle(txtMinSafe.Text(), surroundings_.regional);
     evaluation_.CapacityValue = ToSingle(txtCapacity.Text(), surroundings_.regional);
-    evaluation_.SetThresholds(surroundings_.regional);
-    evaluation_.Reset();
+    evaluation_.setThresholds(surroundings_.regional);
+    evaluation_.reset();
     if (evaluation_.Range() == 0)
         return;
     const LoadPeriod hours = period();
     const auto source = hoursOf(pid);
     if (!source)
         return;
-    evaluation_.Run(present(source->parameter), present(source->statusCodes), hours);
+    evaluation_.run(present(source->parameter), present(source->statusCodes), hours);
     setEvaluated();
 }
 

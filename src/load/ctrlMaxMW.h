@@ -21,7 +21,7 @@ public:
     void SetDIServer(std::shared_ptr<k7deval::DIServer> server) override;
 
     /// The results of the last evaluation, whatever the screen shows.
-    [[nodiscard]] const LoadEvaluation& Evaluation() const { return evaluation_; }
+    [[nodiscard]] const LoadEvaluation& evaluation() const { return evaluation_; }
     /// The dates of the option "Specified Dates:".
     [[nodiscard]] Date StartDate() const { return startDate_; }
     [[nodiscard]] Date EndDate() const { return endDate_; }

@@ -21,15 +21,15 @@ constexpr std::int32_t kReplacedByTwiceRange = 36;
 
 } // namespace
 
-void RangeEvaluation::SetThresholds(const RegionalSettings& regional)
+void RangeEvaluation::setThresholds(const RegionalSettings& regional)
 {
     HighThreshold = histogram::sixDecimals(RangeValue * kHighShare, regional);
     LowThreshold = histogram::sixDecimals(RangeValue * kLowShare, regional);
 }
 
-void RangeEvaluation::Reset()
+void RangeEvaluation::reset()
 {
-    ResetInRange();
+    resetInRange();
     InvalidHours = 0;
     OverRangeHours = 0;
     AboveMECHours = 0;
@@ -37,14 +37,14 @@ void RangeEvaluation::Reset()
     ReplacedHours = 0;
 }
 
-void RangeEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes, Date lastHour,
+void RangeEvaluation::run(DIParameter& parameter, DIStatusCodes& statusCodes, Date lastHour,
                           const Limits& limits)
 {
     const histogram::BinScale scale(0, RangeValue);
     histogram::QuarterCount quarters;
     histogram::walkQuarters(parameter, lastHour, std::nullopt, [&](const DIDataSet& hours) {
         quarters.count(takeHours(hours, statusCodes, scale, limits));
-        const std::int32_t total = TotalInRange() + OverRangeHours;
+        const std::int32_t total = totalInRange() + OverRangeHours;
         const bool isEnough = total > kWantedHours && quarters.withData >= kWantedQuarters;
         return !isEnough && !quarters.isAtLimit();
     });
@@ -53,8 +53,8 @@ void RangeEvaluation::Run(DIParameter& parameter, DIStatusCodes& statusCodes, Da
 std::int32_t RangeEvaluation::takeHours(const DIDataSet& hours, DIStatusCodes& statusCodes,
                                         const histogram::BinScale& scale, const Limits& limits)
 {
-    const auto values = hours.Values();
-    const auto statuses = hours.Statuses();
+    const auto values = hours.values();
+    const auto statuses = hours.statuses();
     std::int32_t validHours = 0;
     for (std::size_t hour = 0; hour < values.size(); ++hour) {
         const bool isNumeric = !std::isnan(values[hour]);
@@ -79,7 +79,7 @@ void RangeEvaluation::takeHour(float value, std::int32_t status, const histogram
         ++OverRangeHours;
         return;
     }
-    CountInRange(value, scale);
+    countInRange(value, scale);
     if (limits.mec && value > MECValue)
         ++AboveMECHours;
     if (limits.mpc && value > MPCValue)

@@ -29,12 +29,12 @@ struct RangeEvaluation : histogram::InRangeHours {
     };
 
     /// Sets the values at 80% and at 20% of the range, kept to six decimals.
-    void SetThresholds(const RegionalSettings& regional);
+    void setThresholds(const RegionalSettings& regional);
     /// Zeroes all counters.
-    void Reset();
+    void reset();
     /// Sorts the hours up to the last one, read quarter by quarter from the newest backward, until
     /// there are more than 720 valid hours and four quarters with any, or twelve quarters.
-    void Run(DIParameter& parameter, DIStatusCodes& statusCodes, Date lastHour,
+    void run(DIParameter& parameter, DIStatusCodes& statusCodes, Date lastHour,
              const Limits& limits);
 
 private:

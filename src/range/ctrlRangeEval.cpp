@@ -76,9 +76,9 @@ void ctrlRangeEval::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
     setServer(std::move(server));
     if (DIServer() != nullptr)
         addToCatalogue(catalogue_, data(), surroundings_.regional);
-    cmbUnit.Clear();
-    cmbParam.Clear();
-    cmbScale.Clear();
+    cmbUnit.clear();
+    cmbParam.clear();
+    cmbScale.clear();
     if (DIServer() != nullptr)
         listUnits();
     ClearResults();
@@ -96,8 +96,8 @@ void ctrlRangeEval::listUnits()
 {
     const auto parameters = data().Parameters();
     for (const PID unit : catalogue_.Keys())
-        cmbUnit.AddItem(present(present(parameters).Item(unit, -1)).Name(0), unit);
-    if (cmbUnit.ListCount() > 0)
+        cmbUnit.addItem(present(present(parameters).Item(unit, -1)).Name(0), unit);
+    if (cmbUnit.listCount() > 0)
         cmbUnit.SetListIndex(0);
 }
 
@@ -113,22 +113,22 @@ const ScaleSpans& ctrlRangeEval::pickedParameter() const
 
 void ctrlRangeEval::unitRule()
 {
-    cmbParam.Clear();
-    cmbScale.Clear();
+    cmbParam.clear();
+    cmbScale.clear();
     const auto parameters = data().Parameters();
     for (const PID pid : pickedUnit().Keys())
-        cmbParam.AddItem(parameterEntry(present(present(parameters).Item(pid, -1))), pid);
-    if (cmbParam.ListCount() > 0)
+        cmbParam.addItem(parameterEntry(present(present(parameters).Item(pid, -1))), pid);
+    if (cmbParam.listCount() > 0)
         cmbParam.SetListIndex(0);
     markStale();
 }
 
 void ctrlRangeEval::parameterRule()
 {
-    cmbScale.Clear();
+    cmbScale.clear();
     for (const std::int32_t scale : pickedParameter().Keys())
-        cmbScale.AddItem(scaleName(scale), scale);
-    if (cmbScale.ListCount() > 0)
+        cmbScale.addItem(scaleName(scale), scale);
+    if (cmbScale.listCount() > 0)
         cmbScale.SetListIndex(0);
     markStale();
 }
@@ -152,8 +152,8 @@ void ctrlRangeEval::proposeLimits(std::int32_t scale)
     txtMEC.SetText(hasExpected ? GeneralNumber(evaluation_.RangeValue * kExpectedShare, regional)
                                : kNoLimit);
     txtMPC.SetText(hasPotential ? GeneralNumber(evaluation_.RangeValue, regional) : kNoLimit);
-    chkMEC.SetChecked(hasExpected);
-    chkMPC.SetChecked(hasPotential);
+    chkMEC.setChecked(hasExpected);
+    chkMPC.setChecked(hasPotential);
 }
 
 void ctrlRangeEval::showPIDRule()
@@ -161,10 +161,10 @@ void ctrlRangeEval::showPIDRule()
     if (DIServer() == nullptr)
         return;
     const auto parameters = data().Parameters();
-    for (std::int32_t row = 0; row < cmbParam.ListCount(); ++row) {
-        const PID pid = cmbParam.ItemDataList()[static_cast<std::size_t>(row)];
+    for (std::int32_t row = 0; row < cmbParam.listCount(); ++row) {
+        const PID pid = cmbParam.itemDataList()[static_cast<std::size_t>(row)];
         const auto parameter = present(parameters).Item(pid, -1);
-        cmbParam.SetItemText(row, parameterEntry(present(parameter)));
+        cmbParam.setItemText(row, parameterEntry(present(parameter)));
     }
 }
 
@@ -194,14 +194,14 @@ void ctrlRangeEval::calculate()
 void ctrlRangeEval::EvaluateRange(PID pid)
 {
     evaluation_.RangeValue = ToSingle(txtRange.Text(), surroundings_.regional);
-    evaluation_.SetThresholds(surroundings_.regional);
-    evaluation_.Reset();
+    evaluation_.setThresholds(surroundings_.regional);
+    evaluation_.reset();
     const RangeEvaluation::Limits limits = readLimits();
     const Date lastHour = histogram::GetSelectedQuarterEnd(cmbQTR, cmbYear, surroundings_);
     const auto source = hoursOf(pid);
     if (!source)
         return;
-    evaluation_.Run(present(source->parameter), present(source->statusCodes), lastHour, limits);
+    evaluation_.run(present(source->parameter), present(source->statusCodes), lastHour, limits);
     setEvaluated();
 }
 

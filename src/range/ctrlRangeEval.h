@@ -25,7 +25,7 @@ public:
     /// Units, their hourly parameters, and the scales of those with their spans.
     [[nodiscard]] const Catalogue& UnitCatalogue() const { return catalogue_; }
     /// The results of the last evaluation, whatever the screen shows.
-    [[nodiscard]] const RangeEvaluation& Evaluation() const { return evaluation_; }
+    [[nodiscard]] const RangeEvaluation& evaluation() const { return evaluation_; }
 
     [[nodiscard]] std::unique_ptr<ReportDocument> buildReport() const override;
 

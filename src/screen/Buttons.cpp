@@ -28,7 +28,7 @@ CheckBox::CheckBox(Container& parent, std::string name, std::string caption)
 {
 }
 
-void CheckBox::SetChecked(bool checked)
+void CheckBox::setChecked(bool checked)
 {
     if (update(checked_, checked))
         Clicked.raise();
@@ -37,7 +37,7 @@ void CheckBox::SetChecked(bool checked)
 void CheckBox::Press()
 {
     if (isReachable())
-        SetChecked(!checked_);
+        setChecked(!checked_);
 }
 
 PropertyList CheckBox::Properties() const
@@ -55,7 +55,7 @@ OptionButton::OptionButton(Container& parent, OptionGroup& group, std::string na
     group_->options_.push_back(this);
 }
 
-void OptionButton::SetSelected(bool selected)
+void OptionButton::setSelected(bool selected)
 {
     if (selected)
         deselectOthers();
@@ -68,14 +68,14 @@ void OptionButton::deselectOthers()
 {
     for (OptionButton* other : group_->options_) {
         if (other != this)
-            other->SetSelected(false);
+            other->setSelected(false);
     }
 }
 
 void OptionButton::Press()
 {
     if (isReachable())
-        SetSelected(true);
+        setSelected(true);
 }
 
 PropertyList OptionButton::Properties() const

@@ -21,7 +21,7 @@ public:
     void Press();
     Event<> Clicked;
 
-    [[nodiscard]] std::string_view Kind() const override { return "Button"; }
+    [[nodiscard]] std::string_view kind() const override { return "Button"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
@@ -38,13 +38,13 @@ public:
     [[nodiscard]] const std::string& Caption() const { return caption_; }
     [[nodiscard]] std::int32_t Value() const { return checked_ ? 1 : 0; }
     [[nodiscard]] bool isChecked() const { return checked_; }
-    void SetChecked(bool checked);
+    void setChecked(bool checked);
 
     /// The user's press: toggles the box.
     void Press();
     Event<> Clicked;
 
-    [[nodiscard]] std::string_view Kind() const override { return "CheckBox"; }
+    [[nodiscard]] std::string_view kind() const override { return "CheckBox"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
@@ -72,13 +72,13 @@ public:
     [[nodiscard]] const std::string& Caption() const { return caption_; }
     [[nodiscard]] bool isSelected() const { return selected_; }
     /// Selecting an option deselects the others of its group. Deselecting one runs nothing.
-    void SetSelected(bool selected);
+    void setSelected(bool selected);
 
     /// The user's press: selects the option.
     void Press();
     Event<> Clicked;
 
-    [[nodiscard]] std::string_view Kind() const override { return "OptionButton"; }
+    [[nodiscard]] std::string_view kind() const override { return "OptionButton"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

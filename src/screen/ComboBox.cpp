@@ -12,7 +12,7 @@ ComboBox::ComboBox(Container& parent, std::string name, EditField editField)
 {
 }
 
-void ComboBox::Clear()
+void ComboBox::clear()
 {
     list_.clear();
     itemData_.clear();
@@ -21,14 +21,14 @@ void ComboBox::Clear()
     Changed.raise();
 }
 
-void ComboBox::AddItem(std::string text, std::int32_t itemData)
+void ComboBox::addItem(std::string text, std::int32_t itemData)
 {
     list_.push_back(std::move(text));
     itemData_.push_back(itemData);
     Changed.raise();
 }
 
-void ComboBox::RemoveItem(std::int32_t index)
+void ComboBox::removeItem(std::int32_t index)
 {
     if (!isInList(index))
         throw Error(errors::kInvalidArrayIndex);
@@ -43,7 +43,7 @@ void ComboBox::RemoveItem(std::int32_t index)
     Changed.raise();
 }
 
-void ComboBox::SetItemText(std::int32_t index, std::string text)
+void ComboBox::setItemText(std::int32_t index, std::string text)
 {
     if (!isInList(index))
         throw Error(errors::kInvalidArrayIndex);
@@ -75,7 +75,7 @@ std::int32_t ComboBox::ItemData() const
 
 void ComboBox::SetText(const std::string& text)
 {
-    if (!HasEditField())
+    if (!hasEditField())
         throw Error(errors::kUnknownMember);
     edit(text);
 }
@@ -88,7 +88,7 @@ void ComboBox::Pick(std::int32_t index)
 
 void ComboBox::Type(std::string_view text)
 {
-    if (isReachable() && HasEditField())
+    if (isReachable() && hasEditField())
         edit(std::string(text));
 }
 

@@ -21,20 +21,20 @@ public:
     ComboBox(Container& parent, std::string name, EditField editField = EditField::No);
 
     /// Whether the user can type in it, too.
-    [[nodiscard]] bool HasEditField() const { return editField_ == EditField::Yes; }
+    [[nodiscard]] bool hasEditField() const { return editField_ == EditField::Yes; }
 
     /// Empties the list: no entry selected, empty text. Runs nothing.
-    void Clear();
-    void AddItem(std::string text, std::int32_t itemData = 0);
+    void clear();
+    void addItem(std::string text, std::int32_t itemData = 0);
     /// Removes an entry, which runs nothing. The selection stays with its entry, or goes with it.
     /// Error 381 outside the list.
-    void RemoveItem(std::int32_t index);
+    void removeItem(std::int32_t index);
     /// Rewrites an entry in place, which runs nothing; the selection stays, and its text follows.
     /// Error 381 outside the list.
-    void SetItemText(std::int32_t index, std::string text);
-    [[nodiscard]] std::int32_t ListCount() const { return static_cast<std::int32_t>(list_.size()); }
+    void setItemText(std::int32_t index, std::string text);
+    [[nodiscard]] std::int32_t listCount() const { return static_cast<std::int32_t>(list_.size()); }
     [[nodiscard]] const std::vector<std::string>& List() const { return list_; }
-    [[nodiscard]] const std::vector<std::int32_t>& ItemDataList() const { return itemData_; }
+    [[nodiscard]] const std::vector<std::int32_t>& itemDataList() const { return itemData_; }
 
     /// The selected entry from 0; -1 for none.
     [[nodiscard]] std::int32_t ListIndex() const { return listIndex_; }
@@ -55,13 +55,13 @@ public:
     Event<> Picked;
     Event<> TextChanged;
 
-    [[nodiscard]] std::string_view Kind() const override { return "ComboBox"; }
+    [[nodiscard]] std::string_view kind() const override { return "ComboBox"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
     [[nodiscard]] bool isInList(std::int32_t index) const
     {
-        return index >= 0 && index < ListCount();
+        return index >= 0 && index < listCount();
     }
     void edit(const std::string& text);
 

@@ -26,7 +26,7 @@ public:
     /// Shows the dialog. Error 32755 when the user cancels.
     void ShowSave();
 
-    [[nodiscard]] std::string_view Kind() const override { return "CommonDialog"; }
+    [[nodiscard]] std::string_view kind() const override { return "CommonDialog"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

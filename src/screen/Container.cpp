@@ -21,7 +21,7 @@ void collect(const Container& container, std::vector<Widget*>& widgets)
 Property described(const Widget& widget)
 {
     PropertyList properties = widget.Properties();
-    properties.insert(properties.begin(), {"Kind", {std::string(widget.Kind())}});
+    properties.insert(properties.begin(), {"Kind", {std::string(widget.kind())}});
     return {widget.Name(), {std::move(properties)}};
 }
 
@@ -43,29 +43,29 @@ Control::Control(std::string name) : Container(nullptr, std::move(name)) {}
 
 Control::Control(Container& parent, std::string name) : Container(&parent, std::move(name)) {}
 
-std::vector<Widget*> Control::Widgets() const
+std::vector<Widget*> Control::widgets() const
 {
-    std::vector<Widget*> widgets;
-    collect(*this, widgets);
-    return widgets;
+    std::vector<Widget*> collected;
+    collect(*this, collected);
+    return collected;
 }
 
 Widget* Control::Find(std::string_view name) const
 {
-    const auto widgets = Widgets();
-    const auto found = std::find_if(widgets.begin(), widgets.end(),
+    const auto all = widgets();
+    const auto found = std::find_if(all.begin(), all.end(),
                                     [&](const Widget* widget) { return widget->Name() == name; });
-    return found == widgets.end() ? nullptr : *found;
+    return found == all.end() ? nullptr : *found;
 }
 
 PropertyList Control::Properties() const
 {
     PropertyList properties = Widget::Properties();
     properties.push_back({"MousePointer", {static_cast<std::int32_t>(mousePointer_)}});
-    PropertyList widgets;
-    for (const Widget* widget : Widgets())
-        widgets.push_back(described(*widget));
-    properties.push_back({"Widgets", {std::move(widgets)}});
+    PropertyList descriptions;
+    for (const Widget* widget : widgets())
+        descriptions.push_back(described(*widget));
+    properties.push_back({"Widgets", {std::move(descriptions)}});
     return properties;
 }
 

@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] const std::string& Caption() const { return caption_; }
 
-    [[nodiscard]] std::string_view Kind() const override { return "Frame"; }
+    [[nodiscard]] std::string_view kind() const override { return "Frame"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
@@ -55,11 +55,11 @@ public:
 
     /// The control's widgets in the order in which they were made, those in frames after their
     /// frame. A page is listed as one widget; its own widgets are asked of it.
-    [[nodiscard]] std::vector<Widget*> Widgets() const;
+    [[nodiscard]] std::vector<Widget*> widgets() const;
     /// A widget by its name, or nothing.
     [[nodiscard]] Widget* Find(std::string_view name) const;
 
-    [[nodiscard]] std::string_view Kind() const override { return "Control"; }
+    [[nodiscard]] std::string_view kind() const override { return "Control"; }
     /// Holds the entry "Widgets": each widget by its name with its kind and properties.
     [[nodiscard]] PropertyList Properties() const override;
 

@@ -38,7 +38,7 @@ public:
     [[nodiscard]] std::int32_t RowCount() const { return rowCount_; }
     void SetRowCount(std::int32_t count) { update(rowCount_, count); }
     /// Lets the list ask for its rows anew.
-    void ReadAgain() { Changed.raise(); }
+    void readAgain() { Changed.raise(); }
     /// The cells of a row, as the control answers for them. Error 381 outside the list.
     [[nodiscard]] GridCells Cells(std::int32_t row) const;
 
@@ -51,7 +51,7 @@ public:
     void SetMultiSelect(bool multiSelect) { update(multiSelect_, multiSelect); }
     /// Of column 1 or 2, in twips. Error 381 for another.
     [[nodiscard]] float ColumnWidth(std::int32_t column) const;
-    void SetSecondColumnWidth(float width) { update(secondWidth_, width); }
+    void setSecondColumnWidth(float width) { update(secondWidth_, width); }
 
     /// The user ticks or unticks column 1 of a row.
     void Edit(std::int32_t row, bool value);
@@ -66,7 +66,7 @@ public:
     Event<std::int32_t, std::int32_t> MousePressed;
     Event<> DoubleClicked;
 
-    [[nodiscard]] std::string_view Kind() const override { return "Grid"; }
+    [[nodiscard]] std::string_view kind() const override { return "Grid"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

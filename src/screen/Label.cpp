@@ -47,7 +47,7 @@ Label::Label(Container& parent, std::string name, std::string caption, const Geo
              screen::Alignment alignment)
     : Widget(&parent, std::move(name)), caption_(std::move(caption)), alignment_(alignment)
 {
-    SetPlace(place);
+    setPlace(place);
 }
 
 void Label::SetCaption(std::string caption)

@@ -48,7 +48,7 @@ public:
     /// How the caption stands in the label's place.
     [[nodiscard]] screen::Alignment Alignment() const { return alignment_; }
 
-    [[nodiscard]] std::string_view Kind() const override { return "Label"; }
+    [[nodiscard]] std::string_view kind() const override { return "Label"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
@@ -71,7 +71,7 @@ public:
     [[nodiscard]] Color BackColor() const { return backColor_; }
     void SetBackColor(Color value) { update(backColor_, value); }
 
-    [[nodiscard]] std::string_view Kind() const override { return "ImageList"; }
+    [[nodiscard]] std::string_view kind() const override { return "ImageList"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:
@@ -90,7 +90,7 @@ public:
     /// Error 5 for a key that the list does not have.
     void SetPicture(const ImageList& list, const std::string& key);
 
-    [[nodiscard]] std::string_view Kind() const override { return "Image"; }
+    [[nodiscard]] std::string_view kind() const override { return "Image"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

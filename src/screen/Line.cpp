@@ -11,7 +11,7 @@ Line::Line(Container& parent, std::string name, const LineEnds& ends, LineStyle 
 {
     const auto [left, right] = std::minmax(ends.X1, ends.X2);
     const auto [top, bottom] = std::minmax(ends.Y1, ends.Y2);
-    SetPlace({left, top, right - left, bottom - top});
+    setPlace({left, top, right - left, bottom - top});
 }
 
 PropertyList Line::Properties() const

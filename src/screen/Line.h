@@ -32,7 +32,7 @@ public:
     [[nodiscard]] float Y2() const { return ends_.Y2; }
     [[nodiscard]] LineStyle Style() const { return style_; }
 
-    [[nodiscard]] std::string_view Kind() const override { return "Line"; }
+    [[nodiscard]] std::string_view kind() const override { return "Line"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

@@ -31,7 +31,7 @@ public:
     void Leave();
     Event<> Validate;
 
-    [[nodiscard]] std::string_view Kind() const override { return "TextBox"; }
+    [[nodiscard]] std::string_view kind() const override { return "TextBox"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

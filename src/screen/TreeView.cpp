@@ -29,7 +29,7 @@ PropertyValues described(const std::vector<std::unique_ptr<TreeNode>>& nodes)
 
 TreeView::TreeView(Container& parent, std::string name) : Widget(&parent, std::move(name)) {}
 
-void TreeView::Clear()
+void TreeView::clear()
 {
     selected_ = nullptr;
     nodesByKey_.clear();
@@ -37,12 +37,12 @@ void TreeView::Clear()
     Changed.raise();
 }
 
-TreeNode& TreeView::AddRoot(TreeNode node)
+TreeNode& TreeView::addRoot(TreeNode node)
 {
     return add(roots_, std::move(node));
 }
 
-TreeNode& TreeView::AddChild(const std::string& parentKey, TreeNode node)
+TreeNode& TreeView::addChild(const std::string& parentKey, TreeNode node)
 {
     TreeNode* parent = Find(parentKey);
     if (parent == nullptr)

@@ -31,11 +31,11 @@ public:
     TreeView(Container& parent, std::string name);
 
     [[nodiscard]] const std::vector<std::unique_ptr<TreeNode>>& Nodes() const { return roots_; }
-    void Clear();
+    void clear();
     /// Adds a root entry. Error 457 for a key that the tree has.
-    TreeNode& AddRoot(TreeNode node);
+    TreeNode& addRoot(TreeNode node);
     /// Adds an entry under another. Error 457 for a key that the tree has, 5 for an unknown parent.
-    TreeNode& AddChild(const std::string& parentKey, TreeNode node);
+    TreeNode& addChild(const std::string& parentKey, TreeNode node);
     /// An entry by its key, or nothing.
     [[nodiscard]] TreeNode* Find(std::string_view key) const;
 
@@ -49,7 +49,7 @@ public:
     void Press(std::string_view key);
     Event<const TreeNode&> NodeClicked;
 
-    [[nodiscard]] std::string_view Kind() const override { return "TreeView"; }
+    [[nodiscard]] std::string_view kind() const override { return "TreeView"; }
     [[nodiscard]] PropertyList Properties() const override;
 
 private:

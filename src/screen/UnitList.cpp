@@ -7,7 +7,7 @@ void offerUnits(ComboBox& list, DIServer& server)
 {
     for (const auto& unit : server.Units()) {
         const std::string name = present(unit).Name(0);
-        list.AddItem(name, unit->PID());
+        list.addItem(name, unit->PID());
     }
     list.SetListIndex(0);
 }

@@ -23,14 +23,14 @@ void Widget::SetEnabled(bool enabled)
     update(enabled_, enabled);
 }
 
-void Widget::SetPlace(const Geometry& place)
+void Widget::setPlace(const Geometry& place)
 {
     update(place_, place);
 }
 
-void Widget::Move(float left, float top)
+void Widget::move(float left, float top)
 {
-    SetPlace({left, top, place_.Width, place_.Height});
+    setPlace({left, top, place_.Width, place_.Height});
 }
 
 bool Widget::isReachable() const

@@ -39,18 +39,18 @@ public:
     void SetVisible(bool visible);
     [[nodiscard]] bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
-    [[nodiscard]] const Geometry& Place() const { return place_; }
-    void SetPlace(const Geometry& place);
+    [[nodiscard]] const Geometry& place() const { return place_; }
+    void setPlace(const Geometry& place);
     /// Moves the widget without changing its size.
-    void Move(float left, float top);
+    void move(float left, float top);
 
     /// What the widget lies in; nothing for a screen of its own.
-    [[nodiscard]] Container* Parent() const { return parent_; }
+    [[nodiscard]] Container* parent() const { return parent_; }
     /// Whether a user can act on it: it and all that it lies in are visible and enabled.
     [[nodiscard]] bool isReachable() const;
 
     /// The kind of widget, such as "ComboBox".
-    [[nodiscard]] virtual std::string_view Kind() const = 0;
+    [[nodiscard]] virtual std::string_view kind() const = 0;
     /// All that stands in the widget, by name.
     [[nodiscard]] virtual PropertyList Properties() const;
 

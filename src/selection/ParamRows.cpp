@@ -37,7 +37,7 @@ void forEach(const std::shared_ptr<DIServer>& server, const ParamList& list,
 
 } // namespace
 
-void ParamRows::Load(const std::shared_ptr<DIServer>& server, const ParamList& list,
+void ParamRows::load(const std::shared_ptr<DIServer>& server, const ParamList& list,
                      bool unitsInList)
 {
     count_ = 0;
@@ -83,20 +83,20 @@ void ParamRows::dropOld()
 
 void ParamRows::fillUnits(screen::ComboBox& list, const UnitFilter& filter) const
 {
-    list.Clear();
+    list.clear();
     if (filter.allUnits)
-        list.AddItem("===All Units===", kAllUnits);
+        list.addItem("===All Units===", kAllUnits);
     bool isBehindUnit = false;
     // A unit without a parameter behind it leaves the list again.
     const auto dropUnpopulated = [&] {
         if (isBehindUnit && !filter.unpopulatedUnits)
-            list.RemoveItem(list.ListCount() - 1);
+            list.removeItem(list.listCount() - 1);
     };
     for (std::int32_t index = 0; index < count_; ++index) {
         const ParamRow& row = rows_[index];
         if (row.isUnit) {
             dropUnpopulated();
-            list.AddItem(row.name, row.pid);
+            list.addItem(row.name, row.pid);
         }
         isBehindUnit = row.isUnit;
     }

@@ -43,16 +43,16 @@ public:
     /// shorter list. With unitsInList the list brings its own unit rows, else they are made here,
     /// and its units are dropped. PIDs that do not exist are skipped. Error 91 without data; after
     /// a failure of the data the rows up to it count.
-    void Load(const std::shared_ptr<DIServer>& server, const ParamList& list, bool unitsInList);
+    void load(const std::shared_ptr<DIServer>& server, const ParamList& list, bool unitsInList);
     /// Drops the old rows behind the last that counts; keeps them all when none does.
     void dropOld();
 
     /// How many rows count.
     [[nodiscard]] std::int32_t Count() const { return count_; }
     /// All rows, also such as don't count any more.
-    [[nodiscard]] const Array<ParamRow>& All() const { return rows_; }
+    [[nodiscard]] const Array<ParamRow>& all() const { return rows_; }
     [[nodiscard]] const ParamRow& operator[](std::int32_t index) const { return rows_[index]; }
-    void Select(std::int32_t index, bool selected) { rows_[index].isSelected = selected; }
+    void select(std::int32_t index, bool selected) { rows_[index].isSelected = selected; }
 
     /// Fills a list with the units of the rows.
     void fillUnits(screen::ComboBox& list, const UnitFilter& filter) const;

@@ -24,7 +24,7 @@ constexpr std::int32_t kCheckColumn = 1;
 ParamSelect::ParamSelect() : Control("ParamSelect")
 {
     cmbUnit.SetVisible(false);
-    cmbUnit.SetPlace({0, 0, kDesignWidth, kComboHeight});
+    cmbUnit.setPlace({0, 0, kDesignWidth, kComboHeight});
     connectRules();
     Resize(kDesignWidth, kDesignHeight);
 }
@@ -34,7 +34,7 @@ void ParamSelect::connectRules()
     cmbUnit.Picked.Connect([this] { unitRule(); });
     jgexGrid.ReadRow = [this](std::int32_t row) { return readRow(row); };
     jgexGrid.WriteRow = [this](std::int32_t row, bool value) {
-        rows_.Select(visibleRows_.Item(row), value);
+        rows_.select(visibleRows_.Item(row), value);
     };
     jgexGrid.Edited.Connect([this] { readGridKeepingRow(); });
     jgexGrid.CurrentCellChanged.Connect([this] {
@@ -62,7 +62,7 @@ void ParamSelect::Terminate()
 
 void ParamSelect::SetParamList(const ParamList& varParamList, bool blnUnitNamesInList)
 {
-    rows_.Load(server_, varParamList, blnUnitNamesInList);
+    rows_.load(server_, varParamList, blnUnitNamesInList);
     fillUnits();
     rebuildVisibleRows();
     rows_.dropOld();
@@ -75,7 +75,7 @@ void ParamSelect::fillUnits()
         return;
     rows_.fillUnits(cmbUnit, {allUnitsInCombo_, showUnpopulatedUnits_});
     // A filter of one unit has no use.
-    const bool isOneUnit = cmbUnit.ListCount() == (allUnitsInCombo_ ? 2 : 1);
+    const bool isOneUnit = cmbUnit.listCount() == (allUnitsInCombo_ ? 2 : 1);
     if (allUnitsInCombo_ || !isOneUnit)
         cmbUnit.SetListIndex(0);
     if (isOneUnit)
@@ -103,7 +103,7 @@ void ParamSelect::rebuildVisibleRows()
     } else if (isUnitPicked) {
         showRowsOf(cmbUnit.ItemData());
     } else {
-        const auto& units = cmbUnit.ItemDataList();
+        const auto& units = cmbUnit.itemDataList();
         for (std::size_t entry = 1; entry < units.size(); ++entry)
             showRowsOf(units[entry]);
     }
@@ -143,7 +143,7 @@ void ParamSelect::SetShowPIDNumber(bool value)
 {
     showPIDNumber_ = value;
     if (rows_.Count() > 0)
-        jgexGrid.ReadAgain();
+        jgexGrid.readAgain();
 }
 
 void ParamSelect::SetMultiSelect(bool value)
@@ -171,34 +171,34 @@ void ParamSelect::SetShowUnitCombo(bool value)
 void ParamSelect::placeGrid()
 {
     if (cmbUnit.Visible())
-        cmbUnit.Move(cmbUnit.Place().Left, 0);
-    screen::Geometry place = jgexGrid.Place();
-    place.Top = cmbUnit.Visible() ? cmbUnit.Place().Height + kGapBelowCombo : 0;
-    place.Height = Place().Height - place.Top;
-    jgexGrid.SetPlace(place);
+        cmbUnit.move(cmbUnit.place().Left, 0);
+    screen::Geometry grid = jgexGrid.place();
+    grid.Top = cmbUnit.Visible() ? cmbUnit.place().Height + kGapBelowCombo : 0;
+    grid.Height = place().Height - grid.Top;
+    jgexGrid.setPlace(grid);
 }
 
 void ParamSelect::Resize(float width, float height)
 {
-    SetPlace({Place().Left, Place().Top, width, height});
-    cmbUnit.SetPlace({0, cmbUnit.Place().Top, width, cmbUnit.Place().Height});
-    jgexGrid.SetPlace({0, jgexGrid.Place().Top, width, jgexGrid.Place().Height});
+    setPlace({place().Left, place().Top, width, height});
+    cmbUnit.setPlace({0, cmbUnit.place().Top, width, cmbUnit.place().Height});
+    jgexGrid.setPlace({0, jgexGrid.place().Top, width, jgexGrid.place().Height});
     placeGrid();
-    jgexGrid.SetSecondColumnWidth(std::nearbyint(width - jgexGrid.ColumnWidth(kCheckColumn) -
+    jgexGrid.setSecondColumnWidth(std::nearbyint(width - jgexGrid.ColumnWidth(kCheckColumn) -
                                                  kGridBorder - jgexGrid.ScrollBarWidth));
-    jgexGrid.ReadAgain();
+    jgexGrid.readAgain();
 }
 
 void ParamSelect::readGrid()
 {
     jgexGrid.SetRowCount(static_cast<std::int32_t>(visibleRows_.Count()));
-    jgexGrid.ReadAgain();
+    jgexGrid.readAgain();
 }
 
 void ParamSelect::readGridKeepingRow()
 {
     const std::int32_t row = jgexGrid.Row();
-    jgexGrid.ReadAgain();
+    jgexGrid.readAgain();
     jgexGrid.SetRow(row);
 }
 
@@ -210,8 +210,8 @@ std::string ParamSelect::GetUnitName() const
 void ParamSelect::selectVisible(bool selected)
 {
     for (const auto& entry : visibleRows_)
-        rows_.Select(entry.second, selected);
-    jgexGrid.ReadAgain();
+        rows_.select(entry.second, selected);
+    jgexGrid.readAgain();
 }
 
 std::optional<std::vector<PID>> ParamSelect::GetSelection() const
@@ -234,7 +234,7 @@ void ParamSelect::toggle()
         return;
     const std::int32_t index = visibleRows_.Item(pressedRow_);
     if (!rows_[index].isUnit)
-        rows_.Select(index, !rows_[index].isSelected);
+        rows_.select(index, !rows_[index].isSelected);
     readGridKeepingRow();
 }
 
@@ -244,7 +244,7 @@ screen::GridCells ParamSelect::readRow(std::int32_t gridRow) const
         return {};
     const ParamRow& row = rows_[visibleRows_.Item(gridRow)];
     if (!row.isUnit)
-        return {row.isSelected, showPIDNumber_ ? NameWithPID(row.pid, row.name) : row.name};
+        return {row.isSelected, showPIDNumber_ ? nameWithPID(row.pid, row.name) : row.name};
     if (!offsetUnits_)
         return {};
     return {Empty{}, headerText(row.name)};

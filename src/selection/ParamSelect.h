@@ -56,7 +56,7 @@ public:
     /// Gives the control a new size in twips.
     void Resize(float width, float height);
 
-    [[nodiscard]] const ParamRows& Rows() const { return rows_; }
+    [[nodiscard]] const ParamRows& rows() const { return rows_; }
     /// Index into the rows by row of the grid, from 1.
     [[nodiscard]] const OrderedMap<std::int32_t, std::int32_t>& VisibleRows() const
     {

@@ -21,9 +21,9 @@ constexpr float kGapBelowCombo = 45;
 
 SingleParamSelect::SingleParamSelect() : Control("SingleParamSelect")
 {
-    SetPlace({0, 0, kDesignWidth, kDesignHeight});
-    cmbUnit.SetPlace({0, 0, kDesignWidth, kComboHeight});
-    cmbPID.SetPlace({0, kDesignTop, kDesignWidth, kComboHeight});
+    setPlace({0, 0, kDesignWidth, kDesignHeight});
+    cmbUnit.setPlace({0, 0, kDesignWidth, kComboHeight});
+    cmbPID.setPlace({0, kDesignTop, kDesignWidth, kComboHeight});
     cmbUnit.Picked.Connect([this] { fillParameters(); });
 }
 
@@ -35,7 +35,7 @@ void SingleParamSelect::SetDIServer(std::shared_ptr<k7deval::DIServer> server)
 
 void SingleParamSelect::SetParamList(const ParamList& varParamList, bool blnUnitNamesInList)
 {
-    rows_.Load(server_, varParamList, blnUnitNamesInList);
+    rows_.load(server_, varParamList, blnUnitNamesInList);
     rows_.dropOld();
     fillBoth();
 }
@@ -63,19 +63,19 @@ void SingleParamSelect::SetShowUnitCombo(bool value)
     showUnitCombo_ = value;
     fillBoth();
     cmbUnit.SetVisible(value);
-    Resize(Place().Width, Place().Height);
+    Resize(place().Width, place().Height);
 }
 
 void SingleParamSelect::Resize(float width, float height)
 {
-    SetPlace({Place().Left, Place().Top, width, height});
-    screen::Geometry unit = cmbUnit.Place();
+    setPlace({place().Left, place().Top, width, height});
+    screen::Geometry unit = cmbUnit.place();
     unit.Width = width;
     if (cmbUnit.Visible())
         unit.Top = 0;
-    cmbUnit.SetPlace(unit);
+    cmbUnit.setPlace(unit);
     const float below = unit.Top + unit.Height + kGapBelowCombo;
-    cmbPID.SetPlace({0, cmbUnit.Visible() ? below : 0, width, cmbPID.Place().Height});
+    cmbPID.setPlace({0, cmbUnit.Visible() ? below : 0, width, cmbPID.place().Height});
 }
 
 void SingleParamSelect::fillBoth()
@@ -89,7 +89,7 @@ void SingleParamSelect::fillUnits()
     if (rows_.Count() == 0)
         return;
     if (!showUnitCombo_) {
-        if (cmbUnit.ListCount() == 1)
+        if (cmbUnit.listCount() == 1)
             hideUnits();
         return;
     }
@@ -97,7 +97,7 @@ void SingleParamSelect::fillUnits()
     if (!allUnitsInCombo_)
         return;
     cmbUnit.SetListIndex(0);
-    if (cmbUnit.ListCount() == 2) {
+    if (cmbUnit.listCount() == 2) {
         showUnitCombo_ = false;
         hideUnits();
     }
@@ -106,7 +106,7 @@ void SingleParamSelect::fillUnits()
 void SingleParamSelect::hideUnits()
 {
     cmbUnit.SetVisible(false);
-    cmbPID.Move(cmbPID.Place().Left, 0);
+    cmbPID.move(cmbPID.place().Left, 0);
 }
 
 /// The item data of a picked unit is compared as a whole with the unit number of each row, which
@@ -115,14 +115,14 @@ void SingleParamSelect::fillParameters()
 {
     if (rows_.Count() == 0)
         return;
-    cmbPID.Clear();
+    cmbPID.clear();
     const bool isFiltered = cmbUnit.Visible();
     const std::int32_t unit = isFiltered ? cmbUnit.ItemData() : kAllUnits;
     for (std::int32_t index = 0; index < rows_.Count(); ++index) {
         const ParamRow& row = rows_[index];
         const bool isWanted = unit == kAllUnits || PIDPart(row.pid, pidpart::kUnit) == unit;
         if (!row.isUnit && isWanted)
-            cmbPID.AddItem(entryOf(row, isFiltered && unit == kAllUnits), row.pid);
+            cmbPID.addItem(entryOf(row, isFiltered && unit == kAllUnits), row.pid);
     }
 }
 

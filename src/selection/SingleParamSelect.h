@@ -41,7 +41,7 @@ public:
     /// Gives the control a new size in twips.
     void Resize(float width, float height);
 
-    [[nodiscard]] const ParamRows& Rows() const { return rows_; }
+    [[nodiscard]] const ParamRows& rows() const { return rows_; }
 
     screen::ComboBox cmbUnit{*this, "cmbUnit", screen::EditField::Yes};
     screen::ComboBox cmbPID{*this, "cmbPID", screen::EditField::Yes};

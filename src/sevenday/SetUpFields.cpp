@@ -37,7 +37,7 @@ void ctrl7DaySetUp::validateOris()
     if (whole < 0 || whole > kLargestOris)
         txtORIS.SetText("");
     else
-        SetOrisCode(ToInt32(whole));
+        SetOrisCode(toInt32(whole));
 }
 
 void ctrl7DaySetUp::validateLimit(screen::TextBox& field, float& limit) const

@@ -55,10 +55,10 @@ void ctrl7DaySetUp::unitRule()
     runPosting(irm_, NumberedLine::UnitRule, [this] {
         const PID unit = cmbUnit.ItemData();
         calibrationPIDs_.clear();
-        cmbAnalyzer.Clear();
+        cmbAnalyzer.clear();
         listAnalyzers(unit);
         if (calibrationPIDs_.empty()) {
-            cmbAnalyzer.AddItem("N/A", 0);
+            cmbAnalyzer.addItem("N/A", 0);
             SetIs40CFR75(false);
         } else {
             takeUnitFacts(unit);
@@ -89,7 +89,7 @@ void ctrl7DaySetUp::listAnalyzer(DIParameter& parameter)
         return;
     if (!isListed) {
         calibrationPIDs_.push_back(0);
-        cmbAnalyzer.AddItem(name, static_cast<std::int32_t>(calibrationPIDs_.size()));
+        cmbAnalyzer.addItem(name, static_cast<std::int32_t>(calibrationPIDs_.size()));
         calibrationPIDs_.back() = parameter.PID();
         return;
     }
@@ -140,15 +140,15 @@ void ctrl7DaySetUp::chooseSpecification(std::int32_t code, std::int32_t program)
     const bool isPpm = isOneOf(code, kPpmCodes);
     const bool isCO = isOneOf(code, kCOCodes);
     if (isPpm)
-        opt025Span.SetSelected(true);
+        opt025Span.setSelected(true);
     else if (isCO)
-        opt05Span.SetSelected(true);
+        opt05Span.setSelected(true);
     else if (isOneOf(code, kAbsoluteCodes))
-        opt005Absolute.SetSelected(true);
+        opt005Absolute.setSelected(true);
     else
-        optOtherSpan.SetSelected(true);
-    chk6of7.SetChecked(isCO);
-    chkUseAPS.SetChecked(isPpm && program == kProgram40CFR75);
+        optOtherSpan.setSelected(true);
+    chk6of7.setChecked(isCO);
+    chkUseAPS.setChecked(isPpm && program == kProgram40CFR75);
 }
 
 void ctrl7DaySetUp::takeAnalyzer(PID pid, std::int32_t program)

@@ -38,10 +38,10 @@ void ctrl7Day::Setup(std::shared_ptr<MessageSink> irm, std::shared_ptr<DIServer>
     test_.irm = std::move(irm);
     test_.DIServer = std::move(objDI);
     ctrl7DaySetUp1.Setup(test_.irm, test_.DIServer);
-    ctrl7DaySetUp1.Move(kPageLeft, kPageTop);
-    chkPreview.SetChecked(true);
-    cmdSave.SetPlace(cmdNext.Place());
-    ctrl7DayResult1.Move(kPageLeft, kPageTop);
+    ctrl7DaySetUp1.move(kPageLeft, kPageTop);
+    chkPreview.setChecked(true);
+    cmdSave.setPlace(cmdNext.place());
+    ctrl7DayResult1.move(kPageLeft, kPageTop);
     test_.blnRetrieveCals = true;
     test_.blnApplyLimits = true;
     SwitchPage(Page::SetUp);

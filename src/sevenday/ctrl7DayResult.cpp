@@ -86,14 +86,14 @@ void ctrl7DayResult::SetAnalyzerText(const std::string& strNewText)
 
 void ctrl7DayResult::ClearTreeView()
 {
-    tvwCalTimes.Clear();
+    tvwCalTimes.clear();
     showDetails(
-        tvwCalTimes.AddRoot({"NA", "NA", image::kOfflineFail, screen::color::kLight3D, {}, {}}));
+        tvwCalTimes.addRoot({"NA", "NA", image::kOfflineFail, screen::color::kLight3D, {}, {}}));
 }
 
 void ctrl7DayResult::SetTreeView(const DayArray& objDaysToDisplay)
 {
-    tvwCalTimes.Clear();
+    tvwCalTimes.clear();
     const std::int32_t lo = SafeLBound(objDaysToDisplay);
     const std::int32_t hi = SafeUBound(objDaysToDisplay);
     if (hi < lo) {
@@ -113,10 +113,10 @@ void ctrl7DayResult::showDay(const clsDaySummary& day)
     if (n < 0) {
         // Such a day can never show as used.
         const std::string dayText = ShortDate(day.TStamp, *regional_);
-        tvwCalTimes.AddRoot(
+        tvwCalTimes.addRoot(
             {dayText, dayText, image::kOpDayNoCals, screen::color::kLight3D, {}, {}});
     } else if (n == 0) {
-        tvwCalTimes.AddRoot(runNode(day.DisplayedCals[0]));
+        tvwCalTimes.addRoot(runNode(day.DisplayedCals[0]));
     } else {
         showSeveralRuns(day);
     }
@@ -126,10 +126,10 @@ void ctrl7DayResult::showSeveralRuns(const clsDaySummary& day)
 {
     const std::string dayText = ShortDate(day.TStamp, *regional_);
     screen::TreeNode& dayNode =
-        tvwCalTimes.AddRoot({dayText, dayText, {}, screen::color::kWindow, {}, {}});
+        tvwCalTimes.addRoot({dayText, dayText, {}, screen::color::kWindow, {}, {}});
     bool noneFailed = true;
     for (const auto& run : day.DisplayedCals.items()) {
-        tvwCalTimes.AddChild(dayText, runNode(run));
+        tvwCalTimes.addChild(dayText, runNode(run));
         noneFailed = noneFailed && run->AnalyzerPassed();
     }
     const bool hasItsCals = day.HasOnlineCals() || !day.IsOpDay();

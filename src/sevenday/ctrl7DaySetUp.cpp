@@ -47,11 +47,11 @@ void ctrl7DaySetUp::startUp()
     fromDate_ = DateAddExact("m", -1, toDate_);
     txtFromDate.SetText(ShortDate(fromDate_, surroundings_.regional));
     txtToDate.SetText(ShortDate(toDate_, surroundings_.regional));
-    chkManualCals.SetChecked(true);
-    chkShowSummary.SetChecked(true);
-    optShowAllCals.SetSelected(true);
+    chkManualCals.setChecked(true);
+    chkShowSummary.setChecked(true);
+    optShowAllCals.setSelected(true);
     for (const TestReasonEntry& reason : kTestReasons)
-        cmbTestReason.AddItem(reason.text, reason.itemData);
+        cmbTestReason.addItem(reason.text, reason.itemData);
     cmbTestReason.SetListIndex(0);
     cmbStackID.SetVisible(false);
     SetIs40CFR75(false);
@@ -61,7 +61,7 @@ void ctrl7DaySetUp::Setup(std::shared_ptr<MessageSink> irm, std::shared_ptr<DISe
 {
     irm_ = std::move(irm);
     server_ = std::move(objDI);
-    cmbUnit.Clear();
+    cmbUnit.clear();
     screen::offerUnits(cmbUnit, present(server_));
 }
 
@@ -164,11 +164,11 @@ void ctrl7DaySetUp::SetStackID(const std::string& value)
         txtStackID.SetText(value);
         return;
     }
-    cmbStackID.Clear();
+    cmbStackID.clear();
     std::size_t begin = 0;
     for (std::size_t end = 0; end != std::string::npos; begin = end + 1) {
         end = value.find(';', begin);
-        cmbStackID.AddItem(trimRight(value.substr(begin, end - begin)));
+        cmbStackID.addItem(trimRight(value.substr(begin, end - begin)));
     }
     cmbStackID.SetListIndex(0);
 }
@@ -191,7 +191,7 @@ void ctrl7DaySetUp::SetIs40CFR75(bool value)
 
 std::int32_t ctrl7DaySetUp::OrisCode() const
 {
-    return ToInt32(txtORIS.Text(), surroundings_.regional);
+    return toInt32(txtORIS.Text(), surroundings_.regional);
 }
 
 void ctrl7DaySetUp::SetOrisCode(std::int32_t value)

@@ -56,7 +56,7 @@ Words reported(const Words& shown)
         const RegionalSettings regional;
         words.push_back(words.size() <= kSpan
                             ? word
-                            : FormatNumber(ToDouble(word, regional), "0.00", regional));
+                            : FormatNumber(toDouble(word, regional), "0.00", regional));
     }
     words.push_back(status);
     return words;

@@ -244,7 +244,7 @@ TEST(ScreenJson, IsValidForAScreenThatWasNeverEvaluated)
     const FreshScreen fresh;
     const json screen = json::parse(toJson(fresh.control.Properties()).dump());
     expectAllWidgets(screen);
-    const json test = json::parse(toJson(fresh.control.Test()).dump());
+    const json test = json::parse(toJson(fresh.control.test()).dump());
     EXPECT_EQ(namesIn(test), kTest);
     EXPECT_EQ(test.at("dtStart"), "1899-12-30 00:00");
     EXPECT_EQ(test.at("dictCals"), nullptr);

@@ -46,7 +46,7 @@ TEST(DIDataSet, ASlotKeepsItsValueAndStatus)
     set.ItemByIndex(3).SetStatus(35);
     EXPECT_EQ(set.ItemByIndex(3).Value(), Variant(12.5));
     EXPECT_EQ(set.ItemByIndex(3).Status(), 35);
-    set.ItemByIndex(3).SetNull();
+    set.ItemByIndex(3).setNull();
     EXPECT_TRUE(isNull(set.ItemByIndex(3).Value()));
 }
 
@@ -62,7 +62,7 @@ TEST(DIDataSet, ATimeFindsTheSlotOfItsHour)
 {
     auto set = hoursFrom(kMarchTenth, 24);
     for (int hour = 0; hour < 24; ++hour)
-        set.Values()[static_cast<std::size_t>(hour)] = hour;
+        set.values()[static_cast<std::size_t>(hour)] = hour;
     for (int hour = 0; hour < 24; ++hour) {
         const Variant expected(static_cast<double>(hour));
         EXPECT_EQ(set.ItemByTime(makeDate(2024, 3, 10, hour)).Value(), expected);

@@ -227,7 +227,7 @@ RC_GTEST_PROP(DateReaderProperties, EveryDateReadsBackFromItsShortDateAndLongTim
     const Date value =
         makeDate(*rc::gen::inRange(100, 10000), *rc::gen::inRange(1, 13), *rc::gen::inRange(1, 29),
                  *rc::gen::inRange(0, 24), *rc::gen::inRange(0, 60), *rc::gen::inRange(0, 60));
-    const std::string text = ShortDate(value, settings) + ' ' + LongTime(value, settings);
+    const std::string text = ShortDate(value, settings) + ' ' + longTime(value, settings);
     RC_ASSERT(ToDate(text, settings, kToday) == value);
 }
 

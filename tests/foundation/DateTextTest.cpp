@@ -35,8 +35,8 @@ TEST_P(NamedFormatsOfARegion, AreWrittenAsTheRegionDoes)
     const RegionalSettings settings = regionalSettings(row.region);
     const Date value = makeDate(2024, 3, 10, 15, 5, 9);
     EXPECT_EQ(ShortDate(value, settings), row.shortDate);
-    EXPECT_EQ(LongTime(value, settings), row.longTime);
-    EXPECT_EQ(MediumTime(value, settings), row.mediumTime);
+    EXPECT_EQ(longTime(value, settings), row.longTime);
+    EXPECT_EQ(mediumTime(value, settings), row.mediumTime);
     EXPECT_EQ(ShortTime(value, settings), row.shortTime);
 }
 
@@ -50,11 +50,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(DateText, MidnightAndNoonAreTwelveOnATwelveHourClock)
 {
     const RegionalSettings us;
-    EXPECT_EQ(LongTime(makeDate(2024, 3, 10), us), "12:00:00 AM");
-    EXPECT_EQ(LongTime(makeDate(2024, 3, 10, 12), us), "12:00:00 PM");
-    EXPECT_EQ(LongTime(makeDate(2024, 3, 10, 11, 59, 59), us), "11:59:59 AM");
-    EXPECT_EQ(LongTime(makeDate(2024, 3, 10, 13), us), "1:00:00 PM");
-    EXPECT_EQ(MediumTime(makeDate(2024, 3, 10), us), "12:00 AM");
+    EXPECT_EQ(longTime(makeDate(2024, 3, 10), us), "12:00:00 AM");
+    EXPECT_EQ(longTime(makeDate(2024, 3, 10, 12), us), "12:00:00 PM");
+    EXPECT_EQ(longTime(makeDate(2024, 3, 10, 11, 59, 59), us), "11:59:59 AM");
+    EXPECT_EQ(longTime(makeDate(2024, 3, 10, 13), us), "1:00:00 PM");
+    EXPECT_EQ(mediumTime(makeDate(2024, 3, 10), us), "12:00 AM");
 }
 
 TEST(DateText, AYearFirstRegionWritesTheYearFirst)
@@ -69,9 +69,9 @@ TEST(DateText, AYearFirstRegionWritesTheYearFirst)
 TEST(DateText, TheHourOfTheLongTimeMayHaveTwoDigits)
 {
     RegionalSettings settings = regionalSettings("en-GB");
-    EXPECT_EQ(LongTime(makeDate(2024, 3, 10, 7, 5, 9), settings), "07:05:09");
+    EXPECT_EQ(longTime(makeDate(2024, 3, 10, 7, 5, 9), settings), "07:05:09");
     settings.twoDigitHour = false;
-    EXPECT_EQ(LongTime(makeDate(2024, 3, 10, 7, 5, 9), settings), "7:05:09");
+    EXPECT_EQ(longTime(makeDate(2024, 3, 10, 7, 5, 9), settings), "7:05:09");
 }
 
 TEST(DateText, TheClockReadingIsTheNearestSecond)
@@ -79,7 +79,7 @@ TEST(DateText, TheClockReadingIsTheNearestSecond)
     constexpr double kSecond = 1.0 / 86400;
     const Date value{makeDate(2024, 3, 10, 23, 59, 59).days + 0.6 * kSecond};
     EXPECT_EQ(ShortDate(value, RegionalSettings()), "3/11/2024");
-    EXPECT_EQ(LongTime(value, RegionalSettings()), "12:00:00 AM");
+    EXPECT_EQ(longTime(value, RegionalSettings()), "12:00:00 AM");
 }
 
 } // namespace k7deval

@@ -196,7 +196,7 @@ RC_GTEST_PROP(NumberTextProperties, AWrittenDoubleReadsBackToItsFifteenDigits, (
     const double value = *rc::gen::suchThat(anyDouble(), [](double candidate) {
         return std::abs(candidate) < 1e308; // Rounded up, the very largest would overflow.
     });
-    RC_ASSERT(ToDouble(GeneralNumber(value, kUs), kUs) ==
+    RC_ASSERT(toDouble(GeneralNumber(value, kUs), kUs) ==
               std::strtod(printed("%.14e", value).c_str(), nullptr));
 }
 

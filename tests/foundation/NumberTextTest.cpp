@@ -201,24 +201,24 @@ TEST(ToSingle, AValueOutOfItsRangeIsAnOverflow)
     EXPECT_EQ(errorOf([] { return ToSingle("abc", kUs); }), errors::kTypeMismatch);
 }
 
-TEST(ToInt32, IsTheNearestIntegerHalvesToEven)
+TEST(toInt32, IsTheNearestIntegerHalvesToEven)
 {
-    EXPECT_EQ(ToInt32(2.5), 2);
-    EXPECT_EQ(ToInt32(3.5), 4);
-    EXPECT_EQ(ToInt32(-2.5), -2);
-    EXPECT_EQ(ToInt32(-2.51), -3);
-    EXPECT_EQ(ToInt32("1,234.5", kUs), 1234);
+    EXPECT_EQ(toInt32(2.5), 2);
+    EXPECT_EQ(toInt32(3.5), 4);
+    EXPECT_EQ(toInt32(-2.5), -2);
+    EXPECT_EQ(toInt32(-2.51), -3);
+    EXPECT_EQ(toInt32("1,234.5", kUs), 1234);
 }
 
-TEST(ToInt32, ANumberOutOfRangeIsAnOverflow)
+TEST(toInt32, ANumberOutOfRangeIsAnOverflow)
 {
-    EXPECT_EQ(ToInt32(2147483647.49), 2147483647);
-    EXPECT_EQ(ToInt32(-2147483648.5), -2147483648);
-    EXPECT_EQ(errorOf([] { return ToInt32(2147483647.5); }), errors::kOverflow);
-    EXPECT_EQ(errorOf([] { return ToInt32(-2147483649.0); }), errors::kOverflow);
-    EXPECT_EQ(errorOf([] { return ToInt32(std::nan("")); }), errors::kOverflow);
-    EXPECT_EQ(errorOf([] { return ToInt32("3000000000", kUs); }), errors::kOverflow);
-    EXPECT_EQ(errorOf([] { return ToInt32("", kUs); }), errors::kTypeMismatch);
+    EXPECT_EQ(toInt32(2147483647.49), 2147483647);
+    EXPECT_EQ(toInt32(-2147483648.5), -2147483648);
+    EXPECT_EQ(errorOf([] { return toInt32(2147483647.5); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return toInt32(-2147483649.0); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return toInt32(std::nan("")); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return toInt32("3000000000", kUs); }), errors::kOverflow);
+    EXPECT_EQ(errorOf([] { return toInt32("", kUs); }), errors::kTypeMismatch);
 }
 
 } // namespace k7deval

@@ -153,8 +153,8 @@ TEST_P(NumericTexts, AreReadAsTheRegionWritesThem)
     const NumericCase& row = GetParam();
     const RegionalSettings settings = regionalSettings(row.region);
     ASSERT_TRUE(IsNumeric(row.text, settings));
-    EXPECT_EQ(ToDouble(row.text, settings), row.value);
-    EXPECT_FALSE(row.value == 0 && std::signbit(ToDouble(row.text, settings)));
+    EXPECT_EQ(toDouble(row.text, settings), row.value);
+    EXPECT_FALSE(row.value == 0 && std::signbit(toDouble(row.text, settings)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, NumericTexts, testing::ValuesIn(kNumeric));
@@ -164,7 +164,7 @@ TEST_P(TextsThatAreNotNumeric, AreRefused)
     const NotNumericCase& row = GetParam();
     const RegionalSettings settings = regionalSettings(row.region);
     EXPECT_FALSE(IsNumeric(row.text, settings));
-    EXPECT_EQ(errorOf([&] { return ToDouble(row.text, settings); }), errors::kTypeMismatch);
+    EXPECT_EQ(errorOf([&] { return toDouble(row.text, settings); }), errors::kTypeMismatch);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, TextsThatAreNotNumeric, testing::ValuesIn(kNotNumeric));
@@ -173,7 +173,7 @@ TEST(NumericText, ANumberTooLargeForADoubleIsNumericButOverflows)
 {
     for (const char* text : {"1E309", "-1E309", "1E99999999999999999999", "0.001E312"}) {
         EXPECT_TRUE(IsNumeric(text, RegionalSettings())) << text;
-        EXPECT_EQ(errorOf([&] { return ToDouble(text, RegionalSettings()); }), errors::kOverflow)
+        EXPECT_EQ(errorOf([&] { return toDouble(text, RegionalSettings()); }), errors::kOverflow)
             << text;
     }
 }
@@ -181,12 +181,12 @@ TEST(NumericText, ANumberTooLargeForADoubleIsNumericButOverflows)
 TEST(NumericText, ManyDigitsAreReadToTheNearestDouble)
 {
     EXPECT_EQ(
-        ToDouble("0.1000000000000000055511151231257827021181583404541015625", RegionalSettings()),
+        toDouble("0.1000000000000000055511151231257827021181583404541015625", RegionalSettings()),
         0.1);
-    EXPECT_EQ(ToDouble(std::string(400, '0') + "1" + "." + std::string(400, '0') + "1",
+    EXPECT_EQ(toDouble(std::string(400, '0') + "1" + "." + std::string(400, '0') + "1",
                        RegionalSettings()),
               1);
-    EXPECT_EQ(ToDouble("0." + std::string(400, '0') + "1E401", RegionalSettings()), 1);
+    EXPECT_EQ(toDouble("0." + std::string(400, '0') + "1E401", RegionalSettings()), 1);
 }
 
 RC_GTEST_PROP(NumericTextProperties, AnyTextIsANumberOrRefusedButNeverAnythingElse, ())
@@ -195,7 +195,7 @@ RC_GTEST_PROP(NumericTextProperties, AnyTextIsANumberOrRefusedButNeverAnythingEl
     const RegionalSettings settings = regionalSettings(region);
     const auto text =
         *rc::gen::container<std::string>(rc::gen::elementOf(std::string("0123456789.,+-()$€ED ")));
-    const int number = errorOf([&] { return ToDouble(text, settings); });
+    const int number = errorOf([&] { return toDouble(text, settings); });
     if (IsNumeric(text, settings))
         RC_ASSERT(number == 0 || number == errors::kOverflow);
     else

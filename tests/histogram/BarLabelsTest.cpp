@@ -59,8 +59,8 @@ HourBins binsOf(std::initializer_list<std::pair<int, std::int32_t>> hours)
 void expectFlat(const Chart& chart)
 {
     for (int bar = 1; bar <= 20; ++bar) {
-        EXPECT_EQ(chart.bars[bar].Place().Top, 2700) << bar;
-        EXPECT_EQ(chart.bars[bar].Place().Height, 15) << bar;
+        EXPECT_EQ(chart.bars[bar].place().Top, 2700) << bar;
+        EXPECT_EQ(chart.bars[bar].place().Height, 15) << bar;
         EXPECT_EQ(chart.bars[bar].ToolTipText(), "") << bar;
     }
 }
@@ -72,7 +72,7 @@ TEST(BarLabels, AreTwentyAndTheirHiddenPattern)
     const Chart chart;
     EXPECT_EQ(histogram::BarLabels::Count(), 21);
     EXPECT_FALSE(chart.bars[0].Visible());
-    EXPECT_EQ(chart.bars[0].Place(), (Geometry{315, 1725, 255, 405}));
+    EXPECT_EQ(chart.bars[0].place(), (Geometry{315, 1725, 255, 405}));
     for (int bar = 0; bar <= 20; ++bar) {
         const screen::Label& label = chart.bars[bar];
         EXPECT_EQ(chart.Find("lblBar(" + std::to_string(bar) + ")"), &label);
@@ -86,23 +86,23 @@ TEST(BarLabels, StandSideBySideOnTheGridAndShareAPixelOfBorder)
 {
     const Chart chart;
     for (int bar = 1; bar <= 20; ++bar) {
-        const Geometry& place = chart.bars[bar].Place();
+        const Geometry& place = chart.bars[bar].place();
         EXPECT_EQ(place.Left, kLefts[static_cast<std::size_t>(bar) - 1]) << bar;
         EXPECT_EQ(place.Width, widthOf(bar)) << bar;
     }
-    EXPECT_EQ(chart.bars[20].Place().Left + chart.bars[20].Place().Width, 5895);
+    EXPECT_EQ(chart.bars[20].place().Left + chart.bars[20].place().Width, 5895);
 }
 
 TEST(BarLabels, FollowABaseOfAnotherWidth)
 {
     // 2000 - 10 - 15 = 1975 twips: 98.75 for a bar, from 10 on.
     const Chart chart({10, 2700, 2000, 2700});
-    EXPECT_EQ(chart.bars[1].Place().Left, 0) << "10 is moved back to 0";
-    EXPECT_EQ(chart.bars[2].Place().Left, 105) << "108.75 is 109";
-    EXPECT_EQ(chart.bars[1].Place().Width, 120);
-    EXPECT_EQ(chart.bars[3].Place().Left, 195) << "207.5 is 208";
-    EXPECT_EQ(chart.bars[20].Place().Left, 1875) << "1886.25 is 1886";
-    EXPECT_EQ(chart.bars[20].Place().Width, 1980 - 1875 + 15) << "1985 is moved back to 1980";
+    EXPECT_EQ(chart.bars[1].place().Left, 0) << "10 is moved back to 0";
+    EXPECT_EQ(chart.bars[2].place().Left, 105) << "108.75 is 109";
+    EXPECT_EQ(chart.bars[1].place().Width, 120);
+    EXPECT_EQ(chart.bars[3].place().Left, 195) << "207.5 is 208";
+    EXPECT_EQ(chart.bars[20].place().Left, 1875) << "1886.25 is 1886";
+    EXPECT_EQ(chart.bars[20].place().Width, 1980 - 1875 + 15) << "1985 is moved back to 1980";
 }
 
 TEST(BarLabels, ThereIsNoOtherOne)
@@ -117,9 +117,9 @@ TEST(BarLabels, ResetLieFlatOnTheBaseWithoutToolTips)
     Chart chart;
     chart.draw(binsOf({{3, 12}})).bars.ResetBars();
     expectFlat(chart);
-    EXPECT_EQ(chart.bars[1].Place().Left, 120) << "only height and top change";
-    EXPECT_EQ(chart.bars[1].Place().Width, 300);
-    EXPECT_EQ(chart.bars[0].Place(), (Geometry{315, 1725, 255, 405})) << "the pattern stays";
+    EXPECT_EQ(chart.bars[1].place().Left, 120) << "only height and top change";
+    EXPECT_EQ(chart.bars[1].place().Width, 300);
+    EXPECT_EQ(chart.bars[0].place(), (Geometry{315, 1725, 255, 405})) << "the pattern stays";
 }
 
 TEST(BarLabels, WithoutHoursLieFlat)
@@ -158,13 +158,13 @@ TEST(BarLabels, AreAsHighAsTheirShareOfTheFullestBin)
     for (const HeightCase& row : kHeights) {
         Chart chart;
         chart.draw(binsOf({{7, row.hours}, {20, row.peak}}));
-        const Geometry& place = chart.bars[7].Place();
+        const Geometry& place = chart.bars[7].place();
         EXPECT_EQ(place.Top, row.top) << row.what;
         EXPECT_EQ(place.Height, 2700 - row.top) << row.what;
         EXPECT_EQ(place.Left, 1845) << row.what;
         EXPECT_EQ(place.Width, 300) << row.what;
-        EXPECT_EQ(chart.bars[20].Place().Top, 645) << row.what;
-        EXPECT_EQ(chart.bars[20].Place().Height, 2055) << row.what;
+        EXPECT_EQ(chart.bars[20].place().Top, 645) << row.what;
+        EXPECT_EQ(chart.bars[20].place().Height, 2055) << row.what;
     }
 }
 
@@ -202,20 +202,20 @@ TEST(BarLabels, HaveTheTextsOfATable)
     Chart chart;
     chart.regional = regionalSettings("de-DE");
     chart.draw(binsOf({{1, 1}, {4, 2}}), 12.5F, 32.5F);
-    EXPECT_EQ(chart.bars.Texts(1), (histogram::BarTexts{"12,5", "14,125", "1", "33,3%"}));
-    EXPECT_EQ(chart.bars.Texts(4), (histogram::BarTexts{"17,375", "19", "2", "66,7%"}));
-    EXPECT_EQ(chart.bars.Texts(20), (histogram::BarTexts{"43,375", "45", "0", "0,0%"}));
-    EXPECT_EQ(errorOf([&] { return chart.bars.Texts(21).from; }), 9);
+    EXPECT_EQ(chart.bars.texts(1), (histogram::BarTexts{"12,5", "14,125", "1", "33,3%"}));
+    EXPECT_EQ(chart.bars.texts(4), (histogram::BarTexts{"17,375", "19", "2", "66,7%"}));
+    EXPECT_EQ(chart.bars.texts(20), (histogram::BarTexts{"43,375", "45", "0", "0,0%"}));
+    EXPECT_EQ(errorOf([&] { return chart.bars.texts(21).from; }), 9);
     chart.bars.ResetBars();
-    EXPECT_EQ(chart.bars.Texts(4), histogram::BarTexts());
+    EXPECT_EQ(chart.bars.texts(4), histogram::BarTexts());
 }
 
 TEST(BarLabels, AgainWithoutHoursHaveNoHeightWhileOthersStand)
 {
     Chart chart;
     chart.draw(binsOf({{1, 1}}));
-    EXPECT_EQ(chart.bars[2].Place().Height, 0);
-    EXPECT_EQ(chart.bars[2].Place().Top, 2700);
+    EXPECT_EQ(chart.bars[2].place().Height, 0);
+    EXPECT_EQ(chart.bars[2].place().Top, 2700);
 }
 
 RC_GTEST_PROP(BarLabelsProperties, StandOnTheBaseOnTheGridAndRiseWithTheirHours, ())
@@ -227,14 +227,14 @@ RC_GTEST_PROP(BarLabelsProperties, StandOnTheBaseOnTheGridAndRiseWithTheirHours,
     Chart chart;
     chart.draw(bins);
     for (int one = 1; one <= 20; ++one) {
-        const Geometry& place = chart.bars[one].Place();
+        const Geometry& place = chart.bars[one].place();
         const std::int32_t hours = bins[static_cast<std::size_t>(one)];
         RC_ASSERT(place.Top + place.Height == 2700);
         RC_ASSERT(static_cast<int>(place.Top) % 15 == 0);
         RC_ASSERT((place.Height >= 15) == (hours > 0));
         for (int other = 1; other <= 20; ++other) {
             if (hours <= bins[static_cast<std::size_t>(other)])
-                RC_ASSERT(place.Height <= chart.bars[other].Place().Height);
+                RC_ASSERT(place.Height <= chart.bars[other].place().Height);
         }
     }
 }

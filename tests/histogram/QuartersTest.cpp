@@ -125,8 +125,8 @@ TEST(OfferedQuarters, TheNewestFinishedOneIsSelected)
 {
     for (const MonthCase& row : kMonths) {
         QuarterScreen screen;
-        screen.cmbQTR.Clear();
-        screen.cmbYear.Clear();
+        screen.cmbQTR.clear();
+        screen.cmbYear.clear();
         histogram::offerQuarters(screen.cmbQTR, screen.cmbYear, makeDate(2024, row.month, 15));
         EXPECT_EQ(screen.cmbQTR.Text(), "Q" + std::to_string(row.finished)) << row.month;
         EXPECT_EQ(screen.cmbQTR.ListIndex(), row.finished - 1) << row.month;

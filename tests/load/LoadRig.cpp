@@ -66,7 +66,7 @@ bool isCleared(const ctrlMaxMW& tool)
     }
     for (int bar = 1; bar <= 20; ++bar) {
         const screen::Label& label = tool.lblBar[bar];
-        if (label.Place().Top != 2700 || label.Place().Height != 15 || !label.ToolTipText().empty())
+        if (label.place().Top != 2700 || label.place().Height != 15 || !label.ToolTipText().empty())
             return false;
     }
     return tool.lblBelow.Caption() == "0 hour(s) under minimum" &&

@@ -89,7 +89,7 @@ struct LoadRig : LoadTool {
     LoadRig& addHours(std::size_t count, double value);
 
     [[nodiscard]] HourlyValues& load() const { return site->parameter(kGT1Load).hours; }
-    [[nodiscard]] const LoadEvaluation& results() const { return tool.Evaluation(); }
+    [[nodiscard]] const LoadEvaluation& results() const { return tool.evaluation(); }
     /// What was read so far; forgets it.
     std::vector<ReadRequest> takeReads();
 

@@ -361,7 +361,7 @@ TEST(LoadShowPID, PutsThePIDAheadOfEveryName)
     rig.tool.chkShowPID.Press();
     EXPECT_EQ(rig.tool.cmbParam.List(),
               (Lines{"[1-602-0-75-01] GT1 Load", "[1-310-1-75-12] Steam"}));
-    EXPECT_EQ(rig.tool.cmbParam.ItemDataList(), (std::vector<std::int32_t>{kGT1Load, 131'017'512}));
+    EXPECT_EQ(rig.tool.cmbParam.itemDataList(), (std::vector<std::int32_t>{kGT1Load, 131'017'512}));
     EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 0);
     rig.tool.chkShowPID.Press();
     EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"GT1 Load", "Steam"}));
@@ -412,7 +412,7 @@ TEST(LoadShowPID, WithoutDataDoesNothing)
     LoadTool rig;
     rig.tool.chkShowPID.Press();
     EXPECT_TRUE(rig.tool.chkShowPID.isChecked());
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
 }
 
 TEST(LoadShowPID, AfterTheDataWasTakenAwayDoesNothing)
@@ -420,7 +420,7 @@ TEST(LoadShowPID, AfterTheDataWasTakenAwayDoesNothing)
     LoadRig rig;
     rig.tool.SetDIServer(nullptr);
     rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
 }
 
 } // namespace k7deval::test

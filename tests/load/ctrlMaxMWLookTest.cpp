@@ -106,9 +106,9 @@ bool liesIn(const screen::Container& container, const std::string& name)
 TEST(LoadToolLook, TheToolHasAFixedSizeWithItsResultsOnTheRight)
 {
     const LoadTool rig;
-    EXPECT_EQ(rig.tool.Place().Width, 12300);
-    EXPECT_EQ(rig.tool.Place().Height, 4830);
-    EXPECT_EQ(rig.tool.fraResults.Place(), (Geometry{6240, 120, 6000, 4020}));
+    EXPECT_EQ(rig.tool.place().Width, 12300);
+    EXPECT_EQ(rig.tool.place().Height, 4830);
+    EXPECT_EQ(rig.tool.fraResults.place(), (Geometry{6240, 120, 6000, 4020}));
 }
 
 TEST(LoadToolLook, EveryResultTextHasItsPlaceAndAlignment)
@@ -116,9 +116,9 @@ TEST(LoadToolLook, EveryResultTextHasItsPlaceAndAlignment)
     const LoadTool rig;
     for (const LabelCase& expected : kLabels) {
         const auto& label = found<screen::Label>(rig.tool, expected.name);
-        EXPECT_EQ(label.Place().Left, expected.left) << expected.name;
-        EXPECT_EQ(label.Place().Top, expected.top) << expected.name;
-        EXPECT_EQ(label.Place().Width, expected.width) << expected.name;
+        EXPECT_EQ(label.place().Left, expected.left) << expected.name;
+        EXPECT_EQ(label.place().Top, expected.top) << expected.name;
+        EXPECT_EQ(label.place().Width, expected.width) << expected.name;
         EXPECT_EQ(label.Alignment(), expected.alignment) << expected.name;
         EXPECT_TRUE(liesIn(rig.tool.fraResults, expected.name)) << expected.name;
     }
@@ -149,7 +149,7 @@ TEST(LoadToolLook, TwentyBarsStandSideBySideOnWholePixels)
     const LoadTool rig;
     for (int bar = 1; bar <= 20; ++bar) {
         const screen::Label& label = rig.tool.lblBar[bar];
-        EXPECT_EQ(label.Place(), (Geometry{static_cast<float>(edge(bar - 1)), 2700,
+        EXPECT_EQ(label.place(), (Geometry{static_cast<float>(edge(bar - 1)), 2700,
                                            static_cast<float>(edge(bar) - edge(bar - 1) + 15), 15}))
             << bar;
         EXPECT_TRUE(label.Visible()) << bar;
@@ -161,12 +161,12 @@ TEST(LoadToolLook, TwentyBarsStandSideBySideOnWholePixels)
 TEST(LoadToolLook, TheBarsReachFromTheFirstMarkToTheLast)
 {
     const LoadTool rig;
-    EXPECT_EQ(rig.tool.lblBar[1].Place().Left, 120);
-    EXPECT_EQ(rig.tool.lblBar[1].Place().Width, 300); // 120 + 288 is 408, on the grid 405.
-    EXPECT_EQ(rig.tool.lblBar[2].Place().Left, 405);
-    EXPECT_EQ(rig.tool.lblBar[7].Place().Left, 1845) << "the 30% mark";
-    EXPECT_EQ(rig.tool.lblBar[13].Place().Left, 3570) << "the 60% mark";
-    const Geometry& last = rig.tool.lblBar[20].Place();
+    EXPECT_EQ(rig.tool.lblBar[1].place().Left, 120);
+    EXPECT_EQ(rig.tool.lblBar[1].place().Width, 300); // 120 + 288 is 408, on the grid 405.
+    EXPECT_EQ(rig.tool.lblBar[2].place().Left, 405);
+    EXPECT_EQ(rig.tool.lblBar[7].place().Left, 1845) << "the 30% mark";
+    EXPECT_EQ(rig.tool.lblBar[13].place().Left, 3570) << "the 60% mark";
+    const Geometry& last = rig.tool.lblBar[20].place();
     EXPECT_EQ(last.Left + last.Width, 5880 + 15);
 }
 
@@ -175,7 +175,7 @@ TEST(LoadToolLook, TheBarsAreMadeFromAHiddenPattern)
     const LoadTool rig;
     const screen::Label& pattern = rig.tool.lblBar[0];
     EXPECT_FALSE(pattern.Visible());
-    EXPECT_EQ(pattern.Place(), (Geometry{315, 1725, 255, 405}));
+    EXPECT_EQ(pattern.place(), (Geometry{315, 1725, 255, 405}));
     EXPECT_EQ(pattern.BackColor(), screen::color::kDesktop);
     EXPECT_EQ(pattern.Caption(), "");
 }

@@ -55,7 +55,7 @@ const StaleCase kMarkStale[] = {
     {"a typed text that is no year", [](auto& rig) { rig.tool.cmbYear.Type("x"); }},
     {"a year's text by code", [](auto& rig) { rig.tool.cmbYear.SetText("2021"); }},
     {"specified dates", [](auto& rig) { rig.tool.optTimeSelect.Press(); }},
-    {"specified dates by code", [](auto& rig) { rig.tool.optTimeSelect.SetSelected(true); }},
+    {"specified dates by code", [](auto& rig) { rig.tool.optTimeSelect.setSelected(true); }},
     {"the data", [](auto& rig) { rig.tool.SetDIServer(rig.tool.DIServer()); }},
 };
 

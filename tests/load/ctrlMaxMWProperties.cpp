@@ -238,7 +238,7 @@ void CourseRig::check() const
     RC_ASSERT(tool.optTimeEnd.isSelected() != tool.optTimeSelect.isSelected());
     RC_ASSERT(tool.EndDate() == dateOnly(tool.EndDate()));
     for (int bar = 1; bar <= 20; ++bar) {
-        const screen::Geometry& place = tool.lblBar[bar].Place();
+        const screen::Geometry& place = tool.lblBar[bar].place();
         RC_ASSERT(static_cast<int>(place.Top) % 15 == 0);
         RC_ASSERT(static_cast<int>(place.Height) % 15 == 0);
         RC_ASSERT(model.isCleared || place.Top + place.Height == 2700 || place.Height == 15);

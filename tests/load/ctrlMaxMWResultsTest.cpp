@@ -62,7 +62,7 @@ bool hasFlatBars(const ctrlMaxMW& tool)
 {
     for (int bar = 1; bar <= 20; ++bar) {
         const screen::Label& label = tool.lblBar[bar];
-        if (label.Place().Top != 2700 || label.Place().Height != 15 || !label.ToolTipText().empty())
+        if (label.place().Top != 2700 || label.place().Height != 15 || !label.ToolTipText().empty())
             return false;
     }
     return true;
@@ -76,7 +76,7 @@ void addToBin(LoadRig& rig, int bin, std::size_t hours)
 
 void expectTop(const LoadRig& rig, int bar, float top)
 {
-    const screen::Geometry& place = rig.tool.lblBar[bar].Place();
+    const screen::Geometry& place = rig.tool.lblBar[bar].place();
     EXPECT_EQ(place.Top, top) << bar;
     EXPECT_EQ(place.Height, 2700 - top) << bar;
 }
@@ -301,11 +301,11 @@ TEST(LoadBars, OfAnyHoursStandOnTheGrid)
 TEST(LoadBars, KeepTheirPlaceAndWidth)
 {
     LoadRig rig;
-    const screen::Geometry before = rig.tool.lblBar[5].Place();
+    const screen::Geometry before = rig.tool.lblBar[5].place();
     addToBin(rig, 5, 3);
     rig.calculate();
-    EXPECT_EQ(rig.tool.lblBar[5].Place().Left, before.Left);
-    EXPECT_EQ(rig.tool.lblBar[5].Place().Width, before.Width);
+    EXPECT_EQ(rig.tool.lblBar[5].place().Left, before.Left);
+    EXPECT_EQ(rig.tool.lblBar[5].place().Width, before.Width);
 }
 
 TEST(LoadBars, TellTheirRangeAndHours)

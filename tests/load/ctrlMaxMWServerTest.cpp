@@ -26,7 +26,7 @@ TEST(LoadData, ListsTheUnitsInTheirOrderAndPicksTheFirst)
 {
     LoadRig rig(siteOfUnits({"GT9", "Boiler 2", "GT1"}));
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT9", "Boiler 2", "GT1"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(),
+    EXPECT_EQ(rig.tool.cmbUnit.itemDataList(),
               (std::vector<std::int32_t>{100'100'000, 200'100'000, 300'100'000}));
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
     EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT9");
@@ -36,7 +36,7 @@ TEST(LoadData, PickingTheFirstUnitListsItsParametersAndItsCapacity)
 {
     const LoadRig rig;
     EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT1 Load"});
-    EXPECT_EQ(rig.tool.cmbParam.ItemDataList(), std::vector<std::int32_t>{kGT1Load});
+    EXPECT_EQ(rig.tool.cmbParam.itemDataList(), std::vector<std::int32_t>{kGT1Load});
     EXPECT_EQ(rig.tool.cmbParam.Text(), "GT1 Load");
     EXPECT_EQ(rig.tool.txtCapacity.Text(), "100");
 }
@@ -65,8 +65,8 @@ TEST(LoadData, NothingEmptiesTheListsOfAToolThatHadNone)
 {
     LoadTool rig;
     rig.tool.SetDIServer(nullptr);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
     EXPECT_FALSE(rig.tool.cmdSave.Enabled());
     EXPECT_TRUE(rig.tool.NeedsEvaluation());
     EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
@@ -78,9 +78,9 @@ TEST(LoadData, TakenAwayLeavesNoUnitNoParameterNoResultsAndNothingToSave)
     rig.hours({10, 50, 90}).calculate();
     rig.tool.SetDIServer(nullptr);
     EXPECT_EQ(rig.tool.DIServer(), nullptr);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
     EXPECT_EQ(rig.tool.cmbUnit.Text(), "");
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
     EXPECT_EQ(rig.tool.cmbParam.Text(), "");
     EXPECT_TRUE(isCleared(rig.tool));
     EXPECT_FALSE(rig.tool.cmdSave.Enabled());
@@ -102,7 +102,7 @@ TEST(LoadData, WithoutUnitsCannotBePickedFrom)
     LoadTool rig;
     EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(siteOfUnits({}))); }), 381);
     EXPECT_NE(rig.tool.DIServer(), nullptr);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
 }
 
 TEST(LoadData, WithoutUnitsLeavesWhatComesAfterThePickAsItWas)
@@ -110,7 +110,7 @@ TEST(LoadData, WithoutUnitsLeavesWhatComesAfterThePickAsItWas)
     LoadRig rig;
     rig.hours({50}).calculate();
     EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(siteOfUnits({}))); }), 381);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
     EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT1 Load"});
     EXPECT_FALSE(isCleared(rig.tool));
     EXPECT_TRUE(rig.tool.cmdSave.Enabled());

@@ -102,7 +102,7 @@ TEST(LoadToolStart, HasNoUnitAndNoParameter)
     const LoadTool rig;
     EXPECT_EQ(rig.tool.DIServer(), nullptr);
     for (const auto* list : {&rig.tool.cmbUnit, &rig.tool.cmbParam}) {
-        EXPECT_EQ(list->ListCount(), 0);
+        EXPECT_EQ(list->listCount(), 0);
         EXPECT_EQ(list->ListIndex(), -1);
         EXPECT_EQ(list->Text(), "");
         EXPECT_TRUE(list->Enabled());
@@ -114,8 +114,8 @@ TEST(LoadToolStart, MinimumAndCapacityAreZero)
     const LoadTool rig;
     EXPECT_EQ(rig.tool.txtMinSafe.Text(), "0");
     EXPECT_EQ(rig.tool.txtCapacity.Text(), "0");
-    EXPECT_EQ(rig.tool.Evaluation().MinSafeValue, 0);
-    EXPECT_EQ(rig.tool.Evaluation().CapacityValue, 0);
+    EXPECT_EQ(rig.tool.evaluation().MinSafeValue, 0);
+    EXPECT_EQ(rig.tool.evaluation().CapacityValue, 0);
     EXPECT_TRUE(rig.tool.txtMinSafe.Enabled());
     EXPECT_TRUE(rig.tool.txtCapacity.Enabled());
     EXPECT_TRUE(rig.tool.lblCapacity.Enabled());
@@ -150,9 +150,9 @@ TEST(LoadToolStart, ShowsNoResults)
 {
     const LoadTool rig;
     EXPECT_TRUE(isCleared(rig.tool));
-    EXPECT_EQ(countsOf(rig.tool.Evaluation()), HourCounts());
-    EXPECT_EQ(rig.tool.Evaluation().Bins, histogram::HourBins());
-    EXPECT_EQ(rig.tool.Evaluation().MaxObserved, 0);
+    EXPECT_EQ(countsOf(rig.tool.evaluation()), HourCounts());
+    EXPECT_EQ(rig.tool.evaluation().Bins, histogram::HourBins());
+    EXPECT_EQ(rig.tool.evaluation().MaxObserved, 0);
 }
 
 TEST(LoadToolStart, AsksForNothing)

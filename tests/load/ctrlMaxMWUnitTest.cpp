@@ -153,7 +153,7 @@ TEST(LoadUnit, WithoutParametersSelectsNone)
     site->parameters.push_back(unitNamed(300'100'000, "GT3"));
     LoadRig rig(site);
     rig.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
     EXPECT_EQ(rig.tool.cmbParam.ListIndex(), -1);
     EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }

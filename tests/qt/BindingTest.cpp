@@ -29,8 +29,8 @@ namespace
 struct Screen : screen::Control {
     Screen() : Control("screen")
     {
-        list.AddItem("one");
-        list.AddItem("two");
+        list.addItem("one");
+        list.addItem("two");
         list.Picked.Connect([this] { ++picks; });
         list.TextChanged.Connect([this] { ++typings; });
         field.TextChanged.Connect([this] { ++changes; });
@@ -80,7 +80,7 @@ TEST(Binding, AChangeByCodeIsNoActionOfTheUser)
     Rig rig;
     rig.screen.field.SetText("code");
     rig.screen.list.SetListIndex(1);
-    rig.screen.box.SetChecked(true);
+    rig.screen.box.setChecked(true);
     settle();
     EXPECT_EQ(rig.hands.view<QLineEdit>("field").text(), "code");
     EXPECT_EQ(rig.hands.view<QComboBox>("list").currentIndex(), 1);
@@ -182,7 +182,7 @@ TEST(Binding, ShowsWhatTheModelMadeOfAPress)
 {
     Rig rig;
     // The model goes back on the user.
-    rig.screen.box.Clicked.Connect([&rig] { rig.screen.box.SetChecked(false); });
+    rig.screen.box.Clicked.Connect([&rig] { rig.screen.box.setChecked(false); });
     rig.hands.click("box");
     EXPECT_FALSE(rig.hands.view<QCheckBox>("box").isChecked());
 }
@@ -215,7 +215,7 @@ TEST(Binding, TheModelOutlivesItsView)
         const View view(screen);
     }
     screen.field.SetText("on");
-    screen.list.Clear();
+    screen.list.clear();
     screen.button.SetEnabled(false);
     EXPECT_EQ(screen.changes, 1);
 }

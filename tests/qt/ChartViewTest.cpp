@@ -47,7 +47,7 @@ TEST(ChartView, BarsKeepTheProportionsOfTheTool)
 {
     const Chart chart;
     for (int bar = 1; bar <= 20; ++bar) {
-        const screen::Geometry& place = chart.rig.tool.lblBar[bar].Place();
+        const screen::Geometry& place = chart.rig.tool.lblBar[bar].place();
         const QRect rect = chart.view.barRect(bar);
         if (place.Height == 0) {
             EXPECT_TRUE(rect.isEmpty()) << bar;
@@ -56,7 +56,7 @@ TEST(ChartView, BarsKeepTheProportionsOfTheTool)
         EXPECT_NEAR(rect.left(), place.Left / 10, 1) << bar;
         EXPECT_NEAR(rect.width(), place.Width / 10, 1) << bar;
         const double share = rect.height() / static_cast<double>(chart.view.barRect(10).height());
-        EXPECT_NEAR(share, place.Height / chart.rig.tool.lblBar[10].Place().Height, 0.01) << bar;
+        EXPECT_NEAR(share, place.Height / chart.rig.tool.lblBar[10].place().Height, 0.01) << bar;
     }
 }
 

@@ -133,7 +133,7 @@ bool hasHourglass(const screen::Container* part)
     const auto* page = dynamic_cast<const screen::Control*>(part);
     return part != nullptr &&
            ((page != nullptr && page->MousePointer() == screen::MousePointer::Hourglass) ||
-            hasHourglass(part->Parent()));
+            hasHourglass(part->parent()));
 }
 
 Line lineOf(const screen::Widget& model)
@@ -158,7 +158,7 @@ Line lineOf(const screen::Widget& model)
     if (const auto* option = dynamic_cast<const screen::OptionButton*>(&model))
         return marked(option->isSelected(), option->Caption());
     if (const auto* list = dynamic_cast<const screen::ComboBox*>(&model))
-        return listed(list->List(), list->ListIndex()) + (list->HasEditField() ? " or " : " > ") +
+        return listed(list->List(), list->ListIndex()) + (list->hasEditField() ? " or " : " > ") +
                list->Text();
     if (const auto* tree = dynamic_cast<const screen::TreeView*>(&model))
         return entriesOf(tree->Nodes()) +
@@ -202,8 +202,8 @@ Line lineOf(const QWidget& view)
 /// Without a view of their own: what the chart paints, and what is never seen.
 bool isPartOfAnother(const screen::Widget& model)
 {
-    return model.Kind() == "Line" || model.Kind() == "ImageList" ||
-           model.Kind() == "CommonDialog" || model.Name().rfind("lblBar(", 0) == 0;
+    return model.kind() == "Line" || model.kind() == "ImageList" ||
+           model.kind() == "CommonDialog" || model.Name().rfind("lblBar(", 0) == 0;
 }
 
 void compare(const screen::Widget& model, const QWidget& view, std::vector<std::string>& found)
@@ -216,8 +216,8 @@ void compare(const screen::Widget& model, const QWidget& view, std::vector<std::
     };
     note("Visible", model.Visible(), view.isVisibleTo(view.parentWidget()));
     bool isEnabled = model.Enabled();
-    for (const screen::Container* parent = model.Parent(); parent != nullptr;
-         parent = parent->Parent())
+    for (const screen::Container* parent = model.parent(); parent != nullptr;
+         parent = parent->parent())
         isEnabled = isEnabled && parent->Enabled();
     note("Enabled", isEnabled, view.isEnabled());
     note("Content", lineOf(model), lineOf(view));
@@ -229,7 +229,7 @@ std::vector<std::string> differences(const screen::Control& control, const QWidg
 {
     std::vector<std::string> found;
     compare(control, screen, found);
-    for (const screen::Widget* model : control.Widgets()) {
+    for (const screen::Widget* model : control.widgets()) {
         if (isPartOfAnother(*model))
             continue;
         const auto* view = screen.findChild<QWidget*>(QString::fromStdString(model->Name()));

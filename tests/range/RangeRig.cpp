@@ -18,7 +18,7 @@ bool barsLieFlat(const ctrlRangeEval& tool)
 {
     for (int bar = 1; bar <= histogram::kBinCount; ++bar) {
         const screen::Label& label = tool.lblBar[bar];
-        if (label.Place().Top != kBase || label.Place().Height != kFlat ||
+        if (label.place().Top != kBase || label.place().Height != kFlat ||
             !label.ToolTipText().empty())
             return false;
     }

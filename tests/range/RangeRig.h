@@ -91,7 +91,7 @@ struct RangeRig : RangeTool {
     RangeRig& limits(const std::string& mec, const std::string& mpc);
 
     [[nodiscard]] HourlyValues& series() const { return site->parameter(kNOx).hours; }
-    [[nodiscard]] const RangeEvaluation& results() const { return tool.Evaluation(); }
+    [[nodiscard]] const RangeEvaluation& results() const { return tool.evaluation(); }
     /// What was read so far; forgets it.
     std::vector<ReadRequest> takeReads();
 

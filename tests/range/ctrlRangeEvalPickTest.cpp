@@ -153,7 +153,7 @@ TEST(RangeShowPID, WritesThePIDAheadOfEachParameterAndTakesItAwayAgain)
     EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"[1-120-1-75-00] NOX", "[1-230-1-75-00] CO2"}));
     EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-230-1-75-00] CO2");
     EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 1);
-    EXPECT_EQ(rig.tool.cmbParam.ItemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
+    EXPECT_EQ(rig.tool.cmbParam.itemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
     rig.tool.chkShowPID.Press();
     EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"NOX", "CO2"}));

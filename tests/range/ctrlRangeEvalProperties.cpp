@@ -54,7 +54,7 @@ std::optional<float> anyLimit(screen::CheckBox& box, screen::TextBox& field)
     const auto value = static_cast<float>(*rc::gen::inRange(0, 100));
     const bool isNumber = *rc::gen::inRange(0, 4) > 0;
     enter(field, isNumber ? GeneralNumber(value, {}) : "N/A");
-    box.SetChecked(*rc::gen::inRange(0, 4) > 0);
+    box.setChecked(*rc::gen::inRange(0, 4) > 0);
     return isNumber && box.isChecked() ? std::optional(value) : std::nullopt;
 }
 
@@ -93,13 +93,13 @@ void changeInput(RangeRig& rig, Expected& expected, const Action& action)
     const std::string text = std::to_string(action.number % 3 * 40 + 20);
     switch (action.kind) {
     case 0:
-        tool.cmbUnit.Pick(action.number % tool.cmbUnit.ListCount());
+        tool.cmbUnit.Pick(action.number % tool.cmbUnit.listCount());
         return expected.markStale();
     case 1:
-        tool.cmbParam.Pick(action.number % tool.cmbParam.ListCount());
+        tool.cmbParam.Pick(action.number % tool.cmbParam.listCount());
         return expected.markStale();
     case 2:
-        tool.cmbScale.Pick(action.number % tool.cmbScale.ListCount());
+        tool.cmbScale.Pick(action.number % tool.cmbScale.listCount());
         return expected.markStale();
     case 3:
         rig.range(action.number % 4 == 0 ? "abc" : text);
@@ -247,8 +247,8 @@ RC_GTEST_PROP(RangeProperties, AnEvaluationIsTheSameAsThatOfAToolThatWasSetSoAtO
     fresh.tool.cmbScale.Pick(wandering.tool.cmbScale.ListIndex());
     fresh.range(wandering.tool.txtRange.Text())
         .limits(wandering.tool.txtMEC.Text(), wandering.tool.txtMPC.Text());
-    fresh.tool.chkMEC.SetChecked(wandering.tool.chkMEC.isChecked());
-    fresh.tool.chkMPC.SetChecked(wandering.tool.chkMPC.isChecked());
+    fresh.tool.chkMEC.setChecked(wandering.tool.chkMEC.isChecked());
+    fresh.tool.chkMPC.setChecked(wandering.tool.chkMPC.isChecked());
     fresh.tool.cmbYear.Type(wandering.tool.cmbYear.Text());
     fresh.tool.cmbQTR.Pick(wandering.tool.cmbQTR.ListIndex());
     wandering.tool.txtRange.Leave();

@@ -46,8 +46,8 @@ std::string percentsOf(const std::vector<std::optional<double>>& values)
 void expectFlat(const ctrlRangeEval& tool)
 {
     for (int bar = 1; bar <= 20; ++bar) {
-        EXPECT_EQ(tool.lblBar[bar].Place().Top, 2700) << bar;
-        EXPECT_EQ(tool.lblBar[bar].Place().Height, 15) << bar;
+        EXPECT_EQ(tool.lblBar[bar].place().Top, 2700) << bar;
+        EXPECT_EQ(tool.lblBar[bar].place().Height, 15) << bar;
         EXPECT_EQ(tool.lblBar[bar].ToolTipText(), "") << bar;
     }
 }
@@ -157,12 +157,12 @@ TEST(RangeResults, TheBarsStandInTheScaleOfTheFullest)
     rig.series().fill(makeDate(2024, 1, 1), makeDate(2024, 3, 20), 12);
     rig.series().set(makeDate(2024, 3, 31), 99);
     rig.calculate();
-    EXPECT_EQ(rig.tool.lblBar[3].Place().Top, 645);
-    EXPECT_EQ(rig.tool.lblBar[3].Place().Height, 2055);
-    EXPECT_EQ(rig.tool.lblBar[20].Place().Top, 2685) << "one hour is a pixel high";
-    EXPECT_EQ(rig.tool.lblBar[20].Place().Height, 15);
-    EXPECT_EQ(rig.tool.lblBar[1].Place().Top, 2700);
-    EXPECT_EQ(rig.tool.lblBar[1].Place().Height, 0);
+    EXPECT_EQ(rig.tool.lblBar[3].place().Top, 645);
+    EXPECT_EQ(rig.tool.lblBar[3].place().Height, 2055);
+    EXPECT_EQ(rig.tool.lblBar[20].place().Top, 2685) << "one hour is a pixel high";
+    EXPECT_EQ(rig.tool.lblBar[20].place().Height, 15);
+    EXPECT_EQ(rig.tool.lblBar[1].place().Top, 2700);
+    EXPECT_EQ(rig.tool.lblBar[1].place().Height, 0);
 }
 
 TEST(RangeResults, OfAParameterThatIsGoneKeepTheHeader)

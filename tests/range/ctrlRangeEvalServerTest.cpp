@@ -28,13 +28,13 @@ TEST(RangeServer, FillsTheListsAndPicksTheFirstOfEach)
     const ctrlRangeEval& tool = rig.tool;
     EXPECT_EQ(tool.DIServer(), rig.server);
     EXPECT_EQ(tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(tool.cmbUnit.ItemDataList(), (std::vector<std::int32_t>{kGT1, kGT2}));
+    EXPECT_EQ(tool.cmbUnit.itemDataList(), (std::vector<std::int32_t>{kGT1, kGT2}));
     EXPECT_EQ(tool.cmbUnit.ListIndex(), 0);
     EXPECT_EQ(tool.cmbParam.List(), (Lines{"NOX", "CO2"}));
-    EXPECT_EQ(tool.cmbParam.ItemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
+    EXPECT_EQ(tool.cmbParam.itemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
     EXPECT_EQ(tool.cmbParam.ListIndex(), 0);
     EXPECT_EQ(tool.cmbScale.List(), (Lines{"LOW", "HIGH"}));
-    EXPECT_EQ(tool.cmbScale.ItemDataList(), (std::vector<std::int32_t>{1, 3}));
+    EXPECT_EQ(tool.cmbScale.itemDataList(), (std::vector<std::int32_t>{1, 3}));
     EXPECT_EQ(tool.cmbScale.ListIndex(), 0);
     EXPECT_EQ(tool.txtRange.Text(), "50");
 }
@@ -61,9 +61,9 @@ TEST(RangeServer, WithoutAnalyzersLeavesTheListsEmptyAndTheFieldsAsTheyWere)
     auto site = std::make_shared<SiteData>();
     site->parameters = {unitNamed(kGT1, "GT1")};
     const RangeRig rig(site);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
-    EXPECT_EQ(rig.tool.cmbScale.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
+    EXPECT_EQ(rig.tool.cmbScale.listCount(), 0);
     EXPECT_EQ(rig.tool.txtRange.Text(), "Text1");
     EXPECT_EQ(rig.tool.txtMEC.Text(), "Text3");
     EXPECT_EQ(rig.tool.txtMPC.Text(), "Text4");
@@ -76,9 +76,9 @@ TEST(RangeServer, SetToNothingEmptiesTheListsAndTakesTheResultsOffTheScreen)
     rig.hours({50}).calculate();
     rig.tool.SetDIServer(nullptr);
     EXPECT_EQ(rig.tool.DIServer(), nullptr);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(rig.tool.cmbParam.ListCount(), 0);
-    EXPECT_EQ(rig.tool.cmbScale.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
+    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
+    EXPECT_EQ(rig.tool.cmbScale.listCount(), 0);
     EXPECT_TRUE(isCleared(rig.tool));
     EXPECT_FALSE(rig.tool.cmdSave.Enabled());
     EXPECT_EQ(rig.results().MidHours, 1) << "only the screen is cleared";

@@ -93,7 +93,7 @@ TEST(RangeStart, NothingIsEvaluatedAndNothingCanBeSaved)
     EXPECT_FALSE(rig.tool.chkShowPID.isChecked());
     EXPECT_FALSE(rig.tool.chkPreview.isChecked());
     EXPECT_TRUE(isCleared(rig.tool));
-    EXPECT_EQ(countersOf(rig.tool.Evaluation()), Counters());
+    EXPECT_EQ(countersOf(rig.tool.evaluation()), Counters());
     EXPECT_TRUE(rig.tool.UnitCatalogue().isEmpty());
     EXPECT_EQ(rig.tool.DIServer(), nullptr);
 }
@@ -106,7 +106,7 @@ TEST(RangeStart, TheFieldsHaveTheirStartingTexts)
     EXPECT_EQ(rig.tool.txtMPC.Text(), "Text4");
     for (const screen::ComboBox* list :
          {&rig.tool.cmbUnit, &rig.tool.cmbParam, &rig.tool.cmbScale}) {
-        EXPECT_EQ(list->ListCount(), 0) << list->Name();
+        EXPECT_EQ(list->listCount(), 0) << list->Name();
         EXPECT_EQ(list->Text(), "") << list->Name();
     }
 }
@@ -136,18 +136,18 @@ TEST(RangeStart, TheCaptionsAreThoseOfTheScreen)
 TEST(RangeStart, ScreenAndResultsHaveTheirSize)
 {
     const RangeTool rig;
-    EXPECT_EQ(rig.tool.Place().Width, 12540);
-    EXPECT_EQ(rig.tool.Place().Height, 5295);
-    EXPECT_EQ(rig.tool.fraResults.Place(), (screen::Geometry{6480, 120, 6000, 4500}));
+    EXPECT_EQ(rig.tool.place().Width, 12540);
+    EXPECT_EQ(rig.tool.place().Height, 5295);
+    EXPECT_EQ(rig.tool.fraResults.place(), (screen::Geometry{6480, 120, 6000, 4500}));
 }
 
 TEST(RangeStart, TheLabelsOfTheResultsStandInTheirPlaces)
 {
     const RangeTool rig;
     for (const LabelPlace& row : labelPlaces(rig.tool)) {
-        EXPECT_EQ(row.label.Place().Left, row.left) << row.label.Name();
-        EXPECT_EQ(row.label.Place().Top, row.top) << row.label.Name();
-        EXPECT_EQ(row.label.Place().Width, row.width) << row.label.Name();
+        EXPECT_EQ(row.label.place().Left, row.left) << row.label.Name();
+        EXPECT_EQ(row.label.place().Top, row.top) << row.label.Name();
+        EXPECT_EQ(row.label.place().Width, row.width) << row.label.Name();
         EXPECT_EQ(row.label.Alignment(), row.alignment) << row.label.Name();
     }
 }
@@ -172,9 +172,9 @@ TEST(RangeStart, TwentyBarsStandReadyBesideTheirHiddenPattern)
     EXPECT_FALSE(rig.tool.lblBar[0].Visible());
     for (int bar = 1; bar <= 20; ++bar)
         EXPECT_TRUE(rig.tool.lblBar[bar].Visible()) << bar;
-    EXPECT_EQ(rig.tool.lblBar[1].Place().Left, 120);
-    EXPECT_EQ(rig.tool.lblBar[20].Place().Left, 5580);
-    EXPECT_EQ(rig.tool.lblBar[20].Place().Width, 315);
+    EXPECT_EQ(rig.tool.lblBar[1].place().Left, 120);
+    EXPECT_EQ(rig.tool.lblBar[20].place().Left, 5580);
+    EXPECT_EQ(rig.tool.lblBar[20].place().Width, 315);
 }
 
 TEST(RangeStart, EachWidgetLiesInItsFrame)
@@ -222,7 +222,7 @@ TEST(RangeStart, WithoutDataTheOtherActionsDoNoHarm)
     EXPECT_NO_THROW(rig.tool.chkShowPID.Press());
     EXPECT_NO_THROW(enter(rig.tool.txtRange, "50"));
     EXPECT_NO_THROW(rig.tool.Terminate());
-    EXPECT_EQ(rig.tool.Evaluation().RangeValue, 50);
+    EXPECT_EQ(rig.tool.evaluation().RangeValue, 50);
 }
 
 } // namespace k7deval::test

@@ -46,12 +46,12 @@ TEST(CheckBox, SetByCodeItRunsItsRuleOnlyWhenItsValueChanges)
     TestScreen screen;
     auto& box = screen.page.checkBox;
     const Raised clicked(box.Clicked);
-    box.SetChecked(false);
+    box.setChecked(false);
     EXPECT_EQ(clicked.count, 0);
-    box.SetChecked(true);
-    box.SetChecked(true);
+    box.setChecked(true);
+    box.setChecked(true);
     EXPECT_EQ(clicked.count, 1);
-    box.SetChecked(false);
+    box.setChecked(false);
     EXPECT_EQ(clicked.count, 2);
 }
 
@@ -81,9 +81,9 @@ TEST(OptionButton, RunsItsRuleOnlyWhenItBecomesSelected)
     const Raised secondClicked(second.Clicked);
     first.Press();
     first.Press();
-    first.SetSelected(true);
+    first.setSelected(true);
     EXPECT_EQ(firstClicked.count, 1);
-    second.SetSelected(true);
+    second.setSelected(true);
     EXPECT_EQ(secondClicked.count, 1);
     EXPECT_EQ(firstClicked.count, 1);
     first.Press();
@@ -111,7 +111,7 @@ TEST(OptionButton, DeselectingItRunsNothing)
     page.firstOption.Press();
     const Raised first(page.firstOption.Clicked);
     const Raised second(page.secondOption.Clicked);
-    page.firstOption.SetSelected(false);
+    page.firstOption.setSelected(false);
     EXPECT_FALSE(page.firstOption.isSelected());
     EXPECT_FALSE(page.secondOption.isSelected());
     EXPECT_EQ(first.count + second.count, 0);

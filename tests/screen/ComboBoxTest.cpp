@@ -20,8 +20,8 @@ protected:
     ComboBox()
     {
         for (screen::ComboBox* box : {&list, &combo}) {
-            box->AddItem("Unit 1", 101);
-            box->AddItem("Unit 2", 102);
+            box->addItem("Unit 1", 101);
+            box->addItem("Unit 2", 102);
         }
     }
 
@@ -34,9 +34,9 @@ protected:
 
 TEST_F(ComboBox, FillingItSelectsNothing)
 {
-    EXPECT_EQ(list.ListCount(), 2);
+    EXPECT_EQ(list.listCount(), 2);
     EXPECT_EQ(list.List(), (std::vector<std::string>{"Unit 1", "Unit 2"}));
-    EXPECT_EQ(list.ItemDataList(), (std::vector<std::int32_t>{101, 102}));
+    EXPECT_EQ(list.itemDataList(), (std::vector<std::int32_t>{101, 102}));
     EXPECT_EQ(list.ListIndex(), -1);
     EXPECT_EQ(list.Text(), "");
 }
@@ -106,9 +106,9 @@ TEST_F(ComboBox, ClearingRunsNothingAndLeavesNoEntryAndNoText)
     combo.Pick(1);
     const Raised picked(combo.Picked);
     const Raised changed(combo.TextChanged);
-    combo.Clear();
-    EXPECT_EQ(combo.ListCount(), 0);
-    EXPECT_TRUE(combo.ItemDataList().empty());
+    combo.clear();
+    EXPECT_EQ(combo.listCount(), 0);
+    EXPECT_TRUE(combo.itemDataList().empty());
     EXPECT_EQ(combo.ListIndex(), -1);
     EXPECT_EQ(combo.Text(), "");
     EXPECT_EQ(picked.count + changed.count, 0);
@@ -192,8 +192,8 @@ TEST_F(ComboBox, APickRuleMayPickAgainAndTheLastPickStands)
 TEST_F(ComboBox, APickRuleMayRefillTheList)
 {
     list.Picked.Connect([&] {
-        list.Clear();
-        list.AddItem("N/A");
+        list.clear();
+        list.addItem("N/A");
     });
     list.Pick(1);
     EXPECT_EQ(list.List(), std::vector<std::string>{"N/A"});
@@ -206,9 +206,9 @@ TEST_F(ComboBox, RewritingAnEntryKeepsListSelectionAndItemDataAndRunsNothing)
     const Raised picked(combo.Picked);
     const Raised textChanged(combo.TextChanged);
     const Raised changed(combo.Changed);
-    combo.SetItemText(1, "[2] Unit 2");
+    combo.setItemText(1, "[2] Unit 2");
     EXPECT_EQ(combo.List(), (std::vector<std::string>{"Unit 1", "[2] Unit 2"}));
-    EXPECT_EQ(combo.ItemDataList(), (std::vector<std::int32_t>{101, 102}));
+    EXPECT_EQ(combo.itemDataList(), (std::vector<std::int32_t>{101, 102}));
     EXPECT_EQ(combo.ListIndex(), 0);
     EXPECT_EQ(combo.Text(), "Unit 1");
     EXPECT_EQ(changed.count, 1) << "a view shows the new entry";
@@ -220,7 +220,7 @@ TEST_F(ComboBox, TheTextFollowsTheSelectedEntryThatIsRewritten)
     combo.Pick(1);
     const Raised picked(combo.Picked);
     const Raised textChanged(combo.TextChanged);
-    combo.SetItemText(1, "Second");
+    combo.setItemText(1, "Second");
     EXPECT_EQ(combo.Text(), "Second");
     EXPECT_EQ(combo.ListIndex(), 1);
     EXPECT_EQ(combo.ItemData(), 102);
@@ -230,7 +230,7 @@ TEST_F(ComboBox, TheTextFollowsTheSelectedEntryThatIsRewritten)
 TEST_F(ComboBox, ATypedTextStaysWhenEntriesAreRewritten)
 {
     combo.Type("Unit 1");
-    combo.SetItemText(0, "First");
+    combo.setItemText(0, "First");
     EXPECT_EQ(combo.Text(), "Unit 1");
     EXPECT_EQ(combo.ListIndex(), -1);
 }
@@ -238,7 +238,7 @@ TEST_F(ComboBox, ATypedTextStaysWhenEntriesAreRewritten)
 TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRewritten)
 {
     for (const int index : {-1, 2})
-        EXPECT_EQ(errorOf([&] { return list.SetItemText(index, "x"), 0; }), 381) << index;
+        EXPECT_EQ(errorOf([&] { return list.setItemText(index, "x"), 0; }), 381) << index;
     EXPECT_EQ(list.List(), (std::vector<std::string>{"Unit 1", "Unit 2"}));
 }
 
@@ -247,9 +247,9 @@ TEST_F(ComboBox, RemovingAnEntryTakesItsItemDataAndRunsNothing)
     const Raised picked(combo.Picked);
     const Raised textChanged(combo.TextChanged);
     const Raised changed(combo.Changed);
-    combo.RemoveItem(0);
+    combo.removeItem(0);
     EXPECT_EQ(combo.List(), std::vector<std::string>{"Unit 2"});
-    EXPECT_EQ(combo.ItemDataList(), std::vector<std::int32_t>{102});
+    EXPECT_EQ(combo.itemDataList(), std::vector<std::int32_t>{102});
     EXPECT_EQ(combo.ListIndex(), -1);
     EXPECT_EQ(changed.count, 1) << "a view drops the entry";
     EXPECT_EQ(picked.count + textChanged.count, 0);
@@ -257,11 +257,11 @@ TEST_F(ComboBox, RemovingAnEntryTakesItsItemDataAndRunsNothing)
 
 TEST_F(ComboBox, TheSelectionStaysWithItsEntryWhenAnotherIsRemoved)
 {
-    list.AddItem("Unit 3", 103);
+    list.addItem("Unit 3", 103);
     list.Pick(1);
-    list.RemoveItem(2);
+    list.removeItem(2);
     EXPECT_EQ(list.ListIndex(), 1);
-    list.RemoveItem(0);
+    list.removeItem(0);
     EXPECT_EQ(list.ListIndex(), 0);
     EXPECT_EQ(list.ItemData(), 102);
     EXPECT_EQ(list.Text(), "Unit 2");
@@ -271,7 +271,7 @@ TEST_F(ComboBox, TheSelectionGoesWithItsEntry)
 {
     list.Pick(1);
     const Raised picked(list.Picked);
-    list.RemoveItem(1);
+    list.removeItem(1);
     EXPECT_EQ(list.ListIndex(), -1);
     EXPECT_EQ(list.Text(), "");
     EXPECT_EQ(errorOf([&] { return list.ItemData(); }), 381);
@@ -281,7 +281,7 @@ TEST_F(ComboBox, TheSelectionGoesWithItsEntry)
 TEST_F(ComboBox, ATypedTextStaysWhenAnEntryIsRemoved)
 {
     combo.Type("Unit 1");
-    combo.RemoveItem(0);
+    combo.removeItem(0);
     EXPECT_EQ(combo.Text(), "Unit 1");
     EXPECT_EQ(combo.ListIndex(), -1);
 }
@@ -289,12 +289,12 @@ TEST_F(ComboBox, ATypedTextStaysWhenAnEntryIsRemoved)
 TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRemoved)
 {
     for (const int index : {-1, 2})
-        EXPECT_EQ(errorOf([&] { return list.RemoveItem(index), 0; }), 381) << index;
-    EXPECT_EQ(list.ListCount(), 2);
-    list.RemoveItem(1);
-    list.RemoveItem(0);
-    EXPECT_EQ(errorOf([&] { return list.RemoveItem(0), 0; }), 381);
-    EXPECT_EQ(list.ListCount(), 0);
+        EXPECT_EQ(errorOf([&] { return list.removeItem(index), 0; }), 381) << index;
+    EXPECT_EQ(list.listCount(), 2);
+    list.removeItem(1);
+    list.removeItem(0);
+    EXPECT_EQ(errorOf([&] { return list.removeItem(0), 0; }), 381);
+    EXPECT_EQ(list.listCount(), 0);
 }
 
 } // namespace k7deval::test

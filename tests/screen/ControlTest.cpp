@@ -45,12 +45,12 @@ using Names = std::vector<std::string>;
 
 TEST(Control, ListsAPageAsOneWidget)
 {
-    EXPECT_EQ(namesOf(TestScreen().Widgets()), (Names{"page", "label"}));
+    EXPECT_EQ(namesOf(TestScreen().widgets()), (Names{"page", "label"}));
 }
 
 TEST(Control, ListsTheWidgetsOfAFrameBehindTheFrame)
 {
-    EXPECT_EQ(namesOf(TestScreen().page.Widgets()),
+    EXPECT_EQ(namesOf(TestScreen().page.widgets()),
               (Names{"frame", "button", "checkBox", "firstOption", "secondOption", "textBox",
                      "list", "combo", "tree"}));
 }
@@ -88,11 +88,11 @@ TEST(Control, TheListingOfAScreenReachesTheWidgetsOfItsPages)
     screen.SetMousePointer(screen::MousePointer::Hourglass);
     screen.label.SetForeColor(screen::color::kRed);
     screen.page.SetVisible(false);
-    screen.page.Move(120, 240);
-    screen.page.checkBox.SetChecked(true);
-    screen.page.combo.AddItem("Unit 1", 101);
+    screen.page.move(120, 240);
+    screen.page.checkBox.setChecked(true);
+    screen.page.combo.addItem("Unit 1", 101);
     screen.page.combo.SetListIndex(0);
-    screen.page.tree.AddRoot({"k", "t", "Pass", screen::color::kWhite, {}, {}});
+    screen.page.tree.addRoot({"k", "t", "Pass", screen::color::kWhite, {}, {}});
     screen.page.tree.SetSelectedItem(*screen.page.tree.Find("k"));
     const Snapshot all = snapshotOf(screen);
     EXPECT_EQ(all.at("MousePointer"), "11");

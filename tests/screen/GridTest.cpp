@@ -46,7 +46,7 @@ TEST(GridAtStart, HasNoRowsAndNoCurrentCell)
     EXPECT_EQ(grid.Row(), 0);
     EXPECT_EQ(grid.Col(), 0);
     EXPECT_FALSE(grid.MultiSelect());
-    EXPECT_EQ(grid.Kind(), "Grid");
+    EXPECT_EQ(grid.kind(), "Grid");
 }
 
 TEST(GridAtStart, HasTheColumnsOfTheDesign)
@@ -112,7 +112,7 @@ TEST_F(Grid, HasNoThirdColumn)
 TEST_F(Grid, GivesItsSecondColumnAnotherWidth)
 {
     const Raised changed(grid.Changed);
-    grid.SetSecondColumnWidth(3520);
+    grid.setSecondColumnWidth(3520);
     EXPECT_EQ(grid.ColumnWidth(1), 20.0F);
     EXPECT_EQ(grid.ColumnWidth(2), 3520.0F);
     EXPECT_EQ(changed.count, 1);
@@ -121,8 +121,8 @@ TEST_F(Grid, GivesItsSecondColumnAnotherWidth)
 TEST_F(Grid, TellsItsViewOfEachReadingAndOfWhatDiffers)
 {
     const Raised changed(grid.Changed);
-    grid.ReadAgain();
-    grid.ReadAgain();
+    grid.readAgain();
+    grid.readAgain();
     EXPECT_EQ(changed.count, 2);
     grid.SetRowCount(3);
     grid.SetMultiSelect(false);

@@ -43,7 +43,7 @@ TEST(Label, StandsOnTheLeftAndIsPlacedByItsViewUnlessTheControlSaysOtherwise)
 {
     TestScreen screen;
     EXPECT_EQ(screen.label.Alignment(), screen::Alignment::Left);
-    EXPECT_EQ(screen.label.Place(), screen::Geometry());
+    EXPECT_EQ(screen.label.place(), screen::Geometry());
 }
 
 TEST(Label, PlacedByItsControlItKeepsPlaceAndAlignment)
@@ -56,7 +56,7 @@ TEST(Label, PlacedByItsControlItKeepsPlaceAndAlignment)
     EXPECT_EQ(left.Alignment(), screen::Alignment::Left);
     EXPECT_EQ(right.Alignment(), screen::Alignment::Right);
     EXPECT_EQ(centre.Alignment(), screen::Alignment::Centre);
-    EXPECT_EQ(right.Place(), place);
+    EXPECT_EQ(right.place(), place);
     EXPECT_EQ(right.Caption(), "80%");
 }
 

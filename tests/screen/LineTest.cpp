@@ -26,9 +26,9 @@ TEST(Line, ItsPlaceIsTheBoxBetweenItsEnds)
 {
     TestScreen screen;
     const screen::Line across(screen, "across", {120, 2700, 5895, 2700});
-    EXPECT_EQ(across.Place(), (screen::Geometry{120, 2700, 5775, 0}));
+    EXPECT_EQ(across.place(), (screen::Geometry{120, 2700, 5775, 0}));
     const screen::Line upward(screen, "upward", {500, 2700, 120, 630});
-    EXPECT_EQ(upward.Place(), (screen::Geometry{120, 630, 380, 2070}));
+    EXPECT_EQ(upward.place(), (screen::Geometry{120, 630, 380, 2070}));
     EXPECT_EQ(upward.X1(), 500) << "the ends stay in their order";
     EXPECT_EQ(upward.Y1(), 2700);
 }
@@ -37,7 +37,7 @@ TEST(Line, ListsAllThatAViewNeedsToDrawIt)
 {
     TestScreen screen;
     const screen::Line line(screen.page.frame, "line", {1, 2, 3, 4}, screen::LineStyle::Dotted);
-    EXPECT_EQ(line.Kind(), "Line");
+    EXPECT_EQ(line.kind(), "Line");
     const Snapshot texts = snapshotOf(screen.page);
     EXPECT_EQ(texts.at("line.X1"), "1");
     EXPECT_EQ(texts.at("line.Y1"), "2");

@@ -22,9 +22,9 @@ class TreeView : public ::testing::Test
 protected:
     TreeView()
     {
-        tree.AddRoot(entry("day"));
-        tree.AddChild("day", entry("run"));
-        tree.AddRoot(entry("other day"));
+        tree.addRoot(entry("day"));
+        tree.addChild("day", entry("run"));
+        tree.addRoot(entry("other day"));
     }
 
     TestScreen screen;
@@ -44,17 +44,17 @@ TEST_F(TreeView, EntriesStandInTheOrderInWhichTheyWereAdded)
 
 TEST_F(TreeView, KeysAreUniqueInTheWholeTree)
 {
-    EXPECT_EQ(errorOf([&] { return tree.AddRoot(entry("day")), 0; }), 457);
-    EXPECT_EQ(errorOf([&] { return tree.AddRoot(entry("run")), 0; }), 457);
-    EXPECT_EQ(errorOf([&] { return tree.AddChild("other day", entry("run")), 0; }), 457);
-    EXPECT_EQ(errorOf([&] { return tree.AddChild("day", entry("day")), 0; }), 457);
+    EXPECT_EQ(errorOf([&] { return tree.addRoot(entry("day")), 0; }), 457);
+    EXPECT_EQ(errorOf([&] { return tree.addRoot(entry("run")), 0; }), 457);
+    EXPECT_EQ(errorOf([&] { return tree.addChild("other day", entry("run")), 0; }), 457);
+    EXPECT_EQ(errorOf([&] { return tree.addChild("day", entry("day")), 0; }), 457);
     EXPECT_EQ(tree.Nodes().size(), 2U);
     EXPECT_EQ(tree.Find("other day")->Children.size(), 0U);
 }
 
 TEST_F(TreeView, AnEntryNeedsItsParent)
 {
-    EXPECT_EQ(errorOf([&] { return tree.AddChild("no such day", entry("new")), 0; }), 5);
+    EXPECT_EQ(errorOf([&] { return tree.addChild("no such day", entry("new")), 0; }), 5);
     EXPECT_EQ(tree.Find("new"), nullptr);
 }
 
@@ -69,7 +69,7 @@ TEST_F(TreeView, AnAddedEntryStaysWhereItIsAsMoreAreAdded)
 {
     const screen::TreeNode& first = *tree.Find("day");
     for (int i = 0; i < 1000; ++i)
-        tree.AddRoot(entry(std::to_string(i)));
+        tree.addRoot(entry(std::to_string(i)));
     EXPECT_EQ(tree.Find("day"), &first);
     EXPECT_EQ(first.Key, "day");
 }
@@ -117,12 +117,12 @@ TEST_F(TreeView, ClearingLeavesNoEntryAndNoSelectionAndItsKeysMayComeBack)
 {
     tree.Press("run");
     const Raised clicked(tree.NodeClicked);
-    tree.Clear();
+    tree.clear();
     EXPECT_TRUE(tree.Nodes().empty());
     EXPECT_EQ(tree.SelectedItem(), nullptr);
     EXPECT_EQ(tree.Find("run"), nullptr);
     EXPECT_EQ(clicked.count, 0);
-    tree.AddRoot(entry("run"));
+    tree.addRoot(entry("run"));
     EXPECT_EQ(tree.Find("run"), tree.Nodes()[0].get());
 }
 

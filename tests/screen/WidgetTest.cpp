@@ -25,20 +25,20 @@ TEST(Widget, ChangesAreToldOnlyWhenSomethingBecomesDifferent)
     const Raised changed(screen.label.Changed);
     screen.label.SetVisible(true);
     screen.label.SetEnabled(true);
-    screen.label.SetPlace({});
+    screen.label.setPlace({});
     EXPECT_EQ(changed.count, 0);
     screen.label.SetVisible(false);
     screen.label.SetEnabled(false);
-    screen.label.SetPlace({15, 30, 45, 60});
+    screen.label.setPlace({15, 30, 45, 60});
     EXPECT_EQ(changed.count, 3);
 }
 
 TEST(Widget, MovingKeepsTheSize)
 {
     TestScreen screen;
-    screen.label.SetPlace({15, 30, 45, 60});
-    screen.label.Move(120, 240);
-    EXPECT_EQ(screen.label.Place(), (screen::Geometry{120, 240, 45, 60}));
+    screen.label.setPlace({15, 30, 45, 60});
+    screen.label.move(120, 240);
+    EXPECT_EQ(screen.label.place(), (screen::Geometry{120, 240, 45, 60}));
 }
 
 /// What keeps a user from a widget, put on all of a page's widgets.
@@ -58,9 +58,9 @@ protected:
     AnUnreachableWidget()
     {
         auto& page = screen.page;
-        page.list.AddItem("entry");
-        page.combo.AddItem("entry");
-        page.tree.AddRoot({"key", "entry", {}, screen::color::kWindow, {}, {}});
+        page.list.addItem("entry");
+        page.combo.addItem("entry");
+        page.tree.addRoot({"key", "entry", {}, screen::color::kWindow, {}, {}});
         GetParam().put(screen);
     }
 
@@ -95,7 +95,7 @@ TEST_P(AnUnreachableWidget, IsStillSetByCode)
     auto& page = screen.page;
     const Raised checked(page.checkBox.Clicked);
     const Raised picked(page.list.Picked);
-    page.checkBox.SetChecked(true);
+    page.checkBox.setChecked(true);
     page.list.SetListIndex(0);
     page.textBox.SetText("by code");
     EXPECT_TRUE(page.checkBox.isChecked());

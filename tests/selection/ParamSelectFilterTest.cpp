@@ -19,7 +19,7 @@ TEST(ParamSelectFilter, ListsAllUnitsAndThenEachUnit)
     ParamSelectRig rig;
     rig.filtered().list(kFiveParameters);
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(), (Indexes{-1, kHeader1, kHeader2}));
+    EXPECT_EQ(rig.tool.cmbUnit.itemDataList(), (Indexes{-1, kHeader1, kHeader2}));
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
                                      "[ ] Load", "[ ] Flow"}));
@@ -30,7 +30,7 @@ TEST(ParamSelectFilter, ListsTheUnitsOfTheListUnderTheirOwnPIDs)
     ParamSelectRig rig;
     rig.filtered().listWithUnits({kGT2, kLoad, kGT1, kNox});
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT1"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(), (Indexes{-1, kGT2, kGT1}));
+    EXPECT_EQ(rig.tool.cmbUnit.itemDataList(), (Indexes{-1, kGT2, kGT1}));
 }
 
 TEST(ParamSelectFilter, IsNotFilledWhileItIsOff)
@@ -38,7 +38,7 @@ TEST(ParamSelectFilter, IsNotFilledWhileItIsOff)
     ParamSelectRig rig;
     rig.list(kFiveParameters);
     rig.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
 }
 
 TEST(ParamSelectFilter, IsFilledAnewByEachList)
@@ -226,8 +226,8 @@ TEST(ParamSelectOneUnit, GivesTheGridTheFullHeight)
 {
     ParamSelectRig rig;
     rig.filtered().list({kNox, kCo});
-    EXPECT_EQ(rig.tool.jgexGrid.Place().Top, 0.0F);
-    EXPECT_EQ(rig.tool.jgexGrid.Place().Height, 3495.0F);
+    EXPECT_EQ(rig.tool.jgexGrid.place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.jgexGrid.place().Height, 3495.0F);
 }
 
 TEST(ParamSelectOneUnit, WithoutAllUnitsHidesTheFilterAndSelectsNoEntry)
@@ -238,8 +238,8 @@ TEST(ParamSelectOneUnit, WithoutAllUnitsHidesTheFilterAndSelectsNoEntry)
     EXPECT_FALSE(rig.tool.cmbUnit.Visible());
     EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{"GT1"});
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), -1);
-    EXPECT_EQ(rig.tool.jgexGrid.Place().Top, 0.0F);
-    EXPECT_EQ(rig.tool.jgexGrid.Place().Height, 3495.0F);
+    EXPECT_EQ(rig.tool.jgexGrid.place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.jgexGrid.place().Height, 3495.0F);
 }
 
 TEST(ParamSelectOneUnit, WithoutAllUnitsLeavesTheHeadersAsTheHostHasThem)
@@ -291,7 +291,7 @@ TEST(ParamSelectNoUnit, LeavesTheFilterWithNothingButAllUnitsAndNoRowsOnView)
     EXPECT_TRUE(rig.tool.ShowUnitCombo());
     EXPECT_TRUE(rig.tool.cmbUnit.Visible());
     EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 0);
-    EXPECT_EQ(rig.tool.Rows().Count(), 2);
+    EXPECT_EQ(rig.tool.rows().Count(), 2);
 }
 
 } // namespace k7deval::test

@@ -30,10 +30,10 @@ constexpr float kGap = 45;
 TEST(ParamSelectLayout, OfTheDesignGivesTheListTheWholeControl)
 {
     const ParamSelect tool;
-    EXPECT_EQ(tool.Place().Width, 3855.0F);
-    EXPECT_EQ(tool.Place().Height, 3495.0F);
-    EXPECT_EQ(tool.jgexGrid.Place(), (Geometry{0, 0, 3855, 3495}));
-    EXPECT_EQ(tool.cmbUnit.Place().Width, 3855.0F);
+    EXPECT_EQ(tool.place().Width, 3855.0F);
+    EXPECT_EQ(tool.place().Height, 3495.0F);
+    EXPECT_EQ(tool.jgexGrid.place(), (Geometry{0, 0, 3855, 3495}));
+    EXPECT_EQ(tool.cmbUnit.place().Width, 3855.0F);
 }
 
 TEST(ParamSelectLayout, WithTheFilterPutsTheListBelowIt)
@@ -42,22 +42,22 @@ TEST(ParamSelectLayout, WithTheFilterPutsTheListBelowIt)
     tool.SetShowUnitCombo(true);
     EXPECT_TRUE(tool.ShowUnitCombo());
     EXPECT_TRUE(tool.cmbUnit.Visible());
-    const float height = tool.cmbUnit.Place().Height;
+    const float height = tool.cmbUnit.place().Height;
     ASSERT_GT(height, 0.0F);
-    EXPECT_EQ(tool.cmbUnit.Place().Top, 0.0F);
-    EXPECT_EQ(tool.jgexGrid.Place(), (Geometry{0, height + kGap, 3855, 3495 - height - kGap}));
+    EXPECT_EQ(tool.cmbUnit.place().Top, 0.0F);
+    EXPECT_EQ(tool.jgexGrid.place(), (Geometry{0, height + kGap, 3855, 3495 - height - kGap}));
 }
 
 TEST(ParamSelectLayout, WithTheFilterPutsThatBackToTheTop)
 {
     ParamSelect tool;
-    tool.cmbUnit.Move(0, 1000);
+    tool.cmbUnit.move(0, 1000);
     tool.SetShowUnitCombo(true);
-    EXPECT_EQ(tool.cmbUnit.Place().Top, 0.0F);
-    EXPECT_EQ(tool.jgexGrid.Place().Top, tool.cmbUnit.Place().Height + kGap);
-    tool.cmbUnit.Move(0, 1000);
+    EXPECT_EQ(tool.cmbUnit.place().Top, 0.0F);
+    EXPECT_EQ(tool.jgexGrid.place().Top, tool.cmbUnit.place().Height + kGap);
+    tool.cmbUnit.move(0, 1000);
     tool.Resize(4000, 3000);
-    EXPECT_EQ(tool.cmbUnit.Place().Top, 0.0F);
+    EXPECT_EQ(tool.cmbUnit.place().Top, 0.0F);
 }
 
 TEST(ParamSelectLayout, WithoutTheFilterAgainGivesTheListTheWholeControl)
@@ -67,27 +67,27 @@ TEST(ParamSelectLayout, WithoutTheFilterAgainGivesTheListTheWholeControl)
     tool.SetShowUnitCombo(false);
     EXPECT_FALSE(tool.ShowUnitCombo());
     EXPECT_FALSE(tool.cmbUnit.Visible());
-    EXPECT_EQ(tool.jgexGrid.Place(), (Geometry{0, 0, 3855, 3495}));
+    EXPECT_EQ(tool.jgexGrid.place(), (Geometry{0, 0, 3855, 3495}));
 }
 
 TEST(ParamSelectResize, GivesTheListTheNewSize)
 {
     ParamSelect tool;
     tool.Resize(5000, 2000);
-    EXPECT_EQ(tool.Place().Width, 5000.0F);
-    EXPECT_EQ(tool.Place().Height, 2000.0F);
-    EXPECT_EQ(tool.jgexGrid.Place(), (Geometry{0, 0, 5000, 2000}));
-    EXPECT_EQ(tool.cmbUnit.Place().Width, 5000.0F) << "hidden, but ready";
+    EXPECT_EQ(tool.place().Width, 5000.0F);
+    EXPECT_EQ(tool.place().Height, 2000.0F);
+    EXPECT_EQ(tool.jgexGrid.place(), (Geometry{0, 0, 5000, 2000}));
+    EXPECT_EQ(tool.cmbUnit.place().Width, 5000.0F) << "hidden, but ready";
 }
 
 TEST(ParamSelectResize, WithTheFilterLeavesItItsHeight)
 {
     ParamSelect tool;
     tool.SetShowUnitCombo(true);
-    const float height = tool.cmbUnit.Place().Height;
+    const float height = tool.cmbUnit.place().Height;
     tool.Resize(5000, 2000);
-    EXPECT_EQ(tool.cmbUnit.Place(), (Geometry{0, 0, 5000, height}));
-    EXPECT_EQ(tool.jgexGrid.Place(), (Geometry{0, height + kGap, 5000, 2000 - height - kGap}));
+    EXPECT_EQ(tool.cmbUnit.place(), (Geometry{0, 0, 5000, height}));
+    EXPECT_EQ(tool.jgexGrid.place(), (Geometry{0, height + kGap, 5000, 2000 - height - kGap}));
 }
 
 TEST(ParamSelectResize, IsRememberedWhenTheFilterComesAndGoes)
@@ -95,9 +95,9 @@ TEST(ParamSelectResize, IsRememberedWhenTheFilterComesAndGoes)
     ParamSelect tool;
     tool.Resize(5000, 2000);
     tool.SetShowUnitCombo(true);
-    EXPECT_EQ(tool.jgexGrid.Place().Height, 2000 - tool.jgexGrid.Place().Top);
+    EXPECT_EQ(tool.jgexGrid.place().Height, 2000 - tool.jgexGrid.place().Top);
     tool.SetShowUnitCombo(false);
-    EXPECT_EQ(tool.jgexGrid.Place(), (Geometry{0, 0, 5000, 2000}));
+    EXPECT_EQ(tool.jgexGrid.place(), (Geometry{0, 0, 5000, 2000}));
 }
 
 TEST(ParamSelectResize, LetsTheGridReadAlsoAtTheSameSize)

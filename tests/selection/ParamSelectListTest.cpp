@@ -36,8 +36,8 @@ ParamRow unitRow(PID pid, const std::string& name)
 /// All rows, which must be those that count.
 Rows rowsOf(const ParamSelect& tool)
 {
-    EXPECT_EQ(static_cast<std::size_t>(tool.Rows().Count()), tool.Rows().All().items().size());
-    return tool.Rows().All().items();
+    EXPECT_EQ(static_cast<std::size_t>(tool.rows().Count()), tool.rows().all().items().size());
+    return tool.rows().all().items();
 }
 
 } // namespace
@@ -133,7 +133,7 @@ TEST(ParamSelectList, AnythingElseGivesNoRowsAndNoError)
     ParamSelectRig rig;
     rig.tool.SetParamList(std::monostate{});
     rig.tool.SetParamList(std::monostate{}, true);
-    EXPECT_EQ(rig.tool.Rows().Count(), 0);
+    EXPECT_EQ(rig.tool.rows().Count(), 0);
     EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 0);
     EXPECT_EQ(rig.site->calls, Lines{});
 }
@@ -159,8 +159,8 @@ protected:
 TEST_P(ParamSelectWithoutRows, LeavesTheOldRowsOnViewThoughNoneCounts)
 {
     rig.tool.SetParamList(GetParam().list);
-    EXPECT_EQ(rig.tool.Rows().Count(), 0);
-    EXPECT_EQ(rig.tool.Rows().All().items().size(), 4U);
+    EXPECT_EQ(rig.tool.rows().Count(), 0);
+    EXPECT_EQ(rig.tool.rows().all().items().size(), 4U);
     EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1, 2, 3}));
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] NOx", "-- GT2 --", "[ ] Load"}));
 }
@@ -244,7 +244,7 @@ TEST(ParamSelectSecondList, BehindAnEmptyOneReplacesTheOldRows)
     ParamSelectRig rig;
     rig.list(kFiveParameters).tick({2}).list({}).list({kLoad});
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load"}));
-    EXPECT_EQ(rig.tool.Rows().All().items().size(), 2U);
+    EXPECT_EQ(rig.tool.rows().all().items().size(), 2U);
 }
 
 TEST(ParamSelectWithoutData, ListsNoPIDs)
@@ -266,7 +266,7 @@ TEST(ParamSelectWithoutData, ListsACollectionWithUnitsWhoseCellsStayUnset)
 {
     ParamSelect tool;
     tool.SetParamList(collectionOf(siteOfUnits(), {kGT1, kNox}), true);
-    EXPECT_EQ(tool.Rows().Count(), 2);
+    EXPECT_EQ(tool.rows().Count(), 2);
     EXPECT_EQ(view(tool), (Lines{"(unset)", "(unset)"}));
     tool.SelectAll();
     EXPECT_EQ(selectionOf(tool), (PIDs{kGT1, kNox}));

@@ -142,10 +142,10 @@ TEST(ParamSelectShownFilter, IsEmptyUntilItIsFilled)
 {
     ParamSelectRig rig;
     rig.list({kNox, kLoad}).filtered();
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --", "[ ] Load"}));
     rig.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 3);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 3);
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --", "[ ] Load"}));
 }

@@ -127,7 +127,7 @@ void act(ParamSelectRig& rig, const Action& action)
 /// Whether the rows on view have just been sought anew.
 bool isSoughtAnew(const ParamSelect& tool, const Action& action)
 {
-    const bool hasRows = tool.Rows().Count() > 0;
+    const bool hasRows = tool.rows().Count() > 0;
     switch (action.act) {
     case Act::List:
     case Act::ListWithUnits:
@@ -145,8 +145,8 @@ Indexes expectedOnView(const ParamSelect& tool)
 {
     Indexes expected;
     const auto addRowsOf = [&](std::optional<std::int32_t> unit) {
-        for (std::int32_t index = 0; index < tool.Rows().Count(); ++index) {
-            const ParamRow& row = tool.Rows()[index];
+        for (std::int32_t index = 0; index < tool.rows().Count(); ++index) {
+            const ParamRow& row = tool.rows()[index];
             const bool isOfUnit = !unit || row.pid / 100'000'000 == *unit / 100'000'000;
             if (isOfUnit && (!row.isUnit || tool.OffsetUnits()))
                 expected.push_back(index);
@@ -158,8 +158,8 @@ Indexes expectedOnView(const ParamSelect& tool)
     else if (filter.ListIndex() > 0)
         addRowsOf(filter.ItemData());
     else
-        std::for_each(filter.ItemDataList().begin() + std::min(1, filter.ListCount()),
-                      filter.ItemDataList().end(), addRowsOf);
+        std::for_each(filter.itemDataList().begin() + std::min(1, filter.listCount()),
+                      filter.itemDataList().end(), addRowsOf);
     return expected;
 }
 
@@ -167,8 +167,8 @@ PIDs tickedOnView(const ParamSelect& tool)
 {
     PIDs ticked;
     for (const std::int32_t index : visibleIndexes(tool)) {
-        if (tool.Rows()[index].isSelected)
-            ticked.push_back(tool.Rows()[index].pid);
+        if (tool.rows()[index].isSelected)
+            ticked.push_back(tool.rows()[index].pid);
     }
     return ticked;
 }
@@ -184,8 +184,8 @@ void expectSoundList(const ParamSelect& tool)
     RC_ASSERT(tool.GetSelection().has_value() == !tickedOnView(tool).empty());
     RC_ASSERT(tool.cmbUnit.Visible() == tool.ShowUnitCombo());
     for (const std::int32_t index : visible) {
-        RC_ASSERT(tool.Rows().Count() == 0 || index < tool.Rows().Count());
-        RC_ASSERT(tool.Rows().Count() == 0 || tool.OffsetUnits() || !tool.Rows()[index].isUnit);
+        RC_ASSERT(tool.rows().Count() == 0 || index < tool.rows().Count());
+        RC_ASSERT(tool.rows().Count() == 0 || tool.OffsetUnits() || !tool.rows()[index].isUnit);
     }
 }
 
@@ -193,7 +193,7 @@ void expectSoundCells(const ParamSelect& tool)
 {
     const Indexes visible = visibleIndexes(tool);
     for (std::size_t i = 0; i < visible.size(); ++i) {
-        const ParamRow& row = tool.Rows()[visible[i]];
+        const ParamRow& row = tool.rows()[visible[i]];
         const screen::GridCells cells = tool.jgexGrid.Cells(static_cast<std::int32_t>(i) + 1);
         const std::string text =
             tool.ShowPIDNumber() ? "[" + PIDToText(row.pid) + "] " + row.name : row.name;
@@ -229,11 +229,11 @@ RC_GTEST_PROP(ParamSelectProperties, AnyPickShowsTheRowsOfTheUnitAndKeepsAllTick
     for (const Action& action : actions) {
         if (!isAboutTheList(action.act))
             act(rig, action);
-        const auto rows = rig.tool.Rows().All().items();
-        const std::int32_t entry = *rc::gen::inRange(0, rig.tool.cmbUnit.ListCount());
+        const auto rows = rig.tool.rows().all().items();
+        const std::int32_t entry = *rc::gen::inRange(0, rig.tool.cmbUnit.listCount());
         rig.tool.cmbUnit.Pick(entry);
-        RC_ASSERT(rig.tool.Rows().All().items() == rows);
-        if (!rig.tool.ShowUnitCombo() || rig.tool.Rows().Count() == 0)
+        RC_ASSERT(rig.tool.rows().all().items() == rows);
+        if (!rig.tool.ShowUnitCombo() || rig.tool.rows().Count() == 0)
             continue;
         RC_ASSERT(rig.tool.OffsetUnits() == (entry == 0));
         RC_ASSERT(visibleIndexes(rig.tool) == expectedOnView(rig.tool));
@@ -247,7 +247,7 @@ RC_GTEST_PROP(ParamSelectProperties, EveryParameterOfTheListHasARowBelowItsUnitI
     rig.list(list);
     PIDs parameters;
     std::int32_t unit = -1;
-    for (const ParamRow& row : rig.tool.Rows().All().items()) {
+    for (const ParamRow& row : rig.tool.rows().all().items()) {
         RC_ASSERT(row.isUnit || row.pid / 100'000'000 == unit);
         RC_ASSERT(!row.isUnit || row.pid / 100'000'000 != unit);
         if (row.isUnit)
@@ -275,7 +275,7 @@ RC_GTEST_PROP(ParamSelectProperties, AllUnitsShowAListThatIsGroupedByUnitAsItIs,
     rig.tool.SetShowUnpopulatedUnits(true);
     rig.filtered().list(list);
     Indexes all;
-    for (std::int32_t index = 0; index < rig.tool.Rows().Count(); ++index)
+    for (std::int32_t index = 0; index < rig.tool.rows().Count(); ++index)
         all.push_back(index);
     RC_ASSERT(visibleIndexes(rig.tool) == all);
 }
@@ -287,13 +287,13 @@ RC_GTEST_PROP(SingleParamSelectProperties, WithoutTheFilterAnyListGivesItsParame
     SingleRig rig;
     rig.filtered(false).tool.SetParamList(list, hasUnits);
     PIDs expected;
-    for (const ParamRow& row : rig.tool.Rows().All().items()) {
+    for (const ParamRow& row : rig.tool.rows().all().items()) {
         if (!row.isUnit)
             expected.push_back(row.pid);
     }
-    RC_ASSERT(rig.tool.cmbPID.ItemDataList() == expected);
+    RC_ASSERT(rig.tool.cmbPID.itemDataList() == expected);
     RC_ASSERT(rig.tool.cmbPID.ListIndex() == -1);
-    for (std::int32_t entry = 0; entry < rig.tool.cmbPID.ListCount(); ++entry) {
+    for (std::int32_t entry = 0; entry < rig.tool.cmbPID.listCount(); ++entry) {
         rig.tool.cmbPID.Pick(entry);
         RC_ASSERT(rig.tool.GetSelection() == expected[static_cast<std::size_t>(entry)]);
     }

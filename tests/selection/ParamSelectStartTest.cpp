@@ -26,7 +26,7 @@ TEST(ParamSelectStart, ShowsNeitherFilterNorPIDsNorUnpopulatedUnitsAndPicksNoGro
 TEST(ParamSelectStart, HasNoRowsNoDataAndNothingSelected)
 {
     const ParamSelect tool;
-    EXPECT_EQ(tool.Rows().Count(), 0);
+    EXPECT_EQ(tool.rows().Count(), 0);
     EXPECT_TRUE(tool.VisibleRows().isEmpty());
     EXPECT_EQ(tool.jgexGrid.RowCount(), 0);
     EXPECT_EQ(tool.GetSelection(), std::nullopt);
@@ -38,7 +38,7 @@ TEST(ParamSelectStart, TheFilterIsHiddenAndEmpty)
 {
     const ParamSelect tool;
     EXPECT_FALSE(tool.cmbUnit.Visible());
-    EXPECT_EQ(tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(tool.cmbUnit.listCount(), 0);
     EXPECT_EQ(tool.cmbUnit.ListIndex(), -1);
 }
 
@@ -47,7 +47,7 @@ TEST(ParamSelectStart, ItsWidgetsAreFoundByTheirNames)
     const ParamSelect tool;
     EXPECT_EQ(tool.Find("cmbUnit"), &tool.cmbUnit);
     EXPECT_EQ(tool.Find("jgexGrid"), &tool.jgexGrid);
-    EXPECT_EQ(tool.Widgets().size(), 2U);
+    EXPECT_EQ(tool.widgets().size(), 2U);
 }
 
 TEST(ParamSelectStart, ActionsOnAListWithoutRowsLeaveItEmpty)

@@ -125,7 +125,7 @@ TEST_P(SelectionFailure, AtAnyCallReachesTheHostOfTheListAndLeavesTheOldRowsOnVi
         rig.filtered().list({kSo2, kOpacity});
         EXPECT_EQ(loadFailingAt(rig, number), "1234, the line is down") << number;
         EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1, 2, 3})) << number;
-        EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 3) << number;
+        EXPECT_EQ(rig.tool.cmbUnit.listCount(), 3) << number;
         EXPECT_NO_THROW(view(rig.tool)) << number;
     }
 }
@@ -160,7 +160,7 @@ TEST(SelectionFailureOfTheData, LeavesTheRowsUpToItCounted)
     ParamSelectRig rig;
     failAt(*rig.site, "DIParameters.Exists", 3);
     EXPECT_EQ(passedOn([&] { rig.list(kFiveParameters); }), "440, the line is down");
-    EXPECT_EQ(rig.tool.Rows().Count(), 3) << "GT1, NOx, CO";
+    EXPECT_EQ(rig.tool.rows().Count(), 3) << "GT1, NOx, CO";
 }
 
 TEST(SelectionFailureOfTheData, HasNoEntryOfTheListLookedUpBeforeThoseAheadOfItHaveTheirRows)

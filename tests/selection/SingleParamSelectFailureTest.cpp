@@ -28,8 +28,8 @@ TEST(SingleParamSelectNoUnitPicked, FailsForAHostThatNeverSetTheFilter)
 {
     SingleRig rig;
     EXPECT_EQ(errorOf([&] { return rig.list(kFiveParameters), 0; }), 381);
-    EXPECT_EQ(rig.tool.Rows().Count(), 7) << "the list itself is loaded";
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
+    EXPECT_EQ(rig.tool.rows().Count(), 7) << "the list itself is loaded";
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 0);
 }
 
 TEST(SingleParamSelectNoUnitPicked, IsMendedByShowingTheFilter)
@@ -66,7 +66,7 @@ TEST(SingleParamSelectNoUnitPicked, FailsWhenAllUnitsLeaveTheFilter)
     rig.filtered().list({kNox, kLoad});
     EXPECT_EQ(errorOf([&] { return rig.tool.SetAllUnitsInCombo(false), 0; }), 381);
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0) << "it was emptied before";
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 0) << "it was emptied before";
 }
 
 TEST(SingleParamSelectNoUnitPicked, FailsWithATextTypedIntoTheFilter)
@@ -74,9 +74,9 @@ TEST(SingleParamSelectNoUnitPicked, FailsWithATextTypedIntoTheFilter)
     SingleRig rig;
     rig.filtered().list({kNox, kLoad});
     rig.tool.cmbUnit.Type("GT1");
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 2) << "typing fills nothing";
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 2) << "typing fills nothing";
     EXPECT_EQ(errorOf([&] { return rig.tool.SetShowPIDNumber(true), 0; }), 381);
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 0);
 }
 
 TEST(SingleParamSelectWithoutData, CannotNameUnits)

@@ -15,7 +15,7 @@ TEST(SingleParamSelectStart, OffersAllUnitsAndNothingElse)
     EXPECT_FALSE(tool.ShowUnitCombo());
     EXPECT_FALSE(tool.ShowUnpopulatedUnits());
     EXPECT_EQ(tool.DIServer(), nullptr);
-    EXPECT_EQ(tool.Rows().Count(), 0);
+    EXPECT_EQ(tool.rows().Count(), 0);
 }
 
 TEST(SingleParamSelectStart, ShowsBothBoxesEmpty)
@@ -23,20 +23,20 @@ TEST(SingleParamSelectStart, ShowsBothBoxesEmpty)
     const SingleParamSelect tool;
     EXPECT_TRUE(tool.cmbUnit.Visible()) << "though ShowUnitCombo is off";
     EXPECT_TRUE(tool.cmbPID.Visible());
-    EXPECT_EQ(tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(tool.cmbPID.ListCount(), 0);
+    EXPECT_EQ(tool.cmbUnit.listCount(), 0);
+    EXPECT_EQ(tool.cmbPID.listCount(), 0);
 }
 
 TEST(SingleParamSelectStart, LiesAsDesigned)
 {
     const SingleParamSelect tool;
-    EXPECT_EQ(tool.Place().Width, 4590.0F);
-    EXPECT_EQ(tool.Place().Height, 825.0F);
-    EXPECT_EQ(tool.cmbUnit.Place().Top, 0.0F);
-    EXPECT_EQ(tool.cmbPID.Place().Top, 420.0F);
+    EXPECT_EQ(tool.place().Width, 4590.0F);
+    EXPECT_EQ(tool.place().Height, 825.0F);
+    EXPECT_EQ(tool.cmbUnit.place().Top, 0.0F);
+    EXPECT_EQ(tool.cmbPID.place().Top, 420.0F);
     EXPECT_EQ(tool.Find("cmbUnit"), &tool.cmbUnit);
     EXPECT_EQ(tool.Find("cmbPID"), &tool.cmbPID);
-    EXPECT_EQ(tool.Widgets().size(), 2U);
+    EXPECT_EQ(tool.widgets().size(), 2U);
 }
 
 TEST(SingleParamSelectStart, PropertiesOfAnEmptyListAreStoredAndFillNothing)
@@ -50,8 +50,8 @@ TEST(SingleParamSelectStart, PropertiesOfAnEmptyListAreStoredAndFillNothing)
     EXPECT_TRUE(rig.tool.ShowPIDNumber());
     EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());
     EXPECT_TRUE(rig.tool.ShowUnitCombo());
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 0);
 }
 
 TEST(SingleParamSelectData, IsKeptAndNothingLeavesIt)
@@ -82,11 +82,11 @@ TEST(SingleParamSelectList, GivesTheRowsOfTheListToTick)
     for (const bool hasUnits : {false, true}) {
         rig.filtered(false).tool.SetParamList(pids, hasUnits);
         other.tool.SetParamList(pids, hasUnits);
-        EXPECT_EQ(rig.tool.Rows().All().items(), other.tool.Rows().All().items());
+        EXPECT_EQ(rig.tool.rows().all().items(), other.tool.rows().all().items());
     }
     rig.tool.SetParamList(collectionOf(rig.site, {kGT2, kFlow}));
     other.tool.SetParamList(collectionOf(other.site, {kGT2, kFlow}));
-    EXPECT_EQ(rig.tool.Rows().All().items(), other.tool.Rows().All().items());
+    EXPECT_EQ(rig.tool.rows().all().items(), other.tool.rows().all().items());
 }
 
 TEST(SingleParamSelectList, ShowsTheParametersInListOrderAndNoUnits)
@@ -94,7 +94,7 @@ TEST(SingleParamSelectList, ShowsTheParametersInListOrderAndNoUnits)
     SingleRig rig;
     rig.filtered(false).list({kLoad, kNox, kGT1, kFlow});
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"Load", "NOx", "Flow"}));
-    EXPECT_EQ(rig.tool.cmbPID.ItemDataList(), (Indexes{kLoad, kNox, kFlow}));
+    EXPECT_EQ(rig.tool.cmbPID.itemDataList(), (Indexes{kLoad, kNox, kFlow}));
     rig.listWithUnits({kGT1, kNox, kGT2, kLoad});
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
 }
@@ -115,8 +115,8 @@ TEST(SingleParamSelectList, WithoutRowsLeavesTheEntriesAndTheSelection)
         rig.filtered(false).list({kNox, kLoad});
         rig.tool.cmbPID.Pick(1);
         rig.tool.SetParamList(list);
-        EXPECT_EQ(rig.tool.Rows().Count(), 0);
-        EXPECT_EQ(rig.tool.Rows().All().items().size(), 4U);
+        EXPECT_EQ(rig.tool.rows().Count(), 0);
+        EXPECT_EQ(rig.tool.rows().all().items().size(), 4U);
         EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "Load"}));
         EXPECT_EQ(rig.tool.GetSelection(), kLoad);
     }
@@ -182,14 +182,14 @@ TEST(SingleParamSelectLayout, BoxesTakeTheWidthOfTheControlOneBelowTheOther)
 {
     SingleRig rig;
     rig.tool.Resize(6000, 900);
-    const auto& unit = rig.tool.cmbUnit.Place();
+    const auto& unit = rig.tool.cmbUnit.place();
     ASSERT_GT(unit.Height, 0.0F);
-    EXPECT_EQ(rig.tool.Place().Width, 6000.0F);
-    EXPECT_EQ(rig.tool.Place().Height, 900.0F);
+    EXPECT_EQ(rig.tool.place().Width, 6000.0F);
+    EXPECT_EQ(rig.tool.place().Height, 900.0F);
     EXPECT_EQ(unit.Width, 6000.0F);
     EXPECT_EQ(unit.Top, 0.0F);
-    EXPECT_EQ(rig.tool.cmbPID.Place().Width, 6000.0F);
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, unit.Height + 45);
+    EXPECT_EQ(rig.tool.cmbPID.place().Width, 6000.0F);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, unit.Height + 45);
 }
 
 TEST(SingleParamSelectLayout, WithoutTheFilterTheParametersAreAtTheTop)
@@ -197,22 +197,22 @@ TEST(SingleParamSelectLayout, WithoutTheFilterTheParametersAreAtTheTop)
     SingleRig rig;
     rig.filtered(false);
     EXPECT_FALSE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, 0.0F);
     rig.tool.Resize(6000, 900);
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
-    EXPECT_EQ(rig.tool.cmbUnit.Place().Width, 6000.0F);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbUnit.place().Width, 6000.0F);
     rig.filtered();
     EXPECT_TRUE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, rig.tool.cmbUnit.Place().Height + 45);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, rig.tool.cmbUnit.place().Height + 45);
 }
 
 TEST(SingleParamSelectLayout, TheFilterIsPutBackToTheTopWhenItIsVisible)
 {
     SingleRig rig;
-    rig.tool.cmbUnit.Move(0, 500);
+    rig.tool.cmbUnit.move(0, 500);
     rig.tool.Resize(6000, 900);
-    EXPECT_EQ(rig.tool.cmbUnit.Place().Top, 0.0F);
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, rig.tool.cmbUnit.Place().Height + 45);
+    EXPECT_EQ(rig.tool.cmbUnit.place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, rig.tool.cmbUnit.place().Height + 45);
 }
 
 TEST(SingleParamSelectEnd, NeedsNothing)

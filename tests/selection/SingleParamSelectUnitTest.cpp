@@ -18,7 +18,7 @@ TEST(SingleParamSelectFilter, ListsAllUnitsAndThenEachUnit)
     SingleRig rig;
     rig.filtered().list(kFiveParameters);
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ItemDataList(), (Indexes{-1, kHeader1, kHeader2}));
+    EXPECT_EQ(rig.tool.cmbUnit.itemDataList(), (Indexes{-1, kHeader1, kHeader2}));
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
     EXPECT_TRUE(rig.tool.cmbUnit.Visible());
 }
@@ -29,7 +29,7 @@ TEST(SingleParamSelectFilter, ForAllUnitsNamesTheUnitAheadOfEachParameter)
     rig.filtered().list({kNox, kLoad, kCo});
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load", "GT1 CO"}))
         << "in list order, not grouped by unit";
-    EXPECT_EQ(rig.tool.cmbPID.ItemDataList(), (Indexes{kNox, kLoad, kCo}));
+    EXPECT_EQ(rig.tool.cmbPID.itemDataList(), (Indexes{kNox, kLoad, kCo}));
 }
 
 TEST(SingleParamSelectFilter, ForAllUnitsShowsParametersOfUnitsThatLeftTheFilterToo)
@@ -59,7 +59,7 @@ TEST(SingleParamSelectFilter, OfUnpopulatedUnitsIsFilledAnewWithItsFirstEntry)
     rig.tool.cmbUnit.Pick(2);
     rig.tool.SetShowUnpopulatedUnits(true);
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 5);
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 5);
 }
 
 struct UnitPickCase {
@@ -104,7 +104,7 @@ TEST(SingleParamSelectUnitPick, OfAllUnitsFillsTheBoxAgain)
     SingleRig rig;
     rig.filtered().list({kNox, kLoad});
     rig.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(rig.tool.cmbPID.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbPID.listCount(), 0);
     rig.tool.cmbUnit.Pick(0);
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT1 NOx", "GT2 Load"}));
 }
@@ -133,7 +133,7 @@ TEST(SingleParamSelectOneUnit, HidesTheFilterAndListsPlainNamesAtTheTop)
     rig.filtered().list({kNox, kCo});
     EXPECT_FALSE(rig.tool.ShowUnitCombo());
     EXPECT_FALSE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, 0.0F);
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
 }
 
@@ -153,7 +153,7 @@ TEST(SingleParamSelectOneUnit, IsOnViewWhenTheHostAsksForTheFilterAfterTheList)
     EXPECT_TRUE(rig.tool.cmbUnit.Visible()) << "the host's wish comes last";
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, rig.tool.cmbUnit.Place().Height + 45);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, rig.tool.cmbUnit.place().Height + 45);
 }
 
 TEST(SingleParamSelectOneUnit, WithoutAllUnitsIsHiddenOnceTheFilterIsOff)
@@ -165,7 +165,7 @@ TEST(SingleParamSelectOneUnit, WithoutAllUnitsIsHiddenOnceTheFilterIsOff)
     EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), -1);
     rig.filtered(false);
     EXPECT_FALSE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbPID.Place().Top, 0.0F);
+    EXPECT_EQ(rig.tool.cmbPID.place().Top, 0.0F);
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"NOx", "CO"}));
 }
 
@@ -196,7 +196,7 @@ TEST(SingleParamSelectFilterHidden, IsNotFilled)
     rig.filtered(false).list(kFiveParameters);
     rig.tool.SetAllUnitsInCombo(false);
     rig.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(rig.tool.cmbUnit.ListCount(), 0);
+    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
 }
 
 TEST(SingleParamSelectAllUnits, ComeBackToTheFilterAtOnce)

@@ -71,7 +71,7 @@ struct ToolRig {
 
     [[nodiscard]] ctrl7DaySetUp& setUp() { return tool.ctrl7DaySetUp1; }
     [[nodiscard]] ctrl7DayResult& result() { return tool.ctrl7DayResult1; }
-    [[nodiscard]] const DriftTest& test() const { return tool.Test(); }
+    [[nodiscard]] const DriftTest& test() const { return tool.test(); }
     [[nodiscard]] std::string summary() { return result().lblSummary.Caption(); }
     /// How often calibrations were read.
     [[nodiscard]] std::size_t retrievals() const { return site->rangeQueries.size(); }

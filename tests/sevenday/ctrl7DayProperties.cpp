@@ -93,12 +93,12 @@ RC_GTEST_PROP(WizardProperties, ANextIsTheSameAsThatOfAToolThatWasSetSoAtOnce, (
     ToolRig wandering(site);
     for (std::size_t i = 0; i < std::min(days.size(), marks.size()); ++i) {
         ToolRig::enter(wandering.setUp().txtToDate, "3/" + std::to_string(days[i]) + "/2024");
-        wandering.setUp().chk6of7.SetChecked(marks[i]);
+        wandering.setUp().chk6of7.setChecked(marks[i]);
         wandering.next().back();
     }
     ToolRig fresh(site);
     ToolRig::enter(fresh.setUp().txtToDate, wandering.setUp().txtToDate.Text());
-    fresh.setUp().chk6of7.SetChecked(wandering.setUp().SixOfSevenCals());
+    fresh.setUp().chk6of7.setChecked(wandering.setUp().SixOfSevenCals());
     wandering.next();
     fresh.next();
     RC_ASSERT(changesBetween(snapshotOf(fresh.result()), snapshotOf(wandering.result())) ==

@@ -81,7 +81,7 @@ TEST(ResultStart, HasEveryLabelAndFrameWithItsText)
         EXPECT_EQ(all.at(std::string(row.name) + ".Caption"), quoted(row.caption)) << row.name;
     }
     // The tree, its images and the five pictures of the legend are all that is left.
-    EXPECT_EQ(rig.page.Widgets().size(), std::size(kLabels) + std::size(kFrames) + 7);
+    EXPECT_EQ(rig.page.widgets().size(), std::size(kLabels) + std::size(kFrames) + 7);
 }
 
 TEST(ResultStart, TheTreeHasNoEntryAtAll)

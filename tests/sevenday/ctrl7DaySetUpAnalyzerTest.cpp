@@ -79,7 +79,7 @@ TEST(SetUpAnalyzer, APickTakesBackWhatTheUserChose)
     auto& page = rig.setup().page;
     page.optOtherSpan.Press();
     page.chk6of7.Press();
-    page.chkUseAPS.SetChecked(false);
+    page.chkUseAPS.setChecked(false);
     page.cmbAnalyzer.Pick(0);
     EXPECT_EQ(selectedSpecification(page), "opt025Span");
     EXPECT_FALSE(page.chk6of7.isChecked());

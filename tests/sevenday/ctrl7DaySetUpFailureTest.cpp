@@ -192,7 +192,7 @@ TEST(SetUpFailure, AnAnalyzerWhosePIDFailsStandsInTheListWithoutAParameterBehind
     // The first two calls of the member are those of the units.
     FailingSetup rig("DIParameter.PID", 2);
     EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
-    EXPECT_EQ(rig.page.cmbAnalyzer.ItemDataList(), std::vector<std::int32_t>{1});
+    EXPECT_EQ(rig.page.cmbAnalyzer.itemDataList(), std::vector<std::int32_t>{1});
     rig.page.cmbAnalyzer.Pick(0);
     EXPECT_TRUE(rig.page.optOtherSpan.isSelected());
     EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedPID(); }), 91);

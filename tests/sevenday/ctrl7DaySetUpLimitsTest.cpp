@@ -78,8 +78,8 @@ class SetUpLimits : public ::testing::TestWithParam<LimitCase>
 TEST_P(SetUpLimits, FollowTheOptionAndTheAPS)
 {
     LimitsRig rig;
-    rig.page.chkUseAPS.SetChecked(GetParam().useAPS);
-    (rig.page.*GetParam().member).SetSelected(true);
+    rig.page.chkUseAPS.setChecked(GetParam().useAPS);
+    (rig.page.*GetParam().member).setSelected(true);
     EXPECT_EQ(limitsOf(rig.page), GetParam().expected);
 }
 
@@ -133,7 +133,7 @@ TEST_P(SetUpOption, LeavesItsFieldsEnabledAndTheAPSAsItWas)
         LimitsRig rig;
         // From an option with everything the other way round.
         (GetParam().apsEnabled ? rig.page.optOtherSpan : rig.page.opt025Span).Press();
-        rig.page.chkUseAPS.SetChecked(useAPS);
+        rig.page.chkUseAPS.setChecked(useAPS);
         (rig.page.*GetParam().member).Press();
         EXPECT_EQ(rig.page.chkUseAPS.Enabled(), GetParam().apsEnabled);
         EXPECT_EQ(rig.page.chkUseAPS.isChecked(), useAPS);

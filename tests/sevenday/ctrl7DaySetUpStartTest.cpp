@@ -82,7 +82,7 @@ TEST(SetUpStart, HasEveryWidgetWithItsKindAndText)
         EXPECT_EQ(all.at(name + ".Kind"), '"' + std::string(row.kind) + '"') << name;
         EXPECT_EQ(all.at(name + "." + row.property), row.text) << name;
     }
-    EXPECT_EQ(rig.page.Widgets().size(), std::size(kWidgets));
+    EXPECT_EQ(rig.page.widgets().size(), std::size(kWidgets));
 }
 
 TEST(SetUpStart, ChecksManualCalsAndTheSummaryAndShowsAllCalsToTheTestEnd)
@@ -134,7 +134,7 @@ TEST(SetUpStart, TheTestInformationIsHiddenAndTheFirstReasonSelected)
     EXPECT_FALSE(page.fraTestInfo.Visible());
     EXPECT_FALSE(page.cmbStackID.Visible());
     EXPECT_TRUE(page.txtStackID.Visible());
-    EXPECT_EQ(page.cmbTestReason.ItemDataList(), (std::vector<std::int32_t>{1, 2, 3}));
+    EXPECT_EQ(page.cmbTestReason.itemDataList(), (std::vector<std::int32_t>{1, 2, 3}));
     EXPECT_EQ(page.cmbTestReason.ListIndex(), 0);
 }
 
@@ -166,7 +166,7 @@ TEST(SetUpSetup, ListsTheUnitsInTheirOrderAndPicksTheFirst)
     SetUpRig rig;
     rig.setup();
     EXPECT_EQ(rig.page.cmbUnit.List(), (Lines{"GT3", "GT4"}));
-    EXPECT_EQ(rig.page.cmbUnit.ItemDataList(), (std::vector<std::int32_t>{kGT3, kGT4}));
+    EXPECT_EQ(rig.page.cmbUnit.itemDataList(), (std::vector<std::int32_t>{kGT3, kGT4}));
     EXPECT_EQ(rig.page.AnalyzedUnitPID(), kGT3);
 }
 
@@ -192,7 +192,7 @@ TEST(SetUpSetup, ASecondSetupStartsTheListOfUnitsAnew)
 {
     SetUpRig rig;
     rig.setup().setup();
-    EXPECT_EQ(rig.page.cmbUnit.ListCount(), 2);
+    EXPECT_EQ(rig.page.cmbUnit.listCount(), 2);
 }
 
 TEST(SetUpSetup, ASiteWithoutUnitsFailsAtTheFirstPick)

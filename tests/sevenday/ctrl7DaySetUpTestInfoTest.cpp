@@ -103,7 +103,7 @@ TEST(SetUpTestInfo, AnyOtherReasonIsAnInitialCertification)
 {
     SetUpRig rig;
     auto& page = rig.setup().page;
-    page.cmbTestReason.AddItem("Quality Assurance", 4);
+    page.cmbTestReason.addItem("Quality Assurance", 4);
     page.cmbTestReason.Pick(3);
     EXPECT_EQ(page.TestReason(), "INITIAL");
 }

@@ -49,7 +49,7 @@ TEST(Wizard, HasItsButtonsWithTheirCaptions)
     for (const char* name : {"cmdBack", "cmdNext", "cmdSave", "chkPreview", "CommonDialog1",
                              "ctrl7DaySetUp1", "ctrl7DayResult1"})
         EXPECT_NE(rig.tool.Find(name), nullptr) << name;
-    EXPECT_EQ(rig.tool.Widgets().size(), 7U);
+    EXPECT_EQ(rig.tool.widgets().size(), 7U);
 }
 
 TEST(Wizard, CannotSaveBeforeTheFirstSetup)
@@ -97,9 +97,9 @@ TEST(WizardSetup, ListsUnitsAndAnalyzers)
 TEST(WizardSetup, PutsTheSaveButtonOnTheVerySpotOfNext)
 {
     ToolRig rig;
-    rig.tool.cmdNext.SetPlace({1200, 6000, 1095, 375});
+    rig.tool.cmdNext.setPlace({1200, 6000, 1095, 375});
     rig.tool.Setup(rig.messages, rig.server);
-    EXPECT_EQ(rig.tool.cmdSave.Place(), (screen::Geometry{1200, 6000, 1095, 375}));
+    EXPECT_EQ(rig.tool.cmdSave.place(), (screen::Geometry{1200, 6000, 1095, 375}));
 }
 
 TEST(WizardSetup, ASiteWithoutUnitsReachesTheHost)

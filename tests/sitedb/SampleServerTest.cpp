@@ -334,7 +334,7 @@ TEST(SampleServer, TheTestDaysOfGT4AreItsOnlyOperatingDaysOfThoseWeeks)
     parameter(sharedSample(), 460'107'501)->ReadData(operating);
     std::vector<std::string> days;
     for (std::int32_t day = 0; day < 46; ++day) {
-        const auto values = operating.Values().subspan(static_cast<std::size_t>(day) * 24, 24);
+        const auto values = operating.values().subspan(static_cast<std::size_t>(day) * 24, 24);
         if (std::ranges::any_of(values, [](double value) { return value > 0; }))
             days.push_back(isoDate(makeDate(2018, 5, 4 + day)));
     }
@@ -351,7 +351,7 @@ TEST(SampleServer, GT4RanAsItsLoadFileIsKnownToTell)
     parameter(sharedSample(), 460'207'501)->ReadData(load);
     const auto hoursIn = [&](double above, double upTo) {
         return static_cast<double>(std::ranges::count_if(
-            load.Values(), [&](double value) { return value > above && value <= upTo; }));
+            load.values(), [&](double value) { return value > above && value <= upTo; }));
     };
     const double all = hoursIn(0, 84);
     EXPECT_NEAR(100 * hoursIn(0, 30 + 0.3 * 54) / all, 18, 0.5);

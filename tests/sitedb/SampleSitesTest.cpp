@@ -50,7 +50,7 @@ std::vector<double> hoursOf(const SiteDatabase& site, PID measured, Date start, 
     set.Init(start, count, "h", 1, 0);
     parameter(site, measured)->ReadData(set);
     std::vector<double> values;
-    std::ranges::copy_if(set.Values(), std::back_inserter(values),
+    std::ranges::copy_if(set.values(), std::back_inserter(values),
                          [](double value) { return value == value; });
     return values;
 }

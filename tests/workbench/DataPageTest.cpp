@@ -195,9 +195,9 @@ TEST(DataScreen, ShowsTheHoursOfTheTickedParameters)
         for (int row = 0; row < model.rowCount(); ++row) {
             const auto slot = static_cast<std::size_t>(row);
             EXPECT_EQ(screen.cell(kHourly, row, column).toStdString(),
-                      GeneralNumber(hours.Values()[slot], screen.regional));
+                      GeneralNumber(hours.values()[slot], screen.regional));
             EXPECT_EQ(screen.cell(kHourly, row, column + 1),
-                      hours.Statuses()[slot] == 2 ? "off line" : "valid");
+                      hours.statuses()[slot] == 2 ? "off line" : "valid");
         }
     }
 }

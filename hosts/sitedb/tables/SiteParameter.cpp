@@ -78,8 +78,8 @@ private:
 
 void clearSlots(DIDataSet& set)
 {
-    std::ranges::fill(set.Values(), std::numeric_limits<double>::quiet_NaN());
-    std::ranges::fill(set.Statuses(), status::kNoData);
+    std::ranges::fill(set.values(), std::numeric_limits<double>::quiet_NaN());
+    std::ranges::fill(set.statuses(), status::kNoData);
 }
 
 } // namespace
@@ -107,8 +107,8 @@ void SiteParameter::ReadData(DIDataSet& set)
         if (slot == count)
             continue;
         if (!rows->isNull(2))
-            set.Values()[slot] = rows->real(2);
-        set.Statuses()[slot] = rows->int32(3);
+            set.values()[slot] = rows->real(2);
+        set.statuses()[slot] = rows->int32(3);
     }
 }
 
@@ -121,8 +121,8 @@ DIDataSet SiteParameter::CurrentPoint(std::int32_t /*unused*/, std::int32_t /*un
     row->with(std::int64_t{row_.pid});
     if (row->step()) {
         if (!row->isNull(0))
-            point.Values()[0] = row->real(0);
-        point.Statuses()[0] = row->int32(1);
+            point.values()[0] = row->real(0);
+        point.statuses()[0] = row->int32(1);
     }
     return point;
 }

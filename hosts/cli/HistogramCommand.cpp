@@ -55,13 +55,13 @@ void HistogramCommand::pickParameter()
 {
     histogram::HistogramTool& screen = tool();
     if (!request_.unit.empty())
-        pick(screen.cmbUnit, request_.unit, "There is no unit " + inQuotes(request_.unit));
+        pickEntry(screen.cmbUnit, request_.unit, "There is no unit " + inQuotes(request_.unit));
     const std::string unit = "Unit " + screen.cmbUnit.Text();
     if (screen.cmbParam.listCount() == 0)
         throw UsageError(unit + " has no parameter with hourly values.");
     if (!request_.parameter.empty())
-        pick(screen.cmbParam, request_.parameter,
-             unit + " has no parameter " + inQuotes(request_.parameter));
+        pickEntry(screen.cmbParam, request_.parameter,
+                  unit + " has no parameter " + inQuotes(request_.parameter));
     if (request_.showPid)
         choose(screen.chkShowPID, true);
 }

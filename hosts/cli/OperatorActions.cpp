@@ -49,7 +49,7 @@ void pickYear(screen::ComboBox& cmbYear, const std::string& year)
 
 } // namespace
 
-void pick(screen::ComboBox& list, const std::string& entry, const std::string& sentence)
+void pickEntry(screen::ComboBox& list, const std::string& entry, const std::string& sentence)
 {
     const auto& entries = list.List();
     const auto found = std::find(entries.begin(), entries.end(), entry);
@@ -66,7 +66,7 @@ void choose(screen::CheckBox& box, bool wanted)
         box.Press();
 }
 
-void type(screen::TextBox& field, const std::string& text, const std::string& what)
+void typeText(screen::TextBox& field, const std::string& text, const std::string& what)
 {
     field.Type(text);
     if (field.Text() != text)
@@ -84,7 +84,7 @@ void typeDate(screen::TextBox& field, const std::string& text, const RegionalSet
     if (!IsDate(text, regional, clock.now()))
         throw UsageError(inQuotes(text) + " is no date; one is written as 2024-05-31 or " +
                          ShortDate(makeDate(2024, 5, 31), regional) + ".");
-    type(field, text, "date");
+    typeText(field, text, "date");
 }
 
 void typeNumber(screen::TextBox& field, const std::string& text, const std::string& what,
@@ -96,7 +96,7 @@ void typeNumber(screen::TextBox& field, const std::string& text, const std::stri
     if (!isSingle(text, regional))
         throw UsageError(inQuotes(text) + " is no number that can be the " + what +
                          "; one is written as " + GeneralNumber(1234.5, regional) + ".");
-    type(field, text, what);
+    typeText(field, text, what);
 }
 
 void pickQuarter(screen::ComboBox& cmbYear, screen::ComboBox& cmbQTR, const std::string& year,
@@ -109,7 +109,7 @@ void pickQuarter(screen::ComboBox& cmbYear, screen::ComboBox& cmbQTR, const std:
                          " has its year with it; --year is for one without.");
     pickYear(cmbYear, year + ownYear);
     if (!quarter.empty())
-        pick(cmbQTR, quarter.substr(yearEnd), "There is no quarter " + inQuotes(quarter));
+        pickEntry(cmbQTR, quarter.substr(yearEnd), "There is no quarter " + inQuotes(quarter));
 }
 
 } // namespace k7deval::cli

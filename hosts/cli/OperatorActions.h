@@ -18,14 +18,14 @@ namespace k7deval::cli
 {
 
 /// Picks the entry of a list. UsageError with the sentence and the entries when there is none.
-void pick(screen::ComboBox& list, const std::string& entry, const std::string& sentence);
+void pickEntry(screen::ComboBox& list, const std::string& entry, const std::string& sentence);
 
 /// Brings a check box into a state. UsageError when it can't be reached.
 void choose(screen::CheckBox& box, bool wanted);
 
 /// Types a text into a field and leaves it, upon which the screen may write it another way.
 /// UsageError when the field is too short for it. what: "ORIS code", ...
-void type(screen::TextBox& field, const std::string& text, const std::string& what);
+void typeText(screen::TextBox& field, const std::string& text, const std::string& what);
 
 /// Types a date and leaves the field; nothing for an empty text. UsageError for what is no date.
 void typeDate(screen::TextBox& field, const std::string& text, const RegionalSettings& regional,
@@ -49,8 +49,8 @@ struct NamedOption {
 
 /// Presses the option of a word. UsageError with all words when there is none.
 template <std::size_t n>
-void press(const std::array<NamedOption, n>& options, const std::string& word,
-           const std::string& what)
+void pressOption(const std::array<NamedOption, n>& options, const std::string& word,
+                 const std::string& what)
 {
     std::vector<std::string> words;
     for (const auto& option : options) {

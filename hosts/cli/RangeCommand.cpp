@@ -40,9 +40,9 @@ private:
         requireAnalyzers(tool_);
         pickParameter();
         if (!request_.scale.empty())
-            pick(tool_.cmbScale, request_.scale,
-                 tool_.cmbUnit.Text() + " " + tool_.cmbParam.Text() + " has no scale " +
-                     inQuotes(request_.scale));
+            pickEntry(tool_.cmbScale, request_.scale,
+                      tool_.cmbUnit.Text() + " " + tool_.cmbParam.Text() + " has no scale " +
+                          inQuotes(request_.scale));
         typeNumber(tool_.txtRange, request_.range, "range", regional());
         fillLimit(tool_.chkMEC, tool_.txtMEC, request_.mec, "maximum expected concentration");
         fillLimit(tool_.chkMPC, tool_.txtMPC, request_.mpc, "maximum potential concentration");
@@ -109,7 +109,7 @@ Status runRanges(const std::string& site, const std::string& unit, const Console
     tool.SetDIServer(server);
     requireAnalyzers(tool);
     for (const auto& listedUnit : unit.empty() ? tool.cmbUnit.List() : std::vector{unit}) {
-        pick(tool.cmbUnit, listedUnit, "There is no unit " + inQuotes(listedUnit));
+        pickEntry(tool.cmbUnit, listedUnit, "There is no unit " + inQuotes(listedUnit));
         printRanges(tool, console.out);
     }
     return Status::Done;

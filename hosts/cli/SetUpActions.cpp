@@ -48,7 +48,7 @@ void DriftSession::pickUnit(const std::string& unit)
     ctrl7DaySetUp& page = control_.ctrl7DaySetUp1;
     if (!unit.empty()) {
         linesBefore_ = postedLines().size();
-        pick(page.cmbUnit, unit, "There is no unit " + inQuotes(unit));
+        pickEntry(page.cmbUnit, unit, "There is no unit " + inQuotes(unit));
     }
     // A unit whose rule ended half-way has its analyzers listed, but none of them picked.
     if (page.cmbAnalyzer.List().empty())
@@ -61,8 +61,8 @@ void DriftSession::pickAnalyzer(const std::string& analyzer)
     ctrl7DaySetUp& page = control_.ctrl7DaySetUp1;
     if (!analyzer.empty()) {
         linesBefore_ = postedLines().size();
-        pick(page.cmbAnalyzer, analyzer,
-             "Unit " + page.cmbUnit.Text() + " has no analyzer " + inQuotes(analyzer));
+        pickEntry(page.cmbAnalyzer, analyzer,
+                  "Unit " + page.cmbUnit.Text() + " has no analyzer " + inQuotes(analyzer));
     }
     if (postedLines().size() > linesBefore_)
         throw UsageError("The setup page of " + trimRight(page.AnalyzerInfoText()) +
@@ -103,7 +103,7 @@ void DriftSession::fillSpecification(const DriftOptions& options)
     if (options.aps == false && page.chkUseAPS.isReachable())
         choose(page.chkUseAPS, false);
     if (!options.specification.empty())
-        press(specifications, options.specification, "specification");
+        pressOption(specifications, options.specification, "specification");
     if (options.aps && (*options.aps || page.chkUseAPS.isChecked()))
         choose(page.chkUseAPS, *options.aps);
     if (!options.limit.empty())
@@ -119,7 +119,7 @@ void DriftSession::typeLimit(const std::string& limit)
             "--limit needs the specification other-span or other-absolute, the others have their "
             "own.");
     screen::TextBox& field = isAbsolute ? page.txtOtherAbsoluteValue : page.txtOtherSpanValue;
-    type(field, limit, "limit");
+    typeText(field, limit, "limit");
     if (field.Text() != limit)
         throw UsageError(inQuotes(limit) + " is no number that can be a limit.");
 }
@@ -133,7 +133,7 @@ void DriftSession::fillDisplay(const DriftOptions& options)
         {"test-only", &page.optShowDriftTestCals},
     }};
     if (!options.show.empty())
-        press(displays, options.show, "choice of calibrations to show");
+        pressOption(displays, options.show, "choice of calibrations to show");
     if (options.summary)
         choose(page.chkShowSummary, *options.summary);
 }
@@ -151,17 +151,17 @@ void DriftSession::fillTestInformation(const DriftOptions& options)
     if (!options.stack.empty())
         fillStack(options.stack);
     if (!options.component.empty())
-        type(page.txtComponentID, options.component, "component identifier");
+        typeText(page.txtComponentID, options.component, "component identifier");
     if (!options.reason.empty())
         pickReason(options.reason);
     if (!options.testNumber.empty())
-        type(page.txtTestNumber, options.testNumber, "test number");
+        typeText(page.txtTestNumber, options.testNumber, "test number");
 }
 
 void DriftSession::typeOris(const std::string& oris)
 {
     screen::TextBox& field = control_.ctrl7DaySetUp1.txtORIS;
-    type(field, oris, "ORIS code");
+    typeText(field, oris, "ORIS code");
     // The page writes 00123 as 123 and empties the field of what is no code.
     if (field.Text().empty())
         throw UsageError(inQuotes(oris) +
@@ -172,10 +172,10 @@ void DriftSession::fillStack(const std::string& stack)
 {
     ctrl7DaySetUp& page = control_.ctrl7DaySetUp1;
     if (page.cmbStackID.isReachable())
-        pick(page.cmbStackID, stack,
-             "Unit " + page.cmbUnit.Text() + " has no stack " + inQuotes(stack));
+        pickEntry(page.cmbStackID, stack,
+                  "Unit " + page.cmbUnit.Text() + " has no stack " + inQuotes(stack));
     else
-        type(page.txtStackID, stack, "unit or stack identifier");
+        typeText(page.txtStackID, stack, "unit or stack identifier");
 }
 
 void DriftSession::pickReason(const std::string& reason)
@@ -187,8 +187,8 @@ void DriftSession::pickReason(const std::string& reason)
         throw UsageError(inQuotes(reason) +
                          " is no reason for a test; it is one of: initial, recertification, "
                          "diagnostic.");
-    pick(control_.ctrl7DaySetUp1.cmbTestReason, found->entry,
-         "There is no reason " + inQuotes(reason));
+    pickEntry(control_.ctrl7DaySetUp1.cmbTestReason, found->entry,
+              "There is no reason " + inQuotes(reason));
 }
 
 } // namespace k7deval::cli

@@ -126,7 +126,7 @@ Status runAnalyzers(const std::string& site, const std::string& unit, const Cons
     // The setup page has the analyzers of the first unit already.
     posted->lines.clear();
     for (const auto& listedUnit : unit.empty() ? page.cmbUnit.List() : std::vector{unit}) {
-        pick(page.cmbUnit, listedUnit, "There is no unit " + inQuotes(listedUnit));
+        pickEntry(page.cmbUnit, listedUnit, "There is no unit " + inQuotes(listedUnit));
         printAnalyzers(page, console.out);
     }
     printLines(posted->lines, "", console.notes);

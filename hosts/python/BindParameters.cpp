@@ -12,7 +12,7 @@ using namespace py::literals;
 namespace
 {
 
-HostDataPoint currentPoint(DIParameter& parameter, Int32 one, Int32 two, Int32 three)
+HostDataPoint hostedPoint(DIParameter& parameter, Int32 one, Int32 two, Int32 three)
 {
     return {std::make_shared<DIDataSet>(parameter.CurrentPoint(one, two, three)), 1};
 }
@@ -32,7 +32,7 @@ void bindParameter(py::module_& module)
         .def_property_readonly("Interval", &Class::Interval, "Its data interval.")
         .def("ReadData", &Class::ReadData, "dataset"_a,
              "Fills a prepared DIDataSet with values and status words.")
-        .def("CurrentPoint", &currentPoint, "one"_a = 0, "two"_a = 0, "three"_a = 0,
+        .def("CurrentPoint", &hostedPoint, "one"_a = 0, "two"_a = 0, "three"_a = 0,
              "The present value of a constant.")
         .def(
             "GetAttribute", [](Class& self, Int32 id) { return self.GetAttribute(id); }, "id"_a,

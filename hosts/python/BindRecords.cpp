@@ -50,7 +50,7 @@ void bindRun(py::module_& module)
                                "All injections that must be there are, within their limits.");
 }
 
-void addCal(clsDaySummary& day, const std::shared_ptr<cls7DayAnalyzerCal>& cal)
+void addToDay(clsDaySummary& day, const std::shared_ptr<cls7DayAnalyzerCal>& cal)
 {
     day.CalsInDay().Add(minuteKey(present(cal).CalTime), cal);
 }
@@ -64,7 +64,7 @@ void bindDay(py::module_& module)
         .def_property_readonly(
             "CalsInDay", [](const Record& self) { return self.CalsInDay(); },
             "The runs by their time as \"yyyy/MM/dd HH:nn\": a copy whose runs are the live ones.")
-        .def("AddCal", &addCal, "cal"_a,
+        .def("AddCal", &addToDay, "cal"_a,
              "Adds a run under its time. Error 457 when there is one, 91 for None.")
         .def_property_readonly("DayIsUsedIn7Day", &Record::DayIsUsedIn7Day,
                                "The evaluation counted one of the runs.")

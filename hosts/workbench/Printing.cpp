@@ -122,7 +122,7 @@ struct PrintLook {
 constexpr PrintLook kPrint = {"cmdPrint", "Print...", "prnti", printReport};
 constexpr PrintLook kPreview = {"cmdPrintPreview", "Print Preview...", "wveirntp", previewReport};
 
-void show(const PrintLook& look, const BuildReport& build, QWidget& over)
+void show(const PrintLook& look, const ReportMaker& build, QWidget& over)
 {
     const auto document = build();
     if (!document)
@@ -131,7 +131,7 @@ void show(const PrintLook& look, const BuildReport& build, QWidget& over)
 }
 
 QPushButton* makeButton(QWidget& view, screen::Button& save, const PrintLook& look,
-                        const BuildReport& build)
+                        const ReportMaker& build)
 {
     auto* button =
         new QPushButton(qt::withMnemonic(look.caption, freeLetter(view, look.letters)), &view);
@@ -217,7 +217,7 @@ void previewReport(const ReportDocument& document, QWidget* over)
     static_cast<void>(dialog.ask());
 }
 
-PrintButtons makePrintButtons(QWidget& view, screen::Button& save, const BuildReport& build)
+PrintButtons makePrintButtons(QWidget& view, screen::Button& save, const ReportMaker& build)
 {
     return {makeButton(view, save, kPrint, build), makeButton(view, save, kPreview, build)};
 }

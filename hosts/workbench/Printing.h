@@ -26,7 +26,7 @@ void previewReport(const ReportDocument& document, QWidget* over);
 void printPages(const ReportDocument& document, QPrinter& printer);
 
 /// The report of a tool as it is now; nothing when there is none.
-using BuildReport = std::function<std::unique_ptr<ReportDocument>()>;
+using ReportMaker = std::function<std::unique_ptr<ReportDocument>()>;
 
 /// The buttons that print what a tool would save, `cmdPrint` and `cmdPrintPreview`. They can be
 /// seen and pressed when the button that saves can. What keeps a report from being built is told
@@ -36,6 +36,6 @@ struct PrintButtons {
     QPushButton* print = nullptr;
     QPushButton* preview = nullptr;
 };
-PrintButtons makePrintButtons(QWidget& view, screen::Button& save, const BuildReport& build);
+PrintButtons makePrintButtons(QWidget& view, screen::Button& save, const ReportMaker& build);
 
 } // namespace k7deval::workbench

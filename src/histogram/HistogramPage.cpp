@@ -105,8 +105,8 @@ float drawScale(ReportPage& page, const InnerMarks& marks, const std::array<Scal
     return y;
 }
 
-void drawChart(ReportPage& page, const InnerMarks& marks, const HourBins& bins, float bottom,
-               float top)
+void drawBarChart(ReportPage& page, const InnerMarks& marks, const HourBins& bins, float bottom,
+                  float top)
 {
     drawRule(page, bottom);
     for (const float x : {kLeft, marks.low, marks.high, kRight})

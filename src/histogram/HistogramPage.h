@@ -50,7 +50,7 @@ float drawScale(ReportPage& page, const InnerMarks& marks, const std::array<Scal
 
 /// The chart from its bottom to its top: the base line, dashed marks, and the bars with their
 /// hours.
-void drawChart(ReportPage& page, const InnerMarks& marks, const HourBins& bins, float bottom,
-               float top);
+void drawBarChart(ReportPage& page, const InnerMarks& marks, const HourBins& bins, float bottom,
+                  float top);
 
 } // namespace k7deval::histogram

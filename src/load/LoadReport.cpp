@@ -40,7 +40,7 @@ std::unique_ptr<ReportDocument> ctrlMaxMW::buildReport() const
         {{{lbl000.Caption(), lbl030.Caption(), lbl060.Caption(), lbl100.Caption()},
           {lblMinSafe.Caption(), lblLow.Caption(), lblMid.Caption(), lblMax.Caption()}}},
         y + above.Height() + kGapAboveCounts);
-    histogram::drawChart(*page, kMarks, evaluation_.Bins, bottom, top);
+    histogram::drawBarChart(*page, kMarks, evaluation_.Bins, bottom, top);
     return std::move(document);
 }
 

@@ -51,7 +51,7 @@ std::unique_ptr<ReportDocument> ctrlRangeEval::buildReport() const
         {{{lbl000.Caption(), lbl020.Caption(), lbl080.Caption(), lbl100.Caption()},
           {lblMinSafe.Caption(), lblLow.Caption(), lblMid.Caption(), lblMax.Caption()}}},
         y);
-    histogram::drawChart(*page, kMarks, evaluation_.Bins, bottom, top);
+    histogram::drawBarChart(*page, kMarks, evaluation_.Bins, bottom, top);
     return std::move(document);
 }
 

@@ -32,7 +32,7 @@ ParamSelect::ParamSelect() : Control("ParamSelect")
 void ParamSelect::connectRules()
 {
     cmbUnit.Picked.Connect([this] { unitRule(); });
-    jgexGrid.ReadRow = [this](std::int32_t row) { return readRow(row); };
+    jgexGrid.ReadRow = [this](std::int32_t row) { return cellsOf(row); };
     jgexGrid.WriteRow = [this](std::int32_t row, bool value) {
         rows_.select(visibleRows_.Item(row), value);
     };
@@ -238,7 +238,7 @@ void ParamSelect::toggle()
     readGridKeepingRow();
 }
 
-screen::GridCells ParamSelect::readRow(std::int32_t gridRow) const
+screen::GridCells ParamSelect::cellsOf(std::int32_t gridRow) const
 {
     if (!server_)
         return {};

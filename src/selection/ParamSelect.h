@@ -79,7 +79,7 @@ private:
     void selectVisible(bool selected);
     void toggle();
 
-    [[nodiscard]] screen::GridCells readRow(std::int32_t gridRow) const;
+    [[nodiscard]] screen::GridCells cellsOf(std::int32_t gridRow) const;
     [[nodiscard]] std::string headerText(const std::string& unit) const;
 
     std::shared_ptr<k7deval::DIServer> server_;

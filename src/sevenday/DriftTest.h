@@ -92,7 +92,7 @@ private:
     static constexpr std::int32_t kRunsOfATest = 7;
 
     struct InjectionRecords;
-    [[nodiscard]] InjectionRecords readRecords();
+    [[nodiscard]] InjectionRecords recordsOfInterval();
     void findOperatingTime(const InjectionRecords& records);
     [[nodiscard]] PID linkedObject(const InjectionRecords& records);
     [[nodiscard]] std::shared_ptr<cls7DayAnalyzerCal> newRun(DIRecord& record) const;

@@ -57,7 +57,7 @@ std::shared_ptr<RunMap> inOrderOfTime(RunMap runs)
 void DriftTest::RetrieveCals()
 {
     runPosting(irm, NumberedLine::RetrieveCals, [this] {
-        const InjectionRecords records = readRecords();
+        const InjectionRecords records = recordsOfInterval();
         findOperatingTime(records);
         RunMap runs;
         addZeroRuns(records, runs);
@@ -66,7 +66,7 @@ void DriftTest::RetrieveCals()
     });
 }
 
-DriftTest::InjectionRecords DriftTest::readRecords()
+DriftTest::InjectionRecords DriftTest::recordsOfInterval()
 {
     RangeRecordQuery query;
     query.siteKey = present(present(DIServer).SiteInfo()).SiteKey();

@@ -22,7 +22,7 @@ constexpr double kDigit = 5.56;
 class HistogramPage : public ::testing::Test
 {
 protected:
-    void draw(const HourBins& bins) { histogram::drawChart(page, kMarks, bins, kBottom, kTop); }
+    void draw(const HourBins& bins) { histogram::drawBarChart(page, kMarks, bins, kBottom, kTop); }
 
     [[nodiscard]] const ReportRectangle& bar(int number) const
     {
@@ -160,7 +160,7 @@ TEST_F(HistogramPage, HoursThatFitBelowTheTopStandAboveTheirBar)
     expectText(page, {"96", 5, 10, 36 + 18 + kBodyHeight / 2, kBottom + 288 + 1});
     ReportDocument other;
     ReportPage& fuller = layout::addPage(other);
-    histogram::drawChart(fuller, kMarks, binsOf({{1, 960}, {2, 1000}}), kBottom, kTop);
+    histogram::drawBarChart(fuller, kMarks, binsOf({{1, 960}, {2, 1000}}), kBottom, kTop);
     expectText(fuller, {"960", 5, 10, 36 + 18 + kBodyHeight / 2, kBottom + 288 - 3 * kDigit - 1});
 }
 

@@ -6,7 +6,7 @@
 namespace k7deval
 {
 
-/// The numbers under which the system knows its failures.
+/// The system's numbers for its failures.
 namespace errors
 {
 inline constexpr int kInvalidCall = 5;
@@ -33,7 +33,7 @@ class Error : public std::runtime_error
 {
 public:
     Error(int number, const std::string& description);
-    /// The error of that number with its standing description.
+    /// The error with that number and its usual description.
     explicit Error(int number);
 
     [[nodiscard]] int number() const { return number_; }
@@ -43,7 +43,7 @@ private:
     int number_;
 };
 
-/// The standing description of an error number; "Automation error" for a number without one.
+/// The usual description of an error number; "Automation error" for a number without one.
 std::string errorDescription(int number);
 
 /// The error of the exception being handled, to be called in a handler; 440 with the exception's

@@ -22,7 +22,7 @@ struct NumberFormat {
 };
 
 /// The value as decimal text (a single with at most 7 significant digits, a double with at most
-/// 15), rounded to the format's places, halves away from zero. A result of zero bears no sign.
+/// 15), rounded to the format's places, halves away from zero. Zero has no sign.
 /// Error 5 for a format that NumberFormat does not read, 6 for a value that is not finite.
 std::string FormatNumber(float value, std::string_view format, const RegionalSettings& settings);
 std::string FormatNumber(double value, std::string_view format, const RegionalSettings& settings);

@@ -13,7 +13,7 @@ namespace k7deval
 class NumericText
 {
 public:
-    /// Nothing when the text is not a number as the region writes it.
+    /// No value when the text is not a number as the region writes it.
     static std::optional<NumericText> read(std::string_view text, const RegionalSettings& settings);
 
     /// The nearest double. Error 6 when the number is too large; a number too small is 0.

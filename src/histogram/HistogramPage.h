@@ -10,7 +10,7 @@
 namespace k7deval::histogram
 {
 
-/// What stands at the head and the foot of the page.
+/// The texts at the head and the foot of the page.
 struct PageTexts {
     std::string facility;
     std::string heading; ///< The report's name, also in the footer.
@@ -22,7 +22,7 @@ struct PageTexts {
 /// The footer and the rows at the top. Returns the y of the last of them.
 float drawHead(ReportPage& page, const PageTexts& texts);
 
-/// A level of the range, above the chart: where its middle stands, and what stands there.
+/// A level of the range, above the chart: the x of its middle, and its texts.
 struct LevelColumn {
     float centre = 0;
     std::string percent;

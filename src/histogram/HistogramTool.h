@@ -22,7 +22,7 @@
 namespace k7deval::histogram
 {
 
-/// Where the two tools place what both have, in twips.
+/// Where each of the two tools places what both have, in twips.
 struct ToolLook {
     std::string name;
     std::string title; ///< Of message boxes without a title of their own: the tool's name.
@@ -49,7 +49,7 @@ struct ToolLook {
 class HistogramTool : public screen::Control
 {
 public:
-    /// The data; nothing until it is set.
+    /// The data; null until it is set.
     [[nodiscard]] std::shared_ptr<k7deval::DIServer> DIServer() const { return server_; }
     virtual void SetDIServer(std::shared_ptr<k7deval::DIServer> server) = 0;
     /// Ends the control's life: drops the data.
@@ -109,17 +109,17 @@ protected:
 
     /// The data. Error 91 when it was never set.
     [[nodiscard]] k7deval::DIServer& data() const { return present(server_); }
-    /// The entry of a parameter in the list, with its PID ahead if that is wanted.
+    /// A parameter's entry in the list, with its PID in front if that is wanted.
     [[nodiscard]] std::string parameterEntry(DIParameter& parameter) const;
 
-    /// What an evaluation reads: a series, and what its status words say.
+    /// What an evaluation reads: a series, and the meanings of its status words.
     struct HourSource {
         std::shared_ptr<DIParameter> parameter;
         std::shared_ptr<DIStatusCodes> statusCodes;
     };
-    /// The hours of a parameter; nothing for one that is gone.
+    /// The hours of a parameter; none for one that is gone.
     [[nodiscard]] std::optional<HourSource> hoursOf(PID pid) const;
-    /// What stands behind the percents of the three levels.
+    /// What follows the percents of the three levels.
     struct LevelTails {
         std::string low;
         std::string mid;
@@ -130,7 +130,7 @@ protected:
     /// The values at the four marks.
     void showScale(const std::string& minimum, float low, float mid, float maximum);
 
-    /// What the report of a tool bears.
+    /// The texts of a tool's report.
     struct ReportTexts {
         std::string author; ///< Also its creator.
         std::string subject;

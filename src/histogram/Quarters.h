@@ -54,7 +54,7 @@ struct QuarterCount {
     int withData = 0;
     int empty = 0;
 
-    /// A quarter counts as one with data by a single valid hour.
+    /// One valid hour is enough for a quarter to count as one with data.
     void count(std::int32_t validHours) { ++(validHours > 0 ? withData : empty); }
     [[nodiscard]] bool isAtLimit() const { return withData + empty >= kMostQuarters; }
 };

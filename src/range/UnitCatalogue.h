@@ -22,7 +22,7 @@ using ParameterScales = OrderedMap<PID, ScaleSpans>;
 using Catalogue = OrderedMap<PID, ParameterScales>;
 
 /// Adds to a catalogue the analyzers that a site's calibration definitions name. Of two definitions
-/// of one scale the first wins; a span that is missing or no number counts as 100.
+/// of one scale the first wins; a span that is missing or not a number counts as 100.
 void addToCatalogue(Catalogue& catalogue, DIServer& server, const RegionalSettings& regional);
 
 } // namespace k7deval

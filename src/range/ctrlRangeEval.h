@@ -17,8 +17,8 @@ class ctrlRangeEval : public histogram::HistogramTool
 public:
     explicit ctrlRangeEval(const screen::Surroundings& surroundings);
 
-    /// Hands over the data, adds its analyzers to the catalogue, and picks the first unit. Nothing
-    /// empties the boxes.
+    /// Hands over the data, adds its analyzers to the catalogue, and picks the first unit. No data
+    /// at all empties the boxes.
     void SetDIServer(std::shared_ptr<k7deval::DIServer> server) override;
     void Terminate() override;
 

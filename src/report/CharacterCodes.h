@@ -11,8 +11,8 @@ namespace k7deval
 /// square brackets, "[0xE9]".
 [[nodiscard]] std::u32string charactersOf(std::string_view text);
 
-/// The byte that stands for a character in Windows-1252; none for a character outside of it and for
-/// a control character.
+/// The byte that stands for a character in Windows-1252; none for a character outside it or a
+/// control character.
 [[nodiscard]] std::optional<unsigned char> windows1252(char32_t character);
 
 /// The character that a byte of Windows-1252 stands for; none for a control character.

@@ -24,7 +24,7 @@ struct FontFiles {
     bool operator==(const FontFiles&) const = default;
 };
 
-/// The places in which Debian and Windows keep suitable faces.
+/// Where Debian and Windows keep suitable faces.
 [[nodiscard]] FontFiles defaultFontFiles();
 
 } // namespace k7deval

@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] const std::string& Caption() const { return caption_; }
 
-    /// The user's press.
+    /// The user presses the button.
     void Press();
     Event<> Clicked;
 
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] bool isChecked() const { return checked_; }
     void setChecked(bool checked);
 
-    /// The user's press: toggles the box.
+    /// The user presses the box, which toggles it.
     void Press();
     Event<> Clicked;
 
@@ -54,7 +54,7 @@ private:
 
 class OptionButton;
 
-/// The options of which at most one is selected.
+/// A group of options, at most one of which is selected.
 class OptionGroup
 {
 private:
@@ -71,10 +71,10 @@ public:
 
     [[nodiscard]] const std::string& Caption() const { return caption_; }
     [[nodiscard]] bool isSelected() const { return selected_; }
-    /// Selecting an option deselects the others of its group. Deselecting one runs nothing.
+    /// Selecting an option deselects the others of its group. Deselecting one runs no rule.
     void setSelected(bool selected);
 
-    /// The user's press: selects the option.
+    /// The user presses the option, which selects it.
     void Press();
     Event<> Clicked;
 

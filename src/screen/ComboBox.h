@@ -20,16 +20,16 @@ class ComboBox final : public Widget
 public:
     ComboBox(Container& parent, std::string name, EditField editField = EditField::No);
 
-    /// Whether the user can type in it, too.
+    /// Whether the user can also type in it.
     [[nodiscard]] bool hasEditField() const { return editField_ == EditField::Yes; }
 
-    /// Empties the list: no entry selected, empty text. Runs nothing.
+    /// Empties the list and the text and deselects; runs no rule.
     void clear();
     void addItem(std::string text, std::int32_t itemData = 0);
-    /// Removes an entry, which runs nothing. The selection stays with its entry, or goes with it.
+    /// Removes an entry, which runs no rule. The selection stays with its entry, or goes with it.
     /// Error 381 outside the list.
     void removeItem(std::int32_t index);
-    /// Rewrites an entry in place, which runs nothing; the selection stays, and its text follows.
+    /// Rewrites an entry in place, which runs no rule; the selection stays, and its text follows.
     /// Error 381 outside the list.
     void setItemText(std::int32_t index, std::string text);
     [[nodiscard]] std::int32_t listCount() const { return static_cast<std::int32_t>(list_.size()); }
@@ -38,7 +38,7 @@ public:
 
     /// The selected entry from 0; -1 for none.
     [[nodiscard]] std::int32_t ListIndex() const { return listIndex_; }
-    /// Picks an entry by code. -1 deselects and runs nothing; error 381 outside the list.
+    /// Picks an entry by code. -1 deselects and runs no rule; error 381 outside the list.
     void SetListIndex(std::int32_t index);
     /// Item data of the selected entry; error 381 with none selected.
     [[nodiscard]] std::int32_t ItemData() const;
@@ -49,7 +49,7 @@ public:
 
     /// The user picks an entry; an index outside the list does nothing.
     void Pick(std::int32_t index);
-    /// The user types in the edit field, which selects no entry; nothing on a list without one.
+    /// The user types in the edit field, which selects no entry. A list without one ignores it.
     void Type(std::string_view text);
 
     Event<> Picked;

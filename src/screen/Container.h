@@ -10,7 +10,7 @@
 namespace k7deval::screen
 {
 
-/// A widget that others lie in.
+/// A widget that holds others.
 class Container : public Widget
 {
 public:
@@ -54,9 +54,9 @@ public:
     [[nodiscard]] screen::MousePointer MousePointer() const { return mousePointer_; }
 
     /// The control's widgets in the order in which they were made, those in frames after their
-    /// frame. A page is listed as one widget; its own widgets are asked of it.
+    /// frame. A page is listed as one widget; ask the page for its own.
     [[nodiscard]] std::vector<Widget*> widgets() const;
-    /// A widget by its name, or nothing.
+    /// The widget of that name, or null.
     [[nodiscard]] Widget* Find(std::string_view name) const;
 
     [[nodiscard]] std::string_view kind() const override { return "Control"; }

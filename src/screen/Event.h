@@ -7,7 +7,7 @@
 namespace k7deval::screen
 {
 
-/// Something that others may follow. Handlers run in the order in which they were connected.
+/// Something that others can be told of. Handlers run in the order in which they were connected.
 template <class... Args> class Event
 {
 public:

@@ -26,7 +26,7 @@ class Grid final : public Widget
 public:
     Grid(Container& parent, std::string name);
 
-    /// Answers a read request for a row.
+    /// Answers when the list asks for a row.
     std::function<GridCells(std::int32_t row)> ReadRow;
     /// Takes the new value of column 1 of a row.
     std::function<void(std::int32_t row, bool value)> WriteRow;
@@ -37,7 +37,7 @@ public:
 
     [[nodiscard]] std::int32_t RowCount() const { return rowCount_; }
     void SetRowCount(std::int32_t count) { update(rowCount_, count); }
-    /// Lets the list ask for its rows anew.
+    /// Makes the list ask for its rows again.
     void readAgain() { Changed.raise(); }
     /// The cells of a row, as the control answers for them. Error 381 outside the list.
     [[nodiscard]] GridCells Cells(std::int32_t row) const;

@@ -45,7 +45,7 @@ public:
     void SetBold(bool bold) { update(bold_, bold); }
     [[nodiscard]] const std::string& ToolTipText() const { return toolTipText_; }
     void SetToolTipText(std::string text);
-    /// How the caption stands in the label's place.
+    /// Where the caption is aligned within the label.
     [[nodiscard]] screen::Alignment Alignment() const { return alignment_; }
 
     [[nodiscard]] std::string_view kind() const override { return "Label"; }

@@ -34,13 +34,13 @@ class Services
 {
 public:
     virtual ~Services() = default;
-    /// Asks for a file to save. filter: "name|pattern|name|pattern...". Nothing when the user
-    /// cancels.
+    /// Asks for a file to save. filter: "name|pattern|name|pattern...". Gives no answer when the
+    /// user cancels.
     virtual std::optional<SaveAnswer> ShowSave(const std::string& filter,
                                                const std::string& defaultExtension) = 0;
     virtual MsgBoxAnswer MsgBox(const MsgBoxRequest& request) = 0;
-    /// Shows a calendar at a date. The three last arguments are always -1. Nothing when no date was
-    /// picked.
+    /// Shows a calendar at a date. The last three arguments are always -1. Gives no date when the
+    /// user picks none.
     virtual std::optional<Date> PickDate(const std::string& title, Date date, std::int32_t,
                                          std::int32_t, std::int32_t) = 0;
     /// Opens a saved file in the platform's viewer: path, 0, owner window, 0, show command 1.

@@ -36,11 +36,11 @@ public:
     TreeNode& addRoot(TreeNode node);
     /// Adds an entry under another. Error 457 for a key that the tree has, 5 for an unknown parent.
     TreeNode& addChild(const std::string& parentKey, TreeNode node);
-    /// An entry by its key, or nothing.
+    /// The entry with that key, or null.
     [[nodiscard]] TreeNode* Find(std::string_view key) const;
 
     [[nodiscard]] const TreeNode* SelectedItem() const { return selected_; }
-    /// Selects an entry by code; runs nothing.
+    /// Selects an entry by code; runs no rule.
     void SetSelectedItem(const TreeNode& node);
     [[nodiscard]] Color BackColor() const { return backColor_; }
     void SetBackColor(Color value) { update(backColor_, value); }

@@ -44,14 +44,14 @@ public:
     /// Moves the widget without changing its size.
     void move(float left, float top);
 
-    /// What the widget lies in; nothing for a screen of its own.
+    /// What holds the widget; null for a screen of its own.
     [[nodiscard]] Container* parent() const { return parent_; }
-    /// Whether a user can act on it: it and all that it lies in are visible and enabled.
+    /// Whether a user can act on it: it and everything around it are visible and enabled.
     [[nodiscard]] bool isReachable() const;
 
     /// The kind of widget, such as "ComboBox".
     [[nodiscard]] virtual std::string_view kind() const = 0;
-    /// All that stands in the widget, by name.
+    /// Everything that the widget holds, by name.
     [[nodiscard]] virtual PropertyList Properties() const;
 
     /// Something that a view mirrors has changed.

@@ -25,7 +25,7 @@ struct ParamRow {
     friend bool operator==(const ParamRow&, const ParamRow&) = default;
 };
 
-/// Whether the filter of units has the entry for all of them, and units without a parameter.
+/// Whether the filter of units has an entry for all of them, and units without a parameter.
 struct UnitFilter {
     bool allUnits = true;
     bool unpopulatedUnits = false;
@@ -39,7 +39,7 @@ class ParamRows
 {
 public:
     /// Replaces the rows. A list of another form and an empty one leave the old rows where they
-    /// are, though none of them counts any more, and so do the old rows behind the last of a
+    /// are, though none of them counts any longer, and so do the old rows behind the last of a
     /// shorter list. With unitsInList the list brings its own unit rows, else they are made here,
     /// and its units are dropped. PIDs that do not exist are skipped. Error 91 without data; after
     /// a failure of the data the rows up to it count.
@@ -49,7 +49,7 @@ public:
 
     /// How many rows count.
     [[nodiscard]] std::int32_t Count() const { return count_; }
-    /// All rows, also such as don't count any more.
+    /// All rows, also those that no longer count.
     [[nodiscard]] const Array<ParamRow>& all() const { return rows_; }
     [[nodiscard]] const ParamRow& operator[](std::int32_t index) const { return rows_[index]; }
     void select(std::int32_t index, bool selected) { rows_[index].isSelected = selected; }

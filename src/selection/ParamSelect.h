@@ -24,7 +24,7 @@ public:
     ParamSelect();
 
     [[nodiscard]] bool AllUnitsInCombo() const { return allUnitsInCombo_; }
-    /// Takes effect when the filter is filled next.
+    /// Takes effect the next time the filter is filled.
     void SetAllUnitsInCombo(bool value) { allUnitsInCombo_ = value; }
     [[nodiscard]] bool OffsetUnits() const { return offsetUnits_; }
     /// Shows units as header rows. The next pick of a unit sets it anew.
@@ -38,20 +38,20 @@ public:
     [[nodiscard]] bool ShowUnitCombo() const { return showUnitCombo_; }
     void SetShowUnitCombo(bool value);
     [[nodiscard]] std::shared_ptr<k7deval::DIServer> DIServer() const { return server_; }
-    /// Nothing leaves the data that is there.
+    /// Handing over nothing keeps the data that was there.
     void SetDIServer(std::shared_ptr<k7deval::DIServer> server);
 
     /// The unit that the filter is set to; empty without a filter and for its first entry.
     [[nodiscard]] std::string GetUnitName() const;
-    /// Ticks all rows on view, units as well.
+    /// Ticks all rows that are shown, units as well.
     void SelectAll() { selectVisible(true); }
     void DeselectAll() { selectVisible(false); }
     /// Loads the rows; see ParamRows.
     void SetParamList(const ParamList& varParamList, bool blnUnitNamesInList = false);
-    /// The ticked rows on view, in their order; nothing when there are none.
+    /// The ticked rows that are shown, in their order; no list when there are none.
     [[nodiscard]] std::optional<std::vector<PID>> GetSelection() const;
 
-    /// Ends the control's life: drops the data and the rows on view.
+    /// Ends the control's life: drops the data and the rows that are shown.
     void Terminate();
     /// Gives the control a new size in twips.
     void Resize(float width, float height);

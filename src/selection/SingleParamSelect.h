@@ -24,11 +24,11 @@ public:
     void SetShowPIDNumber(bool value);
     [[nodiscard]] bool ShowUnpopulatedUnits() const { return showUnpopulatedUnits_; }
     void SetShowUnpopulatedUnits(bool value);
-    /// The filter is on view, and empty, until this is first set.
+    /// Until this is first set, the filter is shown and empty.
     [[nodiscard]] bool ShowUnitCombo() const { return showUnitCombo_; }
     void SetShowUnitCombo(bool value);
     [[nodiscard]] std::shared_ptr<k7deval::DIServer> DIServer() const { return server_; }
-    /// Nothing leaves the data that is there.
+    /// Handing over nothing keeps the data that was there.
     void SetDIServer(std::shared_ptr<k7deval::DIServer> server);
 
     /// Loads the rows; see ParamRows.

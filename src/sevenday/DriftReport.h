@@ -30,8 +30,8 @@ public:
     /// no file is left then.
     std::optional<Error> WriteDriftReport(const std::string& fileName);
 
-    /// The report with everything in its place, ready to be saved. Nothing when there are runs but
-    /// no days to show them in. Raises what keeps it from being built, such as error 9 for days
+    /// The report with everything in its place, ready to be saved. Null when there are runs but no
+    /// days to show them in. Raises what keeps it from being built, such as error 9 for days
     /// that were never sized.
     [[nodiscard]] std::unique_ptr<ReportDocument> build();
 

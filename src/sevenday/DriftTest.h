@@ -17,8 +17,8 @@ namespace k7deval
 /// (40 CFR 75 App. A 6.3.1: seven daily calibrations on consecutive operating days).
 ///
 /// The procedures take their input from the fields and leave their result there. Each has its own
-/// handler: a failure is posted to irm as the procedure's numbered line and ends it; what stands
-/// then stays.
+/// handler: a failure is posted to irm as the procedure's numbered line and ends it; what it
+/// has done by then stays.
 class DriftTest
 {
 public:
@@ -46,8 +46,8 @@ public:
     bool blnApplyLimits = false;
 
     // What was found.
-    std::shared_ptr<RunMap>
-        dictCals;    ///< All runs, ascending by key; absent before the first retrieval.
+    /// All runs, ascending by key; absent before the first retrieval.
+    std::shared_ptr<RunMap> dictCals;
     DayMap dictDays; ///< The days of the interval.
     PID lngOpTimePID = 0;
     std::int32_t lngGoodCals = 0;
@@ -78,11 +78,11 @@ public:
     /// Decides which runs make up the test: marks, counters and the fail days.
     void EvaluateDriftTest();
 
-    /// The days with marked runs, and of them the marked runs.
+    /// Shows the days with marked runs, and of these days the marked runs.
     void ShowDriftCals();
-    /// Everything up to the end of the test.
+    /// Shows everything up to the end of the test.
     void ShowCalsWithinDrift();
-    /// Everything in the interval.
+    /// Shows everything in the interval.
     void ShowIntervalCals();
 
     /// Puts the outcome into words.

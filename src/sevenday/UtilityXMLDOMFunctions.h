@@ -14,12 +14,12 @@ namespace k7deval
 /// An empty document.
 pugi::xml_document CreateXMLDocument();
 
-/// Adds an element with a text as the parent's last child. Nothing without a parent.
+/// Adds an element with a text as the parent's last child. Does nothing without a parent.
 pugi::xml_node AddChildElement(pugi::xml_node parent, const std::string& name,
                                const std::string& text);
 
-/// Gives the first child of that name the text, and adds it where there is none. Nothing without a
-/// parent.
+/// Gives the first child of that name the text, and adds it where there is none. Does nothing
+/// without a parent.
 pugi::xml_node SetNodeText(pugi::xml_node parent, const std::string& name, const std::string& text);
 
 /// As SetNodeText with a date in a format made of "yyyy", "MM" or "mm", "dd", "HH" and "nn" ("mm"

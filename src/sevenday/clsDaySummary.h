@@ -16,8 +16,8 @@ using RunArray = Array<std::shared_ptr<cls7DayAnalyzerCal>>;
 class clsDaySummary
 {
 public:
-    bool OpStatusIsUndetermined =
-        false;              ///< An hour has no operating data, or none can be had at all.
+    /// An hour has no operating data, or none can be had at all.
+    bool OpStatusIsUndetermined = false;
     Date TStamp;            ///< Midnight at the beginning of the day.
     RunArray DisplayedCals; ///< The runs that the results page and the report show.
 

@@ -89,7 +89,7 @@ private:
     const RegionalSettings* regional_;
 };
 
-/// The run that a tree entry stands for, or nothing.
+/// The run that a tree entry stands for, or null.
 std::shared_ptr<cls7DayAnalyzerCal> runOf(const screen::TreeNode& node);
 
 } // namespace k7deval

@@ -145,7 +145,7 @@ private:
     void chooseSpecification(std::int32_t code, std::int32_t program);
     void takeAnalyzer(PID pid, std::int32_t program);
 
-    /// What an option leaves enabled.
+    /// Enables what belongs to an option, and disables the rest.
     void specificationRule(bool apsEnabled, bool otherSpanEnabled, bool otherAbsoluteEnabled);
     void offerOtherLimit(screen::TextBox& field, bool enabled, float limit) const;
 

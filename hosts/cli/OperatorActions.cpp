@@ -3,6 +3,7 @@
 #include "foundation/DateText.h"
 #include "foundation/Error.h"
 #include "foundation/NumberText.h"
+#include "foundation/TextFunctions.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -28,7 +29,6 @@ bool isSingle(const std::string& text, const RegionalSettings& regional)
 /// A screen takes any other text for the present year.
 bool isYear(const std::string& text)
 {
-    const auto isDigit = [](char character) { return character >= '0' && character <= '9'; };
     return (text.size() == 3 || text.size() == 4) && text.front() != '0' &&
            std::all_of(text.begin(), text.end(), isDigit);
 }

@@ -65,7 +65,7 @@ void DriftSession::pickAnalyzer(const std::string& analyzer)
                   "Unit " + page.cmbUnit.Text() + " has no analyzer " + inQuotes(analyzer));
     }
     if (postedLines().size() > linesBefore_)
-        throw UsageError("The setup page of " + trimRight(page.AnalyzerInfoText()) +
+        throw UsageError("The setup page of " + std::string(trimRight(page.AnalyzerInfoText())) +
                          " could not be filled in " +
                          asReason(postedLines().at(linesBefore_), "because a step failed") + ".");
     if (page.cmbAnalyzer.ItemData() == 0)

@@ -19,8 +19,6 @@ namespace
 constexpr double kLineWidth = 0.5;
 // Fonts have whole sizes here, so texts are set large and drawn smaller.
 constexpr int kSetSize = 200;
-constexpr int kTitleFont = 6;
-constexpr int kFooterFont = 7;
 
 /// The edges of lines are as the PDF file has them.
 QPen penOf(const QColor& color)
@@ -74,7 +72,7 @@ QFont fontOf(const ReportTextItem& text, const TextLayout& layout)
     font.setFamilies(familiesOf(layout));
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(kSetSize);
-    font.setBold(text.Font() == kTitleFont);
+    font.setBold(text.Font() == kHeadingFont);
     font.setItalic(text.Font() == kFooterFont);
     font.setKerning(false);
     font.setHintingPreference(QFont::PreferNoHinting);

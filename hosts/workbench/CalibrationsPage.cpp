@@ -25,11 +25,7 @@ constexpr int kMonthsProposed = 12;
 /// A calibration parameter that the lists of analyzers show.
 bool isListed(DIParameter& parameter, const RegionalSettings& regional)
 {
-    const Variant table = parameter.GetAttribute(attribute::kRecordTable);
-    if (isNull(table) || toText(table, regional) != kCalibrationTable)
-        return false;
-    const Variant leftOut = parameter.GetAttribute(attribute::kLeftOutOfLists);
-    return isNull(leftOut) || !booleanIn(leftOut, regional);
+    return definesCalibrations(parameter) && !isLeftOutOfLists(parameter, regional).value_or(false);
 }
 
 DIParameterList listedCalibrations(DIServer& server, const RegionalSettings& regional)

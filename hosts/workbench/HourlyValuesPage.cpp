@@ -19,7 +19,6 @@ namespace
 {
 
 constexpr int kDaysProposed = 31;
-constexpr int kHoursPerDay = 24;
 
 /// "8,784 hours"
 QString countText(int count, const QString& what, const RegionalSettings& regional)

@@ -79,7 +79,7 @@ InjectionRow rowOf(DIRecord& record, ParameterNames& names, const RegionalSettin
     row.drift = driftOf(row, regional);
     row.span = record.Span();
     row.manual = record.Manual();
-    row.isOffline = record.CalStatus() == kOfflineCalibration;
+    row.isOffline = record.CalStatus() == status::kOfflineCalibration;
     row.parameter = names.of(record.SourceTagID());
     return row;
 }

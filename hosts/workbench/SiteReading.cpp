@@ -3,7 +3,6 @@
 #include "foundation/RegionalSettings.h"
 #include "foundation/UtilityFunctions.h"
 #include "qt/Texts.h"
-#include "sevenday/CalibrationTables.h"
 
 #include <algorithm>
 #include <cmath>

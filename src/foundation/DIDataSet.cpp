@@ -11,7 +11,6 @@ namespace k7deval
 namespace
 {
 
-constexpr std::int64_t kSecondsPerHour = 3600;
 constexpr double kNoValue = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace

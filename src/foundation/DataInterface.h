@@ -1,13 +1,16 @@
 #pragma once
 
 #include "foundation/DIDataSet.h"
+#include "foundation/DataCodes.h"
 #include "foundation/Date.h"
 #include "foundation/Error.h"
 #include "foundation/PIDFunctions.h"
+#include "foundation/RegionalSettings.h"
 #include "foundation/Variant.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,33 +25,6 @@ class DIRecord;
 using DIParameterList = std::vector<std::shared_ptr<DIParameter>>;
 using DIRecordList = std::vector<std::shared_ptr<DIRecord>>;
 using ParamTypes = std::vector<std::int32_t>;
-
-/// Configuration attributes by the ids under which the data interface keeps them.
-namespace attribute
-{
-inline constexpr std::int32_t kDecimals = -16;       ///< i4: decimals of the analyzer
-inline constexpr std::int32_t kMeasuredPID = -21;    ///< i4: measured parameter of a calibration
-inline constexpr std::int32_t kLeftOutOfLists = -25; ///< Boolean
-inline constexpr std::int32_t kScale = -56;          ///< "SINGLE", "LOW", "MID", "HIGH", ...
-inline constexpr std::int32_t kRangeUse = -57;       ///< i4: only 0 qualifies for range evaluation
-inline constexpr std::int32_t kOrisCode = -95;       ///< i4, of a unit
-inline constexpr std::int32_t kSeveralStacks = -96;  ///< Boolean, of a unit
-inline constexpr std::int32_t kUnitIdentifier = -97; ///< text padded with blanks, of a unit
-inline constexpr std::int32_t kStackIdentifiers = -98; ///< texts separated by ";", of a unit
-inline constexpr std::int32_t kComponentId = -115;     ///< text
-inline constexpr std::int32_t kRecordTable = -300;     ///< "K7CAL" marks a calibration parameter
-inline constexpr std::int32_t kTestNumberBase = -367;  ///< a gas name such as "O2DRY"
-inline constexpr std::int32_t kOperatingTimePID = -60; ///< linked PID, of a unit or linked object
-inline constexpr std::int32_t kLinkedObjectPID = -66;  ///< linked PID, of a measured parameter
-} // namespace attribute
-
-/// Parameter type of a unit, and of a calibration definition.
-inline constexpr std::int32_t kUnitType = 25;
-inline constexpr std::int32_t kCalibrationType = 3;
-/// The record table that marks a calibration parameter.
-inline constexpr const char* kCalibrationTable = "K7CAL";
-/// CalStatus of a calibration that was made off-line.
-inline constexpr std::int32_t kOfflineCalibration = 29;
 
 /// A data interval; both are 1 for one hour.
 struct DIInterval {
@@ -239,6 +215,11 @@ template <class Handle> auto& present(const Handle& handle)
         throw Error(errors::kObjectNotSet);
     return *handle;
 }
+
+/// Whether a parameter defines calibrations, by the table that it keeps its records in.
+bool definesCalibrations(DIParameter& parameter);
+/// Whether lists leave a parameter out; nothing where that is not configured.
+std::optional<bool> isLeftOutOfLists(DIParameter& parameter, const RegionalSettings& settings);
 
 /// The name of the facility from the site's lookup table, or "<Facility Name>" when it has none.
 std::string facilityName(DIServer& server);

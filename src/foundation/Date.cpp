@@ -1,6 +1,7 @@
 #include "foundation/Date.h"
 
 #include "foundation/Error.h"
+#include "foundation/TextFunctions.h"
 
 #include <chrono>
 #include <cmath>
@@ -15,11 +16,6 @@ namespace
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr int kFirstYear = 100;
-constexpr int kLastYear = 9999;
-constexpr std::int64_t kSecondsPerMinute = 60;
-constexpr std::int64_t kSecondsPerHour = 3600;
-constexpr std::int64_t kSecondsPerDay = 86400;
 constexpr std::int64_t kMonthsPerYear = 12;
 
 constexpr sys_days kZeroDay{std::chrono::year{1899} / 12 / 30};
@@ -47,22 +43,13 @@ std::int64_t checkedSeconds(std::int64_t seconds)
     return seconds;
 }
 
-void appendPadded(std::string& text, int value, int width)
-{
-    const std::string digits = std::to_string(value);
-    for (auto length = static_cast<int>(digits.size()); length < width; ++length)
-        text += '0';
-    text += digits;
-}
-
 std::string calendarText(const DateParts& parts, std::string_view separator)
 {
-    std::string text;
-    appendPadded(text, parts.year, 4);
+    std::string text = withZerosAhead(std::to_string(parts.year), 4);
     text += separator;
-    appendPadded(text, parts.month, 2);
+    text += twoDigits(parts.month);
     text += separator;
-    appendPadded(text, parts.day, 2);
+    text += twoDigits(parts.day);
     return text;
 }
 
@@ -131,12 +118,7 @@ std::int64_t dayBoundariesBetween(Date from, Date to)
 std::string minuteKey(Date value)
 {
     const DateParts parts = dateParts(value);
-    std::string key = calendarText(parts, "/");
-    key += ' ';
-    appendPadded(key, parts.hour, 2);
-    key += ':';
-    appendPadded(key, parts.minute, 2);
-    return key;
+    return calendarText(parts, "/") + ' ' + twoDigits(parts.hour) + ':' + twoDigits(parts.minute);
 }
 
 std::string dayKey(Date value)

@@ -7,6 +7,14 @@
 namespace k7deval
 {
 
+inline constexpr std::int64_t kSecondsPerMinute = 60;
+inline constexpr std::int64_t kSecondsPerHour = 3600;
+inline constexpr std::int64_t kSecondsPerDay = 86400;
+inline constexpr std::int32_t kHoursPerDay = 24;
+/// The years that the calendar has.
+inline constexpr int kFirstYear = 100;
+inline constexpr int kLastYear = 9999;
+
 /// A date and time: days since 1899-12-30 00:00, the fraction being the time of day. Local standard
 /// time throughout. The zero date means "not set".
 struct Date {

@@ -45,7 +45,6 @@ std::optional<Number> takeNumber(TextScanner& scanner)
 // Two-digit years up to 29 lie in this century, the others in the last one.
 std::optional<int> yearOf(const Number& number)
 {
-    constexpr int kFirstYear = 100;
     constexpr int kFirstYearOfLastCentury = 30;
     if (number.isFullYear())
         return number.value >= kFirstYear ? std::optional(number.value) : std::nullopt;

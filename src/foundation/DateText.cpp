@@ -2,6 +2,7 @@
 
 #include "foundation/DateReader.h"
 #include "foundation/Error.h"
+#include "foundation/TextFunctions.h"
 
 namespace k7deval
 {
@@ -11,9 +12,9 @@ namespace
 
 constexpr int kHoursPerHalfDay = 12;
 
-std::string padded(int value, bool twoDigits)
+std::string numberText(int value, bool isPadded)
 {
-    return twoDigits && value < 10 ? '0' + std::to_string(value) : std::to_string(value);
+    return isPadded ? twoDigits(value) : std::to_string(value);
 }
 
 // The mark of the half day with the blank ahead of it; nothing in a region without marks.
@@ -34,8 +35,8 @@ int twelveHour(int hour)
 std::string ShortDate(Date value, const RegionalSettings& settings)
 {
     const DateParts parts = dateParts(value);
-    const std::string day = padded(parts.day, settings.twoDigitDayAndMonth);
-    const std::string month = padded(parts.month, settings.twoDigitDayAndMonth);
+    const std::string day = numberText(parts.day, settings.twoDigitDayAndMonth);
+    const std::string month = numberText(parts.month, settings.twoDigitDayAndMonth);
     const std::string year = std::to_string(parts.year);
     const std::string& separator = settings.dateSeparator;
     switch (settings.dateOrder) {
@@ -54,22 +55,22 @@ std::string longTime(Date value, const RegionalSettings& settings)
     const DateParts parts = dateParts(value);
     const bool twelveHours = settings.twelveHourLongTime;
     const int hour = twelveHours ? twelveHour(parts.hour) : parts.hour;
-    return padded(hour, settings.twoDigitHour) + ':' + padded(parts.minute, true) + ':' +
-           padded(parts.second, true) +
+    return numberText(hour, settings.twoDigitHour) + ':' + twoDigits(parts.minute) + ':' +
+           twoDigits(parts.second) +
            (twelveHours ? halfDayMark(parts.hour, settings) : std::string());
 }
 
 std::string mediumTime(Date value, const RegionalSettings& settings)
 {
     const DateParts parts = dateParts(value);
-    return padded(twelveHour(parts.hour), true) + ':' + padded(parts.minute, true) +
+    return twoDigits(twelveHour(parts.hour)) + ':' + twoDigits(parts.minute) +
            halfDayMark(parts.hour, settings);
 }
 
 std::string ShortTime(Date value, const RegionalSettings& /*settings*/)
 {
     const DateParts parts = dateParts(value);
-    return padded(parts.hour, true) + ':' + padded(parts.minute, true);
+    return twoDigits(parts.hour) + ':' + twoDigits(parts.minute);
 }
 
 bool IsDate(std::string_view text, const RegionalSettings& settings, Date today)

@@ -1,5 +1,7 @@
 #include "foundation/MonthNames.h"
 
+#include "foundation/TextFunctions.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -44,27 +46,6 @@ std::optional<int> monthAmong(const Names& names, const std::string& word)
 }
 
 } // namespace
-
-std::string lowerCase(std::string_view text)
-{
-    // The accented capitals are two bytes: this one, and one that is 32 below the small letter's.
-    constexpr unsigned kAccentLead = 0xC3;
-    constexpr unsigned kFirstAccented = 0x80;
-    constexpr unsigned kLastAccented = 0x9E;
-    constexpr unsigned kMultiplicationSign = 0x97;
-    std::string lower(text);
-    unsigned previous = 0;
-    for (char& character : lower) {
-        const unsigned byte = static_cast<unsigned char>(character);
-        const bool capital = byte >= 'A' && byte <= 'Z';
-        const bool accented = previous == kAccentLead && byte >= kFirstAccented &&
-                              byte <= kLastAccented && byte != kMultiplicationSign;
-        if (capital || accented)
-            character = static_cast<char>(byte + ('a' - 'A'));
-        previous = byte;
-    }
-    return lower;
-}
 
 std::optional<int> monthNamed(std::string_view word, const RegionalSettings& settings)
 {

@@ -13,7 +13,4 @@ namespace k7deval
 /// in either case. Nothing for any other word and for letters that several months begin with.
 std::optional<int> monthNamed(std::string_view word, const RegionalSettings& settings);
 
-/// The text with the letters A to Z and their accented kin of Western Europe in lower case.
-std::string lowerCase(std::string_view text);
-
 } // namespace k7deval

@@ -2,6 +2,7 @@
 
 #include "foundation/Error.h"
 #include "foundation/NumericText.h"
+#include "foundation/TextFunctions.h"
 
 #include <algorithm>
 #include <array>
@@ -126,7 +127,7 @@ std::string scientificText(const Decimal& decimal, int exponent, const RegionalS
         text.insert(1, settings.decimalMark);
     const std::string power = std::to_string(std::abs(exponent));
     text += exponent < 0 ? "E-" : "E+";
-    text += power.size() < 2 ? '0' + power : power;
+    text += withZerosAhead(power, 2);
     return decimal.negative ? '-' + text : text;
 }
 

@@ -1,6 +1,7 @@
 #include "foundation/NumericText.h"
 
 #include "foundation/Error.h"
+#include "foundation/TextFunctions.h"
 
 #include <algorithm>
 #include <charconv>
@@ -56,14 +57,6 @@ std::string_view takeDigits(std::string_view& text)
     return digits;
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t begin = text.find_first_not_of(kBlanks);
-    if (begin == std::string_view::npos)
-        return {};
-    return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
-}
-
 // What may stand around the digits: one sign or pair of parentheses, and one currency mark.
 struct SignAndCurrency {
     bool sign = false;
@@ -92,7 +85,7 @@ struct SignAndCurrency {
 std::optional<NumericText> NumericText::read(std::string_view text,
                                              const RegionalSettings& settings)
 {
-    text = trimmed(text);
+    text = trimmed(text, kBlanks);
     SignAndCurrency found;
     while (found.takeOne(text, settings)) {
     }

@@ -2,6 +2,7 @@
 
 #include "foundation/Error.h"
 #include "foundation/NumberText.h"
+#include "foundation/TextFunctions.h"
 
 #include <limits>
 #include <optional>
@@ -13,12 +14,10 @@ namespace k7deval
 namespace
 {
 
-constexpr std::int32_t kUnitFactor = 100000000;
 constexpr std::int32_t kParameterCodeFactor = 100000;
 constexpr std::int32_t kVariantDigitFactor = 10000;
 constexpr std::int32_t kProgramCodeFactor = 100;
 
-constexpr std::int32_t kHighestUnit = 19;
 constexpr std::int32_t kLowestPID = 100000;
 constexpr std::int32_t kHighestPID = 1999999999;
 
@@ -43,16 +42,9 @@ struct ValidPIDTest {
     template <class Other> bool operator()(const Other&) const { return false; }
 };
 
-std::string padded(std::int32_t value, std::size_t width)
+std::string partText(PID pid, int part, std::size_t width)
 {
-    const std::string digits = std::to_string(value);
-    return std::string(width - std::min(width, digits.size()), '0') + digits;
-}
-
-std::string_view trimLeft(std::string_view text)
-{
-    const std::size_t begin = text.find_first_not_of(' ');
-    return begin == std::string_view::npos ? std::string_view() : text.substr(begin);
+    return withZerosAhead(std::to_string(PIDPart(pid, part)), width);
 }
 
 // What stands in the square brackets that open a text; "@" behind the bracket marks another use.
@@ -66,11 +58,6 @@ std::string bracketContent(std::string_view text)
     if (text.starts_with('@') || end == std::string_view::npos)
         return {};
     return std::string(text.substr(0, end));
-}
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
 }
 
 // Takes the last character, which may be several bytes long.
@@ -137,11 +124,9 @@ std::string PIDToText(PID pid)
 {
     if (!isValidInteger(pid))
         return {};
-    return std::to_string(PIDPart(pid, pidpart::kUnit)) + '-' +
-           padded(PIDPart(pid, pidpart::kParameterCode), 3) + '-' +
-           padded(PIDPart(pid, pidpart::kVariantDigit), 1) + '-' +
-           padded(PIDPart(pid, pidpart::kProgramCode), 2) + '-' +
-           padded(PIDPart(pid, pidpart::kSuffix), 2);
+    return partText(pid, pidpart::kUnit, 1) + '-' + partText(pid, pidpart::kParameterCode, 3) +
+           '-' + partText(pid, pidpart::kVariantDigit, 1) + '-' +
+           partText(pid, pidpart::kProgramCode, 2) + '-' + partText(pid, pidpart::kSuffix, 2);
 }
 
 std::string nameWithPID(PID pid, const std::string& name)

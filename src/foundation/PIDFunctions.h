@@ -23,8 +23,17 @@ inline constexpr int kVariantDigit = 5;
 inline constexpr int kVariantDigitSevenAsEight = -5;
 } // namespace pidpart
 
-/// Program code of a parameter under 40 CFR 75.
-inline constexpr int kProgram40CFR75 = 75;
+/// Program codes: of a parameter under 40 CFR 60 or 75, and of one under none.
+inline constexpr std::int32_t kProgram40CFR60 = 60;
+inline constexpr std::int32_t kProgram40CFR75 = 75;
+inline constexpr std::int32_t kNoProgram = 0;
+/// Parameter code of a unit's load.
+inline constexpr std::int32_t kLoadCode = 602;
+
+/// The highest number of a unit.
+inline constexpr std::int32_t kHighestUnit = 19;
+/// What one unit is in a PID.
+inline constexpr std::int32_t kUnitFactor = 100'000'000;
 
 /// The PID of the fields, or 0 when one is out of its range or the PID is not valid.
 PID MakePID(std::int32_t unit, std::int32_t parameterCode, std::int32_t variantDigit,

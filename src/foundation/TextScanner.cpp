@@ -1,6 +1,6 @@
 #include "foundation/TextScanner.h"
 
-#include "foundation/MonthNames.h"
+#include "foundation/TextFunctions.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,11 +14,6 @@ namespace
 bool isBlank(char character)
 {
     return character == ' ' || character == '\t';
-}
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
 }
 
 bool isLetter(char character)

@@ -15,32 +15,19 @@ namespace k7deval
 namespace
 {
 
-constexpr std::int64_t kSecondsPerMinute = 60;
-constexpr std::int64_t kSecondsPerHour = 3600;
-constexpr std::int64_t kSecondsPerDay = 86400;
 // Ten thousand years: no sum from farther away lies in the calendar.
 constexpr double kFarthestMonths = 120000;
 constexpr double kFarthestSeconds = 3.2e11;
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
 
 bool startsWithTwoDigits(std::string_view text)
 {
     return text.size() > 1 && isDigit(text[0]) && isDigit(text[1]);
 }
 
-std::string twoDigits(int value)
-{
-    return value < 10 ? '0' + std::to_string(value) : std::to_string(value);
-}
-
 // How the region's long time shows the hour.
 struct HourForm {
     bool twelveHours = false;
-    bool twoDigits = false;
+    bool isPadded = false;
 };
 
 HourForm hourForm(Date value, const RegionalSettings& settings)
@@ -54,7 +41,7 @@ std::string hourAlone(Date value, const HourForm& form, const RegionalSettings& 
 {
     const int hour = dateParts(value).hour;
     const int shown = form.twelveHours ? twelveHour(hour) : hour;
-    std::string text = form.twoDigits ? twoDigits(shown) : std::to_string(shown);
+    std::string text = form.isPadded ? twoDigits(shown) : std::to_string(shown);
     if (form.twelveHours)
         text += ' ' + (hour < 12 ? settings.amMark : settings.pmMark);
     return text;
@@ -68,7 +55,7 @@ std::string derivedTime(Date value, std::int32_t style, const RegionalSettings& 
         text = hourAlone(value, form, settings);
     else
         text = form.twelveHours ? mediumTime(value, settings) : ShortTime(value, settings);
-    if (!form.twoDigits && startsWithTwoDigits(text) && text.front() == '0')
+    if (!form.isPadded && startsWithTwoDigits(text) && text.front() == '0')
         text.erase(0, 1);
     return text;
 }

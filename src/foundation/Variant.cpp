@@ -51,10 +51,8 @@ std::string currencyText(Currency value, const RegionalSettings& settings)
     std::string text = value.tenThousandths < 0 && whole == 0 ? "-0" : std::to_string(whole);
     if (fraction == 0)
         return text;
-    std::string places = std::to_string(std::abs(fraction));
-    places.insert(0, kCurrencyPlaces - places.size(), '0');
-    places.erase(places.find_last_not_of('0') + 1);
-    return text + settings.decimalMark + places;
+    const std::string places = withZerosAhead(std::to_string(std::abs(fraction)), kCurrencyPlaces);
+    return text + settings.decimalMark + std::string(trimRight(places, "0"));
 }
 
 struct TextWriter {

@@ -17,8 +17,6 @@ namespace
 constexpr int kQuarters = 4;
 constexpr int kMonthsPerQuarter = 3;
 constexpr int kYearsOffered = 3;
-constexpr int kFirstYear = 100;
-constexpr int kLastYear = 9999;
 
 Quarter after(Quarter quarter)
 {

@@ -12,9 +12,6 @@ namespace k7deval
 namespace
 {
 
-constexpr std::int32_t kLoadCode = 602;
-constexpr std::int32_t kProgram40CFR60 = 60;
-constexpr std::int32_t kNoProgram = 0;
 constexpr std::int32_t kNoSuffix = 0;
 
 const ParamTypes kLoadTypes = {8, 11, 28, 35, 38, 39, 40, 41, 49, 52};

@@ -15,9 +15,6 @@ constexpr double kHighShare = 0.8;
 constexpr double kLowShare = 0.2;
 constexpr std::int32_t kWantedHours = 720;
 constexpr int kWantedQuarters = 4;
-/// Status words of hours that were replaced by 200% of the limit or of the range.
-constexpr std::int32_t kReplacedByTwiceLimit = 35;
-constexpr std::int32_t kReplacedByTwiceRange = 36;
 
 } // namespace
 
@@ -72,7 +69,7 @@ std::int32_t RangeEvaluation::takeHours(const DIDataSet& hours, DIStatusCodes& s
 }
 
 /// An hour over the range counts as nothing else, though it is above the limits as well.
-void RangeEvaluation::takeHour(float value, std::int32_t status, const histogram::BinScale& scale,
+void RangeEvaluation::takeHour(float value, std::int32_t word, const histogram::BinScale& scale,
                                const Limits& limits)
 {
     if (value > RangeValue) {
@@ -84,7 +81,7 @@ void RangeEvaluation::takeHour(float value, std::int32_t status, const histogram
         ++AboveMECHours;
     if (limits.mpc && value > MPCValue)
         ++AboveMPCHours;
-    if (status == kReplacedByTwiceLimit || status == kReplacedByTwiceRange)
+    if (word == status::kReplacedByTwiceMpc || word == status::kReplacedByTwiceRange)
         ++ReplacedHours;
 }
 

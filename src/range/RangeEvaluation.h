@@ -40,7 +40,7 @@ struct RangeEvaluation : histogram::InRangeHours {
 private:
     [[nodiscard]] std::int32_t takeHours(const DIDataSet& hours, DIStatusCodes& statusCodes,
                                          const histogram::BinScale& scale, const Limits& limits);
-    void takeHour(float value, std::int32_t status, const histogram::BinScale& scale,
+    void takeHour(float value, std::int32_t word, const histogram::BinScale& scale,
                   const Limits& limits);
 };
 

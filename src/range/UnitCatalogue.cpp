@@ -30,14 +30,10 @@ std::int32_t scaleOf(const Variant& text)
 /// A calibration definition that offers its analyzer for range evaluation.
 bool qualifies(DIParameter& calibration, const RegionalSettings& regional)
 {
-    const Variant leftOut = calibration.GetAttribute(attribute::kLeftOutOfLists);
-    if (isNull(leftOut) || booleanIn(leftOut, regional))
+    if (isLeftOutOfLists(calibration, regional).value_or(true))
         return false;
     const Variant use = calibration.GetAttribute(attribute::kRangeUse);
-    if (isNull(use) || integerIn(use, regional) != 0)
-        return false;
-    const Variant table = calibration.GetAttribute(attribute::kRecordTable);
-    return !isNull(table) && toText(table, regional) == kCalibrationTable;
+    return !isNull(use) && integerIn(use, regional) == 0 && definesCalibrations(calibration);
 }
 
 /// Calibration definitions by the text of their PIDs.

@@ -2,6 +2,7 @@
 
 #include "foundation/Error.h"
 #include "report/CharacterCodes.h"
+#include "report/FontCodes.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -132,11 +133,11 @@ bool FontSet::isInAnyFace(char32_t character, int fontCode) const
 const std::vector<FontFile>& FontSet::files(int fontCode) const
 {
     switch (fontCode) {
-    case 5:
+    case kBodyFont:
         return files_.body;
-    case 6:
+    case kHeadingFont:
         return files_.title;
-    case 7:
+    case kFooterFont:
         return files_.footer;
     default:
         throw Error(errors::kInvalidCall);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/FontCodes.h"
 #include "report/ReportDocument.h"
 
 #include <cstdint>
@@ -10,9 +11,6 @@
 namespace k7deval::layout
 {
 
-inline constexpr int kBodyFont = 5;
-inline constexpr int kHeadingFont = 6;
-inline constexpr int kFooterFont = 7;
 inline constexpr float kBodySize = 10;
 inline constexpr float kHeadingSize = 12;
 inline constexpr float kFacilitySize = 14;

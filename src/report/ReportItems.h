@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/FontCodes.h"
 #include "report/FontSet.h"
 
 #include <cstdint>
@@ -54,7 +55,7 @@ public:
 private:
     std::shared_ptr<const FontSet> fonts_;
     std::string text_;
-    std::int32_t font_ = 5;
+    std::int32_t font_ = kBodyFont;
     float size_ = 10;
     float x_ = 0;
     float y_ = 0;

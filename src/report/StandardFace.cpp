@@ -2,6 +2,7 @@
 
 #include "foundation/Error.h"
 #include "report/CharacterCodes.h"
+#include "report/FontCodes.h"
 
 #include <hpdf.h>
 
@@ -47,11 +48,11 @@ std::array<int, 256> advances(HPDF_Font font)
 const char* standardFaceName(int fontCode)
 {
     switch (fontCode) {
-    case 5:
+    case kBodyFont:
         return "Helvetica";
-    case 6:
+    case kHeadingFont:
         return "Helvetica-Bold";
-    case 7:
+    case kFooterFont:
         return "Helvetica-Oblique";
     default:
         throw Error(errors::kInvalidCall);

@@ -1,6 +1,7 @@
 #include "screen/Label.h"
 
 #include "foundation/Error.h"
+#include "foundation/TextFunctions.h"
 
 #include <algorithm>
 #include <array>
@@ -14,10 +15,8 @@ std::string colorText(Color value)
 {
     std::array<char, 8> digits{};
     auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value, 16).ptr;
-    std::string hex(digits.data(), end);
-    std::transform(hex.begin(), hex.end(), hex.begin(),
-                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return "0x" + std::string(digits.size() - hex.size(), '0') + hex;
+    const std::string hex(digits.data(), end);
+    return "0x" + withZerosAhead(upperCase(hex), digits.size());
 }
 
 namespace

@@ -12,7 +12,6 @@ namespace
 {
 
 constexpr std::int32_t kNoUnit = -1;
-constexpr PID kUnitPlace = 100000000;
 
 using TakeParameter = std::function<void(const std::shared_ptr<DIParameter>&)>;
 
@@ -60,7 +59,7 @@ void ParamRows::addBelowUnit(const std::shared_ptr<DIServer>& server, DIParamete
     if (unit != lastUnit) {
         lastUnit = unit;
         const auto statusCodes = present(server).StatusCodes();
-        add({unit * kUnitPlace, present(statusCodes).UnitName(pid), false, true});
+        add({unit * kUnitFactor, present(statusCodes).UnitName(pid), false, true});
     }
     if (parameter.ParamType() != kUnitType)
         add({pid, parameter.Name(0), false, false});

@@ -5,6 +5,9 @@
 namespace k7deval
 {
 
+/// A limit that does not apply; no injection passes it.
+inline constexpr float kNoLimit = -999;
+
 /// How the limit of a drift is set.
 enum CalLimitRulesEnum : std::int32_t {
     /// In the analyzer's units (40 CFR 75 App. A 3.1, O2 and CO2).

@@ -13,6 +13,9 @@
 namespace k7deval
 {
 
+/// The runs that make up a test.
+inline constexpr std::int32_t kRunsOfATest = 7;
+
 /// A 7-Day drift test: its state, kept from one evaluation to the next, and the procedures on it
 /// (40 CFR 75 App. A 6.3.1: seven daily calibrations on consecutive operating days).
 ///
@@ -89,8 +92,6 @@ public:
     void BuildSummary(bool showSummary);
 
 private:
-    static constexpr std::int32_t kRunsOfATest = 7;
-
     struct InjectionRecords;
     [[nodiscard]] InjectionRecords recordsOfInterval();
     void findOperatingTime(const InjectionRecords& records);

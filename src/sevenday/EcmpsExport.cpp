@@ -7,6 +7,8 @@
 #include "sevenday/NumberedLine.h"
 #include "sevenday/UtilityXMLDOMFunctions.h"
 
+#include <pugixml.hpp>
+
 #include <array>
 #include <cmath>
 
@@ -33,7 +35,6 @@ struct EcmpsExport::TestSpan {
 namespace
 {
 
-constexpr std::int32_t kGoodRunsOfATest = 7;
 constexpr const char* kDateFormat = "yyyy-mm-dd";
 constexpr const char* kOneDecimal = "0.0";
 constexpr const char* kTwoDecimals = "0.00";
@@ -165,7 +166,7 @@ void EcmpsExport::addRun(pugi::xml_node summary, const cls7DayAnalyzerCal& run) 
 /// The good runs alone decide: a test passed with the allowed failure goes out as failed.
 std::string EcmpsExport::resultCode(bool usesAPS) const
 {
-    if (test_->lngGoodCals < kGoodRunsOfATest)
+    if (test_->lngGoodCals < kRunsOfATest)
         return "FAILED";
     return usesAPS ? "PASSAPS" : "PASSED";
 }

@@ -3,10 +3,14 @@
 #include "sevenday/DriftTest.h"
 #include "sevenday/ctrl7DaySetUp.h"
 
-#include <pugixml.hpp>
-
 #include <optional>
 #include <string>
+
+namespace pugi
+{
+class xml_document;
+class xml_node;
+} // namespace pugi
 
 namespace k7deval
 {

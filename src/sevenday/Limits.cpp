@@ -11,8 +11,6 @@ namespace
 {
 
 constexpr int kLimitPlaces = 3;
-/// No drift is within this limit.
-constexpr float kNeverPasses = -999;
 
 float roundedLimit(double product)
 {
@@ -100,7 +98,7 @@ void DriftTest::limitByPercentOfReference(const cls7DayAnalyzerCal& run) const
 {
     // The specification belongs to gas chromatographs, which are not given a zero gas.
     if (run.ZeroCal)
-        hold(*run.ZeroCal, kNeverPasses, false);
+        hold(*run.ZeroCal, kNoLimit, false);
     if (!run.SpanCal)
         return;
     // An injection that misses the limit keeps what it had: 0 on a fresh run, which fails it, or

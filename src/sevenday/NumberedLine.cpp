@@ -1,5 +1,7 @@
 #include "sevenday/NumberedLine.h"
 
+#include "foundation/TextFunctions.h"
+
 namespace k7deval
 {
 
@@ -14,9 +16,9 @@ void postLine(const std::shared_ptr<MessageSink>& irm, NumberedLine line, const 
 {
     if (!irm)
         return;
-    const std::string number = std::to_string(static_cast<int>(line));
-    irm->Post(kSeverity, "DEval-" + std::string(3 - number.size(), '0') + number + ": " +
-                             std::to_string(error.number()) + ", " + error.description());
+    const std::string number = withZerosAhead(std::to_string(static_cast<int>(line)), 3);
+    irm->Post(kSeverity, "DEval-" + number + ": " + std::to_string(error.number()) + ", " +
+                             error.description());
 }
 
 } // namespace k7deval

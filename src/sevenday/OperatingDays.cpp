@@ -23,7 +23,7 @@ void DriftTest::AnalyzeOperatingDays()
 
 void DriftTest::addUndeterminedDays(const DIDataSet& hours)
 {
-    for (Date t = hours.StartTime(); t < hours.EndTime(); t = DateAddExact("h", 24, t)) {
+    for (Date t = hours.StartTime(); t < hours.EndTime(); t = DateAddExact("h", kHoursPerDay, t)) {
         const auto day = std::make_shared<clsDaySummary>();
         day->TStamp = t;
         day->OpStatusIsUndetermined = true;

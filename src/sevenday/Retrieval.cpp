@@ -1,6 +1,5 @@
 #include "foundation/TextFunctions.h"
 #include "foundation/UtilityFunctions.h"
-#include "sevenday/CalibrationTables.h"
 #include "sevenday/DriftTest.h"
 #include "sevenday/NumberedLine.h"
 
@@ -122,7 +121,7 @@ std::shared_ptr<cls7DayAnalyzerCal> DriftTest::newRun(DIRecord& record) const
     auto run = std::make_shared<cls7DayAnalyzerCal>();
     run->CalTime = record.RunTime();
     run->InstrumentSpan = singleIn(record.Span(), *regional_);
-    run->IsOnline = record.CalStatus() != kOfflineCalibration;
+    run->IsOnline = record.CalStatus() != status::kOfflineCalibration;
     run->ManualCal = booleanIn(record.Manual(), *regional_);
     return run;
 }

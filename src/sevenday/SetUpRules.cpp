@@ -72,10 +72,8 @@ void ctrl7DaySetUp::listAnalyzers(PID unit)
     const auto parameters = present(server_).ParametersOfUnit(PIDPart(unit, pidpart::kUnit),
                                                               ParamTypes{kCalibrationType});
     for (const auto& parameter : parameters) {
-        if (!isText(present(parameter).GetAttribute(attribute::kRecordTable), kCalibrationTable))
-            continue;
-        const Variant leftOut = parameter->GetAttribute(attribute::kLeftOutOfLists);
-        if (isNull(leftOut) || !booleanIn(leftOut, surroundings_.regional))
+        if (definesCalibrations(present(parameter)) &&
+            !isLeftOutOfLists(*parameter, surroundings_.regional).value_or(false))
             listAnalyzer(*parameter);
     }
 }
@@ -113,7 +111,8 @@ void ctrl7DaySetUp::takeUnitFacts(PID unit)
     const auto parameter = present(server_->Parameters()).Item(unit, -1);
     DIParameter& facts = present(parameter);
     SetOrisCode(integerIn(facts.GetAttribute(attribute::kOrisCode), surroundings_.regional));
-    SetStackID(trimRight(textOf(facts.GetAttribute(attribute::kUnitIdentifier))));
+    const std::string identifier = textOf(facts.GetAttribute(attribute::kUnitIdentifier));
+    SetStackID(std::string(trimRight(identifier)));
     const Variant severalStacks = facts.GetAttribute(attribute::kSeveralStacks);
     if (!isNull(severalStacks) && booleanIn(severalStacks, surroundings_.regional))
         SetStackID(textOf(facts.GetAttribute(attribute::kStackIdentifiers)));

@@ -1,7 +1,10 @@
 #include "sevenday/UtilityXMLDOMFunctions.h"
 
 #include "foundation/Error.h"
+#include "foundation/TextFunctions.h"
 #include "foundation/UtilityFunctions.h"
+
+#include <pugixml.hpp>
 
 #include <sstream>
 #include <string_view>
@@ -12,14 +15,6 @@ namespace k7deval
 namespace
 {
 
-constexpr std::int32_t kSecondsOfADay = 86400;
-
-std::string padded(int number, std::size_t width)
-{
-    const std::string digits = std::to_string(number);
-    return digits.size() < width ? std::string(width - digits.size(), '0') + digits : digits;
-}
-
 bool isOnZeroDate(Date value)
 {
     return IsNoDate(dateOnly(value));
@@ -29,7 +24,8 @@ std::string pickedFormat(Date value)
 {
     if (isOnZeroDate(value))
         return "HH:mm";
-    if (wholeSeconds(IntervalStart(value, kSecondsOfADay, false)) == wholeSeconds(value))
+    if (wholeSeconds(IntervalStart(value, static_cast<std::int32_t>(kSecondsPerDay), false)) ==
+        wholeSeconds(value))
         return "yyyy-MM-dd";
     return "yyyy-MM-dd HH:mm";
 }
@@ -42,18 +38,18 @@ std::string formattedDate(Date value, std::string_view format)
     while (!format.empty()) {
         const std::string_view pair = format.substr(0, 2);
         if (format.starts_with("yyyy")) {
-            text += padded(parts.year, 4);
+            text += withZerosAhead(std::to_string(parts.year), 4);
             format.remove_prefix(4);
             continue;
         }
         if (pair == "dd")
-            text += padded(parts.day, 2);
+            text += twoDigits(parts.day);
         else if (pair == "HH")
-            text += padded(parts.hour, 2);
+            text += twoDigits(parts.hour);
         else if (pair == "nn" || (pair == "mm" && behindHours))
-            text += padded(parts.minute, 2);
+            text += twoDigits(parts.minute);
         else if (pair == "MM" || pair == "mm")
-            text += padded(parts.month, 2);
+            text += twoDigits(parts.month);
         else
             text += format.front();
         const bool isField =

@@ -4,9 +4,13 @@
 #include "foundation/RegionalSettings.h"
 #include "foundation/Variant.h"
 
-#include <pugixml.hpp>
-
 #include <string>
+
+namespace pugi
+{
+class xml_document;
+class xml_node;
+} // namespace pugi
 
 namespace k7deval
 {

@@ -15,7 +15,6 @@ constexpr float kPageLeft = 120;
 constexpr float kPageTop = 120;
 /// From midnight to the last minute of a day.
 constexpr double kLastMinuteOfDay = 1439;
-constexpr std::int32_t kGoodRunsOfATest = 7;
 constexpr std::int32_t kPdfEntry = 1;
 
 } // namespace
@@ -174,7 +173,7 @@ screen::WriteOutcome ctrl7Day::writeFile()
 /// A test passed with the allowed failed run has six good ones and is asked about, too.
 bool ctrl7Day::mayExport()
 {
-    if (test_.lngGoodCals == kGoodRunsOfATest)
+    if (test_.lngGoodCals == kRunsOfATest)
         return true;
     return surroundings_.services.MsgBox({"The 7-Day Drift Test has not been completed.\r\nAre you "
                                           "sure want to export the data?",

@@ -15,8 +15,6 @@ namespace k7deval
 namespace
 {
 
-constexpr float kNotApplicable = -999;
-
 struct TestReasonEntry {
     const char* text;
     std::int32_t itemData;
@@ -134,7 +132,7 @@ float ctrl7DaySetUp::AbsoluteLimit() const
 float ctrl7DaySetUp::PercentOfSpanLimit() const
 {
     if (optPS9GC.isSelected())
-        return kNotApplicable;
+        return kNoLimit;
     if (opt025Span.isSelected())
         return 2.5F;
     return opt05Span.isSelected() ? 5.0F : otherSpanLimit_;
@@ -142,7 +140,7 @@ float ctrl7DaySetUp::PercentOfSpanLimit() const
 
 float ctrl7DaySetUp::PercentOfRefLimit() const
 {
-    return optPS9GC.isSelected() ? 10.0F : kNotApplicable;
+    return optPS9GC.isSelected() ? 10.0F : kNoLimit;
 }
 
 std::string ctrl7DaySetUp::AnalyzerInfoText() const
@@ -165,11 +163,8 @@ void ctrl7DaySetUp::SetStackID(const std::string& value)
         return;
     }
     cmbStackID.clear();
-    std::size_t begin = 0;
-    for (std::size_t end = 0; end != std::string::npos; begin = end + 1) {
-        end = value.find(';', begin);
-        cmbStackID.addItem(trimRight(value.substr(begin, end - begin)));
-    }
+    for (const std::string_view stack : splitAt(';', value))
+        cmbStackID.addItem(std::string(trimRight(stack)));
     cmbStackID.SetListIndex(0);
 }
 

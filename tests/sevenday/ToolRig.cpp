@@ -19,7 +19,7 @@ RecordData record(const CalFacts& facts, std::int32_t gasLevelCode, float refere
     data.reference = reference;
     data.measured = measured;
     data.manual = facts.manual;
-    data.calStatus = facts.online ? 0 : kOfflineCalibration;
+    data.calStatus = facts.online ? 0 : status::kOfflineCalibration;
     data.span = 200.0F;
     data.sourceTag = facts.pid;
     return data;

@@ -1,6 +1,7 @@
 #include "sevenday/UtilityXMLDOMFunctions.h"
 
 #include <gtest/gtest.h>
+#include <pugixml.hpp>
 
 /// The small functions that the export builds its tree with.
 namespace k7deval::test

@@ -279,7 +279,7 @@ TEST(SampleServer, EveryInjectionOfTheQaFileIsARecord)
                           ? std::string()
                           : row["upscaleGasLevelCode"].get<std::string>());
             EXPECT_EQ(upscaleRecord.RunTime(), run);
-            EXPECT_NE(upscaleRecord.CalStatus(), kOfflineCalibration);
+            EXPECT_NE(upscaleRecord.CalStatus(), status::kOfflineCalibration);
             if (!readable)
                 continue;
             auto& zeroRecord = *records.front();

@@ -7,7 +7,6 @@ namespace
 {
 
 constexpr std::int32_t kOperatingTimeCode = 601;
-constexpr std::int32_t kLoadCode = 602;
 constexpr std::int32_t kLowerBoundaryCode = 603;
 constexpr std::int32_t kUpperBoundaryCode = 604;
 

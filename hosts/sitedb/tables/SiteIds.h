@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/DataCodes.h"
 #include "foundation/PIDFunctions.h"
 
 #include <cstdint>
@@ -11,17 +12,16 @@
 namespace k7deval::sitedb
 {
 
-/// Status words of hours and calibrations; the table status_word says what each means.
+/// Status words of hours and calibrations, besides those that the tools look for; the table
+/// status_word says what each means.
 namespace status
 {
+using namespace k7deval::status;
 inline constexpr std::int32_t kNoData = 0;
 inline constexpr std::int32_t kMeasured = 1;
 inline constexpr std::int32_t kUnitOffline = 2;
 inline constexpr std::int32_t kExcluded = 3;
 inline constexpr std::int32_t kOnlineCalibration = 28;
-inline constexpr std::int32_t kOfflineCalibration = 29;
-inline constexpr std::int32_t kReplacedByTwiceMpc = 35;
-inline constexpr std::int32_t kReplacedByTwiceRange = 36;
 } // namespace status
 
 /// Types of the parameters that are neither units nor calibrations. All are among the types that
@@ -48,7 +48,6 @@ inline constexpr std::int32_t kSpanBegin = -1006; ///< 'YYYY-MM-DD HH:MM': in fo
 /// The subset of constants that belongs to a unit itself.
 inline constexpr std::int32_t kUnitConstants = 0;
 
-inline constexpr std::int32_t kHighestUnit = 19;
 inline constexpr int kHighestOrisCode = 999'999;
 /// In MW: no unit reports more than six digits.
 inline constexpr double kHighestLoad = 999'999;
@@ -57,8 +56,6 @@ inline constexpr std::int32_t kHighestComponent = 99;
 inline constexpr std::size_t kUnitIdentifierLength = 6;
 inline constexpr std::size_t kComponentIdLength = 3;
 
-inline constexpr const char* kLookupTable = "K7LOOKUP";
-inline constexpr const char* kFacilityNameEntry = "FacilityName";
 inline constexpr const char* kSiteTable = "K7SITE";
 inline constexpr const char* kSiteKeyEntry = "SiteKey";
 

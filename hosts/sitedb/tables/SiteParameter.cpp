@@ -15,8 +15,6 @@ namespace k7deval::sitedb
 namespace
 {
 
-constexpr std::int64_t kHoursPerDay = 24;
-
 constexpr const char* kParameterColumns =
     "SELECT pid, name, param_type, units_text, interval_letter, interval_multiple, interval_unit"
     " FROM parameter";

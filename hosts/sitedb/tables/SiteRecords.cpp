@@ -1,5 +1,6 @@
 #include "sitedb/tables/SiteRecords.h"
 
+#include "foundation/TextFunctions.h"
 #include "sitedb/PlainText.h"
 #include "sitedb/tables/TimeText.h"
 
@@ -83,22 +84,11 @@ RecordRow recordRow(const sql::Statement& row)
     return record;
 }
 
-std::string trimmed(const std::string& text)
-{
-    const auto first = text.find_first_not_of(' ');
-    const auto last = text.find_last_not_of(' ');
-    return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
-}
-
 std::vector<std::string> tableNames(const std::string& tables)
 {
     std::vector<std::string> names;
-    std::size_t begin = 0;
-    while (begin <= tables.size()) {
-        const std::size_t end = std::min(tables.find(',', begin), tables.size());
-        names.push_back(trimmed(tables.substr(begin, end - begin)));
-        begin = end + 1;
-    }
+    for (const std::string_view name : splitAt(',', tables))
+        names.emplace_back(trimmed(name));
     return names;
 }
 

@@ -11,19 +11,18 @@ namespace k7deval::sitedb
 namespace
 {
 
-constexpr std::int64_t kPIDsOfUnit = 100'000'000;
 constexpr std::int32_t kFewestDecimals = 1;
 constexpr std::int32_t kOfUseForRange = 0;
 constexpr std::int32_t kOfNoUseForRange = 1;
 
 std::int64_t firstPID(std::int32_t unit)
 {
-    return unit * kPIDsOfUnit;
+    return std::int64_t{kUnitFactor} * unit;
 }
 
 std::int64_t lastPID(std::int32_t unit)
 {
-    return firstPID(unit) + kPIDsOfUnit - 1;
+    return firstPID(unit) + kUnitFactor - 1;
 }
 
 std::string padded(std::string identifier)

@@ -1,5 +1,6 @@
 #include "sitedb/tables/StatusWords.h"
 
+#include "foundation/TextFunctions.h"
 #include "sitedb/tables/Modc.h"
 #include "sitedb/tables/SiteIds.h"
 
@@ -40,8 +41,7 @@ const std::array kOwnWords{
 
 StatusWord wordOf(const Modc& modc)
 {
-    const std::string code = (modc.code < 10 ? "0" : "") + std::to_string(modc.code);
-    return {statusWord(modc), "MODC " + code + ": " + std::string(modc.meaning),
+    return {statusWord(modc), "MODC " + twoDigits(modc.code) + ": " + std::string(modc.meaning),
             modc.use != ModcUse::Missing, modc.use == ModcUse::LeftOut, false};
 }
 

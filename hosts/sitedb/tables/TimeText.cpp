@@ -1,12 +1,10 @@
 #include "sitedb/tables/TimeText.h"
 
 #include "foundation/Error.h"
+#include "foundation/TextFunctions.h"
 #include "sitedb/PlainText.h"
 
-#include <array>
-#include <charconv>
 #include <chrono>
-#include <cstdio>
 
 namespace k7deval::sitedb
 {
@@ -24,7 +22,7 @@ std::optional<int> digits(std::string_view text)
 {
     int value = 0;
     for (const char letter : text) {
-        if (letter < '0' || letter > '9')
+        if (!isDigit(letter))
             return std::nullopt;
         value = value * 10 + (letter - '0');
     }
@@ -48,9 +46,7 @@ std::optional<std::chrono::year_month_day> calendarDay(std::string_view day)
 
 std::string clockText(int hour, int minute)
 {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), " %02d:%02d", hour, minute);
-    return text.data();
+    return ' ' + twoDigits(hour) + ':' + twoDigits(minute);
 }
 
 } // namespace
@@ -78,7 +74,6 @@ std::string minuteText(Date value)
 
 std::string minuteTextFrom(Date value)
 {
-    constexpr std::int64_t kSecondsPerMinute = 60;
     const std::int64_t seconds = wholeSeconds(value);
     const int secondsOver = dateParts(value).second;
     return minuteText(
@@ -96,7 +91,7 @@ Date dateOfMinute(std::string_view text)
     if (day && text.size() == kMinuteLength && text[10] == ' ' && text[13] == ':') {
         const auto hour = digits(text.substr(11, 2));
         const auto minute = digits(text.substr(14, 2));
-        if (hour && minute && *hour < 24 && *minute < 60)
+        if (hour && minute && *hour < kHoursPerDay && *minute < 60)
             return makeDate(int{day->year()}, static_cast<int>(unsigned{day->month()}),
                             static_cast<int>(unsigned{day->day()}), *hour, *minute);
     }

@@ -55,10 +55,10 @@ TEST(QaImport, AnOfflineRowBearsTheOfflineStatus)
     SmallSite held;
     importSmallQa(held, smallQa(), {});
     const auto records = allRecords(held.site, kNox, "HIGH");
-    EXPECT_NE(records[0]->CalStatus(), kOfflineCalibration);
-    EXPECT_NE(records[1]->CalStatus(), kOfflineCalibration);
-    EXPECT_EQ(records[2]->CalStatus(), kOfflineCalibration);
-    EXPECT_EQ(records[3]->CalStatus(), kOfflineCalibration);
+    EXPECT_NE(records[0]->CalStatus(), status::kOfflineCalibration);
+    EXPECT_NE(records[1]->CalStatus(), status::kOfflineCalibration);
+    EXPECT_EQ(records[2]->CalStatus(), status::kOfflineCalibration);
+    EXPECT_EQ(records[3]->CalStatus(), status::kOfflineCalibration);
     const auto codes = held.site.server()->StatusCodes();
     EXPECT_FALSE(codes->IsUnitOffline(records[0]->CalStatus()));
     EXPECT_TRUE(codes->IsUnitOffline(records[2]->CalStatus()));

@@ -34,6 +34,10 @@ using LevelColumns = std::array<LevelColumn, 3>;
 /// chart.
 float drawLevels(ReportPage& page, const LevelColumns& levels, float above);
 
+/// Where the lowest row under the chart hangs, and the gap between what hangs there and the scale.
+inline constexpr float kLowestRow = 49.2F;
+inline constexpr float kGapAboveCounts = 5;
+
 /// The x of the two marks inside the range.
 struct InnerMarks {
     float low = 0;

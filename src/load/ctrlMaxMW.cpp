@@ -2,8 +2,10 @@
 
 #include "foundation/NumberText.h"
 #include "foundation/TextFunctions.h"
+#include "histogram/HistogramPage.h"
 #include "screen/UnitList.h"
 
+#include <array>
 #include <utility>
 
 namespace k7deval
@@ -36,6 +38,10 @@ const histogram::ToolLook kLook{
     .lbl000 = {120, 3000, 1350, 0},
 };
 
+// On paper.
+constexpr std::array<float, 3> kLevelCentres{144, 360, 612};
+constexpr histogram::InnerMarks kMarks{252, 468};
+
 /// How much a parameter looks like the unit's load.
 struct Candidates {
     std::int32_t first = -1;
@@ -64,8 +70,16 @@ struct Candidates {
 ctrlMaxMW::ctrlMaxMW(const screen::Surroundings& surroundings) : HistogramTool(kLook, surroundings)
 {
     connectRules();
-    connectFields();
     startUp();
+}
+
+void ctrlMaxMW::startUp()
+{
+    txtMinSafe.SetText("0");
+    txtCapacity.SetText("0");
+    period_.startUp();
+    ctrlMaxMW::ClearResults();
+    lblBar.ResetBars();
 }
 
 void ctrlMaxMW::connectRules()
@@ -73,11 +87,12 @@ void ctrlMaxMW::connectRules()
     cmbUnit.Picked.Connect([this] { unitRule(); });
     cmbParam.Picked.Connect([this] { markStale(); });
     chkShowPID.Clicked.Connect([this] { showPIDRule(); });
-    optTimeEnd.Clicked.Connect([this] { periodRule(); });
-    optTimeSelect.Clicked.Connect([this] { periodRule(); });
-    // Only a change of the text counts; a pick from the open list leaves the results as they are.
-    cmbYear.TextChanged.Connect([this] { markStale(); });
-    cmbQTR.TextChanged.Connect([this] { markStale(); });
+    period_.Changed.Connect([this] { markStale(); });
+    // What is typed clears the results and leaves the button for saving as it is, so that what is
+    // saved then shows the cleared screen.
+    for (histogram::NumberField* field : {&minSafe_, &capacity_})
+        field->Entered.Connect([this] { clearStaleResults(); });
+    period_.DateEntered.Connect([this] { clearStaleResults(); });
     cmdCalculate.Clicked.Connect([this] { calculate(); });
 }
 
@@ -134,14 +149,6 @@ void ctrlMaxMW::proposeParameter()
 void ctrlMaxMW::lookUpCapacity(std::int32_t unit)
 {
     bool CapacityFound = false;
-    const auto take = [this](DIParameter& constant) {
-        const Variant value = constant.CurrentPoint(0, 0, 0).ItemByIndex(1).Value();
-        if (!IsNumeric(value, surroundings_.regional))
-            return false;
-        evaluation_.CapacityValue = singleIn(value, surroundings_.regional);
-        txtCapacity.SetText(numberText(evaluation_.CapacityValue));
-        return true;
-    };
     for (const auto& constant :
          data().ConstantsOfUnitTypes(kCapacityTypes, unit, kCapacitySubsets)) {
         const PID pid = present(constant).PID();
@@ -149,11 +156,20 @@ void ctrlMaxMW::lookUpCapacity(std::int32_t unit)
         if (PIDPart(pid, pidpart::kParameterCode) != kLoadCode ||
             PIDPart(pid, pidpart::kSuffix) != kNoSuffix)
             continue;
-        if (program == kNoProgram && take(*constant))
+        if (program == kNoProgram && takeCapacity(*constant))
             CapacityFound = true;
         if (!CapacityFound && (program == kProgram40CFR60 || program == kProgram40CFR75))
-            take(*constant);
+            takeCapacity(*constant);
     }
+}
+
+bool ctrlMaxMW::takeCapacity(DIParameter& constant)
+{
+    const Variant value = constant.CurrentPoint(0, 0, 0).ItemByIndex(1).Value();
+    const bool isNumber = IsNumeric(value, surroundings_.regional);
+    if (isNumber)
+        capacity_.set(singleIn(value, surroundings_.regional));
+    return isNumber;
 }
 
 /// Rows whose parameter is gone keep their text.
@@ -176,7 +192,7 @@ void ctrlMaxMW::calculate()
         surroundings_.services.MsgBox(
             {"Verify a minimum safe operating load of zero from the Part 75 Monitoring Plan.",
              kLook.title, screen::MsgBoxButtons::OK, screen::MsgBoxIcon::Information});
-    CheckEvaluationPeriod();
+    period_.CheckEvaluationPeriod();
     if (NeedsEvaluation())
         EvaluateLoad(cmbParam.ItemData());
     DrawChart();
@@ -189,18 +205,92 @@ void ctrlMaxMW::calculate()
 /// evaluation still due.
 void ctrlMaxMW::EvaluateLoad(PID pid)
 {
-    evaluation_.MinSafeValue = ToSingle(txtMinSafe.Text(), surroundings_.regional);
-    evaluation_.CapacityValue = ToSingle(txtCapacity.Text(), surroundings_.regional);
+    minSafe_.read();
+    capacity_.read();
     evaluation_.setThresholds(surroundings_.regional);
     evaluation_.reset();
     if (evaluation_.Range() == 0)
         return;
-    const LoadPeriod hours = period();
+    const LoadPeriod hours = period_.hours();
     const auto source = hoursOf(pid);
     if (!source)
         return;
     evaluation_.run(present(source->parameter), present(source->statusCodes), hours);
     setEvaluated();
+}
+
+void ctrlMaxMW::DrawChart()
+{
+    lblBar.DrawChart(evaluation_.Bins, evaluation_.MinSafeValue, evaluation_.Range(),
+                     surroundings_.regional);
+}
+
+void ctrlMaxMW::ShowResults()
+{
+    showHeader();
+    showScale(numberText(evaluation_.MinSafeValue), evaluation_.LowThreshold,
+              evaluation_.HighThreshold, evaluation_.CapacityValue);
+    showLevels(evaluation_,
+               {.low = "% Low Op Load", .mid = "% Mid Op Load", .high = "% High Op Load"});
+    lblBelow.SetCaption(std::to_string(evaluation_.UnderHours) + " hour(s) under " +
+                        numberText(evaluation_.MinSafeValue));
+    lblAbove.SetCaption(overText());
+}
+
+/// "hours(s)" where there are none is how operators know the line.
+std::string ctrlMaxMW::overText() const
+{
+    const std::string hours = std::to_string(evaluation_.OverHours);
+    const std::string capacity = numberText(evaluation_.CapacityValue);
+    if (evaluation_.OverHours >= 1)
+        return hours + " hour(s) over " + capacity + " - Maximum " +
+               numberText(evaluation_.MaxObserved);
+    return hours + " hours(s) over " + capacity;
+}
+
+void ctrlMaxMW::ClearResults()
+{
+    HistogramTool::ClearResults();
+    lblBelow.SetCaption("0 hour(s) under minimum");
+    lblAbove.SetCaption("0 hour(s) over maximum");
+}
+
+std::string ctrlMaxMW::numberText(float value) const
+{
+    return GeneralNumber(value, surroundings_.regional);
+}
+
+/// What the labels show at the moment, over the bins of the last evaluation.
+std::unique_ptr<ReportDocument> ctrlMaxMW::buildReport() const
+{
+    // The title is known under this spelling.
+    auto [document, page, top] = beginReport({.author = "Kelvo Load Evaluation",
+                                              .subject = "Load Evaluation",
+                                              .title = "Load Evalution",
+                                              .heading = "Load Evaluation Summary",
+                                              .period = periodLine()},
+                                             kLevelCentres, evaluation_);
+    ReportTextItem& below =
+        layout::addText(*page, lblBelow.Caption(), kBodyFont, layout::kBodySize);
+    const float y = histogram::kLowestRow + below.Height();
+    layout::alignLeft(below, layout::kLeft, y);
+    ReportTextItem& above =
+        layout::addText(*page, lblAbove.Caption(), kBodyFont, layout::kBodySize);
+    layout::alignRight(above, layout::kRight, y);
+    const float bottom = histogram::drawScale(
+        *page, kMarks,
+        {{{lbl000.Caption(), lbl030.Caption(), lbl060.Caption(), lbl100.Caption()},
+          {lblMinSafe.Caption(), lblLow.Caption(), lblMid.Caption(), lblMax.Caption()}}},
+        y + above.Height() + histogram::kGapAboveCounts);
+    histogram::drawBarChart(*page, kMarks, evaluation_.Bins, bottom, top);
+    return std::move(document);
+}
+
+std::string ctrlMaxMW::periodLine() const
+{
+    if (optTimeSelect.isSelected())
+        return "Load summary from " + txtFrom.Text() + " to " + txtTo.Text();
+    return "Load summary ending the last day of " + cmbYear.Text() + " " + cmbQTR.Text();
 }
 
 } // namespace k7deval

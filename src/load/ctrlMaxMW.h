@@ -1,6 +1,8 @@
 #pragma once
 
 #include "histogram/HistogramTool.h"
+#include "histogram/NumberField.h"
+#include "load/EvaluationPeriod.h"
 #include "load/LoadEvaluation.h"
 #include "screen/TextBox.h"
 
@@ -23,8 +25,8 @@ public:
     /// The results of the last evaluation, whatever the screen shows.
     [[nodiscard]] const LoadEvaluation& evaluation() const { return evaluation_; }
     /// The dates of the option "Specified Dates:".
-    [[nodiscard]] Date StartDate() const { return startDate_; }
-    [[nodiscard]] Date EndDate() const { return endDate_; }
+    [[nodiscard]] Date StartDate() const { return period_.StartDate(); }
+    [[nodiscard]] Date EndDate() const { return period_.EndDate(); }
 
     [[nodiscard]] std::unique_ptr<ReportDocument> buildReport() const override;
 
@@ -57,37 +59,31 @@ public:
 private:
     void startUp();
     void connectRules();
-    void connectFields();
 
     void unitRule();
     void listParameters(std::int32_t unit);
     void proposeParameter();
     void lookUpCapacity(std::int32_t unit);
+    bool takeCapacity(DIParameter& constant);
     void showPIDRule();
-    void periodRule();
-    void enablePeriod();
-
-    void validateNumber(screen::TextBox& field, float& value);
-    void validateDate(screen::TextBox& field, Date& date);
-    void pickDate(screen::TextBox& field, Date& date, const std::string& title);
-    void takeDate(screen::TextBox& field, Date& date, Date value) const;
-    [[nodiscard]] Date dateIn(const screen::TextBox& field) const;
-    [[nodiscard]] std::string numberText(float value) const;
 
     void calculate();
-    void CheckEvaluationPeriod();
     void EvaluateLoad(PID pid);
-    [[nodiscard]] LoadPeriod period();
 
     void DrawChart();
     void ShowResults();
     void ClearResults() override;
     [[nodiscard]] std::string overText() const;
     [[nodiscard]] std::string periodLine() const;
+    [[nodiscard]] std::string numberText(float value) const;
 
     LoadEvaluation evaluation_;
-    Date startDate_;
-    Date endDate_;
+    histogram::NumberField minSafe_{txtMinSafe, evaluation_.MinSafeValue, surroundings_.regional};
+    histogram::NumberField capacity_{txtCapacity, evaluation_.CapacityValue,
+                                     surroundings_.regional};
+    EvaluationPeriod period_{
+        {optTimeEnd, cmbYear, cmbQTR, optTimeSelect, txtFrom, cmdFrom, txtTo, cmdTo},
+        surroundings_};
 };
 
 } // namespace k7deval

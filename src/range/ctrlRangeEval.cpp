@@ -3,8 +3,10 @@
 #include "foundation/NumberText.h"
 #include "foundation/PIDFunctions.h"
 #include "foundation/UtilityFunctions.h"
+#include "histogram/HistogramPage.h"
 #include "histogram/Quarters.h"
 
+#include <array>
 #include <utility>
 
 namespace k7deval
@@ -15,7 +17,6 @@ namespace
 
 constexpr double kExpectedShare = 0.2;
 constexpr std::int32_t kHighestLowScale = 1; ///< "SINGLE" and "LOW".
-constexpr const char* kNoLimit = "N/A";
 
 const histogram::ToolLook kLook{
     .name = "ctrlRangeEval",
@@ -34,6 +35,29 @@ const histogram::ToolLook kLook{
     .lblMidAlignment = screen::Alignment::Right,
     .lbl000 = {120, 3000, 0, 0},
 };
+
+// Two blanks behind the colons: the report copies these lines as they stand.
+constexpr const char* kAboveMEC = "Hours above MEC:  ";
+constexpr const char* kAboveMPC = "Hours above MPC:  ";
+constexpr const char* kOverRange = "Hours over Range:  ";
+constexpr const char* kReplaced = "Hours with 200% replacement:  ";
+constexpr const char* kInvalid = "Invalid Hours:  ";
+constexpr const char* kNotApplicable = "N/A";
+
+// On paper.
+constexpr std::array<float, 3> kLevelCentres{108, 396, 684};
+constexpr histogram::InnerMarks kMarks{180, 612};
+constexpr float kSecondColumn = 396;
+
+/// Two texts beside each other. Returns their height.
+float drawPair(ReportPage& page, const screen::Label& left, const screen::Label& right, float y)
+{
+    layout::alignLeft(layout::addText(page, left.Caption(), kBodyFont, layout::kBodySize),
+                      layout::kLeft, y);
+    ReportTextItem& second = layout::addText(page, right.Caption(), kBodyFont, layout::kBodySize);
+    layout::alignLeft(second, kSecondColumn, y);
+    return second.Height();
+}
 
 } // namespace
 
@@ -61,7 +85,7 @@ void ctrlRangeEval::connectRules()
     cmbParam.Picked.Connect([this] { parameterRule(); });
     cmbScale.Picked.Connect([this] { scaleRule(); });
     chkShowPID.Clicked.Connect([this] { showPIDRule(); });
-    txtRange.Validate.Connect([this] { validateRange(); });
+    range_.Entered.Connect([this] { markStale(); });
     txtMEC.TextChanged.Connect([this] { markStale(); });
     txtMPC.TextChanged.Connect([this] { markStale(); });
     // Only a change of the text counts; a pick from the open list leaves the results as they are.
@@ -136,8 +160,7 @@ void ctrlRangeEval::parameterRule()
 void ctrlRangeEval::scaleRule()
 {
     const std::int32_t scale = cmbScale.ItemData();
-    evaluation_.RangeValue = pickedParameter().Item(scale);
-    txtRange.SetText(GeneralNumber(evaluation_.RangeValue, surroundings_.regional));
+    range_.set(pickedParameter().Item(scale));
     proposeLimits(scale);
     markStale();
 }
@@ -150,8 +173,8 @@ void ctrlRangeEval::proposeLimits(std::int32_t scale)
     const bool hasPotential = !IsPercentGasPID(cmbParam.ItemData());
     const bool hasExpected = hasPotential && scale <= kHighestLowScale;
     txtMEC.SetText(hasExpected ? GeneralNumber(evaluation_.RangeValue * kExpectedShare, regional)
-                               : kNoLimit);
-    txtMPC.SetText(hasPotential ? GeneralNumber(evaluation_.RangeValue, regional) : kNoLimit);
+                               : kNotApplicable);
+    txtMPC.SetText(hasPotential ? GeneralNumber(evaluation_.RangeValue, regional) : kNotApplicable);
     chkMEC.setChecked(hasExpected);
     chkMPC.setChecked(hasPotential);
 }
@@ -165,17 +188,6 @@ void ctrlRangeEval::showPIDRule()
         const PID pid = cmbParam.itemDataList()[static_cast<std::size_t>(row)];
         const auto parameter = present(parameters).Item(pid, -1);
         cmbParam.setItemText(row, parameterEntry(present(parameter)));
-    }
-}
-
-/// The results go also when the text did not change.
-void ctrlRangeEval::validateRange()
-{
-    if (IsNumeric(txtRange.Text(), surroundings_.regional)) {
-        evaluation_.RangeValue = ToSingle(txtRange.Text(), surroundings_.regional);
-        markStale();
-    } else {
-        txtRange.SetText(GeneralNumber(evaluation_.RangeValue, surroundings_.regional));
     }
 }
 
@@ -193,7 +205,7 @@ void ctrlRangeEval::calculate()
 /// A parameter that is gone ends it quietly, with nothing counted and the evaluation still due.
 void ctrlRangeEval::EvaluateRange(PID pid)
 {
-    evaluation_.RangeValue = ToSingle(txtRange.Text(), surroundings_.regional);
+    range_.read();
     evaluation_.setThresholds(surroundings_.regional);
     evaluation_.reset();
     const RangeEvaluation::Limits limits = readLimits();
@@ -218,6 +230,65 @@ RangeEvaluation::Limits ctrlRangeEval::readLimits()
 bool ctrlRangeEval::takesPart(const screen::CheckBox& box, const screen::TextBox& field) const
 {
     return box.isChecked() && IsNumeric(field.Text(), surroundings_.regional);
+}
+
+void ctrlRangeEval::DrawChart()
+{
+    lblBar.DrawChart(evaluation_.Bins, 0, evaluation_.RangeValue, surroundings_.regional);
+}
+
+/// Whether a limit is shown goes by its box and text as they stand now, not by what was counted.
+void ctrlRangeEval::ShowResults()
+{
+    showHeader();
+    showScale("0", evaluation_.LowThreshold, evaluation_.HighThreshold, evaluation_.RangeValue);
+    showLevels(evaluation_, {.low = "%", .mid = "%", .high = "%"});
+    const auto countOrNone = [](bool isShown, std::int32_t hours) {
+        return isShown ? std::to_string(hours) : kNotApplicable;
+    };
+    lblAboveMEC.SetCaption(kAboveMEC +
+                           countOrNone(takesPart(chkMEC, txtMEC), evaluation_.AboveMECHours));
+    lblAboveMPC.SetCaption(kAboveMPC +
+                           countOrNone(takesPart(chkMPC, txtMPC), evaluation_.AboveMPCHours));
+    lblOverRange.SetCaption(kOverRange + std::to_string(evaluation_.OverRangeHours));
+    lblReplaced.SetCaption(kReplaced + std::to_string(evaluation_.ReplacedHours));
+    lblInvalid.SetCaption(kInvalid + std::to_string(evaluation_.InvalidHours));
+}
+
+void ctrlRangeEval::ClearResults()
+{
+    HistogramTool::ClearResults();
+    lblAboveMEC.SetCaption(std::string(kAboveMEC) + kNotApplicable);
+    lblAboveMPC.SetCaption(std::string(kAboveMPC) + kNotApplicable);
+    lblOverRange.SetCaption(std::string(kOverRange) + kNotApplicable);
+    lblReplaced.SetCaption(std::string(kReplaced) + kNotApplicable);
+    lblInvalid.SetCaption(std::string(kInvalid) + kNotApplicable);
+}
+
+/// What the labels show at the moment, over the bins of the last evaluation.
+std::unique_ptr<ReportDocument> ctrlRangeEval::buildReport() const
+{
+    auto [document, page, top] = beginReport(
+        {.author = "Kelvo Range Evaluation",
+         .subject = "Range Evaluation",
+         .title = "Range Evaluation",
+         .heading = "Range Evaluation Summary",
+         .period = "Range summary ending the last day of " + cmbYear.Text() + " " + cmbQTR.Text()},
+        kLevelCentres, evaluation_);
+    ReportTextItem& overRange =
+        layout::addText(*page, lblOverRange.Caption(), kBodyFont, layout::kBodySize);
+    float y = histogram::kLowestRow + overRange.Height();
+    layout::alignLeft(overRange, layout::kLeft, y);
+    y += overRange.Height() + layout::kGap;
+    y += drawPair(*page, lblAboveMPC, lblInvalid, y) + layout::kGap;
+    y += drawPair(*page, lblAboveMEC, lblReplaced, y) + histogram::kGapAboveCounts;
+    const float bottom = histogram::drawScale(
+        *page, kMarks,
+        {{{lbl000.Caption(), lbl020.Caption(), lbl080.Caption(), lbl100.Caption()},
+          {lblMinSafe.Caption(), lblLow.Caption(), lblMid.Caption(), lblMax.Caption()}}},
+        y);
+    histogram::drawBarChart(*page, kMarks, evaluation_.Bins, bottom, top);
+    return std::move(document);
 }
 
 } // namespace k7deval

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "histogram/HistogramTool.h"
+#include "histogram/NumberField.h"
 #include "range/RangeEvaluation.h"
 #include "range/UnitCatalogue.h"
 #include "screen/TextBox.h"
@@ -62,7 +63,6 @@ private:
     void scaleRule();
     void proposeLimits(std::int32_t scale);
     void showPIDRule();
-    void validateRange();
     [[nodiscard]] const ParameterScales& pickedUnit() const;
     [[nodiscard]] const ScaleSpans& pickedParameter() const;
 
@@ -78,6 +78,7 @@ private:
 
     Catalogue catalogue_;
     RangeEvaluation evaluation_;
+    histogram::NumberField range_{txtRange, evaluation_.RangeValue, surroundings_.regional};
 };
 
 } // namespace k7deval

@@ -5,8 +5,10 @@
 #include "foundation/TextFunctions.h"
 #include "foundation/UtilityFunctions.h"
 #include "screen/UnitList.h"
+#include "sevenday/NumberedLine.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace k7deval
@@ -28,6 +30,23 @@ constexpr TestReasonEntry kTestReasons[] = {
     {"Diagnostic", 3, "RECERT"},
 };
 
+constexpr double kLargestOris = 999999;
+
+bool isText(const Variant& value, const char* text)
+{
+    const auto* held = std::get_if<std::string>(&value);
+    return held != nullptr && *held == text;
+}
+
+std::string scaleSuffix(const Variant& scale)
+{
+    if (isText(scale, "LOW"))
+        return "/L";
+    if (isText(scale, "MID"))
+        return "/M";
+    return isText(scale, "HIGH") ? "/H" : "";
+}
+
 } // namespace
 
 ctrl7DaySetUp::ctrl7DaySetUp(screen::Container& parent, std::string name,
@@ -35,8 +54,18 @@ ctrl7DaySetUp::ctrl7DaySetUp(screen::Container& parent, std::string name,
     : Control(parent, std::move(name)), surroundings_(surroundings)
 {
     connectRules();
-    connectFields();
     startUp();
+}
+
+void ctrl7DaySetUp::connectRules()
+{
+    cmbUnit.Picked.Connect([this] { unitRule(); });
+    cmbAnalyzer.Picked.Connect([this] { analyzerRule(); });
+    txtORIS.Validate.Connect([this] { validateOris(); });
+    txtFromDate.Validate.Connect([this] { validateDate(txtFromDate, fromDate_); });
+    txtToDate.Validate.Connect([this] { validateDate(txtToDate, toDate_); });
+    cmdFromDate.Clicked.Connect([this] { askDate(txtFromDate, fromDate_); });
+    cmdToDate.Clicked.Connect([this] { askDate(txtToDate, toDate_); });
 }
 
 void ctrl7DaySetUp::startUp()
@@ -68,6 +97,131 @@ void ctrl7DaySetUp::Terminate()
     irm_.reset();
     server_.reset();
     selectedParameter_.reset();
+}
+
+void ctrl7DaySetUp::unitRule()
+{
+    runPosting(irm_, NumberedLine::UnitRule, [this] {
+        const PID unit = cmbUnit.ItemData();
+        calibrationPIDs_.clear();
+        cmbAnalyzer.clear();
+        listAnalyzers(unit);
+        if (calibrationPIDs_.empty()) {
+            cmbAnalyzer.addItem("N/A", 0);
+            SetIs40CFR75(false);
+        } else {
+            takeUnitFacts(unit);
+        }
+        cmbAnalyzer.SetListIndex(0);
+    });
+}
+
+void ctrl7DaySetUp::listAnalyzers(PID unit)
+{
+    const auto parameters = present(server_).ParametersOfUnit(PIDPart(unit, pidpart::kUnit),
+                                                              ParamTypes{kCalibrationType});
+    for (const auto& parameter : parameters) {
+        if (definesCalibrations(present(parameter)) &&
+            !isLeftOutOfLists(*parameter, surroundings_.regional).value_or(false))
+            listAnalyzer(*parameter);
+    }
+}
+
+void ctrl7DaySetUp::listAnalyzer(DIParameter& parameter)
+{
+    const std::string name = analyzerName(parameter);
+    const auto& listed = cmbAnalyzer.List();
+    const bool isListed = std::find(listed.begin(), listed.end(), name) != listed.end();
+    if (name.empty())
+        return;
+    if (!isListed) {
+        calibrationPIDs_.push_back(0);
+        cmbAnalyzer.addItem(name, static_cast<std::int32_t>(calibrationPIDs_.size()));
+        calibrationPIDs_.back() = parameter.PID();
+        return;
+    }
+    // A second parameter of the name takes the place of the analyzer listed last, if it knows its
+    // component.
+    const Variant component = parameter.GetAttribute(attribute::kComponentId);
+    if (!isNull(component) && !textOf(component).empty())
+        calibrationPIDs_.back() = parameter.PID();
+}
+
+std::string ctrl7DaySetUp::analyzerName(DIParameter& parameter) const
+{
+    const PID measured =
+        integerIn(parameter.GetAttribute(attribute::kMeasuredPID), surroundings_.regional);
+    const auto source = present(server_->Parameters()).Item(measured, -1);
+    return present(source).Name(0) + scaleSuffix(parameter.GetAttribute(attribute::kScale));
+}
+
+void ctrl7DaySetUp::takeUnitFacts(PID unit)
+{
+    const auto parameter = present(server_->Parameters()).Item(unit, -1);
+    DIParameter& facts = present(parameter);
+    SetOrisCode(integerIn(facts.GetAttribute(attribute::kOrisCode), surroundings_.regional));
+    const std::string identifier = textOf(facts.GetAttribute(attribute::kUnitIdentifier));
+    SetStackID(std::string(trimRight(identifier)));
+    const Variant severalStacks = facts.GetAttribute(attribute::kSeveralStacks);
+    if (!isNull(severalStacks) && booleanIn(severalStacks, surroundings_.regional))
+        SetStackID(textOf(facts.GetAttribute(attribute::kStackIdentifiers)));
+}
+
+void ctrl7DaySetUp::analyzerRule()
+{
+    runPosting(irm_, NumberedLine::AnalyzerRule, [this] {
+        const std::int32_t i = cmbAnalyzer.ItemData();
+        if (i == 0)
+            return;
+        const PID pid = calibrationPIDs_.at(static_cast<std::size_t>(i) - 1);
+        const std::int32_t program = PIDPart(pid, pidpart::kProgramCode);
+        const std::int32_t code = PIDPart(pid, pidpart::kParameterCode);
+        specification_.choose(code, program);
+        chk6of7.setChecked(isCarbonMonoxide(code));
+        if (present(present(server_).Parameters()).Exists(pid))
+            takeAnalyzer(pid, program);
+        else
+            SetIs40CFR75(false);
+    });
+}
+
+void ctrl7DaySetUp::takeAnalyzer(PID pid, std::int32_t program)
+{
+    selectedParameter_ = present(server_->Parameters()).Item(pid, -1);
+    SetIs40CFR75(program == kProgram40CFR75);
+    SetComponentID(textOf(selectedAttribute(attribute::kComponentId)));
+    SetTestNumber(replaceAll(textOf(selectedAttribute(attribute::kTestNumberBase)), "O2DRY", "O2"));
+    const std::string scale = AnalyzedScale();
+    if (scale == "HIGH" || scale == "MID" || scale == "LOW")
+        SetTestNumber(TestNumber() + scale.front());
+    SetTestNumber(TestNumber() + "_" + ComponentID() + "_7DAY");
+}
+
+// What is typed is put back silently when the field is left with bad input.
+void ctrl7DaySetUp::validateOris()
+{
+    const auto number = numberIn(txtORIS.Text(), surroundings_.regional);
+    const double whole = number ? std::nearbyint(*number) : -1;
+    if (whole < 0 || whole > kLargestOris)
+        txtORIS.SetText("");
+    else
+        SetOrisCode(toInt32(whole));
+}
+
+void ctrl7DaySetUp::validateDate(screen::TextBox& field, Date& date) const
+{
+    const Date today = CurrentDateTime(surroundings_.clock);
+    if (IsDate(field.Text(), surroundings_.regional, today))
+        date = dateOnly(ToDate(field.Text(), surroundings_.regional, today));
+    field.SetText(ShortDate(date, surroundings_.regional));
+}
+
+void ctrl7DaySetUp::askDate(screen::TextBox& field, Date& date) const
+{
+    const auto picked = surroundings_.services.PickDate("7-Day Drift", date, -1, -1, -1);
+    if (picked)
+        date = *picked;
+    field.SetText(ShortDate(date, surroundings_.regional));
 }
 
 Variant ctrl7DaySetUp::selectedAttribute(std::int32_t id) const
@@ -108,39 +262,6 @@ Date ctrl7DaySetUp::StartDate() const
 Date ctrl7DaySetUp::EndDate() const
 {
     return std::max(fromDate_, toDate_);
-}
-
-CalLimitRulesEnum ctrl7DaySetUp::LimitRules() const
-{
-    if (opt025Span.isSelected() && chkUseAPS.isChecked())
-        return CalLimitRules_PercentOfSpanAndAbsoluteAPS;
-    if (opt025Span.isSelected() || opt05Span.isSelected() || optOtherSpan.isSelected())
-        return CalLimitRules_PercentOfSpan;
-    if (optPS9GC.isSelected())
-        return CalLimitRules_PercentOfRef;
-    return CalLimitRules_AbsoluteValue;
-}
-
-/// chkUseAPS counts under every specification: other options only disable it.
-float ctrl7DaySetUp::AbsoluteLimit() const
-{
-    if (opt005Absolute.isSelected())
-        return 0.5F;
-    return chkUseAPS.isChecked() ? 5.0F : otherAbsoluteLimit_;
-}
-
-float ctrl7DaySetUp::PercentOfSpanLimit() const
-{
-    if (optPS9GC.isSelected())
-        return kNoLimit;
-    if (opt025Span.isSelected())
-        return 2.5F;
-    return opt05Span.isSelected() ? 5.0F : otherSpanLimit_;
-}
-
-float ctrl7DaySetUp::PercentOfRefLimit() const
-{
-    return optPS9GC.isSelected() ? 10.0F : kNoLimit;
 }
 
 std::string ctrl7DaySetUp::AnalyzerInfoText() const

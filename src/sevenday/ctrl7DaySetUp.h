@@ -7,7 +7,7 @@
 #include "screen/Label.h"
 #include "screen/Services.h"
 #include "screen/TextBox.h"
-#include "sevenday/CalLimitRules.h"
+#include "sevenday/PerformanceSpecification.h"
 
 #include <cstdint>
 #include <memory>
@@ -49,11 +49,12 @@ public:
     [[nodiscard]] bool ShowAllCalsWithinDrift() const { return optShowAllCals.isSelected(); }
     [[nodiscard]] bool ShowOnlyDriftCals() const { return optShowDriftTestCals.isSelected(); }
     [[nodiscard]] bool ShowSummary() const { return chkShowSummary.isChecked(); }
-    [[nodiscard]] CalLimitRulesEnum LimitRules() const;
-    /// The limits below are -999 where they do not apply.
-    [[nodiscard]] float AbsoluteLimit() const;      ///< Analyzer units.
-    [[nodiscard]] float PercentOfSpanLimit() const; ///< Percent.
-    [[nodiscard]] float PercentOfRefLimit() const;  ///< Percent.
+    [[nodiscard]] CalLimitRulesEnum LimitRules() const { return specification_.LimitRules(); }
+    /// The limits below are -999 where they do not apply; the absolute one is in the analyzer's
+    /// units, the others are percents.
+    [[nodiscard]] float AbsoluteLimit() const { return specification_.AbsoluteLimit(); }
+    [[nodiscard]] float PercentOfSpanLimit() const { return specification_.PercentOfSpanLimit(); }
+    [[nodiscard]] float PercentOfRefLimit() const { return specification_.PercentOfRefLimit(); }
     [[nodiscard]] std::string AnalyzerInfoText() const;
 
     [[nodiscard]] std::string StackID() const;
@@ -133,7 +134,6 @@ public:
 private:
     void startUp();
     void connectRules();
-    void connectFields();
 
     void unitRule();
     void listAnalyzers(PID unit);
@@ -142,28 +142,24 @@ private:
     void takeUnitFacts(PID unit);
 
     void analyzerRule();
-    void chooseSpecification(std::int32_t code, std::int32_t program);
     void takeAnalyzer(PID pid, std::int32_t program);
 
-    /// Enables what belongs to an option, and disables the rest.
-    void specificationRule(bool apsEnabled, bool otherSpanEnabled, bool otherAbsoluteEnabled);
-    void offerOtherLimit(screen::TextBox& field, bool enabled, float limit) const;
-
     void validateOris();
-    void validateLimit(screen::TextBox& field, float& limit) const;
     void validateDate(screen::TextBox& field, Date& date) const;
-    void pickDate(screen::TextBox& field, Date& date) const;
+    void askDate(screen::TextBox& field, Date& date) const;
 
     [[nodiscard]] Variant selectedAttribute(std::int32_t id) const;
     [[nodiscard]] std::string textOf(const Variant& value) const;
 
     screen::Surroundings surroundings_;
+    PerformanceSpecification specification_{{opt025Span, chkUseAPS, opt05Span, opt005Absolute,
+                                             optOtherSpan, txtOtherSpanValue, optOtherAbsolute,
+                                             txtOtherAbsoluteValue, optPS9GC},
+                                            surroundings_.regional};
     std::shared_ptr<MessageSink> irm_;
     std::shared_ptr<DIServer> server_;
     Date fromDate_;
     Date toDate_;
-    float otherSpanLimit_ = 3;
-    float otherAbsoluteLimit_ = 5;
     std::vector<PID> calibrationPIDs_; ///< Of the entries of cmbAnalyzer; entry n stands at n - 1.
     std::shared_ptr<DIParameter> selectedParameter_;
     bool is40CFR75_ = false;

@@ -77,7 +77,7 @@ void ComboBox::SetText(const std::string& text)
 {
     if (!hasEditField())
         throw Error(errors::kUnknownMember);
-    edit(text);
+    takeText(text);
 }
 
 void ComboBox::Pick(std::int32_t index)
@@ -89,10 +89,10 @@ void ComboBox::Pick(std::int32_t index)
 void ComboBox::Type(std::string_view text)
 {
     if (isReachable() && hasEditField())
-        edit(std::string(text));
+        takeText(std::string(text));
 }
 
-void ComboBox::edit(const std::string& text)
+void ComboBox::takeText(const std::string& text)
 {
     const bool isOtherText = text != text_;
     if (!isOtherText && listIndex_ == -1)

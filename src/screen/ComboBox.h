@@ -63,7 +63,7 @@ private:
     {
         return index >= 0 && index < listCount();
     }
-    void edit(const std::string& text);
+    void takeText(const std::string& text);
 
     EditField editField_;
     std::vector<std::string> list_;

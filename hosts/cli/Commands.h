@@ -13,12 +13,12 @@ namespace k7deval::cli
 /// Exit status of the program.
 enum class Status { Done = 0, NotPassed = 1, BadInput = 2 };
 
-/// Where a command writes, what was asked for and notes beside it, and the time it goes by.
+/// Where a command writes its output and, beside it, its notes; and the clock that it goes by.
 struct Console {
     std::ostream& out;
     std::ostream& notes;
     const Clock& clock;
-    bool notesAreTerminal = false; ///< Whether a line of notes can be written over.
+    bool notesAreTerminal = false; ///< Whether a line of notes can be overwritten.
 };
 
 struct ImportRequest {
@@ -31,7 +31,7 @@ struct ImportRequest {
     bool leaveOutUnreadable = false;
 };
 
-/// What all screens take.
+/// The options that all screens take.
 struct ScreenRequest {
     std::string site;
     std::string region = "en-US";
@@ -84,7 +84,7 @@ Status runUnits(const std::string& site, const Console& console);
 /// Lists the analyzers of a unit, or of all units, as the 7-Day tool offers them.
 Status runAnalyzers(const std::string& site, const std::string& unit, const Console& console);
 /// Evaluates one drift test with the 7-Day tool, prints its screen and saves what was asked for.
-/// Nothing is written before all that can be refused was looked at.
+/// Nothing is written before everything that can be refused was checked.
 Status runDrift(const DriftRequest& request, const Console& console);
 /// Lists what range evaluation offers of a unit, or of all units: unit, parameter, scale and span.
 Status runRanges(const std::string& site, const std::string& unit, const Console& console);

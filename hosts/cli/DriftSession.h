@@ -24,8 +24,8 @@ public:
     DriftSession(const std::shared_ptr<DIServer>& server, const Clock& clock,
                  const RegionalSettings& regional, std::ostream& notes);
 
-    /// Fills the setup page but for the test information. UsageError for what its lists do not hold
-    /// and its fields do not take.
+    /// Fills the setup page except for the test information. UsageError for what its lists do not
+    /// hold and its fields do not take.
     void fillSetUp(const DriftOptions& options);
     /// Whether the analyzer has test information, and an ECMPS export.
     [[nodiscard]] bool isUnder40CFR75() const { return control_.ctrl7DaySetUp1.Is40CFR75(); }

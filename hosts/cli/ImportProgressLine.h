@@ -9,9 +9,9 @@
 namespace k7deval::cli
 {
 
-/// Tells beside the output how far the import of a file is: on a terminal in one line that rewrites
-/// itself and is gone at the end, elsewhere, and for large files only, with a line every few
-/// seconds.
+/// Tells, apart from the output, how far the import of a file is: on a terminal in one line that
+/// rewrites itself and is gone at the end, elsewhere, and for large files only, with a line every
+/// few seconds.
 class ImportProgressLine
 {
 public:

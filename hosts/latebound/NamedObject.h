@@ -38,7 +38,7 @@ public:
 
     /// A member's plain value.
     [[nodiscard]] virtual Variant value(const char* name, Arguments arguments) = 0;
-    /// A member's object, or nothing.
+    /// A member's object, or null.
     [[nodiscard]] virtual ObjectHandle object(const char* name, Arguments arguments) = 0;
     /// Calls an operation whose result does not matter.
     virtual void call(const char* name, Arguments arguments) = 0;

@@ -29,7 +29,7 @@ public:
                       std::int32_t two, std::int32_t showCommand) override;
 
 private:
-    /// None for a dialog that is missing.
+    /// None when the dialog is missing.
     template <class... Values>
     pybind11::object ask(const char* name, const Values&... values) const;
 

@@ -32,7 +32,7 @@ namespace k7deval::qt
 /// Models measure in twips.
 inline constexpr float kTwipsPerPixel = 15;
 
-/// A screen or a page: seen or not, enabled or not, and its mouse pointer.
+/// Ties a screen or a page: whether it is seen and enabled, and its mouse pointer.
 void bind(QWidget& view, screen::Control& model);
 void bind(QGroupBox& view, screen::Frame& model);
 void bind(QLabel& view, screen::Label& model);

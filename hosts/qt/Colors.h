@@ -8,7 +8,7 @@
 namespace k7deval::qt
 {
 
-/// A colour as its three parts say, whatever the palette; higher bits count for nothing.
+/// A colour by its three parts, whatever the palette; higher bits count for nothing.
 QColor plainColor(screen::Color color);
 
 /// Whether texts of a palette are light on a dark ground.

@@ -9,7 +9,7 @@ namespace k7deval::qt
 {
 
 /// Runs a function at the events of one kind that an object gets, before it deals with them itself.
-/// Belongs to the object. Events that come while the object goes are not watched any more.
+/// Belongs to the object. Events that come while the object is destroyed are no longer watched.
 class EventWatch final : public QObject
 {
 public:

@@ -12,7 +12,7 @@
 namespace k7deval::qt
 {
 
-/// Shows a model anew on its view, as long as there is the view.
+/// Shows a model again on its view, for as long as the view exists.
 using Refresh = std::function<void()>;
 
 /// How a view shows what stands in its model.
@@ -38,7 +38,7 @@ Refresh refreshOf(View& view, const Model& model, Show<View, Model> show)
 /// colours.
 void keepShown(QWidget& view, screen::Widget& model, const Refresh& refresh);
 
-/// Keeps a view like its model from now on. The answer shows the model at once.
+/// Keeps a view like its model from now on. What it returns shows the model at once.
 template <class View, class Model> Refresh mirror(View& view, Model& model, Show<View, Model> show)
 {
     Refresh refresh = refreshOf<View, Model>(view, model, std::move(show));

@@ -7,8 +7,8 @@
 namespace k7deval::qt
 {
 
-/// A dialog for the time of a question. It may go before that time is over, with the window that it
-/// lies over.
+/// A dialog for as long as a question is asked. It may be gone before the answer, with the window
+/// that it lies over.
 template <class Dialog> class Modal
 {
 public:

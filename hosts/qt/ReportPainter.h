@@ -15,7 +15,7 @@ namespace k7deval::qt
 /// The painter's units are points, its origin the top left corner of the page, y downward.
 void drawPage(QPainter& painter, const ReportPage& page);
 
-/// The box around all that stands on a page, in the same units; empty for a page with nothing.
+/// The box around everything on a page, in the same units; empty for an empty page.
 [[nodiscard]] QRectF contentOf(const ReportPage& page);
 
 } // namespace k7deval::qt

@@ -19,8 +19,7 @@ public:
     /// What the surroundings refer to outlives the page.
     explicit DataPage(const screen::Surroundings& surroundings, QWidget* parent = nullptr);
 
-    /// Shows the data of another site; of none for nothing. What the data raises is told to the
-    /// user.
+    /// Shows the data of another site, or of none. What the data raises is told to the user.
     void setServer(const std::shared_ptr<DIServer>& server);
 
 private:

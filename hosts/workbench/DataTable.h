@@ -18,7 +18,7 @@ enum class Reader { User, Program };
 
 /// Whether there is no value: Null, or never given.
 bool isMissing(const Variant& value);
-/// A value as a cell shows it; nothing for a missing one.
+/// A value as a cell shows it; empty for a missing one.
 QString cellText(const Variant& value, Reader reader, const RegionalSettings& regional);
 
 /// A table of values, whose cells are asked for when they come on view.
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] virtual QString heading(int column, Reader reader) const = 0;
     [[nodiscard]] virtual QString cell(int row, int column, Reader reader) const = 0;
     [[nodiscard]] virtual bool isNumber(int column) const = 0;
-    /// What else is to be said of a cell; mostly nothing.
+    /// What else there is to say about a cell; mostly nothing.
     [[nodiscard]] virtual QString explanation(int row, int column) const;
 
     [[nodiscard]] int rows() const { return rowCount({}); }

@@ -36,7 +36,7 @@ public:
 
     /// In how many hours at least one parameter has a value.
     [[nodiscard]] int hoursWithValue() const;
-    /// Whether there is anything to say of an hour: a value, or a status word.
+    /// Whether there is anything to say about an hour: a value, or a status word.
     [[nodiscard]] bool hasContent() const;
     /// The status texts that stand in a column of them.
     [[nodiscard]] QStringList statusTextsIn(int column) const;

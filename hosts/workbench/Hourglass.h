@@ -5,7 +5,7 @@
 namespace k7deval::workbench
 {
 
-/// The pointer of a program at work, as long as it lives.
+/// Shows the pointer of a program at work for as long as it lives.
 class Hourglass
 {
 public:

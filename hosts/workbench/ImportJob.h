@@ -15,7 +15,7 @@
 namespace k7deval::workbench
 {
 
-/// A file to import, and what the operator says of it.
+/// A file to import, and what the operator says about it.
 struct ImportTask {
     std::filesystem::path file;
     std::string unit;
@@ -37,7 +37,7 @@ struct ImportOutcome {
     std::string sentence;        ///< Why a file was refused.
 };
 
-/// Who is told of an import, in the thread in which the job was made. Files go by their place in
+/// What is told of an import, in the thread in which the job was made. Files go by their place in
 /// the order.
 struct ImportListener {
     std::function<void(std::size_t)> started;
@@ -60,7 +60,7 @@ public:
     /// Cancels and waits until the file under way is rolled back. Nobody is told of it any more.
     ~ImportJob() override;
 
-    /// Asks for an end: of the file under way nothing is taken.
+    /// Asks for an end: nothing is taken of the file under way.
     void cancel() { isCancelled_ = true; }
     /// Cancels and waits until the site is closed.
     void finish();
@@ -73,7 +73,7 @@ private:
     void take(sitedb::SiteDatabase& site, std::size_t index);
     [[nodiscard]] ImportOutcome outcomeOf(sitedb::SiteDatabase& site, std::size_t index);
     [[nodiscard]] bool tell(std::size_t index, const sitedb::ImportProgress& progress);
-    /// Has the listener called in its thread, in the order of the calls.
+    /// Calls the listener in its thread, in the order of the calls.
     template <class Call> void post(Call call);
 
     ImportOrder order_;

@@ -70,7 +70,7 @@ private:
     /// Presses a button of the tool on view, if it has one of that name.
     void pressOnPage(const QString& name);
     void takeRegion(const QString& name);
-    /// What is known of a site when it is opened.
+    /// What is known about a site when it is opened.
     struct Site {
         QString path; ///< Empty without a site.
         std::shared_ptr<DIServer> server;

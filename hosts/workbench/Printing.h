@@ -25,7 +25,7 @@ void previewReport(const ReportDocument& document, QWidget* over);
 /// pages, error 440 when the printer fails.
 void printPages(const ReportDocument& document, QPrinter& printer);
 
-/// The report of a tool as it is now; nothing when there is none.
+/// The report of a tool as it is now; null when there is none.
 using ReportMaker = std::function<std::unique_ptr<ReportDocument>()>;
 
 /// The buttons that print what a tool would save, `cmdPrint` and `cmdPrintPreview`. They can be

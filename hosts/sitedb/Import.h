@@ -47,8 +47,8 @@ struct ImportOptions {
     /// The time of the import for the log; the zero date: not recorded.
     Date time;
     /// Is told how far the import is: of an emissions file and an hourly table now and then, of any
-    /// file before what was taken is kept for good. False ends the import with ImportCancelled, and
-    /// nothing is taken.
+    /// file while a long one is read, with 0 bytes, and before what was taken is kept for good.
+    /// False ends the import with ImportCancelled, and nothing is taken.
     std::function<bool(const ImportProgress&)> progress;
 };
 
@@ -60,46 +60,12 @@ struct ImportReport {
 };
 
 /// Tells what a file is from its content. Raises the ImportError of an import for a file that is
-/// none of those that can be imported. Of a table it reads the beginning, of an emissions file as
-/// much as tells it, however large it is.
+/// none of those that can be imported. However large the file is, its beginning is read, and of
+/// JSON as much as tells the format.
 FileKind kindOf(const std::filesystem::path& path);
 
 /// Imports a file, plain or gzip, whose format is told from its content.
 ImportReport importFile(SiteDatabase& site, const std::filesystem::path& path,
                         const ImportOptions& options);
-
-/// Calibration injections of an ECMPS 2.0 QA file (JSON). The analyzers have to be in the site,
-/// from a monitoring plan or span table.
-ImportReport importEcmpsQa(SiteDatabase& site, const std::filesystem::path& path,
-                           const ImportOptions& options);
-
-/// Units, analyzers and spans from a CSV table with the columns unit_id, component_id,
-/// component_type, span_scale, span_value and units.
-ImportReport importSpanTable(SiteDatabase& site, const std::filesystem::path& path,
-                             const ImportOptions& options);
-
-/// Units, analyzers, spans and maximum loads from a monitoring plan (JSON), in the layout of the
-/// ECMPS import or of EPA's API.
-ImportReport importMonitoringPlan(SiteDatabase& site, const std::filesystem::path& path,
-                                  const ImportOptions& options);
-
-/// Units, analyzers and spans from a CSV table with the columns oris, location, component_type_cd,
-/// span_value and the other fields of a plan's span. The table names no components.
-ImportReport importLocationSpans(SiteDatabase& site, const std::filesystem::path& path,
-                                 const ImportOptions& options);
-
-/// Hourly load of a unit from a CSV table with the columns date, hour and gross_load_mw.
-ImportReport importHourlyLoad(SiteDatabase& site, const std::filesystem::path& path,
-                              const ImportOptions& options);
-
-/// Hours of a unit's monitors from a CSV table with the columns date, hour, parameter, modc and
-/// unadjusted_hourly_value, or unadjusted_hourly_value_ugscm for mercury.
-ImportReport importMonitorHourly(SiteDatabase& site, const std::filesystem::path& path,
-                                 const ImportOptions& options);
-
-/// Operating time, load, hours of monitors and daily calibrations of an ECMPS 2.0 emissions file
-/// (JSON) of any size.
-ImportReport importEcmpsEmissions(SiteDatabase& site, const std::filesystem::path& path,
-                                  const ImportOptions& options);
 
 } // namespace k7deval::sitedb

@@ -152,6 +152,41 @@ TEST(ImportCancel, EndsATableInTheMiddle)
     EXPECT_EQ(told.back().bytesRead, told.back().bytesTotal);
 }
 
+// A load table of so many bytes, of which nothing can be taken.
+std::string longTable(std::size_t size)
+{
+    return "date,hour,gross_load_mw\n" + std::string(size, '\n');
+}
+
+constexpr std::size_t kMegabyte = std::size_t{1} << 20U;
+
+TEST(ImportCancel, EndsTheReadingOfALongTable)
+{
+    SmallSite held;
+    const auto file = held.directory.write("load.csv", longTable(3 * kMegabyte));
+    ImportOptions options = forUnit("U1");
+    int told = 0;
+    options.progress = [&told](const ImportProgress& progress) {
+        EXPECT_EQ(progress.bytesRead, 0);
+        return ++told < 2;
+    };
+    EXPECT_EQ(refusal(held, file, options), "load.csv: the import was cancelled.");
+    EXPECT_EQ(told, 2);
+}
+
+TEST(ImportCancel, EndsTheCheckSumOfAFileThatMayHaveBeenImported)
+{
+    SmallSite held;
+    std::string table = longTable(2 * kMegabyte) + "2019-01-01,0,5\n";
+    importFile(held.site, held.directory.write("load.csv", table), forUnit("U1"));
+    table[table.size() - 2] = '6';
+    const auto other = held.directory.write("other.csv", table);
+    EXPECT_EQ(refusal(held, other, cancellingAt(1)), "other.csv: the import was cancelled.");
+    EXPECT_EQ(refusal(held, other, forUnit("U1")),
+              "other.csv: line 2097154: date and hour: the site already holds the unit's load for "
+              "hour 0 of 2019-01-01.");
+}
+
 } // namespace
 
 } // namespace k7deval::sitedb::test

@@ -1,3 +1,5 @@
+#include "sitedb/formats/EcmpsEmissionsImport.h"
+
 #include "sitedb/formats/EmissionsCalibrations.h"
 #include "sitedb/formats/EmissionsHours.h"
 #include "sitedb/formats/ImportSteps.h"
@@ -13,35 +15,30 @@ namespace
 class EmissionsImporter
 {
 public:
-    EmissionsImporter(sql::Connection& connection, const SourceFile& file,
-                      const ImportOptions& options)
-        : file_(file), options_(options), writer_(connection),
-          hours_(connection, file, steppedOver_),
-          calibrations_(connection, file, steppedOver_, options.leaveOutUnreadable)
+    explicit EmissionsImporter(const ImportTask& task)
+        : task_(task), writer_(task.connection), hours_(task.connection, task.file, steppedOver_),
+          calibrations_(task.connection, task.file, steppedOver_, task.options.leaveOutUnreadable)
     {
     }
 
-    void take(const std::filesystem::path& path)
+    Taken take()
     {
-        SourceStream stream(path, file_, [this](std::int64_t bytesRead) { tell(bytesRead); });
-        counts_ = visitJson(stream, file_, visitor());
+        SourceStream stream(task_.file, [this](std::int64_t bytesRead) {
+            tellProgress(task_, bytesRead, hours_.hours());
+        });
+        counts_ = visitJson(stream, task_.file, visitor());
         if (!orisCode_)
-            throw file_.error("orisCode", "the field is missing");
+            throw task_.file.error("orisCode", "the field is missing");
         hours_.finish();
         calibrations_.finish();
         writer_.setOrisCode(*orisCode_);
-        tellAllIsRead(options_, file_, hours_.hours());
+        return {report(), hours_.hours(), hours_.hours() + calibrations_.injections() == 0};
     }
 
-    /// Whether the site holds anything of the file.
-    [[nodiscard]] bool tookSomething() const
-    {
-        return hours_.hours() + calibrations_.injections() > 0;
-    }
-
+private:
     [[nodiscard]] ImportReport report() const
     {
-        ImportReport report{format::kEcmpsEmissions,
+        ImportReport report{{},
                             {counted(hours_.hours(), "hour"),
                              counted(hours_.values(), "monitor value"),
                              counted(calibrations_.injections(), "calibration injection")},
@@ -55,7 +52,6 @@ public:
         return report;
     }
 
-private:
     JsonVisitor visitor()
     {
         return {{emissions::kHours, emissions::kDailyTests},
@@ -74,7 +70,7 @@ private:
     {
         if (node.path() == "orisCode") {
             orisCode_ = node.whole(1, kHighestOrisCode, "ORIS code");
-            writer_.checkOrisCode(file_, node.path(), *orisCode_);
+            checkOrisCode(task_.file, node.path(), *orisCode_, writer_.orisCode());
         }
         const bool isList =
             node.path() == emissions::kHours || node.path() == emissions::kDailyTests;
@@ -82,10 +78,7 @@ private:
             throw node.error(node.shown() + " is no list");
     }
 
-    void tell(std::int64_t bytesRead) { tellProgress(options_, file_, bytesRead, hours_.hours()); }
-
-    const SourceFile& file_;
-    const ImportOptions& options_;
+    const ImportTask& task_;
     SiteWriter writer_;
     SteppedOver steppedOver_;
     EmissionsHours hours_;
@@ -96,30 +89,9 @@ private:
 
 } // namespace
 
-bool isEcmpsEmissions(const std::filesystem::path& path, const SourceFile& file)
+Taken takeEcmpsEmissions(const ImportTask& task)
 {
-    SourceStream stream(path, file);
-    return hasTopLevelName(stream, {"quarter", emissions::kHours, emissions::kDailyTests,
-                                    "dailyEmissionData", "weeklyTestSummaryData",
-                                    "summaryValueData", "longTermFuelFlowData", "sorbentTrapData",
-                                    "nsps4tSummaryData", "dailyBackstopData"});
-}
-
-ImportReport takeEcmpsEmissions(sql::Connection& connection, const std::filesystem::path& path,
-                                const SourceFile& file, const ImportOptions& options)
-{
-    sql::Transaction transaction(connection);
-    SiteWriter writer(connection);
-    writer.checkIsNew(file);
-    EmissionsImporter importer(connection, file, options);
-    importer.take(path);
-    ImportReport report = importer.report();
-    // A file that holds nothing for the site leaves no trace in it, not even its ORIS code.
-    if (!importer.tookSomething())
-        return report;
-    writer.log(file, report, options.time);
-    transaction.commit();
-    return report;
+    return EmissionsImporter(task).take();
 }
 
 } // namespace k7deval::sitedb

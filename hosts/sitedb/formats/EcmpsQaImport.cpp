@@ -1,3 +1,5 @@
+#include "sitedb/formats/EcmpsQaImport.h"
+
 #include "sitedb/formats/EcmpsQa.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/tables/CalibrationWriter.h"
@@ -62,7 +64,7 @@ ImportReport qaReport(const QaContent& content)
         for (const auto& injection : test.injections)
             ++(injection.gasLevelCode == 0 ? zeros : upscales);
     }
-    ImportReport report{format::kEcmpsQa,
+    ImportReport report{{},
                         {counted(content.tests.size(), "test"), counted(zeros, "zero injection"),
                          counted(upscales, "upscale injection")},
                         content.steppedOver,
@@ -74,26 +76,16 @@ ImportReport qaReport(const QaContent& content)
 
 } // namespace
 
-ImportReport takeEcmpsQa(sql::Connection& connection, const SourceFile& file,
-                         const ImportOptions& options)
+Taken takeEcmpsQa(const ImportTask& task)
 {
-    const QaContent content = readEcmpsQa(file, options.leaveOutUnreadable);
-    ImportReport report = qaReport(content);
-    sql::Transaction transaction(connection);
-    SiteWriter writer(connection);
-    writer.checkIsNew(file);
-    writer.checkOrisCode(file, "orisCode", content.orisCode);
-    // A file that holds nothing for the site leaves no trace in it, not even its ORIS code.
-    if (content.tests.empty())
-        return report;
-    QaImporter importer(connection, file);
+    const QaContent content = readEcmpsQa(task.file, task.options.leaveOutUnreadable);
+    SiteWriter writer(task.connection);
+    checkOrisCode(task.file, "orisCode", content.orisCode, writer.orisCode());
+    QaImporter importer(task.connection, task.file);
     for (const auto& test : content.tests)
         importer.take(test);
     writer.setOrisCode(content.orisCode);
-    writer.log(file, report, options.time);
-    tellAllIsRead(options, file);
-    transaction.commit();
-    return report;
+    return {qaReport(content), 0, content.tests.empty()};
 }
 
 } // namespace k7deval::sitedb

@@ -1,3 +1,5 @@
+#include "sitedb/formats/HourlyLoadImport.h"
+
 #include "sitedb/formats/HourlyTable.h"
 #include "sitedb/formats/ImportSteps.h"
 
@@ -47,26 +49,17 @@ private:
 
 } // namespace
 
-ImportReport takeHourlyLoad(sql::Connection& connection, const SourceFile& file,
-                            const ImportOptions& options)
+Taken takeHourlyLoad(const ImportTask& task)
 {
-    const CsvTable table = CsvTable::parse(file);
-    sql::Transaction transaction(connection);
-    SiteWriter writer(connection);
-    writer.checkIsNew(file);
-    const std::int32_t unit = namedUnit(writer, file, options.unit, "load belongs");
+    const CsvTable table = CsvTable::parse(task.file);
+    SiteWriter writer(task.connection);
+    const std::int32_t unit = namedUnit(writer, task.file, task.options.unit, "load belongs");
     writer.addLoad(unit);
     writer.addOperatingTime(unit);
-    LoadImporter importer(table, file, connection, unit);
-    takeRows(table, file, options, [&](const CsvRow& row) { importer.take(row); });
-    ImportReport report{format::kHourlyLoad,
-                        importer.counts(),
-                        otherColumns(table, {"date", "hour", "gross_load_mw"}),
-                        {}};
-    writer.log(file, report, options.time);
-    tellAllIsRead(options, file, table.rows().size());
-    transaction.commit();
-    return report;
+    LoadImporter importer(table, task.file, task.connection, unit);
+    takeRows(table, task, [&](const CsvRow& row) { importer.take(row); });
+    return {{{}, importer.counts(), otherColumns(table, {"date", "hour", "gross_load_mw"}), {}},
+            table.rows().size()};
 }
 
 } // namespace k7deval::sitedb

@@ -41,14 +41,14 @@ void HourlyTable::add(const CsvRow& row, PID pid, const std::string& what, const
 }
 
 // A table is held in memory: what tells how far its import is are the rows.
-void takeRows(const CsvTable& table, const SourceFile& file, const ImportOptions& options,
+void takeRows(const CsvTable& table, const ImportTask& task,
               const std::function<void(const CsvRow&)>& take)
 {
     const std::size_t count = table.rows().size();
     for (std::size_t index = 0; index < count; ++index) {
         if (index % kRowsBetweenProgress == 0)
-            tellProgress(options, file,
-                         file.size * static_cast<std::int64_t>(index) /
+            tellProgress(task,
+                         task.file.size * static_cast<std::int64_t>(index) /
                              static_cast<std::int64_t>(count),
                          index);
         take(table.rows()[index]);

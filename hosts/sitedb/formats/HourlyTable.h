@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sitedb/formats/Importer.h"
 #include "sitedb/read/CsvTable.h"
 #include "sitedb/tables/HourWriter.h"
 #include "sitedb/tables/SiteWriter.h"
@@ -38,7 +39,7 @@ private:
 
 /// Takes the rows one after the other and tells now and then how far that is. Raises
 /// ImportCancelled when it is to end.
-void takeRows(const CsvTable& table, const SourceFile& file, const ImportOptions& options,
+void takeRows(const CsvTable& table, const ImportTask& task,
               const std::function<void(const CsvRow&)>& take);
 
 /// What an import says of the columns of a table that it does not use.

@@ -1,3 +1,5 @@
+#include "sitedb/formats/MonitorHourlyImport.h"
+
 #include "sitedb/formats/HourlyGas.h"
 #include "sitedb/formats/HourlyTable.h"
 #include "sitedb/formats/ImportSteps.h"
@@ -5,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace k7deval::sitedb
 {
@@ -38,10 +41,10 @@ bool isMats(const CsvTable& table)
 class MonitorHourlyImporter
 {
 public:
-    MonitorHourlyImporter(const CsvTable& table, const SourceFile& file,
-                          sql::Connection& connection, const ImportOptions& options)
-        : table_(table), hours_(table, file, connection), writer_(connection), options_(options),
-          unit_(namedUnit(writer_, file, options.unit, "hours belong")),
+    MonitorHourlyImporter(const CsvTable& table, const ImportTask& task)
+        : table_(table), hours_(table, task.file, task.connection), writer_(task.connection),
+          options_(task.options),
+          unit_(namedUnit(writer_, task.file, options_.unit, "hours belong")),
           parameter_(table.column("parameter")), modc_(table.column("modc")),
           value_(table.column(isMats(table) ? kMatsValueColumn : kValueColumn))
     {
@@ -134,24 +137,14 @@ private:
 
 } // namespace
 
-ImportReport takeMonitorHourly(sql::Connection& connection, const SourceFile& file,
-                               const ImportOptions& options)
+Taken takeMonitorHourly(const ImportTask& task)
 {
-    const CsvTable table = CsvTable::parse(file);
-    sql::Transaction transaction(connection);
-    SiteWriter writer(connection);
-    writer.checkIsNew(file);
-    MonitorHourlyImporter importer(table, file, connection, options);
-    takeRows(table, file, options, [&](const CsvRow& row) { importer.take(row); });
-    ImportReport report{
-        format::kMonitorHourly,
-        importer.counts(),
-        otherColumns(table, {"date", "hour", "parameter", "modc", kValueColumn, kMatsValueColumn}),
-        {}};
-    writer.log(file, report, options.time);
-    tellAllIsRead(options, file, table.rows().size());
-    transaction.commit();
-    return report;
+    const CsvTable table = CsvTable::parse(task.file);
+    MonitorHourlyImporter importer(table, task);
+    takeRows(table, task, [&](const CsvRow& row) { importer.take(row); });
+    auto others =
+        otherColumns(table, {"date", "hour", "parameter", "modc", kValueColumn, kMatsValueColumn});
+    return {{{}, importer.counts(), std::move(others), {}}, table.rows().size()};
 }
 
 } // namespace k7deval::sitedb

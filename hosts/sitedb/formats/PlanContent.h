@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sitedb/read/SourceFile.h"
 #include "sitedb/tables/Gases.h"
 #include "sitedb/tables/SiteWriter.h"
 

@@ -1,3 +1,5 @@
+#include "sitedb/formats/PlanImport.h"
+
 #include "sitedb/PlainText.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/formats/PlanContent.h"
@@ -212,40 +214,29 @@ private:
     std::size_t newLoads_ = 0;
 };
 
-ImportReport take(sql::Connection& connection, const SourceFile& file, const PlanContent& content,
-                  const std::string& format, const ImportOptions& options)
+Taken take(const ImportTask& task, const PlanContent& content)
 {
-    sql::Transaction transaction(connection);
-    SiteWriter writer(connection);
-    writer.checkOrisCode(file, content.orisPlace, content.orisCode);
-    PlanImporter importer(writer, file);
+    SiteWriter writer(task.connection);
+    checkOrisCode(task.file, content.orisPlace, content.orisCode, writer.orisCode());
+    PlanImporter importer(writer, task.file);
     for (const auto& location : content.locations)
         importer.take(location);
     writer.setOrisCode(content.orisCode);
     if (!content.facility.empty() && !writer.facilityName())
         writer.setFacilityName(content.facility);
-    ImportReport report{format, importer.counts(), content.steppedOver, {}};
-    writer.log(file, report, options.time);
-    tellAllIsRead(options, file);
-    transaction.commit();
-    return report;
+    return {{{}, importer.counts(), content.steppedOver, {}}};
 }
 
 } // namespace
 
-ImportReport takeMonitoringPlan(sql::Connection& connection, const SourceFile& file,
-                                const ImportOptions& options)
+Taken takeMonitoringPlan(const ImportTask& task)
 {
-    SiteWriter(connection).checkIsNew(file);
-    return take(connection, file, readMonitoringPlan(file), format::kMonitoringPlan, options);
+    return take(task, readMonitoringPlan(task.file));
 }
 
-// The table may come again for another of its locations.
-ImportReport takeLocationSpans(sql::Connection& connection, const SourceFile& file,
-                               const ImportOptions& options)
+Taken takeLocationSpans(const ImportTask& task)
 {
-    return take(connection, file, readLocationSpans(file, options.unit), format::kLocationSpans,
-                options);
+    return take(task, readLocationSpans(task.file, task.options.unit));
 }
 
 } // namespace k7deval::sitedb

@@ -1,3 +1,5 @@
+#include "sitedb/formats/SpanTableImport.h"
+
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/read/CsvTable.h"
 #include "sitedb/tables/SiteWriter.h"
@@ -118,21 +120,14 @@ private:
 
 } // namespace
 
-ImportReport takeSpanTable(sql::Connection& connection, const SourceFile& file,
-                           const ImportOptions& options)
+Taken takeSpanTable(const ImportTask& task)
 {
-    const CsvTable table = CsvTable::parse(file);
-    sql::Transaction transaction(connection);
-    SiteWriter writer(connection);
-    writer.checkIsNew(file);
+    const CsvTable table = CsvTable::parse(task.file);
+    SiteWriter writer(task.connection);
     SpanTableImporter importer(writer, table);
     for (const auto& row : table.rows())
         importer.take(row);
-    ImportReport report{format::kSpanTable, importer.counts(), {}, {}};
-    writer.log(file, report, options.time);
-    tellAllIsRead(options, file);
-    transaction.commit();
-    return report;
+    return {{{}, importer.counts(), {}, {}}};
 }
 
 } // namespace k7deval::sitedb

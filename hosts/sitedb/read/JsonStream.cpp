@@ -4,7 +4,6 @@
 
 #include <istream>
 #include <utility>
-#include <vector>
 
 namespace k7deval::sitedb
 {
@@ -13,198 +12,137 @@ namespace
 {
 
 using nlohmann::json;
+using Event = json::parse_event_t;
 
 // An hour with all its records has some hundred values.
 constexpr std::size_t kMostValues = 1'000'000;
 
-/// Hears what the JSON reader finds, in the order of the file.
-class VisitingReader final : public nlohmann::json_sax<json>
+// How deep the parts of a file stand in it.
+constexpr int kRoot = 0;
+constexpr int kField = 1;       // A top-level name and its value.
+constexpr int kElement = 2;     // An element of a top-level list.
+constexpr int kPart = 3;        // A name in such an element and its value.
+constexpr int kPartElement = 4; // An element of a list there.
+
+/// Is asked by the JSON reader what to keep of a file: a field or an element until it is complete
+/// and handed on, so that no more than one is held.
+class EntryFilter
 {
 public:
-    VisitingReader(const SourceStream& stream, const SourceFile& file, const JsonVisitor& visitor)
-        : stream_(stream), file_(file), visitor_(visitor)
+    EntryFilter(const SourceFile& file, const JsonVisitor& visitor) : file_(file), visitor_(visitor)
     {
     }
 
     [[nodiscard]] JsonCounts counts() && { return std::move(counts_); }
 
-    bool null() override { return scalar(nullptr); }
-    bool boolean(bool value) override { return scalar(value); }
-    bool number_integer(number_integer_t value) override { return scalar(value); }
-    bool number_unsigned(number_unsigned_t value) override { return scalar(value); }
-    bool number_float(number_float_t value, const string_t&) override { return scalar(value); }
-    bool string(string_t& value) override { return scalar(std::move(value)); }
-    bool binary(binary_t& value) override { return scalar(std::move(value)); }
-    bool start_object(std::size_t) override { return open(json::object()); }
-    bool start_array(std::size_t) override { return open(json::array()); }
-    bool end_object() override { return close(); }
-    bool end_array() override { return close(); }
-    bool key(string_t& name) override;
-    bool parse_error(std::size_t, const std::string&, const json::exception& failure) override;
+    bool keeps(int depth, Event event, json& value)
+    {
+        if (depth == kRoot)
+            return isObject(event);
+        switch (event) {
+        case Event::key:
+            begin(depth, value.get<std::string>());
+            return true;
+        case Event::object_start:
+        case Event::array_start:
+            checkSize();
+            inList_ = inList_ || (depth == kField && event == Event::array_start);
+            return true;
+        case Event::value:
+            checkSize();
+            return keepsComplete(depth, value);
+        default:
+            return keepsComplete(depth, value);
+        }
+    }
 
 private:
-    bool scalar(json value);
-    bool open(json container);
-    bool close();
-    bool skips();
-    void startCounting(const std::string& name);
-    json& place(json value);
-    void deliver();
-    [[nodiscard]] std::string path() const;
-    void checkIsInObject() const;
+    [[nodiscard]] bool isObject(Event event) const
+    {
+        if (event != Event::object_start && event != Event::object_end)
+            throw file_.error("", "the JSON is no object");
+        return true;
+    }
 
-    const SourceStream& stream_;
+    void begin(int depth, const std::string& name)
+    {
+        if (depth == kField)
+            beginField(name);
+        else if (depth == kPart)
+            part_ = inList_ && isWanted() && visitor_.notWanted.contains(name) ? name_ + "." + name
+                                                                               : std::string();
+    }
+
+    void beginField(const std::string& name)
+    {
+        name_ = name;
+        inList_ = false;
+        index_ = 0;
+        size_ = 0;
+        if (!names_.insert(name).second)
+            throw file_.error(name, "the field stands there twice");
+    }
+
+    bool keepsComplete(int depth, json& value)
+    {
+        if (depth == kField)
+            return keepsField(value);
+        if (depth == kElement && inList_)
+            return keepsElement(value);
+        if (depth == kPartElement && !part_.empty()) {
+            ++counts_[part_];
+            return false;
+        }
+        return true;
+    }
+
+    bool keepsField(json& value)
+    {
+        if (!inList_)
+            visitor_.field(node(value));
+        return false;
+    }
+
+    bool keepsElement(json& value)
+    {
+        if (isWanted())
+            visitor_.element(name_, node(value));
+        else
+            ++counts_[name_];
+        ++index_;
+        size_ = 0;
+        part_.clear();
+        return false;
+    }
+
+    [[nodiscard]] bool isWanted() const { return visitor_.wanted.contains(name_); }
+
+    [[nodiscard]] JsonNode node(json& value) const
+    {
+        return JsonNode::of(file_, std::move(value), path());
+    }
+
+    [[nodiscard]] std::string path() const
+    {
+        return inList_ ? name_ + "[" + std::to_string(index_) + "]" : name_;
+    }
+
+    void checkSize()
+    {
+        if (++size_ > kMostValues)
+            throw file_.error(path(), "the entry is too large");
+    }
+
     const SourceFile& file_;
     const JsonVisitor& visitor_;
     JsonCounts counts_;
-
-    bool inObject_ = false; ///< Behind the file's first brace.
     std::set<std::string> names_;
     std::string name_; ///< The top-level name that was read last.
     bool inList_ = false;
     std::size_t index_ = 0; ///< Of the element in the list.
-
-    json value_; ///< What is being put together, and the containers in it that are not closed yet.
-    std::vector<json*> open_;
-    std::size_t size_ = 0;
-    std::string key_;
-
-    bool skipNext_ = false; ///< What comes next is only counted, under this name.
-    std::string skipName_;
-    std::size_t skipDepth_ = 0; ///< Open containers of what is only counted.
+    std::size_t size_ = 0;  ///< Values of the field or element, as far as it was read.
+    std::string part_;      ///< The list in an element that is only counted.
 };
-
-bool VisitingReader::key(string_t& name)
-{
-    if (skipDepth_ > 0)
-        return true;
-    if (!open_.empty()) {
-        skipNext_ = inList_ && open_.size() == 1 && visitor_.notWanted.contains(name);
-        skipName_ = skipNext_ ? name_ + "." + name : std::string();
-        key_ = std::move(name);
-        return true;
-    }
-    name_ = std::move(name);
-    if (!names_.insert(name_).second)
-        throw file_.error(name_, "the field stands there twice");
-    return true;
-}
-
-bool VisitingReader::scalar(json value)
-{
-    checkIsInObject();
-    if (skips())
-        return true;
-    place(std::move(value));
-    if (open_.empty())
-        deliver();
-    return true;
-}
-
-bool VisitingReader::open(json container)
-{
-    if (!inObject_ && container.is_object()) {
-        inObject_ = true;
-        return true;
-    }
-    checkIsInObject();
-    if (skipDepth_ == 0 && skipNext_) {
-        skipNext_ = false;
-        startCounting(skipName_);
-        return true;
-    }
-    if (skips()) {
-        ++skipDepth_;
-        return true;
-    }
-    if (open_.empty() && !inList_ && container.is_array()) {
-        inList_ = visitor_.wanted.contains(name_);
-        index_ = 0;
-        if (!inList_)
-            startCounting(name_);
-        return true;
-    }
-    open_.push_back(&place(std::move(container)));
-    return true;
-}
-
-bool VisitingReader::close()
-{
-    if (skipDepth_ > 0) {
-        --skipDepth_;
-    } else if (!open_.empty()) {
-        open_.pop_back();
-        if (open_.empty())
-            deliver();
-    } else {
-        // The end of a wanted list, or of the whole.
-        inList_ = false;
-    }
-    return true;
-}
-
-/// Whether a value is only counted. Of a list that is, its own elements count.
-bool VisitingReader::skips()
-{
-    if (skipNext_) {
-        skipNext_ = false;
-        return true;
-    }
-    if (skipDepth_ == 1)
-        ++counts_[skipName_];
-    return skipDepth_ > 0;
-}
-
-void VisitingReader::startCounting(const std::string& name)
-{
-    skipName_ = name;
-    skipDepth_ = 1;
-}
-
-json& VisitingReader::place(json value)
-{
-    if (++size_ > kMostValues)
-        throw file_.error(path(), "the entry is too large");
-    if (open_.empty())
-        return value_ = std::move(value);
-    json& parent = *open_.back();
-    if (parent.is_object())
-        return parent[key_] = std::move(value);
-    parent.push_back(std::move(value));
-    return parent.back();
-}
-
-void VisitingReader::deliver()
-{
-    const JsonNode node = JsonNode::of(file_, std::exchange(value_, json()), path());
-    size_ = 0;
-    if (inList_) {
-        visitor_.element(name_, node);
-        ++index_;
-    } else {
-        visitor_.field(node);
-    }
-}
-
-std::string VisitingReader::path() const
-{
-    return inList_ ? name_ + "[" + std::to_string(index_) + "]" : name_;
-}
-
-void VisitingReader::checkIsInObject() const
-{
-    if (!inObject_)
-        throw file_.error("", "the JSON is no object");
-}
-
-bool VisitingReader::parse_error(std::size_t, const std::string&, const json::exception& failure)
-{
-    constexpr int kNumberOutOfRange = 406;
-    const std::string line = "line " + std::to_string(stream_.line());
-    if (failure.id == kNumberOutOfRange)
-        throw file_.error(line, "a number in the JSON is out of range");
-    throw file_.error(line, stream_.atEnd() ? "the JSON is cut off" : "this is no JSON");
-}
 
 /// Looks for top-level names and ends the reading at the first that is wanted.
 class NameFinder final : public nlohmann::json_sax<json>
@@ -212,7 +150,7 @@ class NameFinder final : public nlohmann::json_sax<json>
 public:
     explicit NameFinder(const std::set<std::string>& names) : names_(names) {}
 
-    [[nodiscard]] bool found() const { return found_; }
+    [[nodiscard]] const std::string& found() const { return found_; }
 
     bool null() override { return depth_ > 0; }
     bool boolean(bool) override { return depth_ > 0; }
@@ -227,8 +165,9 @@ public:
     bool end_array() override { return --depth_ > 0; }
     bool key(string_t& name) override
     {
-        found_ = depth_ == 1 && names_.contains(name);
-        return !found_;
+        if (depth_ == 1 && names_.contains(name))
+            found_ = name;
+        return found_.empty();
     }
     bool parse_error(std::size_t, const std::string&, const json::exception&) override
     {
@@ -238,20 +177,32 @@ public:
 private:
     const std::set<std::string>& names_;
     int depth_ = 0;
-    bool found_ = false;
+    std::string found_;
 };
 
 } // namespace
 
 JsonCounts visitJson(SourceStream& stream, const SourceFile& file, const JsonVisitor& visitor)
 {
-    VisitingReader reader(stream, file, visitor);
+    EntryFilter filter(file, visitor);
     std::istream text(&stream);
-    json::sax_parse(text, &reader);
-    return std::move(reader).counts();
+    const auto lineError = [&](const char* what) {
+        return file.error("line " + std::to_string(stream.line()), what);
+    };
+    try {
+        [[maybe_unused]] const json emptied =
+            json::parse(text, [&filter](int depth, Event event, json& value) {
+                return filter.keeps(depth, event, value);
+            });
+    } catch (const json::out_of_range&) {
+        throw lineError("a number in the JSON is out of range");
+    } catch (const json::parse_error&) {
+        throw lineError(stream.atEnd() ? "the JSON is cut off" : "this is no JSON");
+    }
+    return std::move(filter).counts();
 }
 
-bool hasTopLevelName(SourceStream& stream, const std::set<std::string>& names)
+std::string firstTopLevelName(SourceStream& stream, const std::set<std::string>& names)
 {
     NameFinder finder(names);
     std::istream text(&stream);

@@ -34,8 +34,8 @@ using JsonCounts = std::map<std::string, std::size_t>;
 /// twice.
 JsonCounts visitJson(SourceStream& stream, const SourceFile& file, const JsonVisitor& visitor);
 
-/// Whether a file is a JSON object with one of these top-level names. Reads up to the first of
-/// them, or up to where the text is no JSON any more.
-bool hasTopLevelName(SourceStream& stream, const std::set<std::string>& names);
+/// The first of these top-level names that a file has, or an empty text where it has none of them.
+/// Reads up to that name, or up to where the text is no JSON object any more.
+std::string firstTopLevelName(SourceStream& stream, const std::set<std::string>& names);
 
 } // namespace k7deval::sitedb

@@ -1,10 +1,9 @@
 #include "sitedb/read/SourceFile.h"
 
+#include "sitedb/read/CheckSum.h"
 #include "sitedb/read/SourceStream.h"
 
-#include <zlib.h>
-
-#include <fstream>
+#include <system_error>
 #include <vector>
 
 namespace k7deval::sitedb
@@ -17,43 +16,14 @@ namespace
 // for a site. ECMPS emissions files may be as large, but are not held in memory.
 constexpr std::size_t kLargestContent = std::size_t{512} << 20U;
 // More than the header of any table.
-constexpr std::size_t kBeginning = std::size_t{256} << 10U;
+constexpr std::size_t kBeginning = std::size_t{32} << 10U;
 constexpr std::size_t kChunk = std::size_t{64} << 10U;
 
-void checkIsFile(const std::filesystem::path& path, const SourceFile& file)
-{
-    std::error_code failure;
-    const auto kind = std::filesystem::status(path, failure).type();
-    if (kind == std::filesystem::file_type::not_found)
-        throw file.error("", "there is no such file", errors::kFileNotFound);
-    if (kind != std::filesystem::file_type::regular)
-        throw file.error("", "this is no file that can be read", errors::kPathAccess);
-}
-
-void measure(const std::filesystem::path& path, SourceFile& file)
-{
-    std::ifstream stream(path, std::ios::binary);
-    std::vector<char> chunk(kChunk);
-    uLong sum = crc32_z(0, nullptr, 0);
-    while (stream) {
-        stream.read(chunk.data(), static_cast<std::streamsize>(chunk.size()));
-        const auto count = stream.gcount();
-        sum = crc32_z(sum, reinterpret_cast<const Bytef*>(chunk.data()),
-                      static_cast<z_size_t>(count));
-        file.size += count;
-    }
-    if (!stream.eof())
-        throw file.error("", "the file can't be read", errors::kPathAccess);
-    if (file.size == 0)
-        throw file.error("", "the file is empty");
-    file.crc = static_cast<std::int64_t>(sum);
-}
-
 /// Reads until there is more than that, or all.
-void readUpTo(std::size_t size, const std::filesystem::path& path, SourceFile& file)
+void readUpTo(std::size_t size, SourceFile& file, const OnBytesRead& onBytesRead)
 {
     file.content.clear();
-    SourceStream stream(path, file);
+    SourceStream stream(file, onBytesRead);
     std::vector<char> chunk(kChunk);
     for (std::streamsize count = -1; count != 0 && file.content.size() <= size;) {
         count = stream.sgetn(chunk.data(), static_cast<std::streamsize>(chunk.size()));
@@ -77,34 +47,49 @@ ImportError SourceFile::error(std::string_view place, std::string_view what, int
 SourceFile findSourceFile(const std::filesystem::path& path)
 {
     SourceFile file;
+    file.path = path;
     file.name = utf8Text(path.filename());
-    checkIsFile(path, file);
+    std::error_code failure;
+    const auto kind = std::filesystem::status(path, failure).type();
+    if (kind == std::filesystem::file_type::not_found)
+        throw file.error("", "there is no such file", errors::kFileNotFound);
+    if (kind != std::filesystem::file_type::regular)
+        throw file.error("", "this is no file that can be read", errors::kPathAccess);
+    file.size = static_cast<std::int64_t>(std::filesystem::file_size(path, failure));
+    if (failure)
+        throw file.error("", "the file can't be read", errors::kPathAccess);
+    if (file.size == 0)
+        throw file.error("", "the file is empty");
     return file;
 }
 
-SourceFile identifySourceFile(const std::filesystem::path& path)
+std::int64_t checkSumOf(const SourceFile& file, const OnBytesRead& onBytesRead)
 {
-    SourceFile file = findSourceFile(path);
-    measure(path, file);
-    return file;
+    CheckSum sum(file);
+    while (sum.bytesRead() < file.size) {
+        sum.readUpTo(sum.bytesRead() + static_cast<std::int64_t>(kChunk));
+        if (onBytesRead)
+            onBytesRead(sum.bytesRead());
+    }
+    return sum.value();
 }
 
-void readContent(const std::filesystem::path& path, SourceFile& file)
+void readContent(SourceFile& file, const OnBytesRead& onBytesRead)
 {
-    readUpTo(kLargestContent, path, file);
+    readUpTo(kLargestContent, file, onBytesRead);
     if (file.content.size() > kLargestContent)
         throw file.error("", "the file is too large");
 }
 
-void readBeginning(const std::filesystem::path& path, SourceFile& file)
+void readBeginning(SourceFile& file)
 {
-    readUpTo(kBeginning, path, file);
+    readUpTo(kBeginning, file, {});
 }
 
 SourceFile readSourceFile(const std::filesystem::path& path)
 {
-    SourceFile file = identifySourceFile(path);
-    readContent(path, file);
+    SourceFile file = findSourceFile(path);
+    readContent(file);
     return file;
 }
 

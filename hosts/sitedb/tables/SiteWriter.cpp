@@ -1,7 +1,5 @@
 #include "sitedb/tables/SiteWriter.h"
 
-#include "foundation/UtilityFunctions.h"
-#include "sitedb/tables/TimeText.h"
 
 #include <charconv>
 
@@ -48,14 +46,6 @@ std::string analyzerName(const Gas& gas, const std::string& component)
 {
     const std::string type(gas.componentType);
     return component == type ? type : type + " " + component;
-}
-
-std::string joined(const std::vector<std::string>& texts)
-{
-    std::string all;
-    for (const auto& text : texts)
-        all += (all.empty() ? "" : ", ") + text;
-    return all;
 }
 
 } // namespace
@@ -275,15 +265,6 @@ void SiteWriter::removeConstant(PID pid)
         connection_.execute(command, std::int64_t{pid});
 }
 
-void SiteWriter::checkOrisCode(const SourceFile& file, const std::string& place, std::int32_t code)
-{
-    const auto held = orisCode();
-    if (held && *held != code)
-        throw file.error(place, std::to_string(code) +
-                                    " is another facility than the site's, which is " +
-                                    std::to_string(*held));
-}
-
 std::optional<std::int32_t> SiteWriter::orisCode()
 {
     const auto row = connection_.prepare("SELECT MIN(value) FROM attribute WHERE id = $1");
@@ -325,23 +306,6 @@ void SiteWriter::setLookup(const std::string& table, const std::string& key,
                         " ON CONFLICT (lookup_table, lookup_key)"
                         " DO UPDATE SET value = excluded.value",
                         table, key, value);
-}
-
-void SiteWriter::checkIsNew(const SourceFile& file)
-{
-    const auto row = connection_.prepare("SELECT file_name FROM import_log"
-                                         " WHERE file_size = $1 AND file_crc = $2");
-    row->with(file.size, file.crc);
-    if (row->step())
-        throw file.error("", "the site has imported this file before, as " + row->text(0));
-}
-
-void SiteWriter::log(const SourceFile& file, const ImportReport& report, Date time)
-{
-    const sql::Value at = IsNoDate(time) ? sql::Value() : sql::Value(minuteText(time));
-    connection_.execute("INSERT INTO import_log (file_name, format, file_size, file_crc,"
-                        " imported_at, summary) VALUES ($1, $2, $3, $4, $5, $6)",
-                        file.name, report.format, file.size, file.crc, at, joined(report.counts));
 }
 
 void SiteWriter::addParameter(PID pid, const std::string& name, std::int32_t type,

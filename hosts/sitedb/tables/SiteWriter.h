@@ -1,8 +1,6 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
-#include "sitedb/Import.h"
-#include "sitedb/read/SourceFile.h"
 #include "sitedb/sql/Connection.h"
 #include "sitedb/tables/Gases.h"
 #include "sitedb/tables/SiteIds.h"
@@ -90,17 +88,10 @@ public:
 
     /// The ORIS code that the site's units carry, or nothing.
     [[nodiscard]] std::optional<std::int32_t> orisCode();
-    /// Raises ImportError when the site is another facility than the file's.
-    void checkOrisCode(const SourceFile& file, const std::string& place, std::int32_t code);
     /// Gives all units of the site their ORIS code.
     void setOrisCode(std::int32_t code);
 
     void setLookup(const std::string& table, const std::string& key, const std::string& value);
-
-    /// Raises ImportError when this very file was imported before.
-    void checkIsNew(const SourceFile& file);
-    /// Puts a finished import into the log.
-    void log(const SourceFile& file, const ImportReport& report, Date time);
 
 private:
     void addParameter(PID pid, const std::string& name, std::int32_t type,

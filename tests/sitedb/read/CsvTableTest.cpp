@@ -14,7 +14,10 @@ using testing::ElementsAre;
 
 SourceFile file(std::string content)
 {
-    return {"t.csv", std::move(content), 0, 0};
+    SourceFile source;
+    source.name = "t.csv";
+    source.content = std::move(content);
+    return source;
 }
 
 TEST(CsvTable, RowsKnowTheLineTheyBeginIn)

@@ -95,17 +95,14 @@ TEST(FileRefusal, AGzipFileWithSomethingBehindIt)
         "load.csv.gz: the gzip file is damaged.");
 }
 
-TEST(FileRefusal, EachImporterRefusesTheOthersFiles)
+TEST(FileRefusal, AGzipFileOfTwoMembersWithSomethingBehindThem)
 {
     SmallSite held;
-    const std::string before = dump(held.site);
-    const auto load = held.directory.write("load.csv", kLoad);
-    EXPECT_THROW(importSpanTable(held.site, load, {}), ImportError);
-    EXPECT_THROW(importEcmpsQa(held.site, load, {}), ImportError);
-    EXPECT_THROW(
-        importHourlyLoad(held.site, held.directory.write("qa.json", smallQa()), forUnit("U1")),
-        ImportError);
-    EXPECT_EQ(dump(held.site), before);
+    const std::string packed = gzip("date,hour,gross_load_mw\n") + gzip("2020-01-01,0,10\n");
+    EXPECT_EQ(
+        refusal(held, held.directory.write("load.csv.gz", packed + "some bytes"), forUnit("U1")),
+        "load.csv.gz: the gzip file is damaged.");
+    importFile(held.site, held.directory.write("load.csv.gz", packed), forUnit("U1"));
 }
 
 TEST(FileRefusal, ASiteOpenForReadingOnlyTakesNothing)

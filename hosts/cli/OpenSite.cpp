@@ -13,7 +13,7 @@ sitedb::SiteDatabase openSite(const std::string& path, sitedb::OpenMode mode)
     std::error_code ignored;
     if (std::filesystem::is_directory(filePath(path), ignored))
         throw UsageError(path + " is a folder; a site is one file.");
-    return sitedb::SiteDatabase::open(filePath(path), mode);
+    return sitedb::SiteDatabase::open(path, mode);
 }
 
 std::shared_ptr<DIServer> readSite(const std::string& path)

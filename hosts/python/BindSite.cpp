@@ -4,7 +4,6 @@
 #include "python/PythonObject.h"
 #include "sitedb/SiteDatabase.h"
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
@@ -98,8 +97,7 @@ std::shared_ptr<DIServer> openSite(const py::object& path)
 {
     const auto name = py::module_::import("os").attr("fspath")(path).cast<std::string>();
     const py::gil_scoped_release released;
-    return sitedb::SiteDatabase::open(std::filesystem::path(name), sitedb::OpenMode::ReadOnly)
-        .server();
+    return sitedb::SiteDatabase::open(name, sitedb::OpenMode::ReadOnly).server();
 }
 
 } // namespace

@@ -12,6 +12,15 @@ namespace
 
 constexpr std::size_t kLongestQuote = 40;
 
+template <class Number> std::optional<Number> numberIn(std::string_view text)
+{
+    Number value{};
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    const bool isAllOfIt = read.ec == std::errc() && read.ptr == end;
+    return isAllOfIt && !text.empty() ? std::optional(value) : std::nullopt;
+}
+
 } // namespace
 
 std::string inQuotes(std::string_view text)
@@ -37,12 +46,13 @@ std::string utf8Text(const std::filesystem::path& path)
 
 std::optional<double> plainNumber(std::string_view text)
 {
-    double value = 0;
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, value);
-    if (text.empty() || read.ec != std::errc() || read.ptr != end || !std::isfinite(value))
-        return std::nullopt;
-    return value;
+    const auto value = numberIn<double>(text);
+    return value && std::isfinite(*value) ? value : std::nullopt;
+}
+
+std::optional<std::int32_t> plainWhole(std::string_view text)
+{
+    return numberIn<std::int32_t>(text);
 }
 
 std::string numberText(double value)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -19,6 +20,9 @@ std::string inQuotes(std::string_view text);
 /// The number that a text holds: digits with an optional minus, decimal point and exponent, nothing
 /// else.
 std::optional<double> plainNumber(std::string_view text);
+
+/// The whole number that a text holds: digits with an optional minus, nothing else.
+std::optional<std::int32_t> plainWhole(std::string_view text);
 
 /// A number without needless zeros and without an exponent.
 std::string numberText(double value);

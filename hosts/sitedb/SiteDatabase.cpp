@@ -1,7 +1,7 @@
 #include "sitedb/SiteDatabase.h"
 
 #include "sitedb/PlainText.h"
-#include "sitedb/sql/SqliteConnection.h"
+#include "sitedb/sql/Engines.h"
 #include "sitedb/tables/Schema.h"
 #include "sitedb/tables/SiteIds.h"
 #include "sitedb/tables/SiteServer.h"
@@ -21,13 +21,13 @@ void changeCapacity(SiteWriter& writer, const UnitCapacity& capacity)
     if (capacity.megawatts && !isCapacity(*capacity.megawatts))
         throw Error(errors::kInvalidCall, "A capacity is a number of MW above 0, at most " +
                                               numberText(kHighestLoad) + ".");
-    const auto unit = writer.findUnit(capacity.unit);
+    const auto unit = writer.units.find(capacity.unit);
     if (!unit)
         throw Error(errors::kInvalidCall, "The site has no unit " + capacity.unit + ".");
     if (capacity.megawatts)
-        writer.setCapacity(*unit, *capacity.megawatts);
+        writer.constants.setCapacity(*unit, *capacity.megawatts);
     else
-        writer.removeConstant(capacityPID(*unit));
+        writer.constants.remove(capacityPID(*unit));
 }
 
 } // namespace
@@ -42,12 +42,12 @@ SiteDatabase::SiteDatabase(std::shared_ptr<sql::Connection> connection)
 {
 }
 
-SiteDatabase SiteDatabase::open(const std::filesystem::path& path, OpenMode mode)
+SiteDatabase SiteDatabase::open(const SiteLocator& locator, OpenMode mode)
 {
-    auto connection = sql::openSqlite(
-        path, mode == OpenMode::ReadOnly ? sql::SqliteMode::ReadOnly : sql::SqliteMode::ReadWrite);
+    auto connection = sql::open(locator, mode == OpenMode::ReadOnly ? sql::Access::ReadOnly
+                                                                    : sql::Access::ReadWrite);
     if (mode == OpenMode::ReadWrite && !connection->holdsTables())
-        createSchema(*connection, utf8Text(path.stem()));
+        createSchema(*connection, sql::newSiteKey(locator));
     checkSchema(*connection);
     if (mode == OpenMode::ReadWrite && lacksStatusWords(*connection)) {
         sql::Transaction transaction(*connection);
@@ -64,7 +64,7 @@ std::shared_ptr<DIServer> SiteDatabase::server() const
 
 std::optional<std::string> SiteDatabase::facilityName() const
 {
-    return SiteWriter(*connection_).facilityName();
+    return LookupTable(*connection_).facilityName();
 }
 
 std::vector<UnitPower> SiteDatabase::unitPowers() const
@@ -73,8 +73,8 @@ std::vector<UnitPower> SiteDatabase::unitPowers() const
     std::vector<UnitPower> powers;
     for (const auto& unit : server()->Units()) {
         const std::int32_t number = PIDPart(unit->PID(), pidpart::kUnit);
-        powers.push_back({unit->Name(0), tables.constant(capacityPID(number)),
-                          tables.constant(maximumLoadPID(number))});
+        powers.push_back({unit->Name(0), tables.constants.value(capacityPID(number)),
+                          tables.constants.value(maximumLoadPID(number))});
     }
     return powers;
 }
@@ -84,7 +84,7 @@ void SiteDatabase::change(const SiteChanges& changes)
     sql::Transaction transaction(*connection_);
     SiteWriter writer(*connection_);
     if (changes.facilityName)
-        writer.setFacilityName(*changes.facilityName);
+        writer.lookups.setFacilityName(*changes.facilityName);
     for (const auto& capacity : changes.capacities)
         changeCapacity(writer, capacity);
     transaction.commit();

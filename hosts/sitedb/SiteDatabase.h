@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
+#include "sitedb/SiteLocator.h"
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -47,14 +47,15 @@ struct SiteChanges {
     std::vector<UnitCapacity> capacities;
 };
 
-/// One site: a file with all data that the tools ask for, behind the data interface.
+/// One site: a database with all data that the tools ask for, behind the data interface.
 class SiteDatabase
 {
 public:
-    /// A site that a program was writing to when it ended is first made what it was before.
-    /// Error 53 when there is no file to read, 70 or 75 when it can't be used, is no site database
-    /// or has tables of another version. A new site's key is the file's name without its extension.
-    static SiteDatabase open(const std::filesystem::path& path, OpenMode mode);
+    /// A site that a program was writing to when it ended is first made what it was before. Error
+    /// 53 when there is no file to read, 70 or 75 when it can't be used, is no site database, has
+    /// tables of another version or is to be reached by an unknown scheme. A new site's key is the
+    /// file's name without its extension.
+    static SiteDatabase open(const SiteLocator& locator, OpenMode mode);
 
     /// The data of the site. The server stays usable after this object is gone.
     [[nodiscard]] std::shared_ptr<DIServer> server() const;

@@ -55,8 +55,8 @@ QStringList unitsOf(const QString& sitePath)
 {
     QStringList units;
     try {
-        const auto site = sitedb::SiteDatabase::open(filePath(sitePath.toStdString()),
-                                                     sitedb::OpenMode::ReadOnly);
+        const auto site =
+            sitedb::SiteDatabase::open(sitePath.toStdString(), sitedb::OpenMode::ReadOnly);
         for (const auto& power : site.unitPowers())
             units << qt::toQString(power.unit);
     } catch (const Error&) {

@@ -1,6 +1,5 @@
 #include "workbench/MainWindow.h"
 
-#include "foundation/FileFunctions.h"
 #include "qt/Modal.h"
 #include "qt/Texts.h"
 #include "qt/UserAction.h"
@@ -55,7 +54,7 @@ QString lineOf(DIServer& server, const QString& path)
 
 sitedb::SiteDatabase openDatabase(const QString& path, sitedb::OpenMode mode)
 {
-    return sitedb::SiteDatabase::open(filePath(path.toStdString()), mode);
+    return sitedb::SiteDatabase::open(path.toStdString(), mode);
 }
 
 } // namespace

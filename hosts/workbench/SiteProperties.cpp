@@ -1,6 +1,5 @@
 #include "workbench/SiteProperties.h"
 
-#include "foundation/FileFunctions.h"
 #include "foundation/NumberText.h"
 #include "qt/Colors.h"
 #include "qt/Texts.h"
@@ -28,7 +27,7 @@ constexpr const char* kFaultOfCapacity = "This is no number above 0 and up to 99
 
 sitedb::SiteDatabase openSite(const QString& path, sitedb::OpenMode mode)
 {
-    return sitedb::SiteDatabase::open(filePath(path.toStdString()), mode);
+    return sitedb::SiteDatabase::open(path.toStdString(), mode);
 }
 
 std::string trimmed(const QLineEdit& field)

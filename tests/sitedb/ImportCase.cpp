@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <map>
+
 namespace k7deval::sitedb::test
 {
 
@@ -35,12 +37,31 @@ constexpr const char* kSmallQa = R"({
  ]
 })";
 
+/// The bytes of a site with these spans. They are made once for all tests of a program.
+const std::string& bytesOfSite(const std::string& spans)
+{
+    static std::map<std::string, std::string> made;
+    auto& bytes = made[spans];
+    if (bytes.empty()) {
+        const TemporaryDirectory directory;
+        auto site = makeSite(directory / "site.k7site");
+        if (!spans.empty())
+            importFile(site, directory.write("spans.csv", spans), {});
+        bytes = readFile(directory / "site.k7site");
+    }
+    return bytes;
+}
+
 } // namespace
 
-SmallSite::SmallSite()
+EmptySite::EmptySite() : EmptySite(bytesOfSite("")) {}
+
+EmptySite::EmptySite(const std::string& bytes)
+    : path(directory.write("site.k7site", bytes)), site(makeSite(path))
 {
-    importFile(site, directory.write("spans.csv", kSmallSpans), {});
 }
+
+SmallSite::SmallSite() : EmptySite(bytesOfSite(kSmallSpans)) {}
 
 std::string refusal(EmptySite& held, const std::filesystem::path& file,
                     const ImportOptions& options)

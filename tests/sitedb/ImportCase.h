@@ -13,8 +13,14 @@ namespace k7deval::sitedb::test
 /// A new site in a directory of its own.
 struct EmptySite {
     TemporaryDirectory directory;
-    std::filesystem::path path = directory / "site.k7site";
-    SiteDatabase site = makeSite(path);
+    std::filesystem::path path;
+    SiteDatabase site;
+
+    EmptySite();
+
+protected:
+    /// A site of these bytes.
+    explicit EmptySite(const std::string& bytes);
 };
 
 /// A site with the analyzers that the small files below speak of: unit U1 with the NOX component

@@ -31,7 +31,7 @@ public:
             throw task_.file.error("orisCode", "the field is missing");
         hours_.finish();
         calibrations_.finish();
-        writer_.setOrisCode(*orisCode_);
+        writer_.units.setOrisCode(*orisCode_);
         return {report(), hours_.hours(), hours_.hours() + calibrations_.injections() == 0};
     }
 
@@ -70,7 +70,7 @@ private:
     {
         if (node.path() == "orisCode") {
             orisCode_ = node.whole(1, kHighestOrisCode, "ORIS code");
-            checkOrisCode(task_.file, node.path(), *orisCode_, writer_.orisCode());
+            checkOrisCode(task_.file, node.path(), *orisCode_, writer_.units.orisCode());
         }
         const bool isList =
             node.path() == emissions::kHours || node.path() == emissions::kDailyTests;

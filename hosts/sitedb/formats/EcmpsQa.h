@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sitedb/read/SourceFile.h"
+#include "sitedb/tables/CalibrationWriter.h"
 #include "sitedb/tables/SiteIds.h"
 
 #include <cstdint>
@@ -11,16 +12,9 @@
 namespace k7deval::sitedb
 {
 
-/// One gas injection of a QA file. The times are texts as a site keeps them.
-struct QaInjection {
+/// One gas injection of a QA file.
+struct QaInjection : Injection {
     std::string path; ///< Where it stands in the file.
-    std::string runTime;
-    std::string injectionEnd;
-    std::int32_t gasLevelCode = 0; ///< 0 zero gas, 1 and 2 upscale gas.
-    std::string gasLevelText;
-    std::optional<double> reference; ///< In the analyzer's units.
-    std::optional<double> measured;
-    bool isOnline = true;
 };
 
 /// A test with calibration injections. The paths are those of its fields, for a sentence.

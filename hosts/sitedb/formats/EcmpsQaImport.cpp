@@ -2,7 +2,7 @@
 
 #include "sitedb/formats/EcmpsQa.h"
 #include "sitedb/formats/ImportSteps.h"
-#include "sitedb/tables/CalibrationWriter.h"
+#include "sitedb/formats/TestTaker.h"
 #include "sitedb/tables/SiteWriter.h"
 
 namespace k7deval::sitedb
@@ -31,13 +31,13 @@ public:
 private:
     Analyzer analyzerOf(const QaTest& test)
     {
-        const auto unit = writer_.findUnit(test.unit);
+        const auto unit = writer_.units.find(test.unit);
         if (!unit)
             throw unknown(test.unitPath, "unit " + test.unit);
-        if (!writer_.findMeasured(*unit, test.component))
+        if (!writer_.analyzers.findMeasured(*unit, test.component))
             throw unknown(test.componentPath,
                           "component " + test.component + " of unit " + test.unit);
-        const auto analyzer = writer_.findAnalyzer(*unit, test.component, test.scale);
+        const auto analyzer = writer_.analyzers.find(*unit, test.component, test.scale);
         if (!analyzer)
             throw unknown(test.scalePath, "scale " + scaleText(test.scale) + " of component " +
                                               test.component + " of unit " + test.unit);
@@ -53,7 +53,7 @@ private:
 
     const SourceFile& file_;
     SiteWriter writer_;
-    CalibrationWriter calibrations_;
+    TestTaker calibrations_;
 };
 
 ImportReport qaReport(const QaContent& content)
@@ -80,11 +80,11 @@ Taken takeEcmpsQa(const ImportTask& task)
 {
     const QaContent content = readEcmpsQa(task.file, task.options.leaveOutUnreadable);
     SiteWriter writer(task.connection);
-    checkOrisCode(task.file, "orisCode", content.orisCode, writer.orisCode());
+    checkOrisCode(task.file, "orisCode", content.orisCode, writer.units.orisCode());
     QaImporter importer(task.connection, task.file);
     for (const auto& test : content.tests)
         importer.take(test);
-    writer.setOrisCode(content.orisCode);
+    writer.units.setOrisCode(content.orisCode);
     return {qaReport(content), 0, content.tests.empty()};
 }
 

@@ -64,17 +64,18 @@ QaTest EmissionsCalibrations::testOf(const JsonNode& record)
 // bears none. A scale that the site does not have is made; its span is not known.
 std::optional<CalibratedScale> EmissionsCalibrations::scaleOf(const QaTest& test)
 {
-    const auto unit = writer_.findUnit(test.unit);
-    const auto measured = unit ? writer_.findMeasured(*unit, test.component) : std::nullopt;
+    const auto unit = writer_.units.find(test.unit);
+    const auto measured =
+        unit ? writer_.analyzers.findMeasured(*unit, test.component) : std::nullopt;
     if (!measured)
         return std::nullopt;
-    auto known = writer_.findAnalyzer(*unit, test.component, test.scale);
+    auto known = writer_.analyzers.find(*unit, test.component, test.scale);
     if (!known && test.scale == Scale::High)
-        known = writer_.findAnalyzer(*unit, test.component, Scale::Single);
+        known = writer_.analyzers.find(*unit, test.component, Scale::Single);
     if (known)
         return CalibratedScale{known->measured, known->calibration, known->scale, known->span};
     const Gas* gas = findGas(PIDPart(*measured, pidpart::kParameterCode));
-    writer_.addCalibrationWithoutSpan(*measured, *gas, test.component, test.scale);
+    writer_.analyzers.addCalibrationWithoutSpan(*measured, *gas, test.component, test.scale);
     return CalibratedScale{*measured, calibrationPID(*measured, test.scale), scaleText(test.scale),
                            std::nullopt};
 }

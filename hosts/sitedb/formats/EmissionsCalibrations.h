@@ -2,7 +2,7 @@
 
 #include "sitedb/formats/CalibrationRow.h"
 #include "sitedb/formats/EmissionsParts.h"
-#include "sitedb/tables/CalibrationWriter.h"
+#include "sitedb/formats/TestTaker.h"
 #include "sitedb/tables/SiteWriter.h"
 
 #include <cstddef>
@@ -35,7 +35,7 @@ private:
     void stepOver(const std::string& which);
 
     SiteWriter writer_;
-    CalibrationWriter calibrations_;
+    TestTaker calibrations_;
     CalibrationRows rows_;
     SteppedOver& steppedOver_;
     bool leavesOut_;

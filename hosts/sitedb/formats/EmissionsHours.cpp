@@ -68,12 +68,12 @@ EmissionsHours::Unit& EmissionsHours::unitOf(const JsonNode& record)
     const auto known = units_.find(location.name);
     if (known != units_.end())
         return known->second;
-    auto number = writer_.findUnit(location.name);
+    auto number = writer_.units.find(location.name);
     if (!number)
-        number = writer_.addUnit(location.name);
+        number = writer_.units.add(location.name);
     if (!number)
         throw file_.error(location.path, noMoreUnits(location.name));
-    writer_.addOperatingTime(*number);
+    writer_.units.addOperatingTime(*number);
     Unit& unit = units_[location.name];
     unit.number = *number;
     unit.name = location.name;
@@ -93,7 +93,7 @@ void EmissionsHours::takeLoad(const Record& record, const JsonNode& node)
     }
     const PID pid = loadPID(record.unit.number);
     if (record.unit.parameters.insert(pid).second)
-        writer_.addLoad(record.unit.number);
+        writer_.units.addLoad(record.unit.number);
     add(pid, {record.day, record.hour, status::kMeasured, value}, "the load of " + record.unit.name,
         record.path);
 }
@@ -197,23 +197,23 @@ void EmissionsHours::add(PID pid, const UnnamedHour& hour, const std::string& wh
                          const std::string& place)
 {
     const auto outcome = write(pid, hour);
-    if (outcome != HourWriter::Outcome::Taken)
+    if (outcome != Outcome::Taken)
         throw file_.error(place, fault(outcome, hour, what));
 }
 
 void EmissionsHours::addIfMissing(PID pid, const UnnamedHour& hour, const std::string& what)
 {
     const auto outcome = write(pid, hour);
-    if (outcome == HourWriter::Outcome::AlreadyHeld)
+    if (outcome == Outcome::AlreadyHeld)
         throw file_.error(emissions::kHours, fault(outcome, hour, what));
 }
 
-HourWriter::Outcome EmissionsHours::write(PID pid, const UnnamedHour& hour)
+Outcome EmissionsHours::write(PID pid, const UnnamedHour& hour)
 {
     return hours_.add(pid, {*hour.day, hour.hour, hour.value, hour.word});
 }
 
-std::string EmissionsHours::fault(HourWriter::Outcome outcome, const UnnamedHour& hour,
+std::string EmissionsHours::fault(Outcome outcome, const UnnamedHour& hour,
                                   const std::string& what) const
 {
     return HourWriter::fault(outcome, what, {*hour.day, hour.hour, hour.value, hour.word});

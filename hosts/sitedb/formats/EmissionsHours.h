@@ -69,8 +69,8 @@ private:
     void placeOffline(Unit& unit);
     void add(PID pid, const UnnamedHour& hour, const std::string& what, const std::string& place);
     void addIfMissing(PID pid, const UnnamedHour& hour, const std::string& what);
-    HourWriter::Outcome write(PID pid, const UnnamedHour& hour);
-    [[nodiscard]] std::string fault(HourWriter::Outcome outcome, const UnnamedHour& hour,
+    Outcome write(PID pid, const UnnamedHour& hour);
+    [[nodiscard]] std::string fault(Outcome outcome, const UnnamedHour& hour,
                                     const std::string& what) const;
 
     const SourceFile& file_;

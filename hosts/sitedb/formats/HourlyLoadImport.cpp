@@ -54,8 +54,8 @@ Taken takeHourlyLoad(const ImportTask& task)
     const CsvTable table = CsvTable::parse(task.file);
     SiteWriter writer(task.connection);
     const std::int32_t unit = namedUnit(writer, task.file, task.options.unit, "load belongs");
-    writer.addLoad(unit);
-    writer.addOperatingTime(unit);
+    writer.units.addLoad(unit);
+    writer.units.addOperatingTime(unit);
     LoadImporter importer(table, task.file, task.connection, unit);
     takeRows(table, task, [&](const CsvRow& row) { importer.take(row); });
     return {{{}, importer.counts(), otherColumns(table, {"date", "hour", "gross_load_mw"}), {}},

@@ -35,7 +35,7 @@ SiteHour HourlyTable::hourOf(const CsvRow& row) const
 void HourlyTable::add(const CsvRow& row, PID pid, const std::string& what, const SiteHour& hour)
 {
     const auto outcome = hours_.add(pid, hour);
-    if (outcome != HourWriter::Outcome::Taken)
+    if (outcome != Outcome::Taken)
         throw file_.error("line " + std::to_string(row.line) + ": date and hour",
                           HourWriter::fault(outcome, what, hour));
 }
@@ -73,9 +73,9 @@ std::int32_t namedUnit(SiteWriter& writer, const SourceFile& file, const std::st
     const std::string fault = identifierFault(name, kUnitIdentifierLength);
     if (!fault.empty())
         throw file.error("unit", fault);
-    if (const auto known = writer.findUnit(name))
+    if (const auto known = writer.units.find(name))
         return *known;
-    const auto added = writer.addUnit(name);
+    const auto added = writer.units.add(name);
     if (!added)
         throw file.error("unit", noMoreUnits(name));
     return *added;

@@ -44,9 +44,9 @@ public:
 private:
     std::int32_t unitOf(const PlanLocation& location)
     {
-        if (const auto known = writer_.findUnit(location.name))
+        if (const auto known = writer_.units.find(location.name))
             return *known;
-        const auto added = writer_.addUnit(location.name);
+        const auto added = writer_.units.add(location.name);
         if (!added)
             throw file_.error(location.place, noMoreUnits(location.name));
         ++newUnits_;
@@ -68,12 +68,12 @@ private:
                                            const PlanComponent& component)
     {
         const std::string gas(component.gas->componentType);
-        auto known = writer_.components(unit, *component.gas);
+        auto known = writer_.analyzers.components(unit, *component.gas);
         if (component.id.empty())
             return known.empty() ? std::vector{gas} : known;
         const bool isNameless = known == std::vector{gas} && isOnlyOne(location, component);
-        if (isNameless && !writer_.findMeasured(unit, component.id))
-            writer_.renameComponent(unit, *component.gas, component.id);
+        if (isNameless && !writer_.analyzers.findMeasured(unit, component.id))
+            writer_.analyzers.renameComponent(unit, *component.gas, component.id);
         return {component.id};
     }
 
@@ -89,13 +89,13 @@ private:
     PID measuredOf(const PlanLocation& location, std::int32_t unit, const PlanComponent& component,
                    const std::string& id)
     {
-        if (const auto known = writer_.findMeasured(unit, id)) {
+        if (const auto known = writer_.analyzers.findMeasured(unit, id)) {
             if (PIDPart(*known, pidpart::kParameterCode) != component.gas->parameterCode)
                 throw file_.error(component.place, "component " + id + " of " + location.name +
                                                        " measures another gas");
             return *known;
         }
-        const auto added = writer_.addMeasured(unit, *component.gas, id);
+        const auto added = writer_.analyzers.addMeasured(unit, *component.gas, id);
         if (!added)
             throw file_.error(component.place, noMoreComponents());
         ++newAnalyzers_;
@@ -114,12 +114,12 @@ private:
         const AnalyzerSpan& span = joined.facts.span;
         const std::string name =
             location.name + " " + joined.component + " " + scaleText(span.scale);
-        const auto known = writer_.findAnalyzer(unit, joined.component, span.scale);
+        const auto known = writer_.analyzers.find(unit, joined.component, span.scale);
         if (known)
             checkIsSame(joined.facts.place, "a span of " + numberText(known->span) + " for " + name,
                         numberText(known->span), numberText(span.value));
         else
-            writer_.addCalibration(measured, *joined.gas, joined.component, span);
+            writer_.analyzers.addCalibration(measured, *joined.gas, joined.component, span);
         ++(known ? knownSpans_ : newSpans_);
         takeFacts(calibrationPID(measured, span.scale), name, joined.facts);
     }
@@ -144,11 +144,11 @@ private:
     void takeFact(PID calibration, std::int32_t id, const std::string& name,
                   const std::string& place, const std::string& value)
     {
-        const auto held = writer_.attributeText(calibration, id);
+        const auto held = writer_.parameters.attributeText(calibration, id);
         if (held)
             checkIsSame(place, factName(id) + *held + " for " + name, *held, value);
         else
-            writer_.setAttribute(calibration, id, value);
+            writer_.parameters.setAttribute(calibration, id, value);
     }
 
     static std::string factName(std::int32_t id)
@@ -195,13 +195,13 @@ private:
     std::size_t takeConstant(const PlanLocation& location, PID pid, const std::string& name,
                              double megawatts)
     {
-        if (const auto held = writer_.constant(pid)) {
+        if (const auto held = writer_.constants.value(pid)) {
             checkIsSame(location.load.place,
                         "a " + name + " of " + numberText(*held) + " MW for " + location.name,
                         numberText(*held), numberText(megawatts));
             return 0;
         }
-        writer_.setConstant(pid, name, megawatts);
+        writer_.constants.set(pid, name, megawatts);
         return 1;
     }
 
@@ -217,13 +217,13 @@ private:
 Taken take(const ImportTask& task, const PlanContent& content)
 {
     SiteWriter writer(task.connection);
-    checkOrisCode(task.file, content.orisPlace, content.orisCode, writer.orisCode());
+    checkOrisCode(task.file, content.orisPlace, content.orisCode, writer.units.orisCode());
     PlanImporter importer(writer, task.file);
     for (const auto& location : content.locations)
         importer.take(location);
-    writer.setOrisCode(content.orisCode);
-    if (!content.facility.empty() && !writer.facilityName())
-        writer.setFacilityName(content.facility);
+    writer.units.setOrisCode(content.orisCode);
+    if (!content.facility.empty() && !writer.lookups.facilityName())
+        writer.lookups.setFacilityName(content.facility);
     return {{{}, importer.counts(), content.steppedOver, {}}};
 }
 

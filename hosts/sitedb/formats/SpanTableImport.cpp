@@ -46,11 +46,12 @@ public:
             identifier(table_, row, columns_.component, kComponentIdLength);
         const std::int32_t unit = unitOf(row);
         const PID measured = measuredOf(row, unit, gas, component);
-        if (writer_.findAnalyzer(unit, component, scale))
+        if (writer_.analyzers.find(unit, component, scale))
             throw table_.error(row, columns_.scale,
                                "the site already has the span of " + row.fields[columns_.unit] +
                                    " " + component + " on this scale");
-        writer_.addCalibration(measured, gas, component, {scale, span, row.fields[columns_.units]});
+        writer_.analyzers.addCalibration(measured, gas, component,
+                                         {scale, span, row.fields[columns_.units]});
     }
 
     [[nodiscard]] std::vector<std::string> counts() const
@@ -85,9 +86,9 @@ private:
     std::int32_t unitOf(const CsvRow& row)
     {
         const std::string& name = identifier(table_, row, columns_.unit, kUnitIdentifierLength);
-        if (const auto known = writer_.findUnit(name))
+        if (const auto known = writer_.units.find(name))
             return *known;
-        const auto added = writer_.addUnit(name);
+        const auto added = writer_.units.add(name);
         if (!added)
             throw table_.error(row, columns_.unit, noMoreUnits(name));
         ++newUnits_;
@@ -97,14 +98,14 @@ private:
     PID measuredOf(const CsvRow& row, std::int32_t unit, const Gas& gas,
                    const std::string& component)
     {
-        if (const auto known = writer_.findMeasured(unit, component)) {
+        if (const auto known = writer_.analyzers.findMeasured(unit, component)) {
             if (PIDPart(*known, pidpart::kParameterCode) != gas.parameterCode)
                 throw table_.error(row, columns_.type,
                                    "component " + component + " of " + row.fields[columns_.unit] +
                                        " measures another gas");
             return *known;
         }
-        const auto added = writer_.addMeasured(unit, gas, component);
+        const auto added = writer_.analyzers.addMeasured(unit, gas, component);
         if (!added)
             throw table_.error(row, columns_.component, noMoreComponents());
         ++newAnalyzers_;

@@ -1,7 +1,6 @@
 #include "sitedb/read/CsvTable.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 namespace k7deval::sitedb
@@ -175,12 +174,10 @@ double CsvTable::number(const CsvRow& row, std::size_t column, double lowest, do
 int CsvTable::wholeNumber(const CsvRow& row, std::size_t column) const
 {
     const std::string& text = field(row, column);
-    int value = 0;
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, value);
-    if (read.ec != std::errc() || read.ptr != end)
+    const auto value = plainWhole(text);
+    if (!value)
         throw error(row, column, inQuotes(text) + " is no whole number");
-    return value;
+    return *value;
 }
 
 ImportError CsvTable::error(const CsvRow& row, std::size_t column, std::string_view what) const

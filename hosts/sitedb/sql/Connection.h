@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sitedb/sql/Dialect.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -18,13 +20,6 @@ using Value = std::variant<std::monostate, std::int64_t, double, std::string>;
 
 /// A number, or NULL for nothing.
 Value orNull(const std::optional<double>& number);
-
-/// What the engine wants said its own way when a table is made.
-struct Dialect {
-    std::string realType;          ///< The type of a 64-bit floating-point column.
-    std::string tableOptions;      ///< Behind the closing parenthesis of a table.
-    std::string keyedTableOptions; ///< The same for a table that is only reached by its key.
-};
 
 /// One prepared query or command. Its columns are valid until the next step or reset.
 class Statement
@@ -68,6 +63,8 @@ public:
     [[nodiscard]] double real(int index) const;
     [[nodiscard]] std::string text(int index) const;
 };
+
+enum class Access { ReadOnly, ReadWrite };
 
 /// An open database. A failure of the engine is raised as k7deval::Error with a plain sentence.
 class Connection

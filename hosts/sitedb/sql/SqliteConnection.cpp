@@ -2,6 +2,7 @@
 
 #include "foundation/Error.h"
 #include "sitedb/PlainText.h"
+#include "sitedb/sql/SqliteDialect.h"
 
 #include <sqlite3.h>
 
@@ -184,7 +185,7 @@ private:
 
     std::shared_ptr<sqlite3> database_;
     std::string name_;
-    Dialect dialect_{"REAL", " STRICT", " STRICT, WITHOUT ROWID"};
+    SqliteDialect dialect_;
 };
 
 Database openFile(const std::filesystem::path& path, const std::string& name, int flags)
@@ -205,8 +206,8 @@ int lookAtTables(sqlite3* database)
     return sqlite3_extended_errcode(database);
 }
 
-// A program that ended while it wrote has left its journal, which only those who may write can
-// roll back.
+// A program that ended while it wrote has left its journal, which only those who may write can roll
+// back.
 Database openReadable(const std::filesystem::path& path, const std::string& name)
 {
     Database database = openFile(path, name, SQLITE_OPEN_READONLY);
@@ -217,12 +218,12 @@ Database openReadable(const std::filesystem::path& path, const std::string& name
 
 } // namespace
 
-std::shared_ptr<Connection> openSqlite(const std::filesystem::path& path, SqliteMode mode)
+std::shared_ptr<Connection> openSqlite(const std::filesystem::path& path, Access access)
 {
     const std::string name = utf8Text(path.filename());
-    if (mode == SqliteMode::ReadOnly && !std::filesystem::exists(path))
+    if (access == Access::ReadOnly && !std::filesystem::exists(path))
         throw Error(errors::kFileNotFound, name + ": there is no such file.");
-    Database database = mode == SqliteMode::ReadOnly
+    Database database = access == Access::ReadOnly
                             ? openReadable(path, name)
                             : openFile(path, name, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     auto connection = std::make_shared<SqliteConnection>(std::move(database), name);

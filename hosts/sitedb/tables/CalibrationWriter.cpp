@@ -1,11 +1,13 @@
 #include "sitedb/tables/CalibrationWriter.h"
 
+#include "foundation/DataInterface.h"
+#include "sitedb/tables/SiteIds.h"
+
 namespace k7deval::sitedb
 {
 
-CalibrationWriter::CalibrationWriter(sql::Connection& connection, const SourceFile& file)
-    : file_(file), writer_(connection),
-      find_(connection.prepare(
+CalibrationWriter::CalibrationWriter(sql::Connection& connection)
+    : find_(connection.prepare(
           "SELECT 1 FROM calibration_record WHERE record_table = $1 AND pid = $2"
           " AND scale = $3 AND run_time = $4 AND (gas_level_code = 0) = ($5 = 0)")),
       insert_(connection.prepare(
@@ -16,42 +18,36 @@ CalibrationWriter::CalibrationWriter(sql::Connection& connection, const SourceFi
 {
 }
 
-std::size_t CalibrationWriter::take(const QaTest& test, const CalibratedScale& scale,
-                                    const OnClash& onClash)
-{
-    std::size_t count = 0;
-    for (const auto& injection : test.injections) {
-        if (const auto fault = clash(test, scale, injection)) {
-            onClash(*fault);
-            continue;
-        }
-        insert(scale, injection);
-        ++count;
-    }
-    writer_.raiseDecimals(scale.calibration, test.decimals);
-    return count;
-}
-
-std::optional<ImportError> CalibrationWriter::clash(const QaTest& test,
-                                                    const CalibratedScale& scale,
-                                                    const QaInjection& injection)
+Outcome CalibrationWriter::add(const CalibratedScale& scale, const Injection& injection)
 {
     const bool isZero = injection.gasLevelCode == 0;
-    const std::string which = (isZero ? "a zero" : "an upscale") + std::string(" injection of ") +
-                              test.unit + " " + test.component + " " + scale.scale + " at " +
-                              injection.runTime;
     if (!inFile_.emplace(scale.calibration, injection.runTime, isZero).second)
-        return file_.error(injection.path, which + " stands in the file twice");
-    find_->with(std::string(kCalibrationTable), std::int64_t{scale.measured}, scale.scale,
-                injection.runTime, std::int64_t{injection.gasLevelCode});
-    const bool isHeld = find_->step();
-    find_->reset();
-    if (isHeld)
-        return file_.error(injection.path, "the site already holds " + which);
-    return std::nullopt;
+        return Outcome::TwiceInFile;
+    if (isHeld(scale, injection))
+        return Outcome::AlreadyHeld;
+    insert(scale, injection);
+    return Outcome::Taken;
 }
 
-void CalibrationWriter::insert(const CalibratedScale& scale, const QaInjection& injection)
+bool CalibrationWriter::isHeld(const CalibratedScale& scale, const Injection& injection)
+{
+    find_->with(std::string(kCalibrationTable), std::int64_t{scale.measured}, scale.scale,
+                injection.runTime, std::int64_t{injection.gasLevelCode});
+    const bool found = find_->step();
+    find_->reset();
+    return found;
+}
+
+std::string CalibrationWriter::fault(Outcome outcome, const std::string& analyzer,
+                                     const Injection& injection)
+{
+    const std::string which = (injection.gasLevelCode == 0 ? "a zero" : "an upscale") +
+                              std::string(" injection of ") + analyzer + " at " + injection.runTime;
+    return outcome == Outcome::TwiceInFile ? which + " stands in the file twice"
+                                           : "the site already holds " + which;
+}
+
+void CalibrationWriter::insert(const CalibratedScale& scale, const Injection& injection)
 {
     insert_->run(
         std::string(kCalibrationTable), std::int64_t{scale.measured}, scale.scale,

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "foundation/PIDFunctions.h"
-#include "sitedb/formats/EcmpsQa.h"
-#include "sitedb/tables/SiteWriter.h"
+#include "sitedb/sql/Connection.h"
+#include "sitedb/tables/Outcome.h"
 
-#include <functional>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <set>
@@ -13,6 +13,17 @@
 
 namespace k7deval::sitedb
 {
+
+/// One gas injection of an analyzer. The times are texts as a site keeps them.
+struct Injection {
+    std::string runTime;
+    std::string injectionEnd;
+    std::int32_t gasLevelCode = 0; ///< 0 zero gas, 1 and 2 upscale gas.
+    std::string gasLevelText;
+    std::optional<double> reference; ///< In the analyzer's units.
+    std::optional<double> measured;
+    bool isOnline = true;
+};
 
 /// The scale of an analyzer that injections are of.
 struct CalibratedScale {
@@ -27,22 +38,18 @@ struct CalibratedScale {
 class CalibrationWriter
 {
 public:
-    /// Is told the sentence of an injection that is in the site or the file already, and throws it
-    /// or leaves the injection out.
-    using OnClash = std::function<void(const ImportError&)>;
+    explicit CalibrationWriter(sql::Connection& connection);
 
-    CalibrationWriter(sql::Connection& connection, const SourceFile& file);
+    Outcome add(const CalibratedScale& scale, const Injection& injection);
 
-    /// How many injections were put in.
-    std::size_t take(const QaTest& test, const CalibratedScale& scale, const OnClash& onClash);
+    /// Why an injection was not taken; the analyzer and its scale are named as "U1 010 HIGH".
+    static std::string fault(Outcome outcome, const std::string& analyzer,
+                             const Injection& injection);
 
 private:
-    [[nodiscard]] std::optional<ImportError> clash(const QaTest& test, const CalibratedScale& scale,
-                                                   const QaInjection& injection);
-    void insert(const CalibratedScale& scale, const QaInjection& injection);
+    [[nodiscard]] bool isHeld(const CalibratedScale& scale, const Injection& injection);
+    void insert(const CalibratedScale& scale, const Injection& injection);
 
-    const SourceFile& file_;
-    SiteWriter writer_;
     std::unique_ptr<sql::Statement> find_;
     std::unique_ptr<sql::Statement> insert_;
     std::set<std::tuple<PID, std::string, bool>> inFile_;

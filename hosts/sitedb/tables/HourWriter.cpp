@@ -14,13 +14,12 @@ std::uint32_t bitOf(int hour)
 } // namespace
 
 HourWriter::HourWriter(sql::Connection& connection)
-    : insert_(connection.prepare(
-          "INSERT INTO hourly_value (pid, day, hour, value, status) VALUES ($1, $2, $3, $4, $5)"
-          " ON CONFLICT (pid, day, hour) DO NOTHING RETURNING pid"))
+    : insert_(connection.prepare(connection.dialect().insertIfNew(
+          {"hourly_value", {"pid", "day", "hour"}, {"value", "status"}})))
 {
 }
 
-HourWriter::Outcome HourWriter::add(PID pid, const SiteHour& hour)
+Outcome HourWriter::add(PID pid, const SiteHour& hour)
 {
     HoursOfDay& hours = inFile_[pid][hour.day];
     if ((hours & bitOf(hour.hour)) != 0)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/PIDFunctions.h"
-#include "sitedb/read/SourceFile.h"
 #include "sitedb/sql/Connection.h"
+#include "sitedb/tables/Outcome.h"
 
 #include <cstdint>
 #include <functional>
@@ -27,8 +27,6 @@ struct SiteHour {
 class HourWriter
 {
 public:
-    enum class Outcome { Taken, TwiceInFile, AlreadyHeld };
-
     explicit HourWriter(sql::Connection& connection);
 
     Outcome add(PID pid, const SiteHour& hour);

@@ -1,10 +1,10 @@
 #include "sitedb/tables/Modc.h"
 
+#include "sitedb/PlainText.h"
 #include "sitedb/tables/SiteIds.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <iterator>
 
 namespace k7deval::sitedb
@@ -69,12 +69,10 @@ std::span<const Modc> allModcs()
 
 const Modc* findModc(std::string_view text)
 {
-    std::int32_t code = 0;
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, code);
-    if (text.empty() || text.size() > 2 || read.ec != std::errc() || read.ptr != end)
+    const auto code = text.size() <= 2 ? plainWhole(text) : std::nullopt;
+    if (!code)
         return nullptr;
-    const auto index = std::ranges::find(kModcs, code, &Modc::code) - kModcs.begin();
+    const auto index = std::ranges::find(kModcs, *code, &Modc::code) - kModcs.begin();
     return index == std::ssize(kModcs) ? nullptr : &kModcs[static_cast<std::size_t>(index)];
 }
 

@@ -3,6 +3,7 @@
 #include "foundation/DataCodes.h"
 #include "foundation/PIDFunctions.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -45,6 +46,16 @@ inline constexpr std::int32_t kFlowFullScale = -1005;    ///< Of flow, in scfh.
 inline constexpr std::int32_t kSpanBegin = -1006; ///< 'YYYY-MM-DD HH:MM': in force from then.
 } // namespace planattribute
 
+/// How the table of attributes says what an attribute's text is to be read as.
+namespace attributekind
+{
+inline constexpr const char* kWhole = "i4";
+inline constexpr const char* kBoolean = "Boolean";
+inline constexpr const char* kText = "text";
+} // namespace attributekind
+inline constexpr const char* kTrueText = "True";
+inline constexpr const char* kFalseText = "False";
+
 /// The subset of constants that belongs to a unit itself.
 inline constexpr std::int32_t kUnitConstants = 0;
 
@@ -61,6 +72,7 @@ inline constexpr const char* kSiteKeyEntry = "SiteKey";
 
 /// The scales of an analyzer, under the names that the calibrations carry.
 enum class Scale { Single, Low, Mid, High };
+inline constexpr std::array kScales{Scale::Single, Scale::Low, Scale::Mid, Scale::High};
 /// "SINGLE", "LOW", "MID" or "HIGH".
 std::string scaleText(Scale scale);
 /// The scale of EPA's span scale code: "H", "L", or empty for an analyzer with one scale.

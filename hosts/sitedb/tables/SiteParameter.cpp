@@ -5,7 +5,6 @@
 #include "sitedb/tables/TimeText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <utility>
 
@@ -27,21 +26,19 @@ ParameterRow parameterRow(const sql::Statement& row)
 
 std::int32_t wholeAttribute(const std::string& text)
 {
-    std::int32_t value = 0;
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, value);
-    if (text.empty() || read.ec != std::errc() || read.ptr != end)
+    const auto value = plainWhole(text);
+    if (!value)
         throw Error(errors::kTypeMismatch, "The attribute " + inQuotes(text) +
                                                " in the site database is no whole number.");
-    return value;
+    return *value;
 }
 
 Variant attributeValue(const std::string& kind, const std::string& text)
 {
-    if (kind == "i4")
+    if (kind == attributekind::kWhole)
         return wholeAttribute(text);
-    if (kind == "Boolean")
-        return text == "True";
+    if (kind == attributekind::kBoolean)
+        return text == kTrueText;
     return text;
 }
 

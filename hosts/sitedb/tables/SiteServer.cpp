@@ -1,12 +1,12 @@
 #include "sitedb/tables/SiteServer.h"
 
+#include "sitedb/tables/LookupTable.h"
 #include "sitedb/tables/SiteIds.h"
 #include "sitedb/tables/SiteParameter.h"
 #include "sitedb/tables/SiteRecords.h"
 #include "sitedb/tables/SiteStatusCodes.h"
 
 #include <algorithm>
-#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -15,15 +15,6 @@ namespace k7deval::sitedb
 
 namespace
 {
-
-std::optional<std::string> findLookup(sql::Connection& connection, const std::string& table,
-                                      const std::string& key)
-{
-    const auto row =
-        connection.prepare("SELECT value FROM lookup WHERE lookup_table = $1 AND lookup_key = $2");
-    row->with(table, key);
-    return row->step() ? std::optional(row->text(0)) : std::nullopt;
-}
 
 /// "310007501 (3-100-0-75-01)"; a number that is no valid PID has no second form.
 std::string pidName(PID pid)
@@ -80,7 +71,7 @@ public:
          const std::string& key, const std::string& /*unused*/) override
     {
         checkSiteKey(siteKey_, siteKey);
-        const auto value = findLookup(*connection_, table, key);
+        const auto value = LookupTable(*connection_).find(table, key);
         return value ? std::make_shared<SiteLookupEntry>(*value) : nullptr;
     }
 
@@ -132,7 +123,7 @@ std::unordered_map<PID, std::int32_t> constantSubsets(sql::Connection& connectio
 
 SiteServer::SiteServer(std::shared_ptr<sql::Connection> connection)
     : connection_(std::move(connection)),
-      siteKey_(findLookup(*connection_, kSiteTable, kSiteKeyEntry).value_or(""))
+      siteKey_(LookupTable(*connection_).find(kSiteTable, kSiteKeyEntry).value_or(""))
 {
 }
 

@@ -75,9 +75,8 @@ bool lacksStatusWords(sql::Connection& connection)
 
 void addStatusWords(sql::Connection& connection)
 {
-    const auto insert =
-        connection.prepare("INSERT INTO status_word (word, meaning, valid, excluded, offline)"
-                           " VALUES ($1, $2, $3, $4, $5) ON CONFLICT (word) DO NOTHING");
+    const auto insert = connection.prepare(connection.dialect().insertIfNew(
+        {"status_word", {"word"}, {"meaning", "valid", "excluded", "offline"}}));
     for (const auto& word : standardWords())
         insert->run(std::int64_t{word.word}, word.meaning, std::int64_t{word.valid},
                     std::int64_t{word.excluded}, std::int64_t{word.offline});

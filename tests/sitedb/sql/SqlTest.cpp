@@ -14,12 +14,12 @@ namespace
 struct Database {
     TemporaryDirectory directory;
     std::shared_ptr<sql::Connection> connection =
-        sql::openSqlite(directory / "test.db", sql::SqliteMode::ReadWrite);
+        sql::openSqlite(directory / "test.db", sql::Access::ReadWrite);
 
     Database()
     {
         connection->execute("CREATE TABLE thing (id INTEGER PRIMARY KEY, value REAL, name TEXT)" +
-                            connection->dialect().tableOptions);
+                            connection->dialect().tableOptions());
     }
 
     [[nodiscard]] std::int64_t count() const

@@ -1,6 +1,7 @@
 #include "sitedb/formats/CalibrationRow.h"
 
 #include "sitedb/PlainText.h"
+#include "sitedb/formats/Fields.h"
 #include "sitedb/tables/TimeText.h"
 
 #include <algorithm>
@@ -66,11 +67,9 @@ JsonNode CalibrationRow::part(const std::string& gas, const char* name) const
 
 std::string CalibrationRow::time(const std::string& gas) const
 {
-    const JsonNode date = part(gas, "InjectionDate");
-    if (!date.isText() || !dayNumber(date.text()))
-        throw date.error(date.shown() + " is no date");
-    return minuteText(date.text(), part(gas, "InjectionHour").whole(0, 23, "hour"),
-                      part(gas, "InjectionMinute").whole(0, 59, "minute"));
+    const std::string date = dateIn(part(gas, "InjectionDate"));
+    const int hour = hourIn(part(gas, "InjectionHour"));
+    return minuteText(date, hour, part(gas, "InjectionMinute").whole(0, 59, "minute"));
 }
 
 bool CalibrationRow::lacks(const std::string& gas) const

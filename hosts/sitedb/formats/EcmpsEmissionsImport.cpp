@@ -2,6 +2,7 @@
 
 #include "sitedb/formats/EmissionsCalibrations.h"
 #include "sitedb/formats/EmissionsHours.h"
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/read/JsonStream.h"
 
@@ -69,7 +70,7 @@ private:
     void takeField(const JsonNode& node)
     {
         if (node.path() == "orisCode") {
-            orisCode_ = node.whole(1, kHighestOrisCode, "ORIS code");
+            orisCode_ = orisCodeIn(node);
             checkOrisCode(task_.file, node.path(), *orisCode_, writer_.units.orisCode());
         }
         const bool isList =

@@ -1,6 +1,7 @@
 #include "sitedb/formats/EcmpsQa.h"
 
 #include "sitedb/formats/CalibrationRow.h"
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/read/JsonNode.h"
 
@@ -18,7 +19,7 @@ public:
 
     QaContent read(const JsonNode& root)
     {
-        content_.orisCode = root.field("orisCode").whole(1, kHighestOrisCode, "ORIS code");
+        content_.orisCode = orisCodeIn(root.field("orisCode"));
         for (const auto& test : root.field("testSummaryData").elements())
             readTest(test);
         stepOverList(root, "certificationEventData");

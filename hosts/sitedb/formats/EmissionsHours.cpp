@@ -1,7 +1,7 @@
 #include "sitedb/formats/EmissionsHours.h"
 
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
-#include "sitedb/tables/TimeText.h"
 
 namespace k7deval::sitedb
 {
@@ -11,14 +11,6 @@ namespace
 
 constexpr const char* kMonitorHours = "monitorHourlyValueData";
 constexpr const char* kMatsHours = "matsMonitorHourlyValueData";
-
-std::string dayOf(const JsonNode& record)
-{
-    const JsonNode node = record.field("date");
-    if (!node.isText() || !dayNumber(node.text()))
-        throw node.error(node.shown() + " is no date");
-    return node.text();
-}
 
 const Modc& modcOf(const JsonNode& value)
 {
@@ -47,8 +39,8 @@ EmissionsHours::EmissionsHours(sql::Connection& connection, const SourceFile& fi
 void EmissionsHours::take(const JsonNode& node)
 {
     Unit& unit = unitOf(node);
-    const std::string* day = &*days_.insert(dayOf(node)).first;
-    const int hour = node.field("hour").whole(0, 23, "hour");
+    const std::string* day = &*days_.insert(dateIn(node.field("date"))).first;
+    const int hour = hourIn(node.field("hour"));
     const auto time = node.fieldOrNull("operatingTime").numberOrNull(0, 1);
     const Record record{unit, day, hour, time && *time == 0, node.path()};
     add(operatingTimePID(unit.number), {day, hour, operatingWord(time), time},
@@ -157,8 +149,7 @@ PID EmissionsHours::measuredOf(Unit& unit, const Gas& gas, const std::string& co
     if (!measured)
         throw file_.error(place, noMoreComponents());
     if (PIDPart(*measured, pidpart::kParameterCode) != gas.parameterCode)
-        throw file_.error(place,
-                          "component " + component + " of " + unit.name + " measures another gas");
+        throw file_.error(place, measuresAnotherGas(component, unit.name));
     unit.measured[{&gas, component}] = *measured;
     unit.parameters.insert(*measured);
     return *measured;

@@ -1,5 +1,6 @@
 #include "sitedb/formats/EmissionsParts.h"
 
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
 
 #include <utility>
@@ -14,11 +15,7 @@ EmissionsLocation named(const JsonNode& node, std::size_t longest)
 {
     if (node.isNull())
         return {"", node.path()};
-    const std::string name = node.text();
-    const std::string fault = identifierFault(name, longest);
-    if (!fault.empty())
-        throw node.error(fault);
-    return {name, node.path()};
+    return {identifierIn(node, longest), node.path()};
 }
 
 } // namespace

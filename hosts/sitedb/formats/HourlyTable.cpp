@@ -1,7 +1,7 @@
 #include "sitedb/formats/HourlyTable.h"
 
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
-#include "sitedb/tables/TimeText.h"
 
 namespace k7deval::sitedb
 {
@@ -9,7 +9,6 @@ namespace k7deval::sitedb
 namespace
 {
 
-constexpr int kLastHour = 23;
 constexpr std::size_t kRowsBetweenProgress = 1000;
 
 } // namespace
@@ -23,12 +22,8 @@ HourlyTable::HourlyTable(const CsvTable& table, const SourceFile& file, sql::Con
 SiteHour HourlyTable::hourOf(const CsvRow& row) const
 {
     SiteHour hour;
-    hour.day = table_.field(row, day_);
-    if (!dayNumber(hour.day))
-        throw table_.error(row, day_, inQuotes(hour.day) + " is no date");
-    hour.hour = table_.wholeNumber(row, hour_);
-    if (hour.hour < 0 || hour.hour > kLastHour)
-        throw table_.error(row, hour_, std::to_string(hour.hour) + " is no hour from 0 to 23");
+    hour.day = dateIn(table_, row, day_);
+    hour.hour = hourIn(table_, row, hour_);
     return hour;
 }
 

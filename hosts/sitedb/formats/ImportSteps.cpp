@@ -2,8 +2,6 @@
 
 #include "sitedb/tables/SiteIds.h"
 
-#include <algorithm>
-
 namespace k7deval::sitedb
 {
 
@@ -32,25 +30,6 @@ std::string entries(std::size_t count)
     return std::to_string(count) + (count == 1 ? " entry" : " entries");
 }
 
-std::string identifierFault(std::string_view text, std::size_t longest)
-{
-    const bool isGood = !text.empty() && text.size() <= longest && text.front() != ' ' &&
-                        text.back() != ' ' && std::ranges::all_of(text, isPrintable);
-    if (isGood)
-        return {};
-    return inQuotes(text) + " is no identifier of 1 to " + std::to_string(longest) + " characters";
-}
-
-const std::string& identifier(const CsvTable& table, const CsvRow& row, std::size_t column,
-                              std::size_t longest)
-{
-    const std::string& text = table.field(row, column);
-    const std::string fault = identifierFault(text, longest);
-    if (!fault.empty())
-        throw table.error(row, column, fault);
-    return text;
-}
-
 void checkOrisCode(const SourceFile& file, const std::string& place, std::int32_t code,
                    const std::optional<std::int32_t>& held)
 {
@@ -64,6 +43,11 @@ std::string noMoreUnits(const std::string& identifier)
 {
     return identifier + " would be one unit too many, since a site holds at most " +
            std::to_string(kHighestUnit);
+}
+
+std::string measuresAnotherGas(const std::string& component, const std::string& unit)
+{
+    return "component " + component + " of " + unit + " measures another gas";
 }
 
 std::string noMoreComponents()

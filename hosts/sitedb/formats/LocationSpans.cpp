@@ -1,3 +1,4 @@
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/formats/PlanContent.h"
 #include "sitedb/read/CsvTable.h"
@@ -64,22 +65,12 @@ private:
         const std::size_t oris = table_.column("oris");
         const CsvRow& first = table_.rows().front();
         content_.orisPlace = "line " + std::to_string(first.line) + ": oris";
-        content_.orisCode = orisOf(first, oris);
+        content_.orisCode = orisCodeIn(table_, first, oris);
         content_.facility = first.fields[table_.column("facility")];
         for (const auto& row : table_.rows()) {
-            if (orisOf(row, oris) != content_.orisCode)
+            if (orisCodeIn(table_, row, oris) != content_.orisCode)
                 throw table_.error(row, oris, "the table holds more than one facility");
         }
-    }
-
-    [[nodiscard]] int orisOf(const CsvRow& row, std::size_t column) const
-    {
-        const int code = table_.wholeNumber(row, column);
-        if (code < 1 || code > kHighestOrisCode)
-            throw table_.error(row, column,
-                               std::to_string(code) + " is no ORIS code from 1 to " +
-                                   std::to_string(kHighestOrisCode));
-        return code;
     }
 
     bool isWanted(const CsvRow& row)
@@ -92,7 +83,7 @@ private:
 
     SpanRow spanRow(const CsvRow& row, const Gas& gas) const
     {
-        return {&row, identifier(table_, row, table_.column("location"), kUnitIdentifierLength),
+        return {&row, identifierIn(table_, row, table_.column("location"), kUnitIdentifierLength),
                 &gas, scaleOf(row), periodOf(row)};
     }
 
@@ -118,13 +109,7 @@ private:
     {
         const std::size_t dateColumn = table_.column(dateName);
         const std::size_t hourColumn = table_.column(hourName);
-        const std::string& day = table_.field(row, dateColumn);
-        if (!dayNumber(day))
-            throw table_.error(row, dateColumn, inQuotes(day) + " is no date");
-        const int hour = table_.wholeNumber(row, hourColumn);
-        if (hour < 0 || hour > 23)
-            throw table_.error(row, hourColumn, std::to_string(hour) + " is no hour from 0 to 23");
-        return minuteText(day, hour, 0);
+        return minuteText(dateIn(table_, row, dateColumn), hourIn(table_, row, hourColumn), 0);
     }
 
     /// Takes the first row's location, type and scale out of the rows, with the span in force.

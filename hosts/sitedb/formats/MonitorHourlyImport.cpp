@@ -1,5 +1,6 @@
 #include "sitedb/formats/MonitorHourlyImport.h"
 
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/HourlyGas.h"
 #include "sitedb/formats/HourlyTable.h"
 #include "sitedb/formats/ImportSteps.h"
@@ -99,9 +100,7 @@ private:
         if (!measured)
             throw table_.error(row, parameter_, noMoreComponents());
         if (PIDPart(*measured, pidpart::kParameterCode) != gas.parameterCode)
-            throw table_.error(row, parameter_,
-                               "component " + component + " of " + options_.unit +
-                                   " measures another gas");
+            throw table_.error(row, parameter_, measuresAnotherGas(component, options_.unit));
         measured_[gas.parameterCode] = *measured;
         return *measured;
     }

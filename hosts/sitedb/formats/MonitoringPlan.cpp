@@ -1,3 +1,4 @@
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/formats/PlanContent.h"
 #include "sitedb/read/CsvTable.h"
@@ -35,11 +36,9 @@ constexpr ListName kRanges{"analyzerRangeData", "analyzerRanges"};
 /// The hour of a date and an hour field; an hour that is null is the given one.
 std::string hourOf(const JsonNode& record, const char* date, const char* hour, int hourOfNull)
 {
-    const JsonNode day = record.field(date);
-    if (!day.isText() || !dayNumber(day.text()))
-        throw day.error(day.shown() + " is no date");
+    const std::string day = dateIn(record.field(date));
     const bool isNull = !record.has(hour) || record.field(hour).isNull();
-    return minuteText(day.text(), isNull ? hourOfNull : record.field(hour).whole(0, 23, "hour"), 0);
+    return minuteText(day, isNull ? hourOfNull : hourIn(record.field(hour)), 0);
 }
 
 PlanPeriod periodOf(const JsonNode& record)
@@ -166,12 +165,7 @@ private:
     [[nodiscard]] std::string name() const
     {
         const bool isUnit = node_.has("unitId") && !node_.field("unitId").isNull();
-        const JsonNode node = node_.field(isUnit ? "unitId" : "stackPipeId");
-        std::string name = node.text();
-        const std::string fault = identifierFault(name, kUnitIdentifierLength);
-        if (!fault.empty())
-            throw node.error(fault);
-        return name;
+        return identifierIn(node_.field(isUnit ? "unitId" : "stackPipeId"), kUnitIdentifierLength);
     }
 
     void readSpans()
@@ -197,11 +191,8 @@ private:
         PlanComponent component;
         const JsonNode id = node.field({"componentId", "componentID"});
         component.place = id.path();
-        component.id = id.text();
+        component.id = identifierIn(id, kComponentIdLength);
         component.gas = gas;
-        const std::string fault = identifierFault(component.id, kComponentIdLength);
-        if (!fault.empty())
-            throw id.error(fault);
         join(component, node);
         location_.components.push_back(std::move(component));
     }
@@ -354,7 +345,7 @@ PlanContent readMonitoringPlan(const SourceFile& file)
     PlanContent content;
     const JsonNode oris = root.field("orisCode");
     content.orisPlace = oris.path();
-    content.orisCode = oris.whole(1, kHighestOrisCode, "ORIS code");
+    content.orisCode = orisCodeIn(oris);
     if (root.has("facilityName"))
         content.facility = root.field("facilityName").textOrNull();
     stepOverLists(root, content.steppedOver);

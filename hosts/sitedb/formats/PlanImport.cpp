@@ -91,8 +91,7 @@ private:
     {
         if (const auto known = writer_.analyzers.findMeasured(unit, id)) {
             if (PIDPart(*known, pidpart::kParameterCode) != component.gas->parameterCode)
-                throw file_.error(component.place, "component " + id + " of " + location.name +
-                                                       " measures another gas");
+                throw file_.error(component.place, measuresAnotherGas(id, location.name));
             return *known;
         }
         const auto added = writer_.analyzers.addMeasured(unit, *component.gas, id);

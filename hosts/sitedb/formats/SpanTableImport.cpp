@@ -1,5 +1,6 @@
 #include "sitedb/formats/SpanTableImport.h"
 
+#include "sitedb/formats/Fields.h"
 #include "sitedb/formats/ImportSteps.h"
 #include "sitedb/read/CsvTable.h"
 #include "sitedb/tables/SiteWriter.h"
@@ -43,7 +44,7 @@ public:
         if (span == 0)
             throw table_.error(row, columns_.span, "a span is above 0");
         const std::string& component =
-            identifier(table_, row, columns_.component, kComponentIdLength);
+            identifierIn(table_, row, columns_.component, kComponentIdLength);
         const std::int32_t unit = unitOf(row);
         const PID measured = measuredOf(row, unit, gas, component);
         if (writer_.analyzers.find(unit, component, scale))
@@ -85,7 +86,7 @@ private:
 
     std::int32_t unitOf(const CsvRow& row)
     {
-        const std::string& name = identifier(table_, row, columns_.unit, kUnitIdentifierLength);
+        const std::string& name = identifierIn(table_, row, columns_.unit, kUnitIdentifierLength);
         if (const auto known = writer_.units.find(name))
             return *known;
         const auto added = writer_.units.add(name);
@@ -101,8 +102,7 @@ private:
         if (const auto known = writer_.analyzers.findMeasured(unit, component)) {
             if (PIDPart(*known, pidpart::kParameterCode) != gas.parameterCode)
                 throw table_.error(row, columns_.type,
-                                   "component " + component + " of " + row.fields[columns_.unit] +
-                                       " measures another gas");
+                                   measuresAnotherGas(component, row.fields[columns_.unit]));
             return *known;
         }
         const auto added = writer_.analyzers.addMeasured(unit, gas, component);

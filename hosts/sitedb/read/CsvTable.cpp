@@ -171,12 +171,17 @@ double CsvTable::number(const CsvRow& row, std::size_t column, double lowest, do
     return *value;
 }
 
-int CsvTable::wholeNumber(const CsvRow& row, std::size_t column) const
+int CsvTable::wholeNumber(const CsvRow& row, std::size_t column, int lowest, int highest,
+                          std::string_view what) const
 {
     const std::string& text = field(row, column);
     const auto value = plainWhole(text);
     if (!value)
         throw error(row, column, inQuotes(text) + " is no whole number");
+    if (*value < lowest || *value > highest)
+        throw error(row, column,
+                    std::to_string(*value) + " is no " + std::string(what) + " from " +
+                        std::to_string(lowest) + " to " + std::to_string(highest));
     return *value;
 }
 

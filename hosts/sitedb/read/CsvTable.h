@@ -38,7 +38,9 @@ public:
     /// The number in a field, from lowest to highest. Raises ImportError for anything else.
     [[nodiscard]] double number(const CsvRow& row, std::size_t column, double lowest,
                                 double highest) const;
-    [[nodiscard]] int wholeNumber(const CsvRow& row, std::size_t column) const;
+    /// A whole number from lowest to highest; what names it in the sentence: "hour".
+    [[nodiscard]] int wholeNumber(const CsvRow& row, std::size_t column, int lowest, int highest,
+                                  std::string_view what) const;
 
     /// The error that stands in a field: "name: line 5: column: what."
     [[nodiscard]] ImportError error(const CsvRow& row, std::size_t column,

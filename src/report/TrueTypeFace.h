@@ -25,6 +25,8 @@ struct FaceBox {
 
 /// A TrueType face in memory: which characters it has and how wide each is drawn. All measures are
 /// rounded to 1/1000 of the font size, the unit in which a PDF file states them.
+///
+/// The files are read here and not by a library: docs/architecture.md, "Reports", says why.
 class TrueTypeFace
 {
 public:

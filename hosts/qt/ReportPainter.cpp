@@ -16,14 +16,13 @@ namespace k7deval::qt
 namespace
 {
 
-constexpr double kLineWidth = 0.5;
 // Fonts have whole sizes here, so texts are set large and drawn smaller.
 constexpr int kSetSize = 200;
 
 /// The edges of lines are as the PDF file has them.
 QPen penOf(const QColor& color)
 {
-    return {color, kLineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+    return {color, ReportLine::kThickness, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
 QRectF boxOf(const ReportRectangle& rectangle, double pageHeight)
@@ -37,12 +36,13 @@ QLineF lineOf(const ReportLine& line, double pageHeight)
     return {line.X1(), pageHeight - line.Y1(), line.X2(), pageHeight - line.Y2()};
 }
 
-/// From a text as it reads, on its base line from 0 on and y downward, to the page.
-QTransform placeOf(const ReportTextItem& text, double descent, double pageHeight)
+/// From a text as it reads, from 0 on and y downward, to the page. `above` is how far its 0 lies
+/// above its lower edge.
+QTransform placeOf(const ReportTextItem& text, double above, double pageHeight)
 {
     if (text.readsUpward())
-        return QTransform::fromTranslate(text.X() - descent, pageHeight - text.Y()).rotate(-90);
-    return QTransform::fromTranslate(text.X(), pageHeight - text.Y() - descent);
+        return QTransform::fromTranslate(text.X() - above, pageHeight - text.Y()).rotate(-90);
+    return QTransform::fromTranslate(text.X(), pageHeight - text.Y() - above);
 }
 
 QRectF boxOf(const ReportTextItem& text, double pageHeight)
@@ -68,12 +68,13 @@ QStringList familiesOf(const TextLayout& layout)
 /// Without pairs drawn closer together: the PDF file knows none.
 QFont fontOf(const ReportTextItem& text, const TextLayout& layout)
 {
+    const ReportFace& face = ReportFace::ofCode(text.Font());
     QFont font;
     font.setFamilies(familiesOf(layout));
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(kSetSize);
-    font.setBold(text.Font() == kHeadingFont);
-    font.setItalic(text.Font() == kFooterFont);
+    font.setBold(face.isBold);
+    font.setItalic(face.isSlanted);
     font.setKerning(false);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
@@ -99,9 +100,10 @@ void drawRectangle(QPainter& painter, const ReportRectangle& rectangle, double p
 void drawLine(QPainter& painter, const ReportLine& line, double pageHeight)
 {
     QPen pen = penOf(Qt::black);
-    // In widths of the pen: 1 point drawn and 2 left out.
+    // A pattern counts in widths of its pen.
     if (line.isDashed())
-        pen.setDashPattern({1 / kLineWidth, 2 / kLineWidth});
+        pen.setDashPattern({ReportLine::kDashDrawn / ReportLine::kThickness,
+                            ReportLine::kDashLeftOut / ReportLine::kThickness});
     painter.setPen(pen);
     painter.drawLine(lineOf(line, pageHeight));
 }
@@ -115,8 +117,7 @@ void drawText(QPainter& painter, const ReportTextItem& text, double pageHeight)
     if (shown.isEmpty() || advance <= 0)
         return;
     painter.save();
-    const double descent = -layout.descender / 1000.0 * text.Size();
-    painter.setTransform(placeOf(text, descent, pageHeight), true);
+    painter.setTransform(placeOf(text, layout.baseLine(text.Size()), pageHeight), true);
     painter.scale(text.Width() / advance, static_cast<double>(text.Size()) / kSetSize);
     painter.setFont(font);
     painter.setPen(Qt::black);
@@ -141,7 +142,7 @@ void drawPage(QPainter& painter, const ReportPage& page)
 
 QRectF contentOf(const ReportPage& page)
 {
-    constexpr double kHalf = kLineWidth / 2;
+    constexpr double kHalf = ReportLine::kThickness / 2;
     const auto withEdge = [](const QRectF& box) {
         return box.normalized().adjusted(-kHalf, -kHalf, kHalf, kHalf);
     };

@@ -12,8 +12,6 @@ using namespace layout;
 
 constexpr float kWidth = kRight - kLeft;
 constexpr float kScaleGap = 2;
-constexpr std::int32_t kDashed = 3;
-constexpr std::int32_t kReadsUpward = 2;
 constexpr std::int32_t kBarColor = 0xB4B4B4;
 
 ReportTextItem& addBodyText(ReportPage& page, const std::string& text)
@@ -33,7 +31,7 @@ void drawMark(ReportPage& page, float x, float bottom, float top)
     mark.SetX2(x);
     mark.SetY1(top);
     mark.SetY2(bottom);
-    mark.SetStyle(kDashed);
+    mark.SetStyle(ReportLine::kDashed);
 }
 
 ReportRectangle& drawBar(ReportPage& page, int bar, float bottom, float height)
@@ -52,7 +50,7 @@ ReportRectangle& drawBar(ReportPage& page, int bar, float bottom, float height)
 void drawCount(ReportPage& page, const ReportRectangle& bar, std::int32_t hours, float chartTop)
 {
     ReportTextItem& count = addBodyText(page, std::to_string(hours));
-    count.SetOrientation(kReadsUpward);
+    count.SetOrientation(ReportTextItem::kReadsUpward);
     const float barTop = bar.Y() + bar.Height();
     const bool hasRoomAbove = barTop + count.Width() <= chartTop;
     count.SetY(hasRoomAbove ? barTop + 1 : barTop - count.Width() - 1);

@@ -270,12 +270,10 @@ std::unique_ptr<ReportDocument> ctrlMaxMW::buildReport() const
                                               .heading = "Load Evaluation Summary",
                                               .period = periodLine()},
                                              kLevelCentres, evaluation_);
-    ReportTextItem& below =
-        layout::addText(*page, lblBelow.Caption(), kBodyFont, layout::kBodySize);
+    ReportTextItem& below = layout::addText(*page, lblBelow.Caption(), kBodyFont, kBodySize);
     const float y = histogram::kLowestRow + below.Height();
     layout::alignLeft(below, layout::kLeft, y);
-    ReportTextItem& above =
-        layout::addText(*page, lblAbove.Caption(), kBodyFont, layout::kBodySize);
+    ReportTextItem& above = layout::addText(*page, lblAbove.Caption(), kBodyFont, kBodySize);
     layout::alignRight(above, layout::kRight, y);
     const float bottom = histogram::drawScale(
         *page, kMarks,

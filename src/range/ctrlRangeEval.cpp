@@ -52,9 +52,9 @@ constexpr float kSecondColumn = 396;
 /// Two texts beside each other. Returns their height.
 float drawPair(ReportPage& page, const screen::Label& left, const screen::Label& right, float y)
 {
-    layout::alignLeft(layout::addText(page, left.Caption(), kBodyFont, layout::kBodySize),
-                      layout::kLeft, y);
-    ReportTextItem& second = layout::addText(page, right.Caption(), kBodyFont, layout::kBodySize);
+    layout::alignLeft(layout::addText(page, left.Caption(), kBodyFont, kBodySize), layout::kLeft,
+                      y);
+    ReportTextItem& second = layout::addText(page, right.Caption(), kBodyFont, kBodySize);
     layout::alignLeft(second, kSecondColumn, y);
     return second.Height();
 }
@@ -276,7 +276,7 @@ std::unique_ptr<ReportDocument> ctrlRangeEval::buildReport() const
          .period = "Range summary ending the last day of " + cmbYear.Text() + " " + cmbQTR.Text()},
         kLevelCentres, evaluation_);
     ReportTextItem& overRange =
-        layout::addText(*page, lblOverRange.Caption(), kBodyFont, layout::kBodySize);
+        layout::addText(*page, lblOverRange.Caption(), kBodyFont, kBodySize);
     float y = histogram::kLowestRow + overRange.Height();
     layout::alignLeft(overRange, layout::kLeft, y);
     y += overRange.Height() + layout::kGap;

@@ -1,8 +1,11 @@
 #include "report/CharacterCodes.h"
 
+#include "report/BigEndian.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 
 namespace k7deval
@@ -65,12 +68,6 @@ Decoded firstCharacter(std::string_view text)
     return isWellFormed(character, bytes) ? Decoded{character, bytes} : Decoded{};
 }
 
-void appendUnit(std::string& bytes, char32_t unit)
-{
-    bytes += static_cast<char>(unit >> 8U & 0xFFU);
-    bytes += static_cast<char>(unit & 0xFFU);
-}
-
 bool isTheSameInWindows1252(char32_t character)
 {
     return (character >= 0x20 && character <= 0x7E) || (character >= 0xA0 && character <= 0xFF);
@@ -119,10 +116,11 @@ std::string utf16BigEndian(std::u32string_view characters)
     std::string bytes;
     for (const char32_t character : characters) {
         if (character >= 0x10000) {
-            appendUnit(bytes, 0xD800 + ((character - 0x10000) >> 10U));
-            appendUnit(bytes, 0xDC00 + ((character - 0x10000) & 0x3FFU));
+            appendWord(bytes, static_cast<std::uint16_t>(0xD800 + ((character - 0x10000) >> 10U)));
+            appendWord(bytes,
+                       static_cast<std::uint16_t>(0xDC00 + ((character - 0x10000) & 0x3FFU)));
         } else {
-            appendUnit(bytes, character);
+            appendWord(bytes, static_cast<std::uint16_t>(character));
         }
     }
     return bytes;
@@ -133,6 +131,14 @@ std::string hexadecimal(char32_t value, int digits)
     std::string text;
     for (; value != 0 || digits > 0; value >>= 4U, --digits)
         text.insert(text.begin(), "0123456789ABCDEF"[value & 0xFU]);
+    return text;
+}
+
+std::string hexadecimal(std::string_view bytes)
+{
+    std::string text;
+    for (const char byte : bytes)
+        text += hexadecimal(static_cast<unsigned char>(byte), 2);
     return text;
 }
 

@@ -24,4 +24,7 @@ namespace k7deval
 /// `value` in upper-case hexadecimal, with leading zeros up to `digits` places.
 [[nodiscard]] std::string hexadecimal(char32_t value, int digits);
 
+/// Bytes in upper-case hexadecimal, two digits each.
+[[nodiscard]] std::string hexadecimal(std::string_view bytes);
+
 } // namespace k7deval

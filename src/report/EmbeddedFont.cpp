@@ -13,14 +13,6 @@ namespace k7deval
 namespace
 {
 
-std::string hexadecimalBytes(std::string_view bytes)
-{
-    std::string text;
-    for (const char byte : bytes)
-        text += hexadecimal(static_cast<unsigned char>(byte), 2);
-    return text;
-}
-
 /// The lines for some of the characters, the first of which has the code `first`.
 std::string characterLines(std::u32string_view characters, std::size_t first)
 {
@@ -28,7 +20,7 @@ std::string characterLines(std::u32string_view characters, std::size_t first)
     for (std::size_t index = 0; index < characters.size(); ++index) {
         const auto code = static_cast<char32_t>(first + index);
         lines += "<" + hexadecimal(code, 4) + "> <" +
-                 hexadecimalBytes(utf16BigEndian(characters.substr(index, 1))) + ">\n";
+                 hexadecimal(utf16BigEndian(characters.substr(index, 1))) + ">\n";
     }
     return lines + "endbfchar\n";
 }

@@ -1,8 +1,7 @@
 #include "report/FontSet.h"
 
-#include "foundation/Error.h"
 #include "report/CharacterCodes.h"
-#include "report/FontCodes.h"
+#include "report/ReportFace.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -132,16 +131,7 @@ bool FontSet::isInAnyFace(char32_t character, int fontCode) const
 
 const std::vector<FontFile>& FontSet::files(int fontCode) const
 {
-    switch (fontCode) {
-    case kBodyFont:
-        return files_.body;
-    case kHeadingFont:
-        return files_.title;
-    case kFooterFont:
-        return files_.footer;
-    default:
-        throw Error(errors::kInvalidCall);
-    }
+    return files_.*ReportFace::ofCode(fontCode).fontFiles;
 }
 
 const StandardFace& FontSet::standardFace(int fontCode) const

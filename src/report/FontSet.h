@@ -26,6 +26,9 @@ struct TextLayout {
     int width = 0;             ///< The sum of the advances.
     int ascender = 0;  ///< Of the face that draws the text; the largest where there are several.
     int descender = 0; ///< The same below the base line: a negative number.
+
+    /// How far the base line lies above the text's lower edge, at a font size.
+    [[nodiscard]] double baseLine(float size) const { return -descender / 1000.0 * size; }
 };
 
 /// Decides with which faces a text is drawn. Measuring and drawing both go by its answer, so that

@@ -44,10 +44,18 @@ std::string rectangleOperators(const ReportRectangle& rectangle)
            number(rectangle.Height()) + "re\nB\n";
 }
 
+std::string dashes(const ReportLine& line)
+{
+    if (!line.isDashed())
+        return "[] 0 d\n";
+    return "[" + std::to_string(ReportLine::kDashDrawn) + " " +
+           std::to_string(ReportLine::kDashLeftOut) + "] 0 d\n";
+}
+
 std::string lineOperators(const ReportLine& line)
 {
-    return std::string(line.isDashed() ? "[1 2] 0 d\n" : "[] 0 d\n") + number(line.X1()) +
-           number(line.Y1()) + "m\n" + number(line.X2()) + number(line.Y2()) + "l\nS\n";
+    return dashes(line) + number(line.X1()) + number(line.Y1()) + "m\n" + number(line.X2()) +
+           number(line.Y2()) + "l\nS\n";
 }
 
 std::string escaped(unsigned char byte)
@@ -72,10 +80,7 @@ std::string standardString(std::u32string_view characters)
 
 std::string embeddedString(std::u32string_view characters, EmbeddedFont& font)
 {
-    std::string text;
-    for (const char byte : font.codes(characters))
-        text += hexadecimal(static_cast<unsigned char>(byte), 2);
-    return "<" + text + ">";
+    return "<" + hexadecimal(font.codes(characters)) + ">";
 }
 
 std::string runOperators(const TextRun& run, const ReportTextItem& text, UsedFonts& fonts)
@@ -87,12 +92,11 @@ std::string runOperators(const TextRun& run, const ReportTextItem& text, UsedFon
 }
 
 /// The turn of the text and the start of its base line.
-std::string placement(const ReportTextItem& text, int descender)
+std::string placement(const ReportTextItem& text, double baseLine)
 {
-    const double belowBaseLine = -descender / 1000.0 * text.Size();
     if (text.readsUpward())
-        return "0 1 -1 0 " + number(text.X() - belowBaseLine) + number(text.Y());
-    return "1 0 0 1 " + number(text.X()) + number(text.Y() + belowBaseLine);
+        return "0 1 -1 0 " + number(text.X() - baseLine) + number(text.Y());
+    return "1 0 0 1 " + number(text.X()) + number(text.Y() + baseLine);
 }
 
 std::string textOperators(const ReportTextItem& text, UsedFonts& fonts)
@@ -100,7 +104,7 @@ std::string textOperators(const ReportTextItem& text, UsedFonts& fonts)
     const TextLayout layout = text.layout();
     if (layout.runs.empty())
         return {};
-    std::string operators = "BT\n" + placement(text, layout.descender) + "Tm\n";
+    std::string operators = "BT\n" + placement(text, layout.baseLine(text.Size())) + "Tm\n";
     for (const TextRun& run : layout.runs)
         operators += runOperators(run, text, fonts);
     return operators + "ET\n";
@@ -110,7 +114,7 @@ std::string textOperators(const ReportTextItem& text, UsedFonts& fonts)
 
 std::string pageContent(const ReportPage& page, UsedFonts& fonts)
 {
-    std::string content = "0.5 w\n";
+    std::string content = number(ReportLine::kThickness) + "w\n";
     for (const ReportRectangle& rectangle : page.Rectangles())
         content += rectangleOperators(rectangle);
     content += "0 0 0 RG\n";

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "report/FontCodes.h"
 #include "report/ReportDocument.h"
+#include "report/ReportFace.h"
 
 #include <cstdint>
 #include <string>
@@ -10,11 +10,6 @@
 /// bottom left corner.
 namespace k7deval::layout
 {
-
-inline constexpr float kBodySize = 10;
-inline constexpr float kHeadingSize = 12;
-inline constexpr float kFacilitySize = 14;
-inline constexpr float kFooterSize = 8;
 
 inline constexpr float kLeft = 36;
 inline constexpr float kRight = 756;

@@ -3,7 +3,7 @@
 #include "foundation/Error.h"
 #include "report/CharacterCodes.h"
 #include "report/PageContent.h"
-#include "report/StandardFace.h"
+#include "report/ReportFace.h"
 #include "report/UsedFonts.h"
 
 #include <hpdf.h>
@@ -159,7 +159,8 @@ void Pdf::addFonts(const UsedFonts& fonts)
         HPDF_Font object =
             font.embedded
                 ? compositeFont(*font.embedded, markOfPart + font.embedded->face().name())
-                : HPDF_GetFont(document_.get(), standardFaceName(font.fontCode), "WinAnsiEncoding");
+                : HPDF_GetFont(document_.get(), ReportFace::ofCode(font.fontCode).standardName,
+                               "WinAnsiEncoding");
         setObject(fonts_, font.resourceName.c_str(), object);
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "report/FontCodes.h"
 #include "report/FontSet.h"
+#include "report/ReportFace.h"
 
 #include <cstdint>
 #include <deque>
@@ -12,11 +12,17 @@
 namespace k7deval
 {
 
+/// The points themselves. Error 5 if they are infinite or no number at all, which a PDF file has no
+/// way to write.
+[[nodiscard]] float finitePoints(float points);
+
 /// A text on a report page, drawn as one line. Coordinates are points from the bottom left corner
 /// of the page, x to the right and y upward.
 class ReportTextItem
 {
 public:
+    static constexpr std::int32_t kReadsUpward = 2; ///< Of `Orientation`.
+
     ReportTextItem(std::string text, std::shared_ptr<const FontSet> fonts);
 
     [[nodiscard]] const std::string& Text() const { return text_; }
@@ -24,8 +30,7 @@ public:
     void SetText(std::string text) { text_ = std::move(text); }
 
     [[nodiscard]] std::int32_t Font() const { return font_; }
-    /// 5 for body text, 6 for titles and what must stand out, 7 for footers. Any other code:
-    /// error 5.
+    /// `kBodyFont`, `kHeadingFont` or `kFooterFont`. Any other code: error 5.
     void SetFont(std::int32_t code);
 
     [[nodiscard]] float Size() const { return size_; }
@@ -34,21 +39,21 @@ public:
 
     /// Left edge; of a text that reads upward, its lower edge, which is the right one on the page.
     [[nodiscard]] float X() const { return x_; }
-    void SetX(float x);
+    void SetX(float x) { x_ = finitePoints(x); }
     /// Lower edge; of a text that reads upward, where it starts.
     [[nodiscard]] float Y() const { return y_; }
-    void SetY(float y);
+    void SetY(float y) { y_ = finitePoints(y); }
 
     [[nodiscard]] std::int32_t Orientation() const { return orientation_; }
-    /// 2 turns the text to read upward; with any other number it reads horizontally.
+    /// `kReadsUpward` turns the text; with any other number it reads horizontally.
     void SetOrientation(std::int32_t orientation) { orientation_ = orientation; }
 
     /// Length of the text in points at its present text, font and size, whether placed or not.
     [[nodiscard]] float Width() const;
-    /// From the descender to the ascender of the face that draws the text, in points.
+    /// Height of a line in the face that draws the text, in points.
     [[nodiscard]] float Height() const;
 
-    [[nodiscard]] bool readsUpward() const { return orientation_ == 2; }
+    [[nodiscard]] bool readsUpward() const { return orientation_ == kReadsUpward; }
     /// With which faces the text is drawn.
     [[nodiscard]] TextLayout layout() const { return fonts_->layout(text_, font_); }
 
@@ -56,29 +61,35 @@ private:
     std::shared_ptr<const FontSet> fonts_;
     std::string text_;
     std::int32_t font_ = kBodyFont;
-    float size_ = 10;
+    float size_ = kBodySize;
     float x_ = 0;
     float y_ = 0;
     std::int32_t orientation_ = 0;
 };
 
-/// A straight black line on a report page, 0.5 points wide.
+/// A straight black line on a report page.
 class ReportLine
 {
 public:
+    static constexpr double kThickness = 0.5;  ///< Points.
+    static constexpr std::int32_t kDashed = 3; ///< Of `Style`.
+    /// What a dashed line repeats, in points.
+    static constexpr int kDashDrawn = 1;
+    static constexpr int kDashLeftOut = 2;
+
     [[nodiscard]] float X1() const { return x1_; }
-    void SetX1(float x);
+    void SetX1(float x) { x1_ = finitePoints(x); }
     [[nodiscard]] float Y1() const { return y1_; }
-    void SetY1(float y);
+    void SetY1(float y) { y1_ = finitePoints(y); }
     [[nodiscard]] float X2() const { return x2_; }
-    void SetX2(float x);
+    void SetX2(float x) { x2_ = finitePoints(x); }
     [[nodiscard]] float Y2() const { return y2_; }
-    void SetY2(float y);
+    void SetY2(float y) { y2_ = finitePoints(y); }
 
     [[nodiscard]] std::int32_t Style() const { return style_; }
-    /// 3 for a dashed line, 1 point drawn and 2 left out; with any other number the line is solid.
+    /// `kDashed` for a dashed line; with any other number the line is solid.
     void SetStyle(std::int32_t style) { style_ = style; }
-    [[nodiscard]] bool isDashed() const { return style_ == 3; }
+    [[nodiscard]] bool isDashed() const { return style_ == kDashed; }
 
 private:
     float x1_ = 0;
@@ -94,13 +105,13 @@ class ReportRectangle
 {
 public:
     [[nodiscard]] float X() const { return x_; }
-    void SetX(float x);
+    void SetX(float x) { x_ = finitePoints(x); }
     [[nodiscard]] float Y() const { return y_; }
-    void SetY(float y);
+    void SetY(float y) { y_ = finitePoints(y); }
     [[nodiscard]] float Width() const { return width_; }
-    void SetWidth(float width);
+    void SetWidth(float width) { width_ = finitePoints(width); }
     [[nodiscard]] float Height() const { return height_; }
-    void SetHeight(float height);
+    void SetHeight(float height) { height_ = finitePoints(height); }
 
     /// Colours are 0xBBGGRR; higher bits count for nothing.
     [[nodiscard]] std::int32_t FillColor() const { return fillColor_; }
@@ -146,7 +157,7 @@ class ReportTextItems : public ReportCollection<ReportTextItem>
 public:
     explicit ReportTextItems(std::shared_ptr<const FontSet> fonts) : fonts_(std::move(fonts)) {}
 
-    /// A new text in font 5 at 10 points.
+    /// A new text in the face and size of body text.
     ReportTextItem& Add(std::string text = {}) { return addItem(std::move(text), fonts_); }
 
 private:

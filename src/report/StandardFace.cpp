@@ -1,8 +1,7 @@
 #include "report/StandardFace.h"
 
-#include "foundation/Error.h"
 #include "report/CharacterCodes.h"
-#include "report/FontCodes.h"
+#include "report/ReportFace.h"
 
 #include <hpdf.h>
 
@@ -45,24 +44,11 @@ std::array<int, 256> advances(HPDF_Font font)
 
 } // namespace
 
-const char* standardFaceName(int fontCode)
-{
-    switch (fontCode) {
-    case kBodyFont:
-        return "Helvetica";
-    case kHeadingFont:
-        return "Helvetica-Bold";
-    case kFooterFont:
-        return "Helvetica-Oblique";
-    default:
-        throw Error(errors::kInvalidCall);
-    }
-}
-
-StandardFace StandardFace::ofCode(int fontCode)
+StandardFace StandardFace::ofCode(std::int32_t fontCode)
 {
     const Document document(HPDF_New(nullptr, nullptr));
-    HPDF_Font font = HPDF_GetFont(document.get(), standardFaceName(fontCode), "WinAnsiEncoding");
+    HPDF_Font font =
+        HPDF_GetFont(document.get(), ReportFace::ofCode(fontCode).standardName, "WinAnsiEncoding");
     if (font == nullptr)
         throw std::bad_alloc();
     return {kAscender, kDescender, advances(font)};

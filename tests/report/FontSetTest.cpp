@@ -2,6 +2,7 @@
 
 #include "foundation/Error.h"
 #include "foundation/ExpectError.h"
+#include "report/ReportFace.h"
 #include "report/TestFonts.h"
 
 #include <gmock/gmock.h>
@@ -100,7 +101,7 @@ TEST(FontSet, SharesATextAmongFacesWhenNoneHasAllOfIt)
     EXPECT_EQ(runsOf(layout), (Runs{{"standard", U"Unit "},
                                     {"City", U"\u5E02"},
                                     {"DejaVuSans", U" \u0141\u00F3d\u017A"}}));
-    EXPECT_EQ(layout.ascender, 928) << "the larger of 718 and 928";
+    EXPECT_EQ(layout.ascender, 928) << "the larger of 905 and 928";
     EXPECT_EQ(layout.descender, -236);
     EXPECT_EQ(layout.width, fonts.layout("Unit ", 5).width + fonts.layout("\u5E02", 5).width +
                                 fonts.layout(" \u0141\u00F3d\u017A", 5).width);
@@ -111,7 +112,7 @@ TEST(FontSet, RefusesAFontCodeThatIsNone)
     const FontSet fonts(testing::sansOnly());
     for (const int code : {0, 4, 8, -5}) {
         EXPECT_EQ(errorOf([&] { return fonts.layout("text", code); }), errors::kInvalidCall);
-        EXPECT_EQ(errorOf([&] { return standardFaceName(code); }), errors::kInvalidCall);
+        EXPECT_EQ(errorOf([&] { return ReportFace::ofCode(code).code; }), errors::kInvalidCall);
     }
 }
 

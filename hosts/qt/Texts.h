@@ -12,7 +12,7 @@ inline QString toQString(const std::string& text)
     return QString::fromStdString(text);
 }
 
-/// A text of several lines, whose lines the tools part by a carriage return and a line feed.
+/// A text of several lines, which the tools separate by a carriage return and a line feed.
 QString toLines(const std::string& text);
 
 /// A caption for a widget that reads "&" as the mark of a mnemonic: the first such letter is

@@ -13,7 +13,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 using nlohmann::json;
 
 std::vector<std::string> daysThat(const json& test, const std::string& property)

@@ -10,7 +10,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 using nlohmann::json;
 
 struct OptionCase {

@@ -15,9 +15,9 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::contentOf;
-using k7deval::testing::TemporaryFolder;
-using k7deval::testing::writeFile;
+using k7deval::test::contentOf;
+using k7deval::test::TemporaryFolder;
+using k7deval::test::writeFile;
 
 Arguments load()
 {
@@ -32,7 +32,7 @@ Arguments range()
 /// The lines of a PDF page that lies as it is read, each with single blanks.
 std::vector<std::string> linesOf(const std::string& pdf)
 {
-    std::istringstream text(k7deval::testing::runTool({"pdftotext", "-layout", pdf, "-"}));
+    std::istringstream text(k7deval::test::runTool({"pdftotext", "-layout", pdf, "-"}));
     std::vector<std::string> lines;
     for (std::string line; std::getline(text, line);) {
         std::istringstream words(line);
@@ -58,7 +58,7 @@ TEST_F(HistogramSave, WritesTheReportOfALoadEvaluation)
     EXPECT_EQ(saved.notes, "");
     EXPECT_EQ(saved.status, 0);
     EXPECT_EQ(saved.out, run(load()).out);
-    k7deval::testing::requireValidPdf(pdf_);
+    k7deval::test::requireValidPdf(pdf_);
     const auto lines = linesOf(pdf_);
     EXPECT_THAT(lines, ::testing::IsSupersetOf(
                            {"Unit One", "Load Evaluation Summary",
@@ -74,7 +74,7 @@ TEST_F(HistogramSave, WritesTheReportOfARangeEvaluation)
     const CommandRun saved = run(range() + Arguments{"--pdf", pdf_});
     EXPECT_EQ(saved.notes, "");
     EXPECT_EQ(saved.status, 0);
-    k7deval::testing::requireValidPdf(pdf_);
+    k7deval::test::requireValidPdf(pdf_);
     const auto lines = linesOf(pdf_);
     EXPECT_THAT(
         lines,

@@ -11,7 +11,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 struct RefusalCase {
     std::string what;

@@ -2,6 +2,7 @@
 #include "cli/SampleSites.h"
 #include "sitedb/SiteDatabase.h"
 #include "sitedb/sql/Connection.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 std::string textIn(const std::string& site, const std::string& query)
 {
@@ -62,7 +63,7 @@ TEST(ImportCommand, TakesAnEmissionsFileAndTellsNothingOfItsProgressSinceItIsSma
     const TemporaryFolder folder;
     const CommandRun import =
         run({"import", "--site", folder.file("a.site"),
-             std::string(K7DEVAL_SOURCE_DIR) + "/tests/sitedb/data/ecmps_emissions_small.json"});
+             k7deval::test::projectFile("tests/sitedb/data/ecmps_emissions_small.json")});
     EXPECT_TRUE(
         import.out.starts_with("ecmps_emissions_small.json (ECMPS emissions data): 4 hours, "
                                "6 monitor values, 3 calibration injections\n"))
@@ -144,11 +145,11 @@ TEST(ImportCommand, LeavesASiteAloneThatItCouldAddNothingTo)
 {
     const TemporaryFolder folder;
     const std::string site = alteredSite(siteOfSpans(), folder, {});
-    const std::string before = k7deval::testing::contentOf(site);
+    const std::string before = k7deval::test::contentOf(site);
     const CommandRun import =
         run({"import", "--site", site, "--facility", "Other", sampleFile("ecmps_qa_50292.json")});
     EXPECT_EQ(import.status, 2);
-    EXPECT_EQ(k7deval::testing::contentOf(site), before);
+    EXPECT_EQ(k7deval::test::contentOf(site), before);
 }
 
 } // namespace

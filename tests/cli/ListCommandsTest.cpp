@@ -9,7 +9,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 void expectPrinted(const Arguments& arguments, const std::string& out,
                    const std::string& notes = "")

@@ -1,4 +1,5 @@
 #include "cli/SampleSites.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -14,8 +15,8 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::contentOf;
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::contentOf;
+using k7deval::test::TemporaryFolder;
 
 class Program : public ::testing::Test
 {
@@ -24,7 +25,7 @@ protected:
     int status(const std::string& arguments) const
     {
         const std::string command =
-            std::string(K7DEVAL_PROGRAM) + " " + arguments + " >" + out_ + " 2>" + notes_;
+            k7deval::test::commandLineProgram() + " " + arguments + " >" + out_ + " 2>" + notes_;
         const int ended = std::system(command.c_str());
         return WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
     }
@@ -68,8 +69,8 @@ TEST_F(Program, ShowsTodaysIntervalByItself)
 
 TEST_F(Program, SaysThatItsResultCouldNotBePrinted)
 {
-    const std::string command =
-        std::string(K7DEVAL_PROGRAM) + " units --site " + siteOfTests() + " >/dev/full 2>" + notes_;
+    const std::string command = k7deval::test::commandLineProgram() + " units --site " +
+                                siteOfTests() + " >/dev/full 2>" + notes_;
     const int ended = std::system(command.c_str());
     EXPECT_EQ(WEXITSTATUS(ended), 2);
     EXPECT_EQ(notes(), "The result could not be printed completely.\n");

@@ -15,7 +15,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 using nlohmann::json;
 
 Arguments gas()

@@ -20,7 +20,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 using nlohmann::json;
 
 /// Which figure of which pair of injections: "GT2 7DAY-Q42015-213-1 2015-11-09 8:55

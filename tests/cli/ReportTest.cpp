@@ -64,7 +64,7 @@ Words reported(const Words& shown)
 
 TEST(Report, ListsWhatTheScreenLists)
 {
-    const k7deval::testing::TemporaryFolder folder;
+    const k7deval::test::TemporaryFolder folder;
     const std::string pdf = folder.file("report.pdf");
     const CommandRun drift =
         run({"drift", "--site", fullSite(), "--unit", "GT4", "--analyzer", "NOX 206/H", "--from",
@@ -87,7 +87,7 @@ TEST(Report, ListsWhatTheScreenLists)
     expected.push_back(screen[1]);
     expected.push_back(screen[2]);
     expected.push_back(wordsOf("7-Day Drift Summary 5/20/2021 12:00 PM"));
-    EXPECT_EQ(linesOf(k7deval::testing::runTool({"pdftotext", "-layout", pdf, "-"})), expected);
+    EXPECT_EQ(linesOf(k7deval::test::runTool({"pdftotext", "-layout", pdf, "-"})), expected);
 }
 
 } // namespace

@@ -9,9 +9,9 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::contentOf;
-using k7deval::testing::TemporaryFolder;
-using k7deval::testing::writeFile;
+using k7deval::test::contentOf;
+using k7deval::test::TemporaryFolder;
+using k7deval::test::writeFile;
 
 constexpr const char* kHeader =
     "unit_id,component_type,component_id,span_scale,test_number,begin,end,reported_result\n";

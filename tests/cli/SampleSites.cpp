@@ -3,6 +3,7 @@
 #include "cli/CommandRun.h"
 #include "sitedb/SiteDatabase.h"
 #include "sitedb/sql/Connection.h"
+#include "support/Places.h"
 
 #include <stdexcept>
 
@@ -12,7 +13,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 std::string sharedFile(const std::string& name)
 {
@@ -59,38 +60,38 @@ std::string tableOfLoads(const std::vector<int>& loads)
     std::string rows = "date,hour,gross_load_mw\n";
     for (std::size_t hour = 0; hour < loads.size(); ++hour)
         rows += "2021-03-31," + std::to_string(hour) + "," + std::to_string(loads[hour]) + "\n";
-    k7deval::testing::writeFile(file, rows);
+    k7deval::test::writeFile(file, rows);
     return file;
 }
 
 std::string tableOfSpans()
 {
     std::string file = sharedFile("gas-spans.csv");
-    k7deval::testing::writeFile(file,
-                                "unit_id,component_id,component_type,span_scale,span_value,units\n"
-                                "U1,01,SO2,L,50,PPM\n"
-                                "U1,01,SO2,H,100,PPM\n"
-                                "U1,02,O2,H,25,PCT\n"
-                                "U2,03,NOX,H,33.3,PPM\n");
+    k7deval::test::writeFile(file,
+                             "unit_id,component_id,component_type,span_scale,span_value,units\n"
+                             "U1,01,SO2,L,50,PPM\n"
+                             "U1,01,SO2,H,100,PPM\n"
+                             "U1,02,O2,H,25,PCT\n"
+                             "U2,03,NOX,H,33.3,PPM\n");
     return file;
 }
 
 std::string tableOfGas()
 {
     std::string file = sharedFile("gas.csv");
-    k7deval::testing::writeFile(file, "date,hour,parameter,unadjusted_hourly_value,modc\n"
-                                      "2021-03-31,0,SO2C,5,01\n"
-                                      "2021-03-31,1,SO2C,5.5,01\n"
-                                      "2021-03-31,2,SO2C,10,01\n"
-                                      "2021-03-31,3,SO2C,20,01\n"
-                                      "2021-03-31,4,SO2C,20.1,01\n"
-                                      "2021-03-31,5,SO2C,60,19\n"
-                                      "2021-03-31,6,SO2C,80,01\n"
-                                      "2021-03-31,7,SO2C,80.1,01\n"
-                                      "2021-03-31,8,SO2C,100,01\n"
-                                      "2021-03-31,9,SO2C,100.1,01\n"
-                                      "2021-03-31,10,SO2C,30,06\n"
-                                      "2021-03-31,11,SO2C,40,16\n");
+    k7deval::test::writeFile(file, "date,hour,parameter,unadjusted_hourly_value,modc\n"
+                                   "2021-03-31,0,SO2C,5,01\n"
+                                   "2021-03-31,1,SO2C,5.5,01\n"
+                                   "2021-03-31,2,SO2C,10,01\n"
+                                   "2021-03-31,3,SO2C,20,01\n"
+                                   "2021-03-31,4,SO2C,20.1,01\n"
+                                   "2021-03-31,5,SO2C,60,19\n"
+                                   "2021-03-31,6,SO2C,80,01\n"
+                                   "2021-03-31,7,SO2C,80.1,01\n"
+                                   "2021-03-31,8,SO2C,100,01\n"
+                                   "2021-03-31,9,SO2C,100.1,01\n"
+                                   "2021-03-31,10,SO2C,30,06\n"
+                                   "2021-03-31,11,SO2C,40,16\n");
     return file;
 }
 
@@ -98,7 +99,7 @@ std::string tableOfGas()
 
 std::string dataFile(const std::string& name)
 {
-    return std::string(K7DEVAL_SOURCE_DIR) + "/data/" + name;
+    return k7deval::test::projectFile("data/" + name);
 }
 
 std::string sampleFile(const std::string& name)

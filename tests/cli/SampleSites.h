@@ -37,10 +37,10 @@ const std::string& siteOfGas();
 const std::string& siteOfRanges();
 
 /// A copy of a site in a folder, after some SQL commands: for what no importer makes.
-std::string alteredSite(const std::string& site, const k7deval::testing::TemporaryFolder& folder,
+std::string alteredSite(const std::string& site, const k7deval::test::TemporaryFolder& folder,
                         const std::vector<std::string>& commands);
 
 /// A copy of siteOfTests in which the analyzer "CO2 031/H" of GT1 is not under 40 CFR 75.
-std::string siteWithPart60(const k7deval::testing::TemporaryFolder& folder);
+std::string siteWithPart60(const k7deval::test::TemporaryFolder& folder);
 
 } // namespace k7deval::cli::test

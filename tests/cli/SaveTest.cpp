@@ -13,9 +13,9 @@ namespace
 {
 
 namespace fs = std::filesystem;
-using k7deval::testing::contentOf;
-using k7deval::testing::TemporaryFolder;
-using k7deval::testing::writeFile;
+using k7deval::test::contentOf;
+using k7deval::test::TemporaryFolder;
+using k7deval::test::writeFile;
 
 Arguments passed()
 {
@@ -47,7 +47,7 @@ TEST_F(Save, WritesReportAndExport)
     EXPECT_EQ(saved.notes, "");
     EXPECT_EQ(saved.status, 0);
     EXPECT_EQ(folder_.names(), (std::vector<std::string>{"test.pdf", "test.xml"}));
-    k7deval::testing::requireValidPdf(pdf_);
+    k7deval::test::requireValidPdf(pdf_);
     EXPECT_EQ(contentOf(xml_).substr(0, 57),
               "<QualityAssuranceAndCert><ORISCode>50292</ORISCode><Versi");
     EXPECT_EQ(saved.out, run(passed()).out);
@@ -80,7 +80,7 @@ TEST_F(Save, TakesNamesOfAnyLetters)
 {
     const std::string name = folder_.file("Prüfung 電站.pdf");
     EXPECT_EQ(run(passed() + Arguments{"--pdf", name}).status, 0);
-    k7deval::testing::requireValidPdf(name);
+    k7deval::test::requireValidPdf(name);
 }
 
 struct FaultCase {

@@ -19,7 +19,7 @@ namespace
 
 using nlohmann::json;
 using Names = std::set<std::string>;
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 const Names kWizard{"ctrl7DaySetUp1", "ctrl7DayResult1", "cmdBack",      "cmdNext",
                     "cmdSave",        "chkPreview",      "CommonDialog1"};

@@ -1,5 +1,6 @@
 #include "cli/CommandRun.h"
 #include "cli/SampleSites.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -9,13 +10,12 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 /// An approved text: what the program prints with the same arguments.
 std::string approved(const std::string& name)
 {
-    return k7deval::testing::contentOf(std::string(K7DEVAL_SOURCE_DIR) +
-                                       "/tests/golden/drift-text/" + name);
+    return k7deval::test::contentOf(k7deval::test::projectFile("tests/golden/drift-text/" + name));
 }
 
 // A failed run with a drift above the alternative limit, and the six marked ones behind it.

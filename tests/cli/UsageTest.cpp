@@ -15,7 +15,7 @@ namespace k7deval::cli::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 
 struct UsageCase {
     std::string what;
@@ -28,8 +28,8 @@ class Usage : public ::testing::Test
 protected:
     Usage()
     {
-        k7deval::testing::writeFile(folder_.path() / "nothing.site", "");
-        k7deval::testing::writeFile(folder_.path() / "letter.txt", "Dear operator\n");
+        k7deval::test::writeFile(folder_.path() / "nothing.site", "");
+        k7deval::test::writeFile(folder_.path() / "letter.txt", "Dear operator\n");
     }
 
     void expectRefusals(const std::vector<UsageCase>& cases) const

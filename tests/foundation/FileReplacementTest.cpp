@@ -20,11 +20,11 @@ namespace
 {
 
 namespace fs = std::filesystem;
-using testing::contentOf;
+using test::contentOf;
+using test::TemporaryFolder;
+using test::writeFile;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using testing::TemporaryFolder;
-using testing::writeFile;
 
 int failureOf(const std::string& path, std::string_view content = "new")
 {

@@ -15,9 +15,9 @@ namespace k7deval::test
 namespace
 {
 
-using testing::PdfImage;
-using testing::PdfPage;
-using testing::PdfWord;
+using test::PdfImage;
+using test::PdfPage;
+using test::PdfWord;
 
 /// A saved report with bars in bins 6, 7 and 20: full, half and an eighth high.
 struct PdfRig : ReportRig {
@@ -27,7 +27,7 @@ struct PdfRig : ReportRig {
         inBin(6, 800).inBin(7, 400).inBin(20, 100).calculate();
         tool.cmdSave.Press();
     }
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     const std::string path = folder.file("Load.pdf");
 };
 
@@ -47,13 +47,13 @@ constexpr int kDark = 100;
 TEST(LoadReportPdf, IsAValidFile)
 {
     const PdfRig rig;
-    EXPECT_NO_THROW(testing::requireValidPdf(rig.path));
+    EXPECT_NO_THROW(test::requireValidPdf(rig.path));
 }
 
 TEST(LoadReportPdf, BearsItsInformation)
 {
     const PdfRig rig;
-    auto information = testing::pdfInformation(rig.path);
+    auto information = test::pdfInformation(rig.path);
     EXPECT_EQ(information["Title"], "Load Evalution");
     EXPECT_EQ(information["Subject"], "Load Evaluation");
     EXPECT_EQ(information["Author"], "Kelvo Load Evaluation");
@@ -64,7 +64,7 @@ TEST(LoadReportPdf, BearsItsInformation)
 TEST(LoadReportPdf, HasItsWordsInTheirPlaces)
 {
     const PdfRig rig;
-    const auto pages = testing::pdfPages(rig.path);
+    const auto pages = test::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 1U);
     const PdfPage& page = pages[0];
     EXPECT_EQ(page.width, 792);
@@ -82,7 +82,7 @@ TEST(LoadReportPdf, HasItsWordsInTheirPlaces)
 TEST(LoadReportPdf, ReadsAsItsRows)
 {
     const PdfRig rig;
-    const std::string text = testing::pdfPlainText(rig.path);
+    const std::string text = test::pdfPlainText(rig.path);
     for (const char* row :
          {"Bethpage", "Load summary ending the last day of 2024 Q1", "GT1 GT1 Load",
           "61.5% Low Op Load", "30.8% Mid Op Load", "7.7% High Op Load", "800 Hours", "400 Hours",
@@ -94,7 +94,7 @@ TEST(LoadReportPdf, ReadsAsItsRows)
 TEST(LoadReportPdf, TheCountsReadUpwardOverTheMiddleOfTheirBars)
 {
     const PdfRig rig;
-    const auto pages = testing::pdfPages(rig.path);
+    const auto pages = test::pdfPages(rig.path);
     struct Count {
         int bar;
         double bottom;
@@ -161,22 +161,22 @@ TEST(LoadReportPdf, TheMarksAreDashedAndTheBaseIsNot)
 TEST(LoadReportPdf, OfTheSameScreenIsTheSameFile)
 {
     PdfRig rig;
-    const std::string first = testing::contentOf(rig.path);
+    const std::string first = test::contentOf(rig.path);
     rig.services.answers = {screen::MsgBoxAnswer::Yes};
     rig.tool.cmdSave.Press();
-    EXPECT_EQ(testing::contentOf(rig.path), first);
+    EXPECT_EQ(test::contentOf(rig.path), first);
 }
 
 TEST(LoadReportPdf, KeepsNamesOfAnyScript)
 {
     ReportRig rig;
     rig.site->facilityName = "Kraftwerk Łódź";
-    const testing::TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     const std::string path = folder.file("Load.pdf");
     rig.calculate();
     rig.services.saveAnswer = screen::SaveAnswer{path, 1};
     rig.tool.cmdSave.Press();
-    EXPECT_NE(testing::pdfPlainText(path).find("Kraftwerk Łódź"), std::string::npos);
+    EXPECT_NE(test::pdfPlainText(path).find("Kraftwerk Łódź"), std::string::npos);
 }
 
 } // namespace k7deval::test

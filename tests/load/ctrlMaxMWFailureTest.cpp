@@ -131,7 +131,7 @@ TEST(LoadFailure, OfShowingPIDsIsTheHostsAndLeavesTheResults)
 
 TEST(LoadFailure, OfAReportNeverReachesTheHost)
 {
-    const testing::TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     const std::string path = folder.file("Load.pdf");
     const Action save = [&](LoadRig& rig) {
         rig.services.saveAnswer = screen::SaveAnswer{path, 1};

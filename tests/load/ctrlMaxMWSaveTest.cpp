@@ -14,8 +14,8 @@ namespace
 {
 
 using screen::MsgBoxAnswer;
-using testing::contentOf;
-using testing::writeFile;
+using test::contentOf;
+using test::writeFile;
 using Boxes = std::vector<screen::MsgBoxRequest>;
 
 const screen::MsgBoxRequest kDeleteQuestion{"Delete Existing File?", "Delete Existing File?",
@@ -49,7 +49,7 @@ struct SaveRig : LoadRig {
     }
     [[nodiscard]] bool hasReport() const { return contentOf(path).starts_with("%PDF-"); }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     std::string path = folder.file("Load.pdf");
 };
 
@@ -230,7 +230,7 @@ TEST(LoadSave, FromAClearedScreenWritesTheHoursOfTheLastEvaluation)
     enter(rig.tool.txtCapacity, "200");
     ASSERT_TRUE(isCleared(rig.tool));
     rig.save();
-    const std::string text = testing::pdfPlainText(rig.path);
+    const std::string text = test::pdfPlainText(rig.path);
     EXPECT_NE(text.find("0 hour(s) under minimum"), std::string::npos) << text;
     EXPECT_NE(text.find("0 hour(s) over maximum"), std::string::npos) << text;
     EXPECT_NE(text.find("1 Hours"), std::string::npos) << text;

@@ -21,7 +21,7 @@ using k7deval::test::addCal;
 using k7deval::test::march;
 using k7deval::test::operatedSite;
 using k7deval::test::siteWithDailyCals;
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

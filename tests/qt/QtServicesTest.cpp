@@ -21,8 +21,8 @@ namespace k7deval::qt::test
 namespace
 {
 
-using k7deval::testing::TemporaryFolder;
-using k7deval::testing::writeFile;
+using k7deval::test::TemporaryFolder;
+using k7deval::test::writeFile;
 using screen::MsgBoxAnswer;
 using screen::MsgBoxButtons;
 using screen::MsgBoxIcon;

@@ -21,8 +21,8 @@ namespace
 {
 
 using k7deval::test::LoadRig;
-using testing::PdfImage;
-using testing::TemporaryFolder;
+using test::PdfImage;
+using test::TemporaryFolder;
 
 constexpr int kScale = 4;
 

@@ -12,9 +12,9 @@ namespace k7deval::test
 namespace
 {
 
-using testing::PdfImage;
-using testing::PdfPage;
-using testing::PdfWord;
+using test::PdfImage;
+using test::PdfPage;
+using test::PdfWord;
 
 constexpr int kBarGrey = 0xB4;
 constexpr int kWhite = 0xFF;
@@ -33,7 +33,7 @@ struct PdfRig : RangeRig {
         calculate().tool.cmdSave.Press();
     }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     const std::string path = folder.file("range.pdf");
 };
 
@@ -47,8 +47,8 @@ double middleOf(const PdfWord& word)
 TEST(RangeReportPdf, IsAValidFileWithItsInformation)
 {
     const PdfRig rig;
-    EXPECT_NO_THROW(testing::requireValidPdf(rig.path));
-    auto information = testing::pdfInformation(rig.path);
+    EXPECT_NO_THROW(test::requireValidPdf(rig.path));
+    auto information = test::pdfInformation(rig.path);
     EXPECT_EQ(information["Title"], "Range Evaluation");
     EXPECT_EQ(information["Subject"], "Range Evaluation");
     EXPECT_EQ(information["Author"], "Kelvo Range Evaluation");
@@ -59,7 +59,7 @@ TEST(RangeReportPdf, IsAValidFileWithItsInformation)
 TEST(RangeReportPdf, HasItsWordsInTheirPlaces)
 {
     const PdfRig rig;
-    const auto pages = testing::pdfPages(rig.path);
+    const auto pages = test::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 1U);
     const PdfPage& page = pages[0];
     EXPECT_EQ(page.width, 792);
@@ -77,7 +77,7 @@ TEST(RangeReportPdf, HasItsWordsInTheirPlaces)
 TEST(RangeReportPdf, ReadsAsTheScreen)
 {
     const PdfRig rig;
-    const std::string text = testing::pdfPlainText(rig.path);
+    const std::string text = test::pdfPlainText(rig.path);
     for (const char* words :
          {"Range Evaluation Summary", "Range summary ending the last day of 2024 Q1", "GT1 NOX",
           "1 Hours", "250 Hours", "500 Hours",
@@ -133,7 +133,7 @@ TEST(RangeReportPdf, KeepsAFacilityNameOfAnyScript)
     rig.site->facilityName = "Kraftwerk Łódź";
     rig.services.answers = {screen::MsgBoxAnswer::Yes};
     rig.tool.cmdSave.Press();
-    EXPECT_NE(testing::pdfPlainText(rig.path).find("Kraftwerk Łódź"), std::string::npos);
+    EXPECT_NE(test::pdfPlainText(rig.path).find("Kraftwerk Łódź"), std::string::npos);
 }
 
 } // namespace k7deval::test

@@ -13,8 +13,8 @@ namespace
 {
 
 using screen::MsgBoxAnswer;
-using testing::contentOf;
-using testing::writeFile;
+using test::contentOf;
+using test::writeFile;
 
 const screen::MsgBoxRequest kDeleteQuestion{"Delete Existing File?", "Delete Existing File?",
                                             screen::MsgBoxButtons::YesNo, screen::MsgBoxIcon::None};
@@ -53,7 +53,7 @@ struct SaveRig : RangeRig {
         return *this;
     }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     const std::string path = folder.file("range.pdf");
 };
 

@@ -17,7 +17,7 @@ using ::testing::Not;
 class EmbeddedFontTest : public ::testing::Test
 {
 protected:
-    std::unique_ptr<const TrueTypeFace> face = TrueTypeFace::load(testing::kSans);
+    std::unique_ptr<const TrueTypeFace> face = TrueTypeFace::load(test::kSans);
     EmbeddedFont font{*face};
 };
 

@@ -15,8 +15,8 @@ namespace k7deval
 namespace
 {
 
-using testing::kSans;
-using testing::kSansBold;
+using test::kSans;
+using test::kSansBold;
 
 /// The runs as "standard face|characters" or "DejaVuSans|characters".
 std::vector<std::pair<std::string, std::u32string>> runsOf(const TextLayout& layout)
@@ -31,7 +31,7 @@ using Runs = std::vector<std::pair<std::string, std::u32string>>;
 
 TEST(FontSet, DrawsTextOfWindows1252WithTheStandardFace)
 {
-    const FontSet fonts(testing::sansOnly());
+    const FontSet fonts(test::sansOnly());
     EXPECT_EQ(runsOf(fonts.layout("Caf\u00E9 5 \u20AC \u2013 \u2122", 5)),
               (Runs{{"standard", U"Caf\u00E9 5 \u20AC \u2013 \u2122"}}));
     EXPECT_EQ(runsOf(fonts.layout("", 5)), Runs{});
@@ -39,7 +39,7 @@ TEST(FontSet, DrawsTextOfWindows1252WithTheStandardFace)
 
 TEST(FontSet, DrawsAnyOtherTextAsAWholeWithAFaceThatHasAllOfIt)
 {
-    const FontSet fonts(testing::sansOnly());
+    const FontSet fonts(test::sansOnly());
     EXPECT_EQ(runsOf(fonts.layout("Unit \u0141\u00F3d\u017A 1", 5)),
               (Runs{{"DejaVuSans", U"Unit \u0141\u00F3d\u017A 1"}}));
     EXPECT_EQ(runsOf(fonts.layout("\u03A9 \U0001F600", 5)),
@@ -56,7 +56,7 @@ TEST(FontSet, TakesTheFaceOfTheFontCode)
 
 TEST(FontSet, SpellsACharacterThatNoFaceHas)
 {
-    const FontSet fonts(testing::sansOnly());
+    const FontSet fonts(test::sansOnly());
     const TextLayout layout = fonts.layout("Unit \u5E02 1", 5);
     EXPECT_EQ(runsOf(layout), (Runs{{"standard", U"Unit [U+5E02] 1"}}));
     EXPECT_EQ(layout.width, fonts.layout("Unit [U+5E02] 1", 5).width);
@@ -66,7 +66,7 @@ TEST(FontSet, SpellsACharacterThatNoFaceHas)
 
 TEST(FontSet, SpellsControlCharactersAndTheSignForUnreadableOnes)
 {
-    const FontSet fonts(testing::sansOnly());
+    const FontSet fonts(test::sansOnly());
     EXPECT_EQ(runsOf(fonts.layout("a\x07z", 5)), (Runs{{"standard", U"a[U+0007]z"}}));
     EXPECT_EQ(runsOf(fonts.layout(std::string("a\0z", 3), 5)), (Runs{{"standard", U"a[U+0000]z"}}));
     EXPECT_EQ(runsOf(fonts.layout("\u0085", 5)), (Runs{{"standard", U"[U+0085]"}}));
@@ -76,8 +76,8 @@ TEST(FontSet, SpellsControlCharactersAndTheSignForUnreadableOnes)
 
 TEST(FontSet, PassesOverFilesThatAreMissingOrNoFonts)
 {
-    const testing::TemporaryFolder folder;
-    testing::writeFile(folder.file("text.ttf"), "no font at all");
+    const test::TemporaryFolder folder;
+    test::writeFile(folder.file("text.ttf"), "no font at all");
     const FontSet fonts(
         FontFiles{{{folder.file("missing.ttf")}, {folder.file("text.ttf")}, kSans}, {}, {}});
     EXPECT_EQ(runsOf(fonts.layout("\u03A9", 5)), (Runs{{"DejaVuSans", U"\u03A9"}}));
@@ -86,15 +86,15 @@ TEST(FontSet, PassesOverFilesThatAreMissingOrNoFonts)
 TEST(FontSet, SharesATextAmongFacesWhenNoneHasAllOfIt)
 {
     // A face with nothing but the character U+5E02, which it draws as another face draws an A.
-    const testing::TemporaryFolder folder;
-    std::string font = testing::contentOf(kSans.path);
-    const std::size_t map = testing::tableStart(font, "cmap");
+    const test::TemporaryFolder folder;
+    std::string font = test::contentOf(kSans.path);
+    const std::size_t map = test::tableStart(font, "cmap");
     std::string list;
     for (const int word :
          {0, 1, 3, 10, 0, 12, 12, 0, 0, 28, 0, 0, 0, 1, 0, 0x5E02, 0, 0x5E02, 0, 36})
         appendWord(list, static_cast<std::uint16_t>(word));
     font.replace(map, list.size(), list);
-    testing::writeFile(folder.file("City.ttf"), font);
+    test::writeFile(folder.file("City.ttf"), font);
 
     const FontSet fonts(FontFiles{{kSans, {folder.file("City.ttf")}}, {}, {}});
     const TextLayout layout = fonts.layout("Unit \u5E02 \u0141\u00F3d\u017A", 5);
@@ -109,7 +109,7 @@ TEST(FontSet, SharesATextAmongFacesWhenNoneHasAllOfIt)
 
 TEST(FontSet, RefusesAFontCodeThatIsNone)
 {
-    const FontSet fonts(testing::sansOnly());
+    const FontSet fonts(test::sansOnly());
     for (const int code : {0, 4, 8, -5}) {
         EXPECT_EQ(errorOf([&] { return fonts.layout("text", code); }), errors::kInvalidCall);
         EXPECT_EQ(errorOf([&] { return ReportFace::ofCode(code).code; }), errors::kInvalidCall);

@@ -14,10 +14,10 @@ namespace k7deval
 namespace
 {
 
+using test::PdfImage;
+using test::PdfWord;
 using ::testing::HasSubstr;
 using ::testing::Not;
-using testing::PdfImage;
-using testing::PdfWord;
 
 // Readers round positions to 1/1000000, and advances are given in 1/1000 of the font size.
 constexpr double kNear = 0.01;
@@ -26,7 +26,7 @@ constexpr double kNear = 0.01;
 class PdfDrawing : public ::testing::Test
 {
 protected:
-    PdfDrawing() : document(testing::sansOnly()), page(document.Pages().Add())
+    PdfDrawing() : document(test::sansOnly()), page(document.Pages().Add())
     {
         page.SetHeight(612);
         page.SetWidth(792);
@@ -66,15 +66,15 @@ protected:
     std::string saved()
     {
         document.SaveToFile(folder.file("drawing.pdf"));
-        testing::requireValidPdf(folder.file("drawing.pdf"));
+        test::requireValidPdf(folder.file("drawing.pdf"));
         return folder.file("drawing.pdf");
     }
 
-    testing::PdfPage drawnPage() { return testing::pdfPages(saved()).at(0); }
-    std::string source() { return testing::pdfSource(saved()); }
-    std::string plainText() { return testing::pdfPlainText(saved()); }
+    test::PdfPage drawnPage() { return test::pdfPages(saved()).at(0); }
+    std::string source() { return test::pdfSource(saved()); }
+    std::string plainText() { return test::pdfPlainText(saved()); }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     ReportDocument document;
     ReportPage& page;
 };
@@ -83,7 +83,7 @@ TEST_F(PdfDrawing, APageHasItsSize)
 {
     document.Pages().Add().SetHeight(100);
     std::prev(document.Pages().end())->SetWidth(200.5F);
-    const auto pages = testing::pdfPages(saved());
+    const auto pages = test::pdfPages(saved());
     ASSERT_EQ(pages.size(), 2U);
     EXPECT_EQ(pages[0].width, 792);
     EXPECT_EQ(pages[0].height, 612);
@@ -170,8 +170,8 @@ TEST_F(PdfDrawing, ATextTurnedUpwardStartsAtItsPlaceAndRunsUp)
     ReportTextItem& item = addText("Upward", 300, 100);
     item.SetOrientation(2);
     const std::string path = saved();
-    EXPECT_THAT(testing::pdfSource(path), HasSubstr("\n0 1 -1 0 297.88 100 Tm\n"));
-    const PdfWord word = testing::pdfPages(path).at(0).word("Upward");
+    EXPECT_THAT(test::pdfSource(path), HasSubstr("\n0 1 -1 0 297.88 100 Tm\n"));
+    const PdfWord word = test::pdfPages(path).at(0).word("Upward");
     EXPECT_NEAR(word.bottom, 100, kNear);
     EXPECT_NEAR(word.top, 100 + item.Width(), kNear);
     const PdfImage image = PdfImage::render(path);
@@ -278,7 +278,7 @@ TEST_F(PdfDrawing, EveryLineIsHalfAPointWideAndBlack)
     addRectangle(20, 20, 50, 50, 0x0000FF);
     addLine(36, 100, 156, 100);
     const std::string path = saved();
-    const std::string drawn = testing::pdfSource(path);
+    const std::string drawn = test::pdfSource(path);
     EXPECT_THAT(drawn, HasSubstr("\n0.5 w\n"));
     EXPECT_EQ(drawn.find(" w\n"), drawn.rfind(" w\n")) << "set once for the page";
     const PdfImage image = PdfImage::render(path, 1, 8);
@@ -348,7 +348,7 @@ TEST_F(PdfDrawing, StandardFacesAreNamedAndOthersEmbeddedInPart)
         addText("standard", 100, 200, font);
     addText("\u0394", 100, 200, 5);
     addText("\u0394", 100, 200, 6);
-    const auto fonts = testing::pdfFonts(saved());
+    const auto fonts = test::pdfFonts(saved());
     ASSERT_EQ(fonts.size(), 5U);
     EXPECT_THAT(fonts[0], ::testing::ContainsRegex("^Helvetica +Type 1 +WinAnsi +no +no +no "));
     EXPECT_THAT(fonts[1],

@@ -13,12 +13,12 @@ namespace k7deval
 namespace
 {
 
-using testing::contentOf;
+using test::contentOf;
+using test::pdfInformation;
+using test::TemporaryFolder;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
-using testing::pdfInformation;
-using testing::TemporaryFolder;
 
 ReportPage& addPage(ReportDocument& document)
 {
@@ -58,7 +58,7 @@ TEST(PdfFile, CarriesTheInformationOfTheDocument)
     document.SetAuthor("Caf\u00E9");
     document.SetCreator("\u0141\u00F3d\u017A");
     document.SaveToFile(folder.file("report.pdf"));
-    testing::requireValidPdf(folder.file("report.pdf"));
+    test::requireValidPdf(folder.file("report.pdf"));
     auto information = pdfInformation(folder.file("report.pdf"));
     EXPECT_EQ(information["Title"], "7-Day (Drift) \\ Testing");
     EXPECT_EQ(information["Subject"], "\u0395\u03BB\u03BB\u03AC\u03B4\u03B1 \u5E02 \U0001F600");
@@ -104,15 +104,15 @@ TEST(PdfFile, TakesADocumentThatGrewSinceItWasSaved)
     document.SaveToFile(folder.file("report.pdf"));
     addPage(document).TextItems().Add("later");
     document.SaveToFile(folder.file("report.pdf"));
-    EXPECT_EQ(testing::pdfPages(folder.file("report.pdf")).size(), 4U);
-    EXPECT_THAT(testing::pdfPlainText(folder.file("report.pdf")), HasSubstr("later"));
+    EXPECT_EQ(test::pdfPages(folder.file("report.pdf")).size(), 4U);
+    EXPECT_THAT(test::pdfPlainText(folder.file("report.pdf")), HasSubstr("later"));
     EXPECT_THAT(folder.names(), ElementsAre("report.pdf"));
 }
 
 TEST(PdfFile, IsNotMadeOfADocumentWithoutPages)
 {
     const TemporaryFolder folder;
-    testing::writeFile(folder.file("report.pdf"), "old");
+    test::writeFile(folder.file("report.pdf"), "old");
     const ReportDocument document;
     EXPECT_EQ(failureOfSaving(document, folder.file("report.pdf")), errors::kInvalidCall);
     EXPECT_EQ(contentOf(folder.file("report.pdf")), "old");
@@ -121,7 +121,7 @@ TEST(PdfFile, IsNotMadeOfADocumentWithoutPages)
 TEST(PdfFile, IsNotMadeOfAPageWithoutSize)
 {
     const TemporaryFolder folder;
-    testing::writeFile(folder.file("report.pdf"), "old");
+    test::writeFile(folder.file("report.pdf"), "old");
     ReportDocument document;
     addPage(document);
     document.Pages().Add().SetWidth(792);

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 inline const FontFile kSans{"/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"};
@@ -46,4 +46,4 @@ inline void replaceWord(std::string& font, std::size_t offset, unsigned value)
     font.at(offset + 1) = static_cast<char>(value & 0xFFU);
 }
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

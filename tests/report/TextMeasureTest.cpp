@@ -44,7 +44,7 @@ constexpr WidthCase kWidthCases[] = {
 TEST(TextWidth, IsTheSumOfTheAdvances)
 {
     for (const auto& row : kWidthCases) {
-        ReportDocument document(testing::sansOnly());
+        ReportDocument document(test::sansOnly());
         ReportTextItem& item = document.Pages().Add().TextItems().Add(row.text);
         item.SetFont(row.font);
         item.SetSize(row.size);
@@ -54,7 +54,7 @@ TEST(TextWidth, IsTheSumOfTheAdvances)
 
 TEST(TextHeight, IsFromTheDescenderToTheAscender)
 {
-    ReportDocument document(testing::sansOnly());
+    ReportDocument document(test::sansOnly());
     ReportTextItem& item = document.Pages().Add().TextItems().Add("x");
     for (const int font : {5, 6, 7}) {
         item.SetFont(font);
@@ -67,7 +67,7 @@ TEST(TextHeight, IsFromTheDescenderToTheAscender)
 
 TEST(TextHeight, IsThatOfTheFaceThatDrawsTheText)
 {
-    ReportDocument document(testing::sansOnly());
+    ReportDocument document(test::sansOnly());
     ReportTextItem& item = document.Pages().Add().TextItems().Add("");
     EXPECT_FLOAT_EQ(item.Height(), 11.17F) << "an empty text has the standard face's";
     item.SetText("\u03A3");

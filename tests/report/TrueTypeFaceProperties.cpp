@@ -10,8 +10,8 @@ namespace k7deval
 namespace
 {
 
-using testing::kSans;
-using testing::TemporaryFolder;
+using test::kSans;
+using test::TemporaryFolder;
 
 /// Everything that a document asks of a face.
 void useAsADocumentDoes(const TrueTypeFace& face)
@@ -33,19 +33,19 @@ void useAsADocumentDoes(const TrueTypeFace& face)
 // where it does most harm.
 TEST(TrueTypeFaceProperties, ADamagedFontFileNeverLeadsOutOfItsTables)
 {
-    const std::string whole = testing::contentOf(kSans.path);
+    const std::string whole = test::contentOf(kSans.path);
     const TemporaryFolder folder;
     EXPECT_TRUE(rc::check([&] {
         std::string font = whole;
         const auto tag = *rc::gen::element<std::string>("", "head", "hhea", "maxp", "cmap", "loca",
                                                         "glyf", "OS/2");
-        const std::size_t start = tag.empty() ? 0 : testing::tableStart(whole, tag);
+        const std::size_t start = tag.empty() ? 0 : test::tableStart(whole, tag);
         const auto changes = *rc::gen::inRange(1, 8);
         for (int change = 0; change < changes; ++change)
             font.at(start + *rc::gen::inRange<std::size_t>(0, 300)) =
                 static_cast<char>(*rc::gen::inRange(0, 256));
         font.resize(*rc::gen::element(whole.size(), whole.size() / 2, std::size_t{400000}));
-        testing::writeFile(folder.file("Damaged.ttf"), font);
+        test::writeFile(folder.file("Damaged.ttf"), font);
         if (const auto face = TrueTypeFace::load({folder.file("Damaged.ttf")}))
             useAsADocumentDoes(*face);
     }));

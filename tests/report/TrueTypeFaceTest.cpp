@@ -12,16 +12,16 @@ namespace k7deval
 namespace
 {
 
-using testing::kSans;
-using testing::tableStart;
-using testing::TemporaryFolder;
+using test::kSans;
+using test::tableStart;
+using test::TemporaryFolder;
 
 std::unique_ptr<const TrueTypeFace> loadChanged(const std::function<void(std::string&)>& change)
 {
     const TemporaryFolder folder;
-    std::string font = testing::contentOf(kSans.path);
+    std::string font = test::contentOf(kSans.path);
     change(font);
-    testing::writeFile(folder.file("Changed.ttf"), font);
+    test::writeFile(folder.file("Changed.ttf"), font);
     return TrueTypeFace::load({folder.file("Changed.ttf")});
 }
 
@@ -54,7 +54,7 @@ TEST(TrueTypeFace, IsNoneWithoutAFileOrWithoutAFont)
     const TemporaryFolder folder;
     EXPECT_FALSE(TrueTypeFace::load({folder.file("missing.ttf")}));
     EXPECT_FALSE(TrueTypeFace::load({folder.path()})) << "a folder";
-    testing::writeFile(folder.file("empty.ttf"), "");
+    test::writeFile(folder.file("empty.ttf"), "");
     EXPECT_FALSE(TrueTypeFace::load({folder.file("empty.ttf")}));
 }
 
@@ -63,11 +63,11 @@ TEST(TrueTypeFace, IsNoneWhenItsLicenceForbidsWhatADocumentDoes)
     constexpr std::size_t kRights = 8;
     for (const unsigned rights : {0x0002U, 0x0100U, 0x0200U})
         EXPECT_FALSE(loadChanged([rights](std::string& font) {
-            testing::replaceWord(font, tableStart(font, "OS/2") + kRights, rights);
+            test::replaceWord(font, tableStart(font, "OS/2") + kRights, rights);
         })) << rights;
     for (const unsigned rights : {0x0000U, 0x0004U, 0x0008U})
         EXPECT_TRUE(loadChanged([rights](std::string& font) {
-            testing::replaceWord(font, tableStart(font, "OS/2") + kRights, rights);
+            test::replaceWord(font, tableStart(font, "OS/2") + kRights, rights);
         })) << rights;
 }
 
@@ -75,11 +75,11 @@ TEST(TrueTypeFace, IsNoneWithoutATableThatADocumentNeeds)
 {
     for (const char* const tag : {"cmap", "glyf", "head", "hhea", "hmtx", "loca", "maxp"})
         EXPECT_FALSE(loadChanged([tag](std::string& font) {
-            font.replace(testing::tableEntry(font, tag), 4, "gone");
+            font.replace(test::tableEntry(font, tag), 4, "gone");
         })) << tag;
     for (const char* const tag : {"OS/2", "post", "cvt ", "fpgm", "prep"})
         EXPECT_TRUE(loadChanged([tag](std::string& font) {
-            font.replace(testing::tableEntry(font, tag), 4, "gone");
+            font.replace(test::tableEntry(font, tag), 4, "gone");
         })) << tag;
 }
 
@@ -95,18 +95,17 @@ TEST(TrueTypeFace, IsNoneWhenItsFileIsCutOff)
 std::string collection()
 {
     constexpr std::size_t kHead = 20;
-    const std::string whole = testing::contentOf(kSans.path);
-    const std::size_t directory = testing::kDirectory + testing::kDirectoryEntry * wordAt(whole, 4);
+    const std::string whole = test::contentOf(kSans.path);
+    const std::size_t directory = test::kDirectory + test::kDirectoryEntry * wordAt(whole, 4);
     const std::size_t shift = kHead + directory;
     std::string moved = whole;
-    for (std::size_t entry = testing::kDirectory; entry < directory;
-         entry += testing::kDirectoryEntry) {
+    for (std::size_t entry = test::kDirectory; entry < directory; entry += test::kDirectoryEntry) {
         std::string offset;
         appendLong(offset, static_cast<std::uint32_t>(longAt(whole, entry + 8) + shift));
         moved.replace(entry + 8, 4, offset);
     }
     std::string nameless = moved.substr(0, directory);
-    nameless.replace(testing::tableEntry(moved, "cmap"), 4, "gone");
+    nameless.replace(test::tableEntry(moved, "cmap"), 4, "gone");
     std::string file = "ttcf";
     for (const std::size_t value : {std::size_t{0x00010000}, std::size_t{2}, kHead, shift})
         appendLong(file, static_cast<std::uint32_t>(value));
@@ -116,7 +115,7 @@ std::string collection()
 TEST(TrueTypeFace, IsTakenOutOfACollectionByItsIndex)
 {
     const TemporaryFolder folder;
-    testing::writeFile(folder.file("Two faces.ttc"), collection());
+    test::writeFile(folder.file("Two faces.ttc"), collection());
     EXPECT_FALSE(TrueTypeFace::load({folder.file("Two faces.ttc"), 0}));
     EXPECT_FALSE(TrueTypeFace::load({folder.file("Two faces.ttc"), 2}));
     const auto face = TrueTypeFace::load({folder.file("Two faces.ttc"), 1});
@@ -129,7 +128,7 @@ TEST(TrueTypeFace, GivesEveryGlyphPastTheLastFullEntryItsAdvance)
 {
     const auto face = loadChanged([](std::string& font) {
         constexpr std::size_t kEntryCount = 34;
-        testing::replaceWord(font, tableStart(font, "hhea") + kEntryCount, 3);
+        test::replaceWord(font, tableStart(font, "hhea") + kEntryCount, 3);
     });
     ASSERT_TRUE(face);
     const auto third = face->advance(2);

@@ -16,8 +16,8 @@ namespace
 
 using screen::MsgBoxAnswer;
 using screen::WriteOutcome;
-using testing::contentOf;
-using testing::writeFile;
+using test::contentOf;
+using test::writeFile;
 
 const screen::MsgBoxRequest kDeleteQuestion{"Delete Existing File?", "Delete Existing File?",
                                             screen::MsgBoxButtons::YesNo, screen::MsgBoxIcon::None};
@@ -46,7 +46,7 @@ protected:
         services.answers = {MsgBoxAnswer::Yes};
     }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     const std::string path = folder.file("report.pdf");
     FakeServices services;
     TestScreen screen;

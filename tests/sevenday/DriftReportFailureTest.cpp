@@ -39,7 +39,7 @@ struct WritingRig : ReportRig {
         return *test.objDaysToDisplay[day]->DisplayedCals[0];
     }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
 };
 
 const Lines kWritten = {"7Day.pdf"};
@@ -120,7 +120,7 @@ TEST(ReportFailure, OfAHeadEndsTheHeadAndTheRowsGoOn)
     BreakingClock clock;
     DriftReport report(rig.test, rig.page, {rig.services, clock, rig.regional});
     clock.broken = true;
-    const testing::TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     EXPECT_EQ(report.WriteDriftReport(folder.file("7Day.pdf")), std::nullopt);
     EXPECT_EQ(rig.messages->lines(), Lines{"DEval-012: 440, the clock stopped"});
     EXPECT_EQ(folder.names(), kWritten);

@@ -223,7 +223,7 @@ TEST(ReportRows, AnEmptyListOfDaysWritesNoFileAndPostsNothing)
     ReportRig rig;
     rig.show(daysOfOneRun(1));
     rig.test.objDaysToDisplay.resizeKeeping(-1);
-    const testing::TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     EXPECT_EQ(rig.report.WriteDriftReport(folder.file("7Day.pdf")), std::nullopt);
     EXPECT_EQ(folder.names(), Lines());
     EXPECT_EQ(rig.messages->lines(), Lines());

@@ -11,8 +11,8 @@ namespace k7deval::test
 namespace
 {
 
-using testing::PdfPage;
-using testing::PdfWord;
+using test::PdfPage;
+using test::PdfWord;
 
 /// The saved report of so many days.
 struct PdfRig : ReportRig {
@@ -26,7 +26,7 @@ struct PdfRig : ReportRig {
         EXPECT_EQ(report.WriteDriftReport(path), std::nullopt);
     }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     const std::string path = folder.file("7Day.pdf");
 };
 
@@ -35,13 +35,13 @@ struct PdfRig : ReportRig {
 TEST(ReportPdf, IsAValidFile)
 {
     const PdfRig rig(7);
-    EXPECT_NO_THROW(testing::requireValidPdf(rig.path));
+    EXPECT_NO_THROW(test::requireValidPdf(rig.path));
 }
 
 TEST(ReportPdf, BearsItsInformation)
 {
     const PdfRig rig(7);
-    auto information = testing::pdfInformation(rig.path);
+    auto information = test::pdfInformation(rig.path);
     EXPECT_EQ(information["Title"], "7-Day Drift Testing");
     EXPECT_EQ(information["Subject"], "7-Day Drift Testing");
     EXPECT_EQ(information["Author"], "Kelvo Data Evaluation");
@@ -52,7 +52,7 @@ TEST(ReportPdf, BearsItsInformation)
 TEST(ReportPdf, HasItsWordsInTheirPlaces)
 {
     const PdfRig rig(7);
-    const auto pages = testing::pdfPages(rig.path);
+    const auto pages = test::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 1U);
     const PdfPage& page = pages[0];
     EXPECT_EQ(page.width, 792);
@@ -68,7 +68,7 @@ TEST(ReportPdf, HasItsWordsInTheirPlaces)
 TEST(ReportPdf, ReadsAsItsRows)
 {
     const PdfRig rig(7);
-    const std::string text = testing::pdfPlainText(rig.path);
+    const std::string text = test::pdfPlainText(rig.path);
     EXPECT_NE(text.find("1/1/2024 08:15 200 0.0 0.0 0.0 5.0 160.0 160.0 0.0 5.0 On-Line"),
               std::string::npos)
         << text;
@@ -82,7 +82,7 @@ TEST(ReportPdf, ReadsAsItsRows)
 TEST(ReportPdf, OfManyDaysHasNumberedPages)
 {
     const PdfRig rig(100);
-    const auto pages = testing::pdfPages(rig.path);
+    const auto pages = test::pdfPages(rig.path);
     ASSERT_EQ(pages.size(), 4U);
     for (const PdfPage& page : pages) {
         EXPECT_NO_THROW(static_cast<void>(page.word("Bethpage")));
@@ -96,10 +96,10 @@ TEST(ReportPdf, KeepsAFacilityNameOfAnyScript)
 {
     ReportRig rig;
     rig.site->facilityName = "Kraftwerk Łódź";
-    const testing::TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     const std::string path = folder.file("7Day.pdf");
     ASSERT_EQ(rig.report.WriteDriftReport(path), std::nullopt);
-    EXPECT_NE(testing::pdfPlainText(path).find("Kraftwerk Łódź"), std::string::npos);
+    EXPECT_NE(test::pdfPlainText(path).find("Kraftwerk Łódź"), std::string::npos);
 }
 
 } // namespace k7deval::test

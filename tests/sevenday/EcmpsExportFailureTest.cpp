@@ -84,10 +84,10 @@ TEST(ExportFailure, AFolderThatIsNotThere)
 TEST(ExportFailure, LeavesAFileThatIsThereAsItWas)
 {
     FailureRig rig;
-    testing::writeFile(rig.path, "old");
+    test::writeFile(rig.path, "old");
     rig.page.txtORIS.SetText("");
     EXPECT_TRUE(rig.write().has_value());
-    EXPECT_EQ(testing::contentOf(rig.path), "old");
+    EXPECT_EQ(test::contentOf(rig.path), "old");
 }
 
 TEST(ExportFailure, IsSilentWithoutAMessageSink)

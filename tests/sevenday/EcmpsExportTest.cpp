@@ -1,4 +1,5 @@
 #include "sevenday/ExportRig.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ const Date kNextMorning = makeDate(2024, 3, 11, 8, 15);
 std::string golden(const std::string& name)
 {
     const std::string readable =
-        testing::contentOf(std::string(K7DEVAL_SOURCE_DIR) + "/tests/golden/7day-export/" + name);
+        test::contentOf(test::projectFile("tests/golden/7day-export/" + name));
     std::string text;
     bool atLineStart = true;
     for (const char c : readable) {
@@ -258,7 +259,7 @@ TEST(Export, TakesThePlaceOfAFileThatIsThere)
 {
     ExportRig rig;
     rig.show({});
-    testing::writeFile(rig.path, std::string(100000, 'x'));
+    test::writeFile(rig.path, std::string(100000, 'x'));
     EXPECT_TRUE(rig.text().ends_with("</QualityAssuranceAndCert>"));
     EXPECT_EQ(rig.folder.names(), Lines{"7Day.xml"}) << "and leaves nothing beside it";
 }

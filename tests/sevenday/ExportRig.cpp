@@ -25,7 +25,7 @@ ExportRig& ExportRig::show(const std::vector<CalDay>& days)
 std::string ExportRig::text()
 {
     EXPECT_EQ(write(), std::nullopt);
-    return testing::contentOf(path);
+    return test::contentOf(path);
 }
 
 std::string ExportRig::valueOf(const std::string& element)

@@ -25,7 +25,7 @@ struct ExportRig : SetUpRig {
     /// The text of the first element of that name; "(absent)" when there is none.
     std::string valueOf(const std::string& element);
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     const std::string path = folder.file("7Day.xml");
     DriftTest test{regional};
     EcmpsExport exporter{test, page};

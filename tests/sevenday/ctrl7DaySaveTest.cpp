@@ -16,8 +16,8 @@ namespace
 {
 
 using screen::MsgBoxAnswer;
-using testing::contentOf;
-using testing::writeFile;
+using test::contentOf;
+using test::writeFile;
 
 constexpr std::int32_t kPdf = 1;
 constexpr std::int32_t kXml = 2;
@@ -70,7 +70,7 @@ struct SaveRig : ToolRig {
         return contentOf(path).substr(0, length);
     }
 
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     std::string path;
 };
 

@@ -4,6 +4,7 @@
 #include "sitedb/SiteQueries.h"
 #include "sitedb/sql/Connection.h"
 #include "sitedb/tables/TimeText.h"
+#include "support/Places.h"
 
 namespace k7deval::sitedb::test
 {
@@ -12,8 +13,7 @@ using nlohmann::json;
 
 std::string smallEmissions()
 {
-    return readFile(std::filesystem::path(K7DEVAL_SOURCE_DIR) / "tests" / "sitedb" / "data" /
-                    "ecmps_emissions_small.json");
+    return readFile(k7deval::test::projectFile("tests/sitedb/data/ecmps_emissions_small.json"));
 }
 
 std::string patchedEmissions(const std::string& operation, const std::string& path,

@@ -1,6 +1,7 @@
 #include "sitedb/SampleSite.h"
 
 #include "sitedb/sql/Connection.h"
+#include "support/Places.h"
 
 #include <zlib.h>
 
@@ -78,7 +79,7 @@ std::filesystem::path TemporaryDirectory::write(const std::string& name,
 
 std::filesystem::path sampleFile(const std::string& name)
 {
-    return std::filesystem::path(K7DEVAL_SOURCE_DIR) / "data" / "bethpage" / name;
+    return k7deval::test::projectFile("data/bethpage/" + name);
 }
 
 std::string readFile(const std::filesystem::path& path)

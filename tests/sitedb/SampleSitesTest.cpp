@@ -1,6 +1,7 @@
 #include "sitedb/PlanCase.h"
 #include "sitedb/SiteQueries.h"
 #include "sitedb/tables/SiteIds.h"
+#include "support/Places.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@ using testing::ElementsAre;
 
 std::filesystem::path dataFile(const std::string& name)
 {
-    return std::filesystem::path(K7DEVAL_SOURCE_DIR) / "data" / name;
+    return k7deval::test::projectFile("data/" + name);
 }
 
 /// Parameters, attributes, links, constants and hours of a site.

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 PdfImage::PdfImage(std::size_t width, std::size_t height, int scale, std::vector<Pixel> pixels)
@@ -71,4 +71,4 @@ int PdfImage::darkest(double left, double bottom, double right, double top) cons
     return darkest;
 }
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

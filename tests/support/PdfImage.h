@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 /// A rendered PDF page.
@@ -41,4 +41,4 @@ private:
     std::vector<Pixel> pixels_;
 };
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

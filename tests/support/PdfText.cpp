@@ -8,7 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 namespace
@@ -102,4 +102,4 @@ void requireValidPdf(const std::string& path)
         throw std::runtime_error(complaints);
 }
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 /// A word on a PDF page as a reader finds it, with the box around it: points from the bottom left
@@ -45,4 +45,4 @@ std::string pdfSource(const std::string& path);
 /// std::runtime_error with their words if `qpdf` or a reader finds anything wrong with a PDF file.
 void requireValidPdf(const std::string& path);
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

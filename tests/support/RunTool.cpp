@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <stdexcept>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 namespace
@@ -60,4 +60,4 @@ std::string complaintsOfTool(const std::vector<std::string>& commandLine)
     return outputOf(asCommand(commandLine) + "2>&1 >/dev/null");
 }
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

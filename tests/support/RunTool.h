@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 /// Runs a program found on the PATH and returns what it printed. A program that is missing or that
@@ -13,4 +13,4 @@ std::string runTool(const std::vector<std::string>& commandLine);
 /// Runs a program as `runTool` does and returns what it printed to its error stream alone.
 std::string complaintsOfTool(const std::vector<std::string>& commandLine);
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

@@ -6,7 +6,7 @@
 #include <random>
 #include <stdexcept>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 namespace fs = std::filesystem;
@@ -50,4 +50,4 @@ void writeFile(const fs::path& path, std::string_view content)
         throw std::runtime_error("cannot write " + path.string());
 }
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 /// An empty folder of a test's own that is gone with the end of the block.
@@ -36,4 +36,4 @@ std::string contentOf(const std::filesystem::path& path);
 /// Writes a file; std::runtime_error if it cannot be written.
 void writeFile(const std::filesystem::path& path, std::string_view content);
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

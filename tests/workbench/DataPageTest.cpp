@@ -32,7 +32,7 @@ namespace
 {
 
 using k7deval::test::SiteData;
-using k7deval::testing::TemporaryFolder;
+using k7deval::test::TemporaryFolder;
 using qt::test::faultsForAScreenReader;
 using qt::test::Operator;
 using qt::test::settle;

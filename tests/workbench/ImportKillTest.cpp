@@ -1,3 +1,4 @@
+#include "support/Places.h"
 #include "workbench/ImportRig.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +25,8 @@ TEST(ImportKill, AProcessThatIsKilledInTheMiddleLeavesTheSiteAsItWas)
 {
     LongImport task;
     QProcess program;
-    program.start(K7DEVAL_PROGRAM, {"import", "--site", textOf(task.held.path), textOf(task.file)});
+    program.start(QString::fromStdString(k7deval::test::commandLineProgram()),
+                  {"import", "--site", textOf(task.held.path), textOf(task.file)});
     const auto isWritten = [&] {
         return QFileInfo(textOf(task.held.path)).size() >
                2 * static_cast<qint64>(task.bytes.size());

@@ -34,11 +34,11 @@ using qt::test::faultsForAScreenReader;
 using qt::test::Operator;
 using qt::test::settle;
 using qt::test::whenDialogComes;
+using test::PdfPage;
+using test::pdfPages;
+using test::PdfWord;
+using test::TemporaryFolder;
 using ::testing::IsEmpty;
-using testing::PdfPage;
-using testing::pdfPages;
-using testing::PdfWord;
-using testing::TemporaryFolder;
 
 /// Pages with their number in two corners.
 struct NumberedPages {

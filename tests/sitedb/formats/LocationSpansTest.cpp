@@ -1,6 +1,7 @@
 #include "sitedb/PlanCase.h"
 #include "sitedb/SiteQueries.h"
 #include "sitedb/tables/SiteIds.h"
+#include "support/Places.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +15,7 @@ namespace
 using testing::ElementsAre;
 
 const std::filesystem::path kCrystalRiver =
-    std::filesystem::path(K7DEVAL_SOURCE_DIR) / "data" / "crystal-river" / "spans.csv";
+    k7deval::test::projectFile("data/crystal-river/spans.csv");
 
 #define HEADER                                                                                     \
     "oris,facility,location,component_type_cd,span_scale_cd,mpc_value,mec_value,mpf_value,"        \

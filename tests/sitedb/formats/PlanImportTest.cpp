@@ -1,6 +1,7 @@
 #include "sitedb/PlanCase.h"
 #include "sitedb/SiteQueries.h"
 #include "sitedb/tables/SiteIds.h"
+#include "support/Places.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@ using testing::Not;
 
 std::filesystem::path genuineFile(const std::string& name)
 {
-    return std::filesystem::path(K7DEVAL_SOURCE_DIR) / "tests" / "sitedb" / "data" / name;
+    return k7deval::test::projectFile("tests/sitedb/data/" + name);
 }
 
 constexpr const char* kImportLayout = "ecmps_monitoring_plan_54_SCT1_2023-10_import_layout.json";

@@ -1,5 +1,6 @@
 #include "sitedb/ImportCase.h"
 #include "sitedb/SiteQueries.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -183,9 +184,8 @@ TEST(QaImport, GenuineFilesWithoutSevenDayTestsLeaveNoTrace)
          {"ecmps_qa_54_small.json", "ecmps_qa_54_SCT1_linearity_and_events.json"}) {
         SmallSite held;
         const std::string before = dump(held.site);
-        const auto report = importFile(
-            held.site,
-            std::filesystem::path(K7DEVAL_SOURCE_DIR) / "tests" / "sitedb" / "data" / name, {});
+        const auto report =
+            importFile(held.site, k7deval::test::projectFile("tests/sitedb/data/" + name), {});
         EXPECT_EQ(report.counts.front(), "0 tests") << name;
         EXPECT_GE(report.steppedOver.size(), 3U) << name;
         EXPECT_EQ(dump(held.site), before) << name;

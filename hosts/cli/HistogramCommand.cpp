@@ -17,7 +17,7 @@ namespace k7deval::cli
 namespace
 {
 
-constexpr std::int32_t kPdfEntry = 1;
+constexpr std::int32_t kReportEntry = 1;
 
 /// The tools say nothing of a new file that can't be written.
 std::string reasonNotTold(const std::string& path)
@@ -98,7 +98,7 @@ void HistogramCommand::savePdf()
     if (path.empty())
         return;
     const std::string told =
-        pressSave(tool().cmdSave, tool().chkPreview, services_, {path, kPdfEntry});
+        pressSave(tool().cmdSave, tool().chkPreview, services_, {path, kReportEntry});
     if (!told.empty())
         throw UsageError(path + " could not be written (" + told + ").");
     if (!fileExists(path))

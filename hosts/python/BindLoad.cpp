@@ -13,9 +13,9 @@ using namespace py::literals;
 namespace
 {
 
-using ToolClass = ControlClass<ctrlMaxMW, histogram::HistogramTool>;
+using LoadClass = ControlClass<ctrlMaxMW, histogram::HistogramTool>;
 
-void bindResults(ToolClass& tool)
+void bindLoadResults(LoadClass& tool)
 {
     result(tool, "HighThreshold", &LoadEvaluation::HighThreshold, "Value at 60% of the range.");
     result(tool, "LowThreshold", &LoadEvaluation::LowThreshold, "Value at 30% of the range.");
@@ -36,7 +36,7 @@ void bindResults(ToolClass& tool)
                                "Last day of the option \"Specified Dates:\".");
 }
 
-void bindParts(ToolClass& tool)
+void bindLoadParts(LoadClass& tool)
 {
     widget(tool, "lblMinSafeValue", &ctrlMaxMW::lblMinSafeValue);
     widget(tool, "txtMinSafe", &ctrlMaxMW::txtMinSafe);
@@ -63,7 +63,7 @@ void bindParts(ToolClass& tool)
 
 void bindLoad(py::module_& module, const HostStateHandle& state)
 {
-    ToolClass tool(module, "ctrlMaxMW", collectedControl<ctrlMaxMW>(),
+    LoadClass tool(module, "ctrlMaxMW", collectedControl<ctrlMaxMW>(),
                    "The load tool: how does this unit's load spread over its range of operation\n"
                    "(40 CFR 75 App. A 6.5.2.1)?");
     tool.def(py::init([state](py::object services) {
@@ -71,8 +71,8 @@ void bindLoad(py::module_& module, const HostStateHandle& state)
              }),
              "services"_a = py::none());
     bindData(tool, state);
-    bindParts(tool);
-    bindResults(tool);
+    bindLoadParts(tool);
+    bindLoadResults(tool);
     bindLife(tool);
 }
 

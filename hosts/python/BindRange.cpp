@@ -13,9 +13,9 @@ using namespace py::literals;
 namespace
 {
 
-using ToolClass = ControlClass<ctrlRangeEval, histogram::HistogramTool>;
+using RangeClass = ControlClass<ctrlRangeEval, histogram::HistogramTool>;
 
-void bindResults(ToolClass& tool)
+void bindRangeResults(RangeClass& tool)
 {
     using Results = RangeEvaluation;
     result(tool, "RangeValue", &Results::RangeValue, "The instrument range.");
@@ -40,7 +40,7 @@ void bindResults(ToolClass& tool)
         "copies.");
 }
 
-void bindParts(ToolClass& tool)
+void bindRangeParts(RangeClass& tool)
 {
     widget(tool, "cmbScale", &ctrlRangeEval::cmbScale);
     widget(tool, "lblRange", &ctrlRangeEval::lblRange);
@@ -65,16 +65,16 @@ void bindParts(ToolClass& tool)
 
 void bindRange(py::module_& module, const HostStateHandle& state)
 {
-    ToolClass tool(module, "ctrlRangeEval", collectedControl<ctrlRangeEval>(),
-                   "The range tool: does this analyzer's range fit what it measured (40 CFR 75\n"
-                   "App. A 2.1)?");
+    RangeClass tool(module, "ctrlRangeEval", collectedControl<ctrlRangeEval>(),
+                    "The range tool: does this analyzer's range fit what it measured (40 CFR 75\n"
+                    "App. A 2.1)?");
     tool.def(py::init([state](py::object services) {
                  return hostTool<ctrlRangeEval>(std::move(services), state);
              }),
              "services"_a = py::none());
     bindData(tool, state);
-    bindParts(tool);
-    bindResults(tool);
+    bindRangeParts(tool);
+    bindRangeResults(tool);
     bindLife(tool);
 }
 

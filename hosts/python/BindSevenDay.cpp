@@ -13,17 +13,17 @@ using namespace py::literals;
 namespace
 {
 
-using ToolClass = ControlClass<ctrl7Day>;
+using DriftClass = ControlClass<ctrl7Day>;
 
 /// A field of the test, to be read.
 template <class Value>
-void state(ToolClass& tool, const char* name, Value DriftTest::*member, const char* doc)
+void state(DriftClass& tool, const char* name, Value DriftTest::*member, const char* doc)
 {
     tool.def_property_readonly(
         name, [member](const ctrl7Day& self) { return self.test().*member; }, doc);
 }
 
-void bindWhatIsTested(ToolClass& tool)
+void bindWhatIsTested(DriftClass& tool)
 {
     state(tool, "lngAnalyzedPID", &DriftTest::lngAnalyzedPID, "PID of the analyzer.");
     state(tool, "strAnalyzedScale", &DriftTest::strAnalyzedScale, "Scale under test.");
@@ -47,7 +47,7 @@ py::object runs(const ctrl7Day& tool)
     return runs ? py::cast(*runs) : py::none();
 }
 
-void bindWhatWasFound(ToolClass& tool)
+void bindWhatWasFound(DriftClass& tool)
 {
     tool.def_property_readonly("dictCals", &runs,
                                "All runs by their time, ascending: a copy whose runs are the live\n"
@@ -66,7 +66,7 @@ void bindWhatWasFound(ToolClass& tool)
     state(tool, "strSummary", &DriftTest::strSummary, "The outcome in words.");
 }
 
-void bindParts(ToolClass& tool)
+void bindDriftParts(DriftClass& tool)
 {
     widget(tool, "ctrl7DaySetUp1", &ctrl7Day::ctrl7DaySetUp1, "The first page.");
     widget(tool, "ctrl7DayResult1", &ctrl7Day::ctrl7DayResult1, "The second page.");
@@ -81,9 +81,9 @@ void bindParts(ToolClass& tool)
 
 void bindSevenDay(py::module_& module, const HostStateHandle& host)
 {
-    ToolClass tool(module, "ctrl7Day", collectedControl<ctrl7Day>(),
-                   "The 7-Day tool: did this analyzer pass a 7-Day drift test, and from which\n"
-                   "calibrations (40 CFR 75 App. A 6.3.1)? A wizard of two pages.");
+    DriftClass tool(module, "ctrl7Day", collectedControl<ctrl7Day>(),
+                    "The 7-Day tool: did this analyzer pass a 7-Day drift test, and from which\n"
+                    "calibrations (40 CFR 75 App. A 6.3.1)? A wizard of two pages.");
     tool.def(py::init([host](py::object services) {
                  return hostTool<ctrl7Day>(std::move(services), host);
              }),
@@ -102,7 +102,7 @@ void bindSevenDay(py::module_& module, const HostStateHandle& host)
         .def_property_readonly(
             "irm", [](const ctrl7Day& self) { return pythonSink(self.test().irm); },
             "The message sink of Setup.");
-    bindParts(tool);
+    bindDriftParts(tool);
     bindWhatIsTested(tool);
     bindWhatWasFound(tool);
     bindLife(tool);

@@ -67,7 +67,7 @@ void showEntries(QComboBox& view, const screen::ComboBox& model)
 }
 
 /// A text that stays keeps its cursor: the first key typed into the text of an entry deselects it.
-void showText(QComboBox& view, const QString& text, const QString& before, int cursor)
+void showTyped(QComboBox& view, const QString& text, const QString& before, int cursor)
 {
     if (view.currentText() != text)
         view.setEditText(text);
@@ -83,7 +83,7 @@ void showComboBox(QComboBox& view, const screen::ComboBox& model)
     if (view.currentIndex() != model.ListIndex())
         view.setCurrentIndex(model.ListIndex());
     if (view.isEditable())
-        showText(view, toQString(model.Text()), before, cursor);
+        showTyped(view, toQString(model.Text()), before, cursor);
 }
 
 /// The toolkit's own readings of a typed text, to complete it or to pick the entry that it equals,

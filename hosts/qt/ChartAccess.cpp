@@ -17,8 +17,8 @@ namespace k7deval::qt
 namespace
 {
 
-constexpr std::array<const char*, 4> kColumns = {"From", "To", "Hours", "Percent"};
-constexpr int kColumnCount = static_cast<int>(kColumns.size());
+constexpr std::array<const char*, 4> kChartColumns = {"From", "To", "Hours", "Percent"};
+constexpr int kColumnCount = static_cast<int>(kChartColumns.size());
 constexpr int kHoursColumn = 2;
 constexpr int kRowCount = histogram::kBinCount;
 /// Stands for the row of the heads and for the column of the names of bars.
@@ -49,7 +49,7 @@ Place placeOf(int index)
 QString textAt(const ChartView& chart, const Place& place)
 {
     if (place.row == kHead)
-        return kColumns.at(static_cast<std::size_t>(place.column));
+        return kChartColumns.at(static_cast<std::size_t>(place.column));
     constexpr int kPercentOfABar = 100 / kRowCount;
     if (place.column == kHead)
         return QString("%1% to %2% of the range")

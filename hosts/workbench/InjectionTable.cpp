@@ -109,7 +109,7 @@ struct Writing {
     }
 };
 
-struct Column {
+struct InjectionColumn {
     const char* heading;
     bool isNumber;
     QString (*text)(const InjectionRow& row, const Writing& writing);
@@ -118,29 +118,29 @@ struct Column {
 using Row = InjectionRow;
 
 const std::array kColumns{
-    Column{"Run time", false,
+    InjectionColumn{"Run time", false,
            [](const Row& row, const Writing& as) { return as.time(row.runTime); }},
-    Column{"Injection end", false,
+    InjectionColumn{"Injection end", false,
            [](const Row& row, const Writing& as) { return as.time(row.injectionEnd); }},
-    Column{"Scale", false, [](const Row& row, const Writing&) { return qt::toQString(row.scale); }},
-    Column{"Gas level", false,
+    InjectionColumn{"Scale", false, [](const Row& row, const Writing&) { return qt::toQString(row.scale); }},
+    InjectionColumn{"Gas level", false,
            [](const Row& row, const Writing&) { return qt::toQString(row.gasLevel); }},
-    Column{"Reference", true,
+    InjectionColumn{"Reference", true,
            [](const Row& row, const Writing& as) { return as.value(row.reference); }},
-    Column{"Measured", true,
+    InjectionColumn{"Measured", true,
            [](const Row& row, const Writing& as) { return as.value(row.measured); }},
-    Column{"Drift", true, [](const Row& row, const Writing& as) { return as.value(row.drift); }},
-    Column{"Span", true, [](const Row& row, const Writing& as) { return as.value(row.span); }},
-    Column{"Manual", false,
+    InjectionColumn{"Drift", true, [](const Row& row, const Writing& as) { return as.value(row.drift); }},
+    InjectionColumn{"Span", true, [](const Row& row, const Writing& as) { return as.value(row.span); }},
+    InjectionColumn{"Manual", false,
            [](const Row& row, const Writing& as) { return as.yesOrNo(row.manual); }},
-    Column{"Unit", false,
+    InjectionColumn{"Unit", false,
            [](const Row& row, const Writing&) {
                return QString(row.isOffline ? "off line" : "on line");
            }},
-    Column{"Parameter", false, [](const Row& row, const Writing&) { return row.parameter; }},
+    InjectionColumn{"Parameter", false, [](const Row& row, const Writing&) { return row.parameter; }},
 };
 
-const Column& columnAt(int column)
+const InjectionColumn& columnAt(int column)
 {
     return kColumns[static_cast<std::size_t>(column)];
 }

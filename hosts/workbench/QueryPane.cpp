@@ -34,7 +34,7 @@ namespace
 {
 
 constexpr int kMostYears = 10;
-constexpr int kMonthsPerYear = 12;
+constexpr int kMonthsOfAYear = 12;
 constexpr int kWidthOfLeft = 30;  ///< In letters.
 constexpr int kMostOfColumn = 40; ///< In letters.
 
@@ -262,7 +262,7 @@ std::optional<Period> QueryPane::period()
         tell("The last day lies ahead of the first.", *lastDay_);
         return std::nullopt;
     }
-    if (*last >= DateAddExact("m", kMostYears * kMonthsPerYear, *first)) {
+    if (*last >= DateAddExact("m", kMostYears * kMonthsOfAYear, *first)) {
         tell(QString("No more than %1 years can be shown at once.").arg(kMostYears), *firstDay_);
         return std::nullopt;
     }

@@ -22,7 +22,7 @@ namespace k7deval::workbench
 namespace
 {
 
-constexpr int kLettersWide = 88;
+constexpr int kPropertiesWide = 88;
 constexpr const char* kFaultOfCapacity = "This is no number above 0 and up to 999999.";
 
 sitedb::SiteDatabase openSite(const QString& path, sitedb::OpenMode mode)
@@ -68,7 +68,7 @@ SiteProperties::SiteProperties(QString sitePath, RegionalSettings regional, QWid
     column->addWidget(makeUnits(site.unitPowers()), 1);
     column->addWidget(fault_);
     column->addWidget(buttons);
-    resize(fontMetrics().averageCharWidth() * kLettersWide, sizeHint().height());
+    resize(fontMetrics().averageCharWidth() * kPropertiesWide, sizeHint().height());
 }
 
 QLabel* SiteProperties::makeFault(QWidget* parent, const QString& name)

@@ -19,7 +19,7 @@ namespace
 constexpr double kTitleSize = 1.6;
 constexpr int kColumnLetters = 70;
 constexpr int kRecentLines = 9;
-constexpr int kPathRole = Qt::UserRole;
+constexpr int kRecentPathRole = Qt::UserRole;
 
 QLabel* makeTitle(QWidget* parent)
 {
@@ -100,7 +100,7 @@ void StartPage::openCurrent()
 {
     const QListWidgetItem* item = recent_->currentItem();
     if (item != nullptr)
-        actions_.openRecent(item->data(kPathRole).toString());
+        actions_.openRecent(item->data(kRecentPathRole).toString());
 }
 
 void StartPage::showWithoutSite(const QStringList& recentSites)
@@ -114,7 +114,7 @@ void StartPage::showWithoutSite(const QStringList& recentSites)
     recent_->clear();
     for (const QString& path : recentSites) {
         auto* item = new QListWidgetItem(entryOf(path), recent_);
-        item->setData(kPathRole, path);
+        item->setData(kRecentPathRole, path);
         item->setToolTip(QDir::toNativeSeparators(path));
     }
     recent_->setCurrentRow(0);

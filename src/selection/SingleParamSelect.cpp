@@ -11,19 +11,19 @@ namespace k7deval
 namespace
 {
 
-constexpr float kDesignWidth = 4590;
-constexpr float kDesignHeight = 825;
-constexpr float kComboHeight = 315;
+constexpr float kSingleWidth = 4590;
+constexpr float kSingleHeight = 825;
+constexpr float kSingleComboHeight = 315;
 constexpr float kDesignTop = 420;
-constexpr float kGapBelowCombo = 45;
+constexpr float kGapBelowUnit = 45;
 
 } // namespace
 
 SingleParamSelect::SingleParamSelect() : Control("SingleParamSelect")
 {
-    setPlace({0, 0, kDesignWidth, kDesignHeight});
-    cmbUnit.setPlace({0, 0, kDesignWidth, kComboHeight});
-    cmbPID.setPlace({0, kDesignTop, kDesignWidth, kComboHeight});
+    setPlace({0, 0, kSingleWidth, kSingleHeight});
+    cmbUnit.setPlace({0, 0, kSingleWidth, kSingleComboHeight});
+    cmbPID.setPlace({0, kDesignTop, kSingleWidth, kSingleComboHeight});
     cmbUnit.Picked.Connect([this] { fillParameters(); });
 }
 
@@ -74,7 +74,7 @@ void SingleParamSelect::Resize(float width, float height)
     if (cmbUnit.Visible())
         unit.Top = 0;
     cmbUnit.setPlace(unit);
-    const float below = unit.Top + unit.Height + kGapBelowCombo;
+    const float below = unit.Top + unit.Height + kGapBelowUnit;
     cmbPID.setPlace({0, cmbUnit.Visible() ? below : 0, width, cmbPID.place().Height});
 }
 

@@ -18,7 +18,7 @@ namespace
 using namespace layout;
 
 constexpr std::uint32_t kBandColor = 0xF0F0F0;
-constexpr const char* kLineBreak = "\r\n";
+constexpr const char* kSummaryLineBreak = "\r\n";
 
 struct Column {
     float centre;
@@ -141,7 +141,7 @@ float DriftReport::DrawSummaryText(ReportPage& page, float y)
 {
     runPosting(test_->irm, NumberedLine::DrawSummaryText, [&] {
         const std::string& text = test_->strSummary;
-        const auto lineBreak = text.find(kLineBreak);
+        const auto lineBreak = text.find(kSummaryLineBreak);
         ReportTextItem& first = addText(page, text.substr(0, lineBreak), kBodyFont, kBodySize);
         alignLeft(first, kLeft, y - first.Height() - kGap);
         y = first.Y();

@@ -19,18 +19,18 @@ using k7deval::test::contentOf;
 using k7deval::test::TemporaryFolder;
 using k7deval::test::writeFile;
 
-Arguments load()
+Arguments loadOfUnit()
 {
     return {"load", "--site", siteOfLoad(), "--minimum", "10", "--capacity", "110"};
 }
 
-Arguments range()
+Arguments rangeOfUnit()
 {
     return {"range", "--site", siteOfGas(), "--scale", "HIGH", "--mec", "20"};
 }
 
 /// The lines of a PDF page that lies as it is read, each with single blanks.
-std::vector<std::string> linesOf(const std::string& pdf)
+std::vector<std::string> linesOfPdf(const std::string& pdf)
 {
     std::istringstream text(k7deval::test::runTool({"pdftotext", "-layout", pdf, "-"}));
     std::vector<std::string> lines;
@@ -54,12 +54,12 @@ protected:
 
 TEST_F(HistogramSave, WritesTheReportOfALoadEvaluation)
 {
-    const CommandRun saved = run(load() + Arguments{"--pdf", pdf_});
+    const CommandRun saved = run(loadOfUnit() + Arguments{"--pdf", pdf_});
     EXPECT_EQ(saved.notes, "");
     EXPECT_EQ(saved.status, 0);
-    EXPECT_EQ(saved.out, run(load()).out);
+    EXPECT_EQ(saved.out, run(loadOfUnit()).out);
     k7deval::test::requireValidPdf(pdf_);
-    const auto lines = linesOf(pdf_);
+    const auto lines = linesOfPdf(pdf_);
     EXPECT_THAT(lines, ::testing::IsSupersetOf(
                            {"Unit One", "Load Evaluation Summary",
                             "Load summary ending the last day of 2021 Q1", "U1 Load",
@@ -71,11 +71,11 @@ TEST_F(HistogramSave, WritesTheReportOfALoadEvaluation)
 
 TEST_F(HistogramSave, WritesTheReportOfARangeEvaluation)
 {
-    const CommandRun saved = run(range() + Arguments{"--pdf", pdf_});
+    const CommandRun saved = run(rangeOfUnit() + Arguments{"--pdf", pdf_});
     EXPECT_EQ(saved.notes, "");
     EXPECT_EQ(saved.status, 0);
     k7deval::test::requireValidPdf(pdf_);
-    const auto lines = linesOf(pdf_);
+    const auto lines = linesOfPdf(pdf_);
     EXPECT_THAT(
         lines,
         ::testing::IsSupersetOf(
@@ -92,7 +92,7 @@ TEST_F(HistogramSave, WritesDatesAndNumbersOfTheRegion)
         run({"load", "--site", siteOfLoad(), "--region", "de-DE", "--minimum", "10,5", "--capacity",
              "110", "--from", "31.03.2021", "--to", "31.03.2021", "--pdf", pdf_});
     ASSERT_EQ(saved.status, 0) << saved.notes;
-    EXPECT_THAT(linesOf(pdf_),
+    EXPECT_THAT(linesOfPdf(pdf_),
                 ::testing::IsSupersetOf({"Load summary from 31.03.2021 to 31.03.2021",
                                          "10,5 40,35 70,2 110",
                                          "Load Evaluation Summary 20.05.2021 12:00"}));
@@ -100,10 +100,10 @@ TEST_F(HistogramSave, WritesDatesAndNumbersOfTheRegion)
 
 TEST_F(HistogramSave, TakesThePlaceOfWhatIsThere)
 {
-    run(load() + Arguments{"--pdf", pdf_});
+    run(loadOfUnit() + Arguments{"--pdf", pdf_});
     const std::string report = contentOf(pdf_);
     writeFile(pdf_, "old");
-    const CommandRun saved = run(load() + Arguments{"--pdf", pdf_});
+    const CommandRun saved = run(loadOfUnit() + Arguments{"--pdf", pdf_});
     EXPECT_EQ(saved.notes, "Delete Existing File? Yes\n");
     EXPECT_EQ(saved.status, 0);
     EXPECT_EQ(contentOf(pdf_), report);
@@ -112,7 +112,7 @@ TEST_F(HistogramSave, TakesThePlaceOfWhatIsThere)
 TEST_F(HistogramSave, SaysWhichFileCouldNotBeWritten)
 {
     const std::string none = folder_.file("none/a.pdf");
-    for (const auto& command : {load(), range()}) {
+    for (const auto& command : {loadOfUnit(), rangeOfUnit()}) {
         const CommandRun noFolder = run(command + Arguments{"--pdf", none});
         EXPECT_EQ(noFolder.notes,
                   none + " could not be written because its folder is not there.\n");
@@ -128,7 +128,7 @@ TEST_F(HistogramSave, KeepsAWriteProtectedFile)
 {
     writeFile(pdf_, "kept");
     std::filesystem::permissions(pdf_, std::filesystem::perms::owner_read);
-    const CommandRun saved = run(range() + Arguments{"--pdf", pdf_});
+    const CommandRun saved = run(rangeOfUnit() + Arguments{"--pdf", pdf_});
     EXPECT_EQ(saved.notes, "Delete Existing File? Yes\n" + pdf_ +
                                " could not be written (Error Deleting File:  70:Permission "
                                "denied).\n");
@@ -140,7 +140,7 @@ TEST_F(HistogramSave, LeavesAFileAloneWithoutAResult)
 {
     writeFile(pdf_, "kept");
     EXPECT_EQ(run({"load", "--site", siteOfLoad(), "--pdf", pdf_}).status, 2);
-    EXPECT_EQ(run(range() + Arguments{"--scale", "MID", "--pdf", pdf_}).status, 2);
+    EXPECT_EQ(run(rangeOfUnit() + Arguments{"--scale", "MID", "--pdf", pdf_}).status, 2);
     EXPECT_EQ(contentOf(pdf_), "kept");
 }
 

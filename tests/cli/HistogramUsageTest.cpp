@@ -30,19 +30,19 @@ void expectRefusals(const Arguments& command, const std::vector<RefusalCase>& ca
     }
 }
 
-Arguments load()
+Arguments loadCommand()
 {
     return {"load", "--site", siteOfLoad()};
 }
 
-Arguments range()
+Arguments rangeCommand()
 {
     return {"range", "--site", siteOfGas()};
 }
 
 TEST(HistogramUsage, PicksOnlyWhatTheListsHold)
 {
-    expectRefusals(load(),
+    expectRefusals(loadCommand(),
                    {
                        {"unit", {"--unit", "U2"}, "There is no unit \"U2\"; the list holds: U1."},
                        {"parameter",
@@ -51,20 +51,21 @@ TEST(HistogramUsage, PicksOnlyWhatTheListsHold)
                         "Load."},
                    });
     expectRefusals(
-        range(), {
-                     {"unit", {"--unit", "U3"}, "There is no unit \"U3\"; the list holds: U1, U2."},
-                     {"parameter",
-                      {"--unit", "U2", "--parameter", "SO2 01"},
-                      "Unit U2 has no parameter \"SO2 01\"; the list holds: NOX 03."},
-                     {"scale",
-                      {"--scale", "MID"},
-                      "U1 SO2 01 has no scale \"MID\"; the list holds: LOW, HIGH."},
-                 });
+        rangeCommand(),
+        {
+            {"unit", {"--unit", "U3"}, "There is no unit \"U3\"; the list holds: U1, U2."},
+            {"parameter",
+             {"--unit", "U2", "--parameter", "SO2 01"},
+             "Unit U2 has no parameter \"SO2 01\"; the list holds: NOX 03."},
+            {"scale",
+             {"--scale", "MID"},
+             "U1 SO2 01 has no scale \"MID\"; the list holds: LOW, HIGH."},
+        });
 }
 
 TEST(HistogramUsage, TakesOnlyQuartersThatThereAre)
 {
-    for (const auto& command : {load(), range()})
+    for (const auto& command : {loadCommand(), rangeCommand()})
         expectRefusals(
             command,
             {
@@ -101,7 +102,7 @@ TEST(HistogramUsage, TakesOnlyNumbersAndDates)
         return "\"" + text + "\" is no number that can be the " + what +
                "; one is written as 1234.5.";
     };
-    expectRefusals(load(),
+    expectRefusals(loadCommand(),
                    {
                        {"minimum", {"--minimum", "low"}, noNumber("low", "minimum")},
                        {"capacity", {"--capacity", "84 MW"}, noNumber("84 MW", "capacity")},
@@ -118,7 +119,7 @@ TEST(HistogramUsage, TakesOnlyNumbersAndDates)
                         "\"2021-02-30\" is no date; one is written as 2024-05-31 or 5/31/2024."},
                    });
     expectRefusals(
-        range(),
+        rangeCommand(),
         {
             {"range", {"--range", "wide"}, noNumber("wide", "range")},
             {"MEC", {"--mec", "N/A"}, noNumber("N/A", "maximum expected concentration")},
@@ -130,10 +131,11 @@ TEST(HistogramUsage, TakesOnePeriod)
 {
     const std::string sentence =
         "--from and --to stand in place of --quarter and --year; they can't be given together.";
-    expectRefusals(load(), {
-                               {"quarter", {"--from", "2021-01-01", "--quarter", "Q1"}, sentence},
-                               {"year", {"--to", "2021-01-01", "--year", "2021"}, sentence},
-                           });
+    expectRefusals(loadCommand(),
+                   {
+                       {"quarter", {"--from", "2021-01-01", "--quarter", "Q1"}, sentence},
+                       {"year", {"--to", "2021-01-01", "--year", "2021"}, sentence},
+                   });
 }
 
 TEST(HistogramUsage, NeedsASiteWithSomethingToEvaluate)
@@ -176,7 +178,7 @@ TEST(HistogramUsage, NeedsAParameter)
 TEST(HistogramUsage, SavesOnlyWhereNothingElseIsLost)
 {
     const TemporaryFolder folder;
-    for (const auto& command : {load(), range()})
+    for (const auto& command : {loadCommand(), rangeCommand()})
         expectRefusals(
             command,
             {

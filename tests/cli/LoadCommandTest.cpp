@@ -127,7 +127,7 @@ TEST(LoadCommand, HoldsTheScreenThatTheControlHas)
               json::parse(toJson(tool.Properties()).dump()));
 }
 
-struct OptionCase {
+struct LoadOption {
     std::string what;
     Arguments arguments;
     std::string property; ///< Of a widget: "cmbUnit/Text".
@@ -136,7 +136,7 @@ struct OptionCase {
 
 TEST(LoadCommand, SetsAWidgetByEachOption)
 {
-    const std::vector<OptionCase> cases{
+    const std::vector<LoadOption> cases{
         {"the first unit", {}, "cmbUnit/Text", "U1"},
         {"a unit", {"--unit", "U1"}, "cmbUnit/Text", "U1"},
         {"the unit's load", {}, "cmbParam/Text", "Load"},

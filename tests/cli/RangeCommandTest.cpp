@@ -108,7 +108,7 @@ TEST(RangeCommand, HoldsTheScreenThatTheControlHas)
               json::parse(toJson(tool.Properties()).dump()));
 }
 
-struct OptionCase {
+struct RangeOption {
     std::string what;
     Arguments arguments;
     std::string property; ///< Of a widget: "cmbUnit/Text".
@@ -118,7 +118,7 @@ struct OptionCase {
 TEST(RangeCommand, SetsAWidgetByEachOption)
 {
     const Arguments so2High{"--scale", "HIGH"};
-    const std::vector<OptionCase> cases{
+    const std::vector<RangeOption> cases{
         {"the first unit", {}, "cmbUnit/Text", "U1"},
         {"a unit", {"--unit", "U2"}, "cmbUnit/Text", "U2"},
         {"its first parameter", {}, "cmbParam/Text", "SO2 01"},

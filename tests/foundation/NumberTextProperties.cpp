@@ -17,7 +17,7 @@ namespace k7deval
 namespace
 {
 
-const RegionalSettings kUs;
+const RegionalSettings kEnglish;
 
 // Any single but the few that are not finite.
 rc::Gen<float> anySingle()
@@ -116,7 +116,7 @@ RC_GTEST_PROP(NumberTextProperties, ASingleIsRoundedOnItsSevenDigits, ())
 {
     const float value = *single();
     const int places = *rc::gen::inRange(0, 10);
-    RC_ASSERT(FormatNumber(value, formatWith(places), kUs) ==
+    RC_ASSERT(FormatNumber(value, formatWith(places), kEnglish) ==
               roundedByHand(printed("%.6e", static_cast<double>(value)), places));
 }
 
@@ -124,7 +124,7 @@ RC_GTEST_PROP(NumberTextProperties, ADoubleIsRoundedOnItsFifteenDigits, ())
 {
     const double value = *anyDouble();
     const int places = *rc::gen::inRange(0, 18);
-    RC_ASSERT(FormatNumber(value, formatWith(places), kUs) ==
+    RC_ASSERT(FormatNumber(value, formatWith(places), kEnglish) ==
               roundedByHand(printed("%.14e", value), places));
 }
 
@@ -132,10 +132,10 @@ RC_GTEST_PROP(NumberTextProperties, TheRoundTripIsTheTextReadBack, ())
 {
     const float value = *single();
     const int places = *rc::gen::inRange(0, 10);
-    const std::string text = FormatNumber(value, formatWith(places), kUs);
+    const std::string text = FormatNumber(value, formatWith(places), kEnglish);
     const float trip = roundTrip(value, places);
     RC_ASSERT(std::bit_cast<std::uint32_t>(trip) ==
-              std::bit_cast<std::uint32_t>(ToSingle(text, kUs)));
+              std::bit_cast<std::uint32_t>(ToSingle(text, kEnglish)));
 }
 
 // Many more singles than a property is tried with, always the same ones.
@@ -150,7 +150,7 @@ TEST(NumberText, TheRoundTripIsTheTextReadBackForSinglesOfEveryMagnitude)
             continue;
         for (const std::string& format : formats) {
             const auto places = static_cast<int>(format.size()) - 2;
-            const float read = ToSingle(FormatNumber(value, format, kUs), kUs);
+            const float read = ToSingle(FormatNumber(value, format, kEnglish), kEnglish);
             ASSERT_EQ(std::bit_cast<std::uint32_t>(roundTrip(value, places)),
                       std::bit_cast<std::uint32_t>(read))
                 << value << " with " << places << " places";
@@ -175,20 +175,20 @@ RC_GTEST_PROP(NumberTextProperties, ASecondRoundTripChangesNothing, ())
 RC_GTEST_PROP(NumberTextProperties, GeneralFormOfASingleIsThatOfPrintf, ())
 {
     const float value = *single();
-    RC_ASSERT(GeneralNumber(value, kUs) ==
+    RC_ASSERT(GeneralNumber(value, kEnglish) ==
               withoutMinusZero(printed("%.7G", static_cast<double>(value))));
 }
 
 RC_GTEST_PROP(NumberTextProperties, GeneralFormOfADoubleIsThatOfPrintf, ())
 {
     const double value = *anyDouble();
-    RC_ASSERT(GeneralNumber(value, kUs) == withoutMinusZero(printed("%.15G", value)));
+    RC_ASSERT(GeneralNumber(value, kEnglish) == withoutMinusZero(printed("%.15G", value)));
 }
 
 RC_GTEST_PROP(NumberTextProperties, GeneralFormOfAMeasuredValueIsThatOfPrintf, ())
 {
     const double value = *rc::gen::inRange(-99999999, 99999999) / 1000.0;
-    RC_ASSERT(GeneralNumber(value, kUs) == withoutMinusZero(printed("%.15G", value)));
+    RC_ASSERT(GeneralNumber(value, kEnglish) == withoutMinusZero(printed("%.15G", value)));
 }
 
 RC_GTEST_PROP(NumberTextProperties, AWrittenDoubleReadsBackToItsFifteenDigits, ())
@@ -196,7 +196,7 @@ RC_GTEST_PROP(NumberTextProperties, AWrittenDoubleReadsBackToItsFifteenDigits, (
     const double value = *rc::gen::suchThat(anyDouble(), [](double candidate) {
         return std::abs(candidate) < 1e308; // Rounded up, the very largest would overflow.
     });
-    RC_ASSERT(toDouble(GeneralNumber(value, kUs), kUs) ==
+    RC_ASSERT(toDouble(GeneralNumber(value, kEnglish), kEnglish) ==
               std::strtod(printed("%.14e", value).c_str(), nullptr));
 }
 

@@ -37,7 +37,7 @@ protected:
     ReportPage& page = layout::addPage(document);
 };
 
-HourBins binsOf(std::initializer_list<std::pair<int, std::int32_t>> hours)
+HourBins hoursInBins(std::initializer_list<std::pair<int, std::int32_t>> hours)
 {
     HourBins bins{};
     for (const auto& [bin, count] : hours)
@@ -121,13 +121,13 @@ TEST_F(HistogramPage, WithoutHoursTheGridStandsAlone)
 
 TEST_F(HistogramPage, HoursAtIndexZeroAreNoBar)
 {
-    draw(binsOf({{0, 5}}));
+    draw(hoursInBins({{0, 5}}));
     EXPECT_EQ(page.Rectangles().Count(), 0);
 }
 
 TEST_F(HistogramPage, EachOfTwentyBarsHasItsPlaceAlsoOneWithoutHours)
 {
-    draw(binsOf({{5, 30}, {20, 120}}));
+    draw(hoursInBins({{5, 30}, {20, 120}}));
     ASSERT_EQ(page.Rectangles().Count(), 20);
     EXPECT_EQ(page.Lines().Count(), 5);
     for (int number = 1; number <= 20; ++number) {
@@ -145,7 +145,7 @@ TEST_F(HistogramPage, EachOfTwentyBarsHasItsPlaceAlsoOneWithoutHours)
 
 TEST_F(HistogramPage, TheHoursStandUprightAboveTheirBarOrInsideWhereThereIsNoRoom)
 {
-    draw(binsOf({{5, 30}, {20, 120}}));
+    draw(hoursInBins({{5, 30}, {20, 120}}));
     ASSERT_EQ(countTexts(page), 2U);
     for (const ReportTextItem& item : page.TextItems())
         EXPECT_EQ(item.Orientation(), 2);
@@ -156,17 +156,17 @@ TEST_F(HistogramPage, TheHoursStandUprightAboveTheirBarOrInsideWhereThereIsNoRoo
 TEST_F(HistogramPage, HoursThatFitBelowTheTopStandAboveTheirBar)
 {
     // 288 of 300 points are filled: two digits of 5.56 fit into the 12 left, three don't.
-    draw(binsOf({{1, 96}, {2, 100}}));
+    draw(hoursInBins({{1, 96}, {2, 100}}));
     expectText(page, {"96", 5, 10, 36 + 18 + kBodyHeight / 2, kBottom + 288 + 1});
     ReportDocument other;
     ReportPage& fuller = layout::addPage(other);
-    histogram::drawBarChart(fuller, kMarks, binsOf({{1, 960}, {2, 1000}}), kBottom, kTop);
+    histogram::drawBarChart(fuller, kMarks, hoursInBins({{1, 960}, {2, 1000}}), kBottom, kTop);
     expectText(fuller, {"960", 5, 10, 36 + 18 + kBodyHeight / 2, kBottom + 288 - 3 * kDigit - 1});
 }
 
 TEST_F(HistogramPage, TheHoursAreTakenAsSingles)
 {
-    draw(binsOf({{1, 16'777'217}, {2, 2'000'000'000}}));
+    draw(hoursInBins({{1, 16'777'217}, {2, 2'000'000'000}}));
     EXPECT_NEAR(bar(1).Height(), 300.0 * 16'777'216 / 2'000'000'000, 1e-5);
     EXPECT_EQ(page.TextItems().begin()->Text(), "16777217");
 }

@@ -14,12 +14,12 @@ namespace k7deval::test
 namespace
 {
 
-constexpr double kBarWidth = 36;
-constexpr double kTolerance = 0.01;
+constexpr double kColumn = 36;
+constexpr double kNear = 0.01;
 
 bool isNear(double a, double b)
 {
-    return std::abs(a - b) <= kTolerance;
+    return std::abs(a - b) <= kNear;
 }
 
 /// A site whose load has so many hours in each bin, from the first on.
@@ -56,13 +56,13 @@ RC_GTEST_PROP(LoadReportProperties, EveryBinHasItsBarAndEveryBarWithHoursItsCoun
     auto text = texts.begin();
     for (std::size_t i = 0; i < 20; ++i) {
         const double height = double(counts[i]) / rig.peak() * (kChartTop - kChartBottom);
-        RC_ASSERT(isNear(bars[i].X(), 36 + kBarWidth * double(i)));
+        RC_ASSERT(isNear(bars[i].X(), 36 + kColumn * double(i)));
         RC_ASSERT(isNear(bars[i].Height(), height));
         if (counts[i] == 0)
             continue;
         RC_ASSERT(text != texts.end());
         RC_ASSERT(text->Text() == std::to_string(counts[i]));
-        RC_ASSERT(isNear(text->X(), 36 + kBarWidth * (double(i) + 0.5) + kBodyHeight / 2));
+        RC_ASSERT(isNear(text->X(), 36 + kColumn * (double(i) + 0.5) + kBodyHeight / 2));
         ++text;
     }
     RC_ASSERT(text == texts.end());
@@ -75,14 +75,14 @@ RC_GTEST_PROP(LoadReportProperties, CountsStandOverTheirBarsOrEndUnderTheirTops,
     const BarsRig rig(counts);
     const auto bars = rectanglesOf(rig.sheet());
     for (const ReportTextItem& text : upwardTexts(rig.sheet())) {
-        const auto bar = static_cast<std::size_t>((text.X() - 36) / kBarWidth);
+        const auto bar = static_cast<std::size_t>((text.X() - 36) / kColumn);
         const double top = double(bars[bar].Y()) + double(bars[bar].Height());
         const double length = widthOf(text.Text());
         const bool isInside = isNear(text.Y() + length, top - 1);
         RC_ASSERT(isInside || isNear(text.Y(), top + 1));
         const double roomAbove = kChartTop - top - length;
-        RC_ASSERT(roomAbove < kTolerance || !isInside);
-        RC_ASSERT(roomAbove > -kTolerance || isInside);
+        RC_ASSERT(roomAbove < kNear || !isInside);
+        RC_ASSERT(roomAbove > -kNear || isInside);
     }
 }
 

@@ -60,7 +60,7 @@ struct DateCase {
     Date date;
 };
 
-const DateCase kDates[] = {
+const DateCase kTypedDates[] = {
     {"2/5/2024", "2/5/2024", makeDate(2024, 2, 5)},
     {"2-5-24", "2/5/2024", makeDate(2024, 2, 5)},
     {"2024-02-05", "2/5/2024", makeDate(2024, 2, 5)},
@@ -205,7 +205,7 @@ TEST(LoadNumbers, AreReadAndWrittenAsTheRegionDoes)
 TEST(LoadDates, ADateIsTakenAndRewrittenAsAShortDate)
 {
     for (const DateField& field : kDateFields) {
-        for (const DateCase& date : kDates) {
+        for (const DateCase& date : kTypedDates) {
             CalculatedRig rig;
             enter(rig.tool.*field.box, date.typed);
             EXPECT_EQ((rig.tool.*field.box).Text(), date.shown) << of(field.name, date.typed);

@@ -26,7 +26,7 @@ constexpr Entry kNumberEntries[] = {{"0", true},  {"100", true},  {"12.5", true}
 constexpr Entry kDateEntries[] = {{"1/1/2024", true}, {"2/20/2024", true}, {"11/15/2023", true},
                                   {"7/1/2023", true}, {"4/2/2022", true},  {"2/30/2024", false},
                                   {"someday", false}, {"10/1/2023", true}};
-constexpr const char* kYears[] = {"2024", "2023", "abc", "1", "2022"};
+constexpr const char* kYearTexts[] = {"2024", "2023", "abc", "1", "2022"};
 
 template <class List> const auto& oneOf(const List& list, int number)
 {
@@ -141,7 +141,7 @@ void CourseRig::changeSetup(int kind, int number)
     case 3:
         return enterText(tool.txtTo, oneOf(kDateEntries, number));
     case 4:
-        return setYear(oneOf(kYears, number), number % 2 == 0);
+        return setYear(oneOf(kYearTexts, number), number % 2 == 0);
     case 5:
         return pick(number % 2 == 0 ? tool.cmbYear : tool.cmbQTR, number % 3);
     case 6:

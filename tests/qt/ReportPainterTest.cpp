@@ -21,8 +21,8 @@ namespace
 {
 
 using k7deval::test::LoadRig;
-using test::PdfImage;
-using test::TemporaryFolder;
+using k7deval::test::PdfImage;
+using k7deval::test::TemporaryFolder;
 
 constexpr int kScale = 4;
 

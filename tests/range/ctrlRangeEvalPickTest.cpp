@@ -9,7 +9,7 @@ namespace k7deval::test
 namespace
 {
 
-struct LimitCase {
+struct PickedLimit {
     std::int32_t code;
     const char* scale;
     const char* mec;
@@ -17,7 +17,7 @@ struct LimitCase {
 };
 
 // A span of 500.
-constexpr LimitCase kLimits[] = {
+constexpr PickedLimit kPickedLimits[] = {
     {120, "SINGLE", "100", "500"}, {120, "LOW", "100", "500"},    {120, "other", "100", "500"},
     {120, "MID", "N/A", "500"},    {120, "HIGH", "N/A", "500"},   {140, "SINGLE", "100", "500"},
     {220, "SINGLE", "N/A", "N/A"}, {230, "SINGLE", "N/A", "N/A"}, {230, "LOW", "N/A", "N/A"},
@@ -93,7 +93,7 @@ TEST(RangePick, AScaleBringsItsSpan)
 
 TEST(RangePick, ProposesTheLimitsOfParameterAndScale)
 {
-    for (const LimitCase& row : kLimits) {
+    for (const PickedLimit& row : kPickedLimits) {
         const RangeRig rig(siteOfCode(row.code, row.scale, 500.0F));
         EXPECT_EQ(rig.tool.txtMEC.Text(), row.mec) << row.code << " " << row.scale;
         EXPECT_EQ(rig.tool.txtMPC.Text(), row.mpc) << row.code << " " << row.scale;

@@ -15,9 +15,9 @@ namespace
 
 constexpr std::array<const char*, 7> kRanges = {"100", "2500", "0.5", "33.3", "10", "62.5", "1E6"};
 /// Usable, off-line, excluded, invalid, and replaced hours.
-constexpr std::array<std::int32_t, 6> kWords = {34, 2, 1, 7, 35, 36};
+constexpr std::array<std::int32_t, 6> kAnyWord = {34, 2, 1, 7, 35, 36};
 
-std::shared_ptr<SiteData> siteOfWords()
+std::shared_ptr<SiteData> siteOfAnyWord()
 {
     auto site = siteOfNOx();
     site->statusMeanings[7] = {.valid = false};
@@ -44,7 +44,7 @@ void addHours(HourlyValues& series, double range)
         const Date first = makeDate(2024, 4 - *rc::gen::inRange(1, 48), *rc::gen::inRange(1, 29));
         const int hours = *rc::gen::element(1, 2, 24, 180, 360, 720);
         const Date last = dateFromSeconds(wholeSeconds(first) + (hours - 1) * 3600);
-        series.fill(first, last, anyValue(range), *rc::gen::elementOf(kWords));
+        series.fill(first, last, anyValue(range), *rc::gen::elementOf(kAnyWord));
     }
 }
 
@@ -201,7 +201,7 @@ void expectScreen(const RangeRig& rig, const Expected& expected)
 RC_GTEST_PROP(RangeProperties, AnyHoursAreCountedAsTheRulesSay, ())
 {
     const std::string range = *rc::gen::elementOf(kRanges);
-    RangeRig rig(siteOfWords());
+    RangeRig rig(siteOfAnyWord());
     RangeQuestion question;
     question.range = ToSingle(range, rig.regional);
     question.quarter = *rc::gen::inRange(1, 3);

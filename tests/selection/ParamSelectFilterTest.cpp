@@ -10,7 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-const std::string kAll = "===All Units===";
 
 } // namespace
 

@@ -13,6 +13,9 @@ namespace k7deval::test
 {
 
 using Lines = std::vector<std::string>;
+
+/// The entry of a filter that lets all parameters through.
+inline const std::string kAll = "===All Units===";
 using PIDs = std::vector<PID>;
 using Indexes = std::vector<std::int32_t>;
 

@@ -9,7 +9,6 @@ namespace k7deval::test
 namespace
 {
 
-const std::string kAll = "===All Units===";
 
 } // namespace
 

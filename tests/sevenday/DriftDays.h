@@ -9,6 +9,11 @@
 namespace k7deval::test
 {
 
+inline const Date kDay = makeDate(2024, 3, 10);
+inline const Date kMorning = makeDate(2024, 3, 10, 8, 15);
+inline const Date kEvening = makeDate(2024, 3, 10, 20, 15);
+inline const Date kNextMorning = makeDate(2024, 3, 11, 8, 15);
+
 using CalRun = std::shared_ptr<cls7DayAnalyzerCal>;
 using CalDay = std::shared_ptr<clsDaySummary>;
 

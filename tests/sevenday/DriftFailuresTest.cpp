@@ -17,7 +17,7 @@ using testing::IsEmpty;
 using Line = std::pair<std::int32_t, std::string>;
 
 constexpr std::int32_t kSeverity = 4;
-constexpr const char* kAbsent = "91, Object variable or With block variable not set";
+constexpr const char* kNotSet = "91, Object variable or With block variable not set";
 
 // Makes the call of that index fail, counted from now.
 void failAt(SiteData& site, std::size_t index)
@@ -151,7 +151,7 @@ TEST(FailingRetrieval, NamesAnAbsentServer)
     giveRecords(rig);
     rig.test.DIServer = nullptr;
     rig.test.RetrieveCals();
-    EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-003: ") + kAbsent));
+    EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-003: ") + kNotSet));
 }
 
 TEST(FailingRetrieval, NamesASourceThatIsNoParameter)
@@ -307,7 +307,7 @@ TEST(FailingDayAnalysis, NamesAnAbsentServer)
     giveThreeDays(rig);
     rig.test.DIServer = nullptr;
     rig.test.EvaluateDriftTest();
-    EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-005: ") + kAbsent));
+    EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-005: ") + kNotSet));
     EXPECT_EQ(rig.test.lngGoodCals, 2);
 }
 
@@ -334,7 +334,7 @@ TEST(WithoutRuns, LimitsCanNotBeApplied)
     DriftRig rig;
     rig.test.ApplyLimits();
     EXPECT_THAT(rig.messages->posted,
-                ElementsAre(Line(kSeverity, std::string("DEval-004: ") + kAbsent)));
+                ElementsAre(Line(kSeverity, std::string("DEval-004: ") + kNotSet)));
 }
 
 TEST(WithoutRuns, TheEvaluationEndsBehindTheDays)
@@ -348,7 +348,7 @@ TEST(WithoutRuns, TheEvaluationEndsBehindTheDays)
     rig.test.EvaluateDriftTest();
 
     EXPECT_THAT(rig.messages->posted,
-                ElementsAre(Line(kSeverity, std::string("DEval-006: ") + kAbsent)));
+                ElementsAre(Line(kSeverity, std::string("DEval-006: ") + kNotSet)));
     EXPECT_THAT(rig.test.dictDays.Keys(), ElementsAre("2024/03/10", "2024/03/11"));
     // The counters are those of the evaluation before.
     EXPECT_EQ(rig.test.lngGoodCals, 2);
@@ -364,8 +364,8 @@ TEST(WithoutRuns, TheSummaryKeepsItsText)
         EXPECT_EQ(rig.test.strSummary, "of the evaluation before");
     }
     EXPECT_THAT(rig.messages->posted,
-                ElementsAre(Line(kSeverity, std::string("DEval-010: ") + kAbsent),
-                            Line(kSeverity, std::string("DEval-010: ") + kAbsent)));
+                ElementsAre(Line(kSeverity, std::string("DEval-010: ") + kNotSet),
+                            Line(kSeverity, std::string("DEval-010: ") + kNotSet)));
 }
 
 TEST(WithoutRuns, NothingEscapesWithoutASink)

@@ -89,7 +89,7 @@ void PrintTo(const RoundedLimitCase& row, std::ostream* out)
     *out << row.percent << "% of " << row.base;
 }
 
-std::string nameOf(const testing::TestParamInfo<RoundedLimitCase>& row)
+std::string nameOfLimit(const testing::TestParamInfo<RoundedLimitCase>& row)
 {
     return row.param.name;
 }
@@ -128,7 +128,7 @@ constexpr RoundedLimitCase kLimitsOfSpan[] = {
     {"ANegativeHalf", -50.02F, 2.5F, -1.251F},
 };
 
-INSTANTIATE_TEST_SUITE_P(Limits, LimitOfSpan, testing::ValuesIn(kLimitsOfSpan), nameOf);
+INSTANTIATE_TEST_SUITE_P(Limits, LimitOfSpan, testing::ValuesIn(kLimitsOfSpan), nameOfLimit);
 
 class LimitOfReference : public testing::TestWithParam<RoundedLimitCase>
 {
@@ -158,7 +158,7 @@ constexpr RoundedLimitCase kLimitsOfReference[] = {
     {"ASecondOfThese", 1.93F, 5, 0.096F},
 };
 
-INSTANTIATE_TEST_SUITE_P(Limits, LimitOfReference, testing::ValuesIn(kLimitsOfReference), nameOf);
+INSTANTIATE_TEST_SUITE_P(Limits, LimitOfReference, testing::ValuesIn(kLimitsOfReference), nameOfLimit);
 
 TEST_F(Limits, GoByTheSpanOfEachRun)
 {

@@ -10,9 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kDay = makeDate(2024, 3, 10);
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-
 /// The footer, three title lines, nine upper and eleven lower head texts.
 constexpr std::size_t kHeadTexts = 24;
 constexpr std::size_t kRowTexts = 11;

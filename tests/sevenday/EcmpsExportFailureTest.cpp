@@ -9,8 +9,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-
 struct FailureRig : ExportRig {
     FailureRig() { show({dayOf(runAt(kMorning))}); }
 

@@ -11,8 +11,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-
 AnalyzerFacts withCode(std::int32_t code, const std::string& unitsText)
 {
     AnalyzerFacts facts;

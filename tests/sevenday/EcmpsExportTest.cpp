@@ -12,8 +12,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-const Date kNextMorning = makeDate(2024, 3, 11, 8, 15);
 
 /// The golden file of that name without the line breaks and indents that make it readable.
 std::string golden(const std::string& name)

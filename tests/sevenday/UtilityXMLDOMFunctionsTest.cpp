@@ -98,7 +98,7 @@ TEST(SetNodeText, WithoutAParentGivesNothing)
     EXPECT_FALSE(SetNodeText(pugi::xml_node(), "A", "1"));
 }
 
-struct DateCase {
+struct ExportedDate {
     const char* what;
     Date value;
     const char* format;
@@ -110,7 +110,7 @@ TEST(SetDateNode, WritesTheDateInItsFormatOrInTheOneThatFits)
     const Date midnight = makeDate(2024, 3, 5);
     const Date morning = makeDate(2024, 3, 5, 8, 7);
     const double second = 1.0 / 86400;
-    const DateCase rows[] = {
+    const ExportedDate rows[] = {
         {"the zero date", {}, "yyyy-mm-dd", ""},
         {"the zero date without a format", {}, "", ""},
         {"months behind years", morning, "yyyy-mm-dd", "2024-03-05"},
@@ -124,7 +124,7 @@ TEST(SetDateNode, WritesTheDateInItsFormatOrInTheOneThatFits)
         {"any other time", morning, "", "2024-03-05 08:07"},
         {"an early year", makeDate(345, 1, 2), "", "0345-01-02"},
     };
-    for (const DateCase& row : rows) {
+    for (const ExportedDate& row : rows) {
         Tree tree;
         const pugi::xml_node element = SetDateNode(tree.root, "When", row.value, row.format);
         EXPECT_EQ(std::string(element.text().as_string()), row.text) << row.what;

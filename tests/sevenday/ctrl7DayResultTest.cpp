@@ -9,10 +9,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-const Date kEvening = makeDate(2024, 3, 10, 20, 15);
-const Date kDay = makeDate(2024, 3, 10);
-
 struct LabelCase {
     const char* name;
     const char* caption;

@@ -10,10 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kDay = makeDate(2024, 3, 10);
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-const Date kEvening = makeDate(2024, 3, 10, 20, 15);
-const Date kNextMorning = makeDate(2024, 3, 11, 8, 15);
 
 const Lines kNothingToShow = {"NA [OfflineFail] light"};
 

@@ -53,13 +53,13 @@ const Action kActions[] = {
 };
 
 /// Which rule a call to the data is made in.
-enum class Rule { None, Unit, Analyzer };
+enum class PickRule { None, Unit, Analyzer };
 
 /// What an undisturbed action does: for each call, the rule that makes it and what stands on the
 /// page at that moment.
 struct Course {
     std::vector<std::string> calls;
-    std::vector<Rule> rules;
+    std::vector<PickRule> rules;
     std::vector<Snapshot> pages;
 };
 
@@ -68,14 +68,14 @@ Course courseOf(const Action& action)
     SetUpRig rig(richSite());
     action.prepare(rig);
     Course course;
-    Rule rule = Rule::None;
+    PickRule rule = PickRule::None;
     rig.page.cmbUnit.Changed.Connect([&] {
         if (rig.page.cmbUnit.ListIndex() == 0)
-            rule = Rule::Unit;
+            rule = PickRule::Unit;
     });
     rig.page.cmbAnalyzer.Changed.Connect([&] {
         if (rig.page.cmbAnalyzer.ListIndex() >= 0)
-            rule = Rule::Analyzer;
+            rule = PickRule::Analyzer;
     });
     rig.site->failure = [&](const std::string& call, std::size_t) -> std::optional<Error> {
         course.calls.push_back(call);
@@ -96,11 +96,11 @@ void failAt(SetUpRig& rig, std::size_t number)
     };
 }
 
-Lines linesOf(Rule rule)
+Lines linesOf(PickRule rule)
 {
-    if (rule == Rule::None)
+    if (rule == PickRule::None)
         return {};
-    return {(rule == Rule::Unit ? "DEval-018: " : "DEval-019: ") + kFailure};
+    return {(rule == PickRule::Unit ? "DEval-018: " : "DEval-019: ") + kFailure};
 }
 
 class SetUpFailure : public ::testing::TestWithParam<Action>
@@ -119,7 +119,7 @@ TEST_P(SetUpFailure, AtAnyCallPostsTheLineOfTheRuleAndLeavesThePageAsItStood)
         failAt(rig, i);
         const int reachedHost = errorOf([&] { return GetParam().act(rig), 0; });
         const std::string where = course.calls[i] + ", call " + std::to_string(i);
-        EXPECT_EQ(reachedHost, course.rules[i] == Rule::None ? 440 : 0) << where;
+        EXPECT_EQ(reachedHost, course.rules[i] == PickRule::None ? 440 : 0) << where;
         EXPECT_EQ(rig.messages->lines(), linesOf(course.rules[i])) << where;
         EXPECT_EQ(changesBetween(course.pages[i], snapshotOf(rig.page)), Lines()) << where;
     }

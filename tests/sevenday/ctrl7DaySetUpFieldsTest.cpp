@@ -139,7 +139,7 @@ TEST(SetUpFields, LimitsAreReadAndShownWithTheRegionsMark)
     EXPECT_EQ(page.txtOtherSpanValue.Text(), "2,5");
 }
 
-struct DateCase {
+struct TypedDate {
     const char* what = nullptr;
     const char* typed = nullptr;
     DateParts date;
@@ -147,7 +147,7 @@ struct DateCase {
 };
 
 // On 10 March 2024, in the region en-US; the field holds 2/10/2024 before.
-const DateCase kDates[] = {
+const TypedDate kDates[] = {
     {"a date", "3/1/2024", {2024, 3, 1}, "3/1/2024"},
     {"leading zeros", "03/01/2024", {2024, 3, 1}, "3/1/2024"},
     {"a date and a time", "3/1/2024 3:05 PM", {2024, 3, 1}, "3/1/2024"},
@@ -171,7 +171,7 @@ const DateCase kDates[] = {
 
 TEST(SetUpFields, ADateIsTakenWithoutItsTimeAndRewrittenOrComesBack)
 {
-    for (const DateCase& row : kDates) {
+    for (const TypedDate& row : kDates) {
         SetUpRig rig;
         auto& page = rig.page;
         SetUpRig::enter(page.txtToDate, "12/31/2099");

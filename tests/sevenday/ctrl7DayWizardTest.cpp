@@ -12,7 +12,7 @@ namespace k7deval::test
 namespace
 {
 
-const std::string kPassed = "The 7-Day Drift Test has been passed.";
+const std::string kTestPassed = "The 7-Day Drift Test has been passed.";
 
 /// The changes outside of the results page.
 Lines outsideResults(Lines changes)
@@ -23,7 +23,7 @@ Lines outsideResults(Lines changes)
     return changes;
 }
 
-Lines treeOf(ToolRig& rig)
+Lines treeOfResults(ToolRig& rig)
 {
     return linesOf(rig.result().tvwCalTimes);
 }
@@ -35,7 +35,7 @@ const Lines kSevenPassed = {
     "3/7/2024 08:15 [OnlinePass] white",
 };
 
-const Lines kNothingToShow = {"NA [OfflineFail] light"};
+const Lines kEmptyTree = {"NA [OfflineFail] light"};
 
 } // namespace
 
@@ -126,9 +126,9 @@ TEST(WizardNext, FillsTheResultsPage)
 {
     ToolRig rig;
     rig.next();
-    EXPECT_EQ(rig.summary(), kPassed);
+    EXPECT_EQ(rig.summary(), kTestPassed);
     EXPECT_EQ(rig.result().lblAnalyzerLabel.Caption(), "GT3 NOX/H");
-    EXPECT_EQ(treeOf(rig), kSevenPassed);
+    EXPECT_EQ(treeOfResults(rig), kSevenPassed);
     EXPECT_EQ(rig.result().lblCalTimeData.Caption(), "3/1/2024 08:15");
     EXPECT_EQ(rig.result().zero.limitData.Caption(), "5");
 }
@@ -163,7 +163,7 @@ TEST(WizardBack, ShowsTheFirstPageAndClearsNothing)
                "cmdNext.Visible: False -> True", "cmdSave.Visible: True -> False",
                "ctrl7DayResult1.Visible: True -> False", "ctrl7DaySetUp1.Visible: False -> True"}));
     EXPECT_EQ(rig.test().lngGoodCals, 7);
-    EXPECT_EQ(rig.test().strSummary, kPassed);
+    EXPECT_EQ(rig.test().strSummary, kTestPassed);
 }
 
 TEST(WizardBack, ThePreviewKeepsWhatTheUserChose)
@@ -180,7 +180,7 @@ TEST(WizardDisplay, UpToTheTestEndLeavesOutWhatComesBehindIt)
 {
     ToolRig rig(siteWithDailyCals(9));
     rig.next();
-    EXPECT_EQ(treeOf(rig), kSevenPassed);
+    EXPECT_EQ(treeOfResults(rig), kSevenPassed);
 }
 
 TEST(WizardDisplay, TheIntervalShowsAll)
@@ -191,7 +191,7 @@ TEST(WizardDisplay, TheIntervalShowsAll)
     Lines expected = kSevenPassed;
     expected.insert(expected.end(),
                     {"3/8/2024 08:15 [OnlinePass] light", "3/9/2024 08:15 [OnlinePass] light"});
-    EXPECT_EQ(treeOf(rig), expected);
+    EXPECT_EQ(treeOfResults(rig), expected);
 }
 
 TEST(WizardDisplay, OnlyDriftCalsLeavesOutWhatIsNotUsed)
@@ -201,14 +201,14 @@ TEST(WizardDisplay, OnlyDriftCalsLeavesOutWhatIsNotUsed)
     ToolRig rig(site);
     rig.setUp().optShowDriftTestCals.Press();
     rig.next();
-    EXPECT_EQ(treeOf(rig), kSevenPassed);
+    EXPECT_EQ(treeOfResults(rig), kSevenPassed);
 }
 
 TEST(WizardDisplay, WithoutCalibrationsTheTreeIsClearedAndTheSummarySaysSo)
 {
     ToolRig rig(operatedSite());
     rig.next();
-    EXPECT_EQ(treeOf(rig), kNothingToShow);
+    EXPECT_EQ(treeOfResults(rig), kEmptyTree);
     EXPECT_EQ(rig.summary(), "There are no calibrations in selected time range.");
     EXPECT_EQ(rig.messages->lines(), Lines());
 }
@@ -220,10 +220,10 @@ TEST(WizardDisplay, WithNothingCountedOnlyTheDisplayOfDriftCalsIsCleared)
     ToolRig rig(site);
     rig.next();
     ASSERT_EQ(rig.test().lngGoodCals + rig.test().lngFailedCals, 0);
-    EXPECT_EQ(treeOf(rig).back(), "3/9/2024 08:15 [OnlineFail] light");
+    EXPECT_EQ(treeOfResults(rig).back(), "3/9/2024 08:15 [OnlineFail] light");
     rig.back().setUp().optShowDriftTestCals.Press();
     rig.next();
-    EXPECT_EQ(treeOf(rig), kNothingToShow);
+    EXPECT_EQ(treeOfResults(rig), kEmptyTree);
 }
 
 TEST(WizardDisplay, AClearedTreeComesBackWithTheNextDisplay)
@@ -234,10 +234,10 @@ TEST(WizardDisplay, AClearedTreeComesBackWithTheNextDisplay)
     for (auto& record : rig.site->records)
         record.manual = true;
     rig.next();
-    EXPECT_EQ(treeOf(rig), kNothingToShow);
+    EXPECT_EQ(treeOfResults(rig), kEmptyTree);
     rig.back().setUp().chkManualCals.Press();
     rig.next();
-    EXPECT_EQ(treeOf(rig), kSevenPassed);
+    EXPECT_EQ(treeOfResults(rig), kSevenPassed);
 }
 
 TEST(WizardDisplay, TheSummaryIsShownOnlyWhenAskedFor)
@@ -248,7 +248,7 @@ TEST(WizardDisplay, TheSummaryIsShownOnlyWhenAskedFor)
     EXPECT_EQ(rig.summary(), "");
     rig.back().setUp().chkShowSummary.Press();
     rig.next();
-    EXPECT_EQ(rig.summary(), kPassed);
+    EXPECT_EQ(rig.summary(), kTestPassed);
 }
 
 TEST(WizardTerminate, DropsTheSinkAndTheData)

@@ -9,6 +9,13 @@
 namespace k7deval::sitedb::test
 {
 
+/// What the first unit of a site has.
+inline constexpr PID kNox = 111'007'501;
+inline constexpr PID kNoxHigh = 111'047'501;
+inline constexpr PID kMercury = 115'007'501;
+inline constexpr PID kOperatingTime = 160'107'501;
+inline constexpr PID kLoad = 160'207'501;
+
 /// All calibration events of a measured parameter on a scale.
 DIRecordList allRecords(const SiteDatabase& site, PID measured, const std::string& scale);
 /// The events from one time to another, of the tables that the 7-Day tool names.

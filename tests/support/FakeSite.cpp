@@ -12,7 +12,7 @@ namespace
 using Site = std::shared_ptr<SiteData>;
 
 /// The constant arguments of a call are part of what the data interface asks for.
-void insistOn(bool promise, const char* what)
+void insistOnCall(bool promise, const char* what)
 {
     if (!promise)
         throw std::logic_error(what);
@@ -35,7 +35,7 @@ public:
     }
     std::string Name(std::int32_t form) override
     {
-        insistOn(form == 0, "Name is called with 0");
+        insistOnCall(form == 0, "Name is called with 0");
         site_->noteCall("DIParameter.Name");
         return data().name;
     }
@@ -69,7 +69,7 @@ public:
     }
     DIDataSet CurrentPoint(std::int32_t a, std::int32_t b, std::int32_t c) override
     {
-        insistOn(a == 0 && b == 0 && c == 0, "CurrentPoint is called with 0, 0, 0");
+        insistOnCall(a == 0 && b == 0 && c == 0, "CurrentPoint is called with 0, 0, 0");
         site_->noteCall("DIParameter.CurrentPoint");
         DIDataSet set;
         set.Init({}, 1, "h", 1, 0);
@@ -131,7 +131,7 @@ public:
     }
     std::shared_ptr<DIParameter> Item(PID pid, std::int32_t form) override
     {
-        insistOn(form == -1, "Item is called with -1");
+        insistOnCall(form == -1, "Item is called with -1");
         site_->noteCall("DIParameters.Item");
         if (!site_->has(pid))
             throw Error(errors::kInvalidCall);
@@ -320,7 +320,7 @@ public:
     DIParameterList ParametersOfUnitTypes(const ParamTypes& types, std::int32_t unit,
                                           std::int32_t form, const std::string& interval) override
     {
-        insistOn(form == 3, "ParametersOfUnitTypes is called with 3");
+        insistOnCall(form == 3, "ParametersOfUnitTypes is called with 3");
         site_->noteCall("DIServer.ParametersOfUnitTypes");
         site_->parameterQueries.push_back({types, unit, interval, {}});
         return parametersWhere(site_, [&](const auto& p) {

@@ -34,10 +34,10 @@ using qt::test::faultsForAScreenReader;
 using qt::test::Operator;
 using qt::test::settle;
 using qt::test::whenDialogComes;
-using test::PdfPage;
-using test::pdfPages;
-using test::PdfWord;
-using test::TemporaryFolder;
+using k7deval::test::PdfPage;
+using k7deval::test::pdfPages;
+using k7deval::test::PdfWord;
+using k7deval::test::TemporaryFolder;
 using ::testing::IsEmpty;
 
 /// Pages with their number in two corners.

@@ -15,12 +15,8 @@ using nlohmann::json;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr PID kNox = 111'007'501;
 constexpr PID kSecondNox = 111'007'502;
 constexpr PID kCo2 = 124'007'501;
-constexpr PID kMercury = 115'007'501;
-constexpr PID kOperatingTime = 160'107'501;
-constexpr PID kLoad = 160'207'501;
 constexpr PID kStackOperatingTime = 260'107'501;
 constexpr PID kStackLoad = 260'207'501;
 constexpr PID kStackFlow = 230'007'501;

@@ -15,7 +15,7 @@ using nlohmann::json;
 using testing::EndsWith;
 using testing::StartsWith;
 
-struct RefusalCase {
+struct EmissionsRefusalCase {
     const char* what;
     const char* operation;
     const char* path;
@@ -23,7 +23,7 @@ struct RefusalCase {
     const char* sentence; ///< Behind the file's name.
 };
 
-constexpr RefusalCase kRefusals[] = {
+constexpr EmissionsRefusalCase kEmissionsRefusals[] = {
     // The file.
     {"no facility", "remove", "/orisCode", "", "orisCode: the field is missing."},
     {"a facility in words", "replace", "/orisCode", R"("54")",
@@ -137,12 +137,12 @@ constexpr RefusalCase kRefusals[] = {
      "HIGH."},
 };
 
-void PrintTo(const RefusalCase& entry, std::ostream* stream)
+void PrintTo(const EmissionsRefusalCase& entry, std::ostream* stream)
 {
     *stream << entry.what;
 }
 
-class EmissionsRefusal : public testing::TestWithParam<RefusalCase>
+class EmissionsRefusal : public testing::TestWithParam<EmissionsRefusalCase>
 {
 };
 
@@ -155,7 +155,7 @@ TEST_P(EmissionsRefusal, NamesFilePathAndFieldAndLeavesTheSiteAsItWas)
     EXPECT_EQ(refusal(held, file, {}), std::string("emissions.json: ") + entry.sentence);
 }
 
-INSTANTIATE_TEST_SUITE_P(Emissions, EmissionsRefusal, testing::ValuesIn(kRefusals));
+INSTANTIATE_TEST_SUITE_P(Emissions, EmissionsRefusal, testing::ValuesIn(kEmissionsRefusals));
 
 /// The sentence with which a text is refused as emissions.json, without the file's name.
 std::string refusalOf(EmptySite& held, const std::string& text, const ImportOptions& options = {})

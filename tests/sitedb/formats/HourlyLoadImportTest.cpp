@@ -12,9 +12,6 @@ namespace
 
 using testing::ElementsAre;
 
-constexpr PID kLoad = 160'207'501;
-constexpr PID kOperatingTime = 160'107'501;
-
 ImportReport importLoad(EmptySite& held, const std::string& table, const std::string& unit)
 {
     return importFile(held.site, held.directory.write("load.csv", table), forUnit(unit));

@@ -52,17 +52,18 @@ TEST(LocationSpans, KeepsWhatTheTableSaysOfMercury)
 {
     EmptySite held;
     importFile(held.site, kCrystalRiver, forUnit("4"));
-    constexpr PID kMercury = 115'047'501;
-    EXPECT_EQ(parameter(held.site, kMercury)->Name(0), "HG/H Calibration");
-    EXPECT_EQ(parameter(held.site, kMercury)->UnitsText(), "\xC2\xB5g/scm");
-    EXPECT_EQ(attributeOf(held.site, kMercury, attribute::kComponentId),
+    constexpr PID kMercuryHigh = 115'047'501;
+    EXPECT_EQ(parameter(held.site, kMercuryHigh)->Name(0), "HG/H Calibration");
+    EXPECT_EQ(parameter(held.site, kMercuryHigh)->UnitsText(), "\xC2\xB5g/scm");
+    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, attribute::kComponentId),
               Variant(std::string("HG")));
-    EXPECT_EQ(attributeOf(held.site, kMercury, planattribute::kFullScaleRange),
+    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kFullScaleRange),
               Variant(std::string("10")));
-    EXPECT_EQ(attributeOf(held.site, kMercury, planattribute::kMaximumPotential),
+    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kMaximumPotential),
               Variant(std::string("10")));
-    EXPECT_EQ(attributeOf(held.site, kMercury, planattribute::kMaximumExpected), Variant(Null{}));
-    EXPECT_EQ(attributeOf(held.site, kMercury, planattribute::kSpanBegin),
+    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kMaximumExpected),
+              Variant(Null{}));
+    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kSpanBegin),
               Variant(std::string("2016-04-16 00:00")));
 }
 

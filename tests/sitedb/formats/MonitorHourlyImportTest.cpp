@@ -14,8 +14,6 @@ namespace
 using testing::ElementsAre;
 
 constexpr PID kSo2 = 110'007'501;
-constexpr PID kNox = 111'007'501;
-constexpr PID kMercury = 115'007'501;
 
 constexpr const char* kHeader = "date,hour,parameter,unadjusted_hourly_value,adjusted_hourly_value,"
                                 "modc,percent_available,bias_adj_factor\r\n";
@@ -133,13 +131,13 @@ TEST(MonitorHourlyImport, TheHoursOfALeapDayAreKept)
                 ElementsAre("1/101", "2/101"));
 }
 
-struct RefusalCase {
+struct HourRefusal {
     const char* what;
     const char* row;
     const char* sentence; ///< Behind the file's name and line.
 };
 
-constexpr RefusalCase kRefusals[] = {
+constexpr HourRefusal kHourRefusals[] = {
     {"a day that does not exist", "2021-02-29,0,NOXC,1,1,01,9,1",
      R"(date: "2021-02-29" is no date.)"},
     {"hour 24", "2021-01-01,24,NOXC,1,1,01,9,1", "hour: 24 is no hour from 0 to 23."},
@@ -159,12 +157,12 @@ constexpr RefusalCase kRefusals[] = {
      "unadjusted_hourly_value: 1E11 lies outside -10000000000 to 10000000000."},
 };
 
-void PrintTo(const RefusalCase& entry, std::ostream* stream)
+void PrintTo(const HourRefusal& entry, std::ostream* stream)
 {
     *stream << entry.what;
 }
 
-class MonitorHourlyRefusal : public testing::TestWithParam<RefusalCase>
+class MonitorHourlyRefusal : public testing::TestWithParam<HourRefusal>
 {
 };
 
@@ -179,7 +177,7 @@ TEST_P(MonitorHourlyRefusal, NamesFileLineAndFieldAndLeavesTheSiteAsItWas)
               std::string("hours.csv: line 3: ") + entry.sentence);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hours, MonitorHourlyRefusal, testing::ValuesIn(kRefusals));
+INSTANTIATE_TEST_SUITE_P(Hours, MonitorHourlyRefusal, testing::ValuesIn(kHourRefusals));
 
 TEST(MonitorHourlyRefusals, HoursOfNobodyAndOfAnUnreadableComponent)
 {

@@ -153,7 +153,6 @@ TEST(PlanImport, KeepsWhatThePlanSaysOfASpan)
 {
     EmptySite held;
     importText(held, "plan.json", smallPlan());
-    constexpr PID kNoxHigh = 111'047'501;
     EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kFullScaleRange), text("250"));
     EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kMaximumPotential), text("180.5"));
     EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kMaximumExpected), text("47"));

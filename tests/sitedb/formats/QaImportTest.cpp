@@ -11,8 +11,6 @@ namespace
 {
 
 constexpr PID kUnit = 100'100'000;
-constexpr PID kNox = 111'007'501;
-constexpr PID kNoxHigh = 111'047'501;
 
 ImportReport importSmallQa(SmallSite& held, const std::string& text, const ImportOptions& options)
 {
@@ -184,8 +182,8 @@ TEST(QaImport, GenuineFilesWithoutSevenDayTestsLeaveNoTrace)
          {"ecmps_qa_54_small.json", "ecmps_qa_54_SCT1_linearity_and_events.json"}) {
         SmallSite held;
         const std::string before = dump(held.site);
-        const auto report =
-            importFile(held.site, k7deval::test::projectFile("tests/sitedb/data/" + name), {});
+        const auto report = importFile(
+            held.site, k7deval::test::projectFile(std::string("tests/sitedb/data/") + name), {});
         EXPECT_EQ(report.counts.front(), "0 tests") << name;
         EXPECT_GE(report.steppedOver.size(), 3U) << name;
         EXPECT_EQ(dump(held.site), before) << name;

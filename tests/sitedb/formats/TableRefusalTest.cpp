@@ -8,13 +8,13 @@ namespace k7deval::sitedb::test
 namespace
 {
 
-struct TableFault {
+struct RefusedTable {
     const char* what;
     const char* content;
     const char* sentence; ///< Behind the file name.
 };
 
-void PrintTo(const TableFault& fault, std::ostream* stream)
+void PrintTo(const RefusedTable& fault, std::ostream* stream)
 {
     *stream << fault.what;
 }
@@ -22,7 +22,7 @@ void PrintTo(const TableFault& fault, std::ostream* stream)
 #define SPANS "unit_id,component_id,component_type,span_scale,span_value,units\n"
 
 // The site has U1 010 NOX H and L, and U1 020 CO2 with one scale.
-constexpr TableFault kSpanFaults[] = {
+constexpr RefusedTable kSpanFaults[] = {
     {"no rows", SPANS, "the table has no rows."},
     {"a column is missing",
      "unit_id,component_id,component_type,span_scale,span_value\nU2,1,NOX,H,1\n",
@@ -93,7 +93,7 @@ constexpr TableFault kSpanFaults[] = {
 #define LOAD "date,hour,gross_load_mw,heat_input_mmbtu\n"
 
 // The site has the hours 0 and 1 of 2020-01-01 for U1.
-constexpr TableFault kLoadFaults[] = {
+constexpr RefusedTable kLoadFaults[] = {
     {"no rows", LOAD, "the table has no rows."},
     {"a column stands twice", "date,hour,gross_load_mw,hour\n2020-01-02,0,1,0\n",
      R"(line 1: the column "hour" stands there twice.)"},
@@ -135,7 +135,7 @@ struct SiteWithLoad : SmallSite {
     }
 };
 
-class SpanTableRefusal : public testing::TestWithParam<TableFault>
+class SpanTableRefusal : public testing::TestWithParam<RefusedTable>
 {
 };
 
@@ -148,7 +148,7 @@ TEST_P(SpanTableRefusal, NamesFileLineAndFieldAndLeavesTheSiteAsItWas)
 
 INSTANTIATE_TEST_SUITE_P(Spans, SpanTableRefusal, testing::ValuesIn(kSpanFaults));
 
-class HourlyLoadRefusal : public testing::TestWithParam<TableFault>
+class HourlyLoadRefusal : public testing::TestWithParam<RefusedTable>
 {
 };
 

@@ -10,7 +10,7 @@ namespace k7deval::sitedb::test
 namespace
 {
 
-const std::string kLoad = "date,hour,gross_load_mw\n2020-01-01,0,10\n2020-01-01,1,0\n";
+const std::string kTwoHours = "date,hour,gross_load_mw\n2020-01-01,0,10\n2020-01-01,1,0\n";
 
 TEST(FileRefusal, AFileThatIsNotThere)
 {
@@ -62,7 +62,7 @@ TEST(FileRefusal, AContentOfNoKnownFormat)
 TEST(FileRefusal, AGzipFileThatIsCutOffAnywhere)
 {
     SmallSite held;
-    const std::string packed = gzip(kLoad);
+    const std::string packed = gzip(kTwoHours);
     for (std::size_t length = 2; length < packed.size(); ++length) {
         const auto file = held.directory.write("load.csv.gz", packed.substr(0, length));
         EXPECT_EQ(refusal(held, file, forUnit("U1")), "load.csv.gz: the gzip file is cut off.")
@@ -81,7 +81,7 @@ TEST(FileRefusal, ALongGzipFileThatIsCutOffInTheMiddle)
 TEST(FileRefusal, AGzipFileWithAChangedByte)
 {
     SmallSite held;
-    std::string packed = gzip(kLoad);
+    std::string packed = gzip(kTwoHours);
     packed[packed.size() - 6] = static_cast<char>(packed[packed.size() - 6] ^ 1);
     EXPECT_EQ(refusal(held, held.directory.write("load.csv.gz", packed), forUnit("U1")),
               "load.csv.gz: the gzip file is damaged.");
@@ -91,7 +91,7 @@ TEST(FileRefusal, AGzipFileWithSomethingBehindIt)
 {
     SmallSite held;
     EXPECT_EQ(
-        refusal(held, held.directory.write("load.csv.gz", gzip(kLoad) + "rest"), forUnit("U1")),
+        refusal(held, held.directory.write("load.csv.gz", gzip(kTwoHours) + "rest"), forUnit("U1")),
         "load.csv.gz: the gzip file is damaged.");
 }
 
@@ -111,7 +111,7 @@ TEST(FileRefusal, ASiteOpenForReadingOnlyTakesNothing)
     auto reader = SiteDatabase::open(held.path, OpenMode::ReadOnly);
     const std::string before = readFile(held.path);
     try {
-        importFile(reader, held.directory.write("load.csv", kLoad), forUnit("U1"));
+        importFile(reader, held.directory.write("load.csv", kTwoHours), forUnit("U1"));
         FAIL();
     } catch (const Error& error) {
         EXPECT_EQ(error.number(), errors::kPermissionDenied);
@@ -125,7 +125,7 @@ TEST(FileRefusal, ASiteThatAnotherProgramWritesToTakesNothing)
 {
     SmallSite held;
     auto other = SiteDatabase::open(held.path, OpenMode::ReadWrite);
-    const auto file = held.directory.write("load.csv", kLoad);
+    const auto file = held.directory.write("load.csv", kTwoHours);
     const sql::Transaction writing(other.connection());
     try {
         importFile(held.site, file, forUnit("U1"));

@@ -11,8 +11,6 @@ namespace k7deval::sitedb::test
 namespace
 {
 
-constexpr PID kNox = 111'007'501;
-
 /// A site with records of two tables, put in out of their order.
 struct SiteWithRecords : SmallSite {
     SiteWithRecords()
@@ -55,7 +53,7 @@ TEST(SiteRecords, ComeInTheOrderOfTimeZeroGasFirst)
                      "2020/03/02 07:15 2"}));
 }
 
-struct RangeCase {
+struct PeriodCase {
     const char* what = "";
     Date start;
     Date end;
@@ -65,7 +63,7 @@ struct RangeCase {
 TEST(SiteRecords, BothEndsOfARangeBelongToIt)
 {
     SiteWithRecords held;
-    const RangeCase cases[] = {
+    const PeriodCase cases[] = {
         {"the minute itself", makeDate(2020, 3, 1, 6, 10), makeDate(2020, 3, 1, 6, 10), 2},
         {"up to a second before", makeDate(2020, 3, 1), makeDate(2020, 3, 1, 6, 9, 59), 0},
         {"from a second after", makeDate(2020, 3, 1, 6, 10, 1), makeDate(2020, 3, 2), 1},

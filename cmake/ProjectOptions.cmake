@@ -14,6 +14,8 @@ option(K7DEVAL_JUMBO "Compile several sources at once" OFF)
 set(CMAKE_UNITY_BUILD ${K7DEVAL_JUMBO})
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 12 CACHE STRING "How many sources at once")
 
+include(Layers)
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
@@ -48,4 +50,5 @@ function(k7deval_add_library name)
         PUBLIC ${ARG_DEPENDS}
         PRIVATE $<BUILD_INTERFACE:k7deval_options> ${ARG_PRIVATE_DEPENDS})
     set_target_properties(k7deval_${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    k7deval_keep_to_layer(k7deval_${name} ${name} ${ARG_DEPENDS} ${ARG_PRIVATE_DEPENDS})
 endfunction()

@@ -22,21 +22,22 @@ case "${1:-}" in
 esac
 
 need "${build_packages[@]}"
-quietly cmake --preset release -DK7DEVAL_BUILD_TESTS=OFF
-quietly cmake --build --preset release
+step "[1/3] Configuring" cmake --preset release -DK7DEVAL_BUILD_TESTS=OFF
+step "[2/3] Building" cmake --build --preset release
 programs=build/release/hosts
 case $mode in
 cli)
+    echo "[3/3] The sample round"
     scripts/sample-round.sh $programs/cli/k7deval out
     echo
     echo "Reports (PDF) and ECMPS exports (XML) are in $(pwd)/out."
     ;;
 screenshots)
-    quietly scripts/sample-round.sh $programs/cli/k7deval out
+    step "[3/3] Making the sample sites" scripts/sample-round.sh $programs/cli/k7deval out
     $programs/workbench/k7deval-screenshots out data/bethpage "$2"
     ;;
 desktop)
-    quietly scripts/sample-round.sh $programs/cli/k7deval out
+    step "[3/3] Making the sample sites" scripts/sample-round.sh $programs/cli/k7deval out
     $programs/workbench/k7deval-workbench out/{bethpage,barrett,crystal-river,flint-creek}.site
     ;;
 esac

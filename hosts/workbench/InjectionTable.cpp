@@ -119,25 +119,29 @@ using Row = InjectionRow;
 
 const std::array kColumns{
     InjectionColumn{"Run time", false,
-           [](const Row& row, const Writing& as) { return as.time(row.runTime); }},
+                    [](const Row& row, const Writing& as) { return as.time(row.runTime); }},
     InjectionColumn{"Injection end", false,
-           [](const Row& row, const Writing& as) { return as.time(row.injectionEnd); }},
-    InjectionColumn{"Scale", false, [](const Row& row, const Writing&) { return qt::toQString(row.scale); }},
+                    [](const Row& row, const Writing& as) { return as.time(row.injectionEnd); }},
+    InjectionColumn{"Scale", false,
+                    [](const Row& row, const Writing&) { return qt::toQString(row.scale); }},
     InjectionColumn{"Gas level", false,
-           [](const Row& row, const Writing&) { return qt::toQString(row.gasLevel); }},
+                    [](const Row& row, const Writing&) { return qt::toQString(row.gasLevel); }},
     InjectionColumn{"Reference", true,
-           [](const Row& row, const Writing& as) { return as.value(row.reference); }},
+                    [](const Row& row, const Writing& as) { return as.value(row.reference); }},
     InjectionColumn{"Measured", true,
-           [](const Row& row, const Writing& as) { return as.value(row.measured); }},
-    InjectionColumn{"Drift", true, [](const Row& row, const Writing& as) { return as.value(row.drift); }},
-    InjectionColumn{"Span", true, [](const Row& row, const Writing& as) { return as.value(row.span); }},
+                    [](const Row& row, const Writing& as) { return as.value(row.measured); }},
+    InjectionColumn{"Drift", true,
+                    [](const Row& row, const Writing& as) { return as.value(row.drift); }},
+    InjectionColumn{"Span", true,
+                    [](const Row& row, const Writing& as) { return as.value(row.span); }},
     InjectionColumn{"Manual", false,
-           [](const Row& row, const Writing& as) { return as.yesOrNo(row.manual); }},
+                    [](const Row& row, const Writing& as) { return as.yesOrNo(row.manual); }},
     InjectionColumn{"Unit", false,
-           [](const Row& row, const Writing&) {
-               return QString(row.isOffline ? "off line" : "on line");
-           }},
-    InjectionColumn{"Parameter", false, [](const Row& row, const Writing&) { return row.parameter; }},
+                    [](const Row& row, const Writing&) {
+                        return QString(row.isOffline ? "off line" : "on line");
+                    }},
+    InjectionColumn{"Parameter", false,
+                    [](const Row& row, const Writing&) { return row.parameter; }},
 };
 
 const InjectionColumn& columnAt(int column)

@@ -10,7 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-
 } // namespace
 
 TEST(ParamSelectFilter, ListsAllUnitsAndThenEachUnit)

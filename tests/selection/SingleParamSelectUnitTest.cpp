@@ -9,7 +9,6 @@ namespace k7deval::test
 namespace
 {
 
-
 } // namespace
 
 TEST(SingleParamSelectFilter, ListsAllUnitsAndThenEachUnit)

@@ -158,7 +158,8 @@ constexpr RoundedLimitCase kLimitsOfReference[] = {
     {"ASecondOfThese", 1.93F, 5, 0.096F},
 };
 
-INSTANTIATE_TEST_SUITE_P(Limits, LimitOfReference, testing::ValuesIn(kLimitsOfReference), nameOfLimit);
+INSTANTIATE_TEST_SUITE_P(Limits, LimitOfReference, testing::ValuesIn(kLimitsOfReference),
+                         nameOfLimit);
 
 TEST_F(Limits, GoByTheSpanOfEachRun)
 {

@@ -12,7 +12,6 @@ namespace k7deval::test
 namespace
 {
 
-
 /// The golden file of that name without the line breaks and indents that make it readable.
 std::string golden(const std::string& name)
 {

@@ -10,7 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-
 const Lines kNothingToShow = {"NA [OfflineFail] light"};
 
 Lines treeOf(const std::vector<CalDay>& days)

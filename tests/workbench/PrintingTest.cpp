@@ -30,14 +30,14 @@ namespace
 
 using k7deval::test::FakeServices;
 using k7deval::test::FixedClock;
-using qt::test::faultsForAScreenReader;
-using qt::test::Operator;
-using qt::test::settle;
-using qt::test::whenDialogComes;
 using k7deval::test::PdfPage;
 using k7deval::test::pdfPages;
 using k7deval::test::PdfWord;
 using k7deval::test::TemporaryFolder;
+using qt::test::faultsForAScreenReader;
+using qt::test::Operator;
+using qt::test::settle;
+using qt::test::whenDialogComes;
 using ::testing::IsEmpty;
 
 /// Pages with their number in two corners.

@@ -11,12 +11,12 @@ namespace k7deval::sitedb::test
 namespace
 {
 
-struct Database {
+struct CountedDatabase {
     TemporaryDirectory directory;
     std::shared_ptr<sql::Connection> connection =
         sql::openSqlite(directory / "test.db", sql::Access::ReadWrite);
 
-    Database()
+    CountedDatabase()
     {
         connection->execute("CREATE TABLE thing (id INTEGER PRIMARY KEY, value REAL, name TEXT)" +
                             connection->dialect().tableOptions());
@@ -43,7 +43,7 @@ template <class Call> std::string errorOf(const Call& call)
 
 TEST(Sql, ValuesComeBackWithTheirTypes)
 {
-    Database held;
+    CountedDatabase held;
     held.connection->execute("INSERT INTO thing VALUES ($1, $2, $3)", std::int64_t{1} << 40U, 0.1,
                              std::string("a\0b", 3));
     held.connection->execute("INSERT INTO thing VALUES ($1, $2, $3)", std::int64_t{1}, sql::Value(),
@@ -62,7 +62,7 @@ TEST(Sql, ValuesComeBackWithTheirTypes)
 
 TEST(Sql, AColumnOfAnotherTypeIsAnError)
 {
-    Database held;
+    CountedDatabase held;
     const auto row = held.connection->prepare("SELECT 'text', 5000000000, NULL");
     row->step();
     EXPECT_EQ(errorOf([&] { static_cast<void>(row->integer(0)); }),
@@ -77,7 +77,7 @@ TEST(Sql, AColumnOfAnotherTypeIsAnError)
 
 TEST(Sql, AStatementRunsAgainWithOtherParameters)
 {
-    Database held;
+    CountedDatabase held;
     const auto insert = held.connection->prepare("INSERT INTO thing (name) VALUES ($1)");
     insert->run(std::string("a"));
     insert->run(std::string("b"));
@@ -89,7 +89,7 @@ TEST(Sql, AStatementRunsAgainWithOtherParameters)
 
 TEST(Sql, ATransactionThatIsNotCommittedLeavesNothing)
 {
-    Database held;
+    CountedDatabase held;
     {
         const sql::Transaction transaction(*held.connection);
         held.connection->execute("INSERT INTO thing (name) VALUES ('a')");
@@ -104,7 +104,7 @@ TEST(Sql, ATransactionThatIsNotCommittedLeavesNothing)
 
 TEST(Sql, ATransactionIsTakenBackWhileAStatementIsStillReading)
 {
-    Database held;
+    CountedDatabase held;
     held.connection->execute("INSERT INTO thing (name) VALUES ('a'), ('b')");
     const auto rows = held.connection->prepare("SELECT id FROM thing");
     {
@@ -117,28 +117,28 @@ TEST(Sql, ATransactionIsTakenBackWhileAStatementIsStillReading)
 
 TEST(Sql, ATableKeepsItsTypes)
 {
-    Database held;
+    CountedDatabase held;
     EXPECT_EQ(errorOf([&] { held.connection->execute("INSERT INTO thing (value) VALUES ('x')"); }),
               "test.db: the database reports: cannot store TEXT value in REAL column thing.value.");
 }
 
 TEST(Sql, AWrongQueryIsAnErrorOfTheDatabase)
 {
-    Database held;
+    CountedDatabase held;
     EXPECT_EQ(errorOf([&] { static_cast<void>(held.connection->prepare("SELECT missing")); }),
               "test.db: the database reports: no such column: missing.");
 }
 
 TEST(Sql, ParametersOutOfOrderAreRefused)
 {
-    Database held;
+    CountedDatabase held;
     EXPECT_EQ(errorOf([&] { static_cast<void>(held.connection->prepare("SELECT $2, $1")); }),
               "The parameters of a query are out of order: SELECT $2, $1");
 }
 
 TEST(Sql, AReferenceToAnUnknownRowIsRefused)
 {
-    Database held;
+    CountedDatabase held;
     held.connection->execute("CREATE TABLE part (thing INTEGER REFERENCES thing (id))");
     EXPECT_NE(errorOf([&] { held.connection->execute("INSERT INTO part VALUES (7)"); }),
               "no error");
@@ -146,7 +146,7 @@ TEST(Sql, AReferenceToAnUnknownRowIsRefused)
 
 TEST(Sql, AStampIsKept)
 {
-    Database held;
+    CountedDatabase held;
     EXPECT_EQ(held.connection->applicationMark(), 0);
     EXPECT_EQ(held.connection->schemaVersion(), 0);
     held.connection->stamp(12, 34);

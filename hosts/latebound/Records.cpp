@@ -14,7 +14,7 @@ DIRecordList RecordStore::ReadRangeRecords(const RangeRecordQuery& query)
 
 DIRecordList RecordStore::ReadRecords(const RecordQuery& query)
 {
-    return object_.list<Record, DIRecord>(
+    return object_.optionalItems<Record, DIRecord>(
         "ReadRecords", {query.siteKey, query.argument2, query.argument3, query.argument4,
                         query.argument5, query.argument6, query.pid, query.argument8,
                         query.argument9, query.argument10, query.table});

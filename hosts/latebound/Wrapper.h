@@ -63,6 +63,21 @@ public:
         return result;
     }
 
+    /// The items of a member that may be missing, and nothing for each item that is.
+    template <class Object, class Item>
+    [[nodiscard]] std::vector<std::shared_ptr<Item>> optionalItems(const char* name,
+                                                                   Arguments arguments = {}) const
+    {
+        std::vector<std::shared_ptr<Item>> result;
+        const ObjectHandle collection = object_->object(name, arguments);
+        if (!collection)
+            return result;
+        for (ObjectHandle& item : collection->items())
+            result.push_back(item ? std::make_shared<Object>(Wrapper(std::move(item), region_))
+                                  : nullptr);
+        return result;
+    }
+
 private:
     ObjectHandle object_;
     Region region_;

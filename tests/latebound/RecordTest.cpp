@@ -84,11 +84,31 @@ TEST(LateRecordStore, PassesTheQueryInTheOrderOfTheDataInterface)
                             "AM, '', 0, 5, '', '', '', 'A')"));
 }
 
-TEST(LateRecordStore, WithoutACollectionIsAnAbsentObject)
+TEST(LateRecordStore, HasNoRecordsWithoutACollection)
 {
     RecordStore records(wrapped(fake({{"ReadRecords", ObjectHandle()}})));
 
-    EXPECT_EQ(errorOf([&] { return records.ReadRecords({}); }), errors::kObjectNotSet);
+    EXPECT_TRUE(records.ReadRecords({}).empty());
+}
+
+TEST(LateRecordStore, LeavesTheRecordsThatAreNothing)
+{
+    const FakeHandle record = fake({{"Scale", Variant(std::string("LOW"))}});
+    RecordStore records(wrapped(fake({{"ReadRecords", fakeCollection({nullptr, record})}})));
+
+    const DIRecordList found = records.ReadRecords({});
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0], nullptr);
+    EXPECT_EQ(found[1]->Scale(), "LOW");
+}
+
+TEST(LateRecordStore, NeedsTheRecordsOfAnIntervalToBeThere)
+{
+    RecordStore none(wrapped(fake({{"ReadRangeRecords", ObjectHandle()}})));
+    RecordStore nothing(wrapped(fake({{"ReadRangeRecords", fakeCollection({nullptr})}})));
+
+    EXPECT_EQ(errorOf([&] { return none.ReadRangeRecords({}); }), errors::kObjectNotSet);
+    EXPECT_EQ(errorOf([&] { return nothing.ReadRangeRecords({}); }), errors::kObjectNotSet);
 }
 
 } // namespace

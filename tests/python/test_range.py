@@ -73,3 +73,33 @@ def test_the_tool_is_a_control_with_an_end():
     tool.CloseClicked.Connect(lambda: closed.append(True))
     tool.cmdClose.Press()
     assert closed == [True]
+
+
+class Span:
+    """A record of a definition that is asked for its span alone."""
+
+    def __init__(self, span):
+        self.Span = span
+
+
+@pytest.mark.parametrize(
+    "records, span",
+    [
+        (None, 100.0),
+        ([], 100.0),
+        ([None], 100.0),
+        ([None, None], 100.0),
+        ([None, Span(60.0)], 100.0),
+        ((record for record in [None]), 100.0),
+        ([Span(60.0), None], 60.0),
+        ([Span(None), Span(60.0)], 100.0),
+        ([Span("60")], 60.0),
+        ([Span("wide")], 100.0),
+    ],
+)
+def test_a_span_that_is_not_told_is_100(records, span):
+    site = range_site(VALUES)
+    site.definitions[NOX_CAL] = records
+    tool = k7deval.ctrlRangeEval()
+    tool.DIServer = site
+    assert tool.UnitCatalogue == {UNIT: {NOX: {3: span}}}

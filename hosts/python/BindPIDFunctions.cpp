@@ -44,12 +44,15 @@ void bindPIDFunctions(py::module_& module)
     module.def(
         "PIDToText", [](Int32 pid) { return PIDToText(pid); }, "pid"_a,
         "The PID as \"12-345-6-78-90\"; empty for one that is not valid.");
-    module.def("TextToPID", &TextToPID, "text"_a, "bracketed"_a,
-               "The PID at the end of a text, or in the square brackets that open it; else 0.");
+    module.def(
+        "TextToPID",
+        [](const Text& text, bool bracketed) { return TextToPID(text.value, bracketed); }, "text"_a,
+        "bracketed"_a,
+        "The PID at the end of a text, or in the square brackets that open it; else 0.");
     module.def(
         "TakeFieldFromRight",
-        [](const std::string& text, Int32 maxDigits) {
-            FieldFromRight taken = TakeFieldFromRight(text, maxDigits);
+        [](const Text& text, Int32 maxDigits) {
+            FieldFromRight taken = TakeFieldFromRight(text.value, maxDigits);
             return py::make_tuple(taken.field, taken.rest);
         },
         "text"_a, "maxDigits"_a,

@@ -3,6 +3,7 @@
 #include "foundation/NumberText.h"
 #include "python/Binding.h"
 
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -52,29 +53,29 @@ void bindNumberTexts(py::module_& module, const HostStateHandle& state)
         "text"_a, "Whether a text is a number as the region writes it.");
     module.def(
         "ToSingle",
-        [state](const std::string& text) { return pythonValue(ToSingle(text, *state->regional)); },
+        [state](const Text& text) { return pythonValue(ToSingle(text.value, *state->regional)); },
         "text"_a,
-        "The number in a text as a Single. Error 13 for a text that is not numeric, 6 out of a\n"
-        "single's range.");
+        "The number in a text as a Single. Error 13 for a text that is not numeric, 94 for\n"
+        "None, 6 out of a single's range.");
 }
 
 void bindDateTexts(py::module_& module, const HostStateHandle& state)
 {
     module.def(
         "IsDate",
-        [state](const std::string& text) {
-            return IsDate(text, *state->regional, state->clock.now());
+        [state](const std::optional<std::string>& text) {
+            return text && IsDate(*text, *state->regional, state->clock.now());
         },
         "text"_a, "Whether a text is a date, a time or both, as the region writes them.");
     module.def(
         "ToDate",
-        [state](const std::string& text) {
-            return ToDate(text, *state->regional, state->clock.now());
+        [state](const Text& text) {
+            return ToDate(text.value, *state->regional, state->clock.now());
         },
         "text"_a,
         "The date in a text. A missing year is the present one; a time alone lies on NoDate. "
         "Error\n"
-        "13 for a text that is no date.");
+        "13 for a text that is no date, 94 for None.");
     module.def(
         "ShortDate", [state](Date value) { return ShortDate(value, *state->regional); }, "value"_a,
         "The date as the region writes it, such as \"3/10/2024\".");

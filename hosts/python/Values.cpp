@@ -260,4 +260,15 @@ bool type_caster<k7deval::python::Float32>::load(handle source, bool)
     return number.has_value();
 }
 
+bool type_caster<k7deval::python::Text>::load(handle source, bool convert)
+{
+    if (source.is_none())
+        throw k7deval::Error(k7deval::errors::kInvalidUseOfNull);
+    make_caster<std::string> text;
+    if (!text.load(source, convert))
+        return false;
+    value = {cast_op<std::string&&>(std::move(text))};
+    return true;
+}
+
 } // namespace pybind11::detail

@@ -30,6 +30,11 @@ struct Float32 {
     operator float() const { return value; }
 };
 
+/// A text of a caller; error 94 for None.
+struct Text {
+    std::string value;
+};
+
 /// Module that holds the values of pure Python: Error, Empty, NoDate, Single, DI1Params.
 pybind11::module_ valuesModule();
 
@@ -92,6 +97,11 @@ template <> struct type_caster<k7deval::python::Int32> {
 template <> struct type_caster<k7deval::python::Float32> {
     PYBIND11_TYPE_CASTER(k7deval::python::Float32, const_name("float"));
     bool load(handle source, bool);
+};
+
+template <> struct type_caster<k7deval::python::Text> {
+    PYBIND11_TYPE_CASTER(k7deval::python::Text, const_name("str"));
+    bool load(handle source, bool convert);
 };
 
 template <> struct type_caster<k7deval::Variant> {

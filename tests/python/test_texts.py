@@ -92,3 +92,30 @@ def test_a_control_follows_the_region_that_is_in_force():
     tool.txtCapacity.Type("12,5")
     tool.txtCapacity.Leave()
     assert tool.CapacityValue == 12.5
+
+
+@pytest.mark.parametrize(
+    "convert",
+    [
+        k7deval.ToSingle,
+        k7deval.ToDate,
+        k7deval.GeneralNumber,
+        lambda value: k7deval.FormatNumber(value, "0.0"),
+        lambda value: k7deval.TextToPID(value, False),
+        lambda value: k7deval.TakeFieldFromRight(value, 2),
+    ],
+    ids=["ToSingle", "ToDate", "GeneralNumber", "FormatNumber", "TextToPID", "TakeFieldFromRight"],
+)
+def test_null_is_no_text_and_no_number(convert, raises_error):
+    error = raises_error(lambda: convert(None))
+    assert (error.number, error.description) == (94, "Invalid use of Null")
+
+
+def test_null_is_neither_a_number_nor_a_date():
+    assert not k7deval.IsNumeric(None)
+    assert not k7deval.IsDate(None)
+
+
+def test_a_text_is_asked_for_by_type():
+    with pytest.raises(TypeError):
+        k7deval.ToDate(5)

@@ -23,20 +23,17 @@ void checkTargets(const DriftRequest& request)
         throw UsageError("--pdf and --xml name the same file.");
 }
 
-nlohmann::ordered_json screenAsJson(const DriftSession& session)
+PropertyList documentOfSession(const DriftSession& session)
 {
-    nlohmann::ordered_json document;
-    document["Screen"] = toJson(session.control().Properties());
-    document["Test"] = toJson(session.control().test());
-    document["Messages"] = session.postedLines();
-    return document;
+    return documentOf(session.control(), {{"Test", {session.control().test().Properties()}}},
+                      session.postedLines());
 }
 
 void printScreen(DriftSession& session, bool json, const Console& console)
 {
     ctrl7DayResult& results = session.control().ctrl7DayResult1;
     if (json)
-        printJson(screenAsJson(session), console.out);
+        printJson(documentOfSession(session), console.out);
     else if (results.Visible())
         printResults(results, console.out);
     for (const auto& line : session.postedLines())

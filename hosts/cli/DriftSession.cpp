@@ -9,14 +9,6 @@
 namespace k7deval::cli
 {
 
-namespace
-{
-
-constexpr std::int32_t kPdfEntry = 1;
-constexpr std::int32_t kEcmpsEntry = 2;
-
-} // namespace
-
 DriftSession::DriftSession(const std::shared_ptr<DIServer>& server, const Clock& clock,
                            const RegionalSettings& regional, std::ostream& notes)
     : clock_(&clock), regional_(&regional), services_(notes),

@@ -17,8 +17,6 @@ namespace k7deval::cli
 namespace
 {
 
-constexpr std::int32_t kReportEntry = 1;
-
 /// The tools say nothing of a new file that can't be written.
 std::string reasonNotTold(const std::string& path)
 {
@@ -81,15 +79,12 @@ void HistogramCommand::calculate()
         console_.notes << line << '\n';
 }
 
-void HistogramCommand::print() const
+void HistogramCommand::print()
 {
-    if (request_.json) {
-        nlohmann::ordered_json document = asJson();
-        document["Messages"] = services_.told;
-        printJson(document, console_.out);
-    } else {
+    if (request_.json)
+        printJson(documentOf(tool(), tool().results(), services_.told), console_.out);
+    else
         printText(console_.out);
-    }
 }
 
 void HistogramCommand::savePdf()
@@ -98,7 +93,7 @@ void HistogramCommand::savePdf()
     if (path.empty())
         return;
     const std::string told =
-        pressSave(tool().cmdSave, tool().chkPreview, services_, {path, kReportEntry});
+        pressSave(tool().cmdSave, tool().chkPreview, services_, {path, kPdfEntry});
     if (!told.empty())
         throw UsageError(path + " could not be written (" + told + ").");
     if (!fileExists(path))

@@ -6,8 +6,6 @@
 #include "foundation/RegionalSettings.h"
 #include "histogram/HistogramTool.h"
 
-#include <nlohmann/json.hpp>
-
 #include <iosfwd>
 #include <string>
 
@@ -50,10 +48,9 @@ private:
     /// Why the evaluation ended without a result, in a sentence; empty if it has one.
     [[nodiscard]] virtual std::string failure() const { return {}; }
     virtual void printText(std::ostream& out) const = 0;
-    [[nodiscard]] virtual nlohmann::ordered_json asJson() const = 0;
 
     void calculate();
-    void print() const;
+    void print();
     void savePdf();
 
     const HistogramRequest& request_;

@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <numeric>
 #include <ostream>
 #include <string>
 
@@ -40,16 +39,6 @@ void printLevels(const std::array<Level, 3>& levels, std::ostream& out)
     out << '\n';
 }
 
-/// A tool tip holds the edges of its bar: "10 - 15   Op Hours: 12".
-std::vector<std::string> edgesOf(const std::string& toolTip)
-{
-    constexpr std::string_view kBetween = " - ";
-    const std::size_t between = toolTip.find(kBetween);
-    const std::size_t second = between + kBetween.size();
-    return {toolTip.substr(0, between),
-            toolTip.substr(second, toolTip.find("   ", second) - second)};
-}
-
 /// A bar as long as the screen's is high; one that is seen there is seen here.
 std::string barText(const histogram::HistogramTool& tool, int number)
 {
@@ -60,21 +49,15 @@ std::string barText(const histogram::HistogramTool& tool, int number)
 }
 
 /// The bars with hours; nothing while they are flat.
-void printBars(const histogram::HistogramTool& tool, const histogram::HourBins& bins,
-               const RegionalSettings& regional, std::ostream& out)
+void printBars(const histogram::HistogramTool& tool, std::ostream& out)
 {
-    if (histogram::peakOf(bins) == 0)
+    if (tool.lblBar.texts(1) == histogram::BarTexts{})
         return;
-    const std::int32_t total = std::accumulate(bins.begin() + 1, bins.end(), 0);
     TextTable table({Align::Right, Align::Right, Align::Right, Align::Right, Align::Left});
     table.add({"From", "To", "Hours", "Percent", ""});
     for (int bar = 1; bar <= histogram::kBinCount; ++bar) {
-        auto row = edgesOf(tool.lblBar[bar].ToolTipText());
-        const std::int32_t hours = bins.at(static_cast<std::size_t>(bar));
-        row.push_back(std::to_string(hours));
-        row.push_back(histogram::percentText(hours, total, "%", regional));
-        row.push_back(barText(tool, bar));
-        table.add(std::move(row));
+        const histogram::BarTexts& texts = tool.lblBar.texts(bar);
+        table.add({texts.from, texts.to, texts.hours, texts.percent, barText(tool, bar)});
     }
     table.print(out);
     out << '\n';
@@ -107,7 +90,7 @@ std::string limitText(const screen::CheckBox& box, const screen::TextBox& field)
 
 } // namespace
 
-void printScreen(const ctrlMaxMW& tool, const RegionalSettings& regional, std::ostream& out)
+void printScreen(const ctrlMaxMW& tool, std::ostream& out)
 {
     const LoadEvaluation& evaluation = tool.evaluation();
     out << tool.lblHeader.Caption() << '\n';
@@ -119,11 +102,11 @@ void printScreen(const ctrlMaxMW& tool, const RegionalSettings& regional, std::o
                   {&tool.lblLow, &tool.lblMid, &tool.lblMidOpPercent, evaluation.MidHours},
                   {&tool.lblMid, &tool.lblMax, &tool.lblHighOpPercent, evaluation.HighHours}}},
                 out);
-    printBars(tool, evaluation.Bins, regional, out);
+    printBars(tool, out);
     out << tool.lblBelow.Caption() << '\n' << tool.lblAbove.Caption() << '\n';
 }
 
-void printScreen(const ctrlRangeEval& tool, const RegionalSettings& regional, std::ostream& out)
+void printScreen(const ctrlRangeEval& tool, std::ostream& out)
 {
     const RangeEvaluation& evaluation = tool.evaluation();
     out << captioned(tool.lblHeader.Caption(), tool.cmbScale.Text()) << '\n';
@@ -136,7 +119,7 @@ void printScreen(const ctrlRangeEval& tool, const RegionalSettings& regional, st
                   {&tool.lblLow, &tool.lblMid, &tool.lblMidOpPercent, evaluation.MidHours},
                   {&tool.lblMid, &tool.lblMax, &tool.lblHighOpPercent, evaluation.HighHours}}},
                 out);
-    printBars(tool, evaluation.Bins, regional, out);
+    printBars(tool, out);
     for (const auto* line : {&tool.lblAboveMEC, &tool.lblAboveMPC, &tool.lblOverRange,
                              &tool.lblReplaced, &tool.lblInvalid})
         out << line->Caption() << '\n';

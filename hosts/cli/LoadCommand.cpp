@@ -1,8 +1,6 @@
-#include "cli/EvaluationJson.h"
 #include "cli/HistogramCommand.h"
 #include "cli/HistogramText.h"
 #include "cli/OperatorActions.h"
-#include "cli/ScreenJson.h"
 #include "load/ctrlMaxMW.h"
 
 namespace k7deval::cli
@@ -51,12 +49,7 @@ private:
                tool_.txtCapacity.Text() + "; see --minimum and --capacity.";
     }
 
-    void printText(std::ostream& out) const override { printScreen(tool_, regional(), out); }
-
-    [[nodiscard]] nlohmann::ordered_json asJson() const override
-    {
-        return {{"Screen", toJson(tool_.Properties())}, {"Evaluation", evaluationToJson(tool_)}};
-    }
+    void printText(std::ostream& out) const override { printScreen(tool_, out); }
 
     const LoadRequest& request_;
     ctrlMaxMW tool_;

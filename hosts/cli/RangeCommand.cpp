@@ -1,9 +1,7 @@
-#include "cli/EvaluationJson.h"
 #include "cli/HistogramCommand.h"
 #include "cli/HistogramText.h"
 #include "cli/OpenSite.h"
 #include "cli/OperatorActions.h"
-#include "cli/ScreenJson.h"
 #include "range/ctrlRangeEval.h"
 
 #include <ostream>
@@ -66,14 +64,7 @@ private:
         return error.number() == errors::kSubscript ? "because a value lies too far below 0" : "";
     }
 
-    void printText(std::ostream& out) const override { printScreen(tool_, regional(), out); }
-
-    [[nodiscard]] nlohmann::ordered_json asJson() const override
-    {
-        return {{"Screen", toJson(tool_.Properties())},
-                {"Evaluation", evaluationToJson(tool_)},
-                {"UnitCatalogue", toJson(tool_.UnitCatalogue())}};
-    }
+    void printText(std::ostream& out) const override { printScreen(tool_, out); }
 
     const RangeRequest& request_;
     ctrlRangeEval tool_;

@@ -4,11 +4,16 @@
 #include "screen/Buttons.h"
 #include "screen/Services.h"
 
+#include <cstdint>
 #include <string>
 
 /// How the files of a screen are saved.
 namespace k7deval::cli
 {
+
+/// The entries of a save dialog's filter.
+inline constexpr std::int32_t kPdfEntry = 1;
+inline constexpr std::int32_t kEcmpsEntry = 2;
 
 /// Whether two names mean one file.
 bool isSameFile(const std::string& one, const std::string& other);

@@ -2,6 +2,7 @@
 
 #include "foundation/NumberText.h"
 #include "foundation/PIDFunctions.h"
+#include "foundation/PropertyOf.h"
 #include "foundation/UtilityFunctions.h"
 #include "screen/SaveClick.h"
 
@@ -75,6 +76,14 @@ void HistogramTool::markStale()
 {
     clearStaleResults();
     cmdSave.SetEnabled(false);
+}
+
+PropertyList HistogramTool::withState(PropertyList evaluation) const
+{
+    evaluation.push_back(
+        property("NeedsEvaluation", needsEvaluation_,
+                 "What is entered has changed since the last finished evaluation."));
+    return evaluation;
 }
 
 std::string HistogramTool::parameterEntry(DIParameter& parameter) const

@@ -112,6 +112,9 @@ protected:
     /// A parameter's entry in the list, with its PID in front if that is wanted.
     [[nodiscard]] std::string parameterEntry(DIParameter& parameter) const;
 
+    /// The results of an evaluation and whether they still hold, as a set of results.
+    [[nodiscard]] PropertyList withState(PropertyList evaluation) const;
+
     /// What an evaluation reads: a series, and the meanings of its status words.
     struct HourSource {
         std::shared_ptr<DIParameter> parameter;

@@ -15,6 +15,8 @@ inline constexpr int kBinCount = 20;
 /// Hours per bin; index k holds the bin that ends at k times 5% of the range. Index 0 is never
 /// counted.
 using HourBins = std::array<std::int32_t, kBinCount + 1>;
+inline constexpr const char* kMeaningOfBins =
+    "Hours by 5% of the range, 21 numbers; index 0 is never counted.";
 
 /// The hours of the fullest bin.
 std::int32_t peakOf(const HourBins& bins);

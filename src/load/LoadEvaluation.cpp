@@ -1,6 +1,7 @@
 #include "load/LoadEvaluation.h"
 
 #include "foundation/NumberText.h"
+#include "foundation/PropertyOf.h"
 #include "histogram/Quarters.h"
 
 #include <cmath>
@@ -16,6 +17,24 @@ constexpr double kLowShare = 0.3;
 constexpr int kWantedQuarters = 4;
 
 } // namespace
+
+PropertyList LoadEvaluation::Properties() const
+{
+    return {
+        property("HighThreshold", HighThreshold, "Value at 60% of the range."),
+        property("LowThreshold", LowThreshold, "Value at 30% of the range."),
+        property("MinSafeValue", MinSafeValue, "Minimum safe operating value."),
+        property("CapacityValue", CapacityValue, "Nameplate or rated capacity."),
+        property("HighHours", HighHours, "Hours at the high level."),
+        property("MidHours", MidHours, "Hours at the mid level."),
+        property("LowHours", LowHours, "Hours at the low level."),
+        property("OverHours", OverHours, "Hours above the capacity."),
+        property("MaxObserved", MaxObserved,
+                 "Highest value above the capacity of all evaluations so far."),
+        property("UnderHours", UnderHours, "Hours under the minimum."),
+        property("Bins", Bins, histogram::kMeaningOfBins),
+    };
+}
 
 float LoadEvaluation::Range() const
 {

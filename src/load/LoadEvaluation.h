@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
+#include "foundation/Property.h"
 #include "foundation/RegionalSettings.h"
 #include "histogram/HourBins.h"
 
@@ -28,6 +29,8 @@ struct LoadEvaluation : histogram::InRangeHours {
     float MaxObserved = 0;
     std::int32_t UnderHours = 0; ///< Hours under the minimum.
 
+    /// The results by their names.
+    [[nodiscard]] PropertyList Properties() const;
     /// The capacity above the minimum, as a single. Error 6 when it is too wide for one.
     [[nodiscard]] float Range() const;
     /// Sets the values at 60% and at 30% of the range, kept to six decimals.

@@ -1,6 +1,7 @@
 #include "load/ctrlMaxMW.h"
 
 #include "foundation/NumberText.h"
+#include "foundation/PropertyOf.h"
 #include "foundation/TextFunctions.h"
 #include "histogram/HistogramPage.h"
 #include "screen/UnitList.h"
@@ -246,6 +247,16 @@ std::string ctrlMaxMW::overText() const
         return hours + " hour(s) over " + capacity + " - Maximum " +
                numberText(evaluation_.MaxObserved);
     return hours + " hours(s) over " + capacity;
+}
+
+PropertyList ctrlMaxMW::results() const
+{
+    PropertyList results = withState(evaluation_.Properties());
+    results.push_back(
+        property("StartDate", StartDate(), "First day of the option \"Specified Dates:\"."));
+    results.push_back(
+        property("EndDate", EndDate(), "Last day of the option \"Specified Dates:\"."));
+    return {{"Evaluation", {std::move(results)}}};
 }
 
 void ctrlMaxMW::ClearResults()

@@ -24,6 +24,7 @@ public:
 
     /// The results of the last evaluation, whatever the screen shows.
     [[nodiscard]] const LoadEvaluation& evaluation() const { return evaluation_; }
+    [[nodiscard]] PropertyList results() const override;
     /// The dates of the option "Specified Dates:".
     [[nodiscard]] Date StartDate() const { return period_.StartDate(); }
     [[nodiscard]] Date EndDate() const { return period_.EndDate(); }

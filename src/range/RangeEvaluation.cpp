@@ -1,6 +1,7 @@
 #include "range/RangeEvaluation.h"
 
 #include "foundation/NumberText.h"
+#include "foundation/PropertyOf.h"
 #include "histogram/Quarters.h"
 
 #include <cmath>
@@ -17,6 +18,27 @@ constexpr std::int32_t kWantedHours = 720;
 constexpr int kWantedQuarters = 4;
 
 } // namespace
+
+PropertyList RangeEvaluation::Properties() const
+{
+    return {
+        property("RangeValue", RangeValue, "The instrument range."),
+        property("LowThreshold", LowThreshold, "20% of the range."),
+        property("HighThreshold", HighThreshold, "80% of the range."),
+        property("MECValue", MECValue, "Maximum expected concentration."),
+        property("MPCValue", MPCValue, "Maximum potential concentration."),
+        property("LowHours", LowHours, "Hours up to 20%."),
+        property("MidHours", MidHours, "Hours between 20% and 80%."),
+        property("HighHours", HighHours, "Hours from 80% up to the range."),
+        property("OverRangeHours", OverRangeHours, "Hours above the range."),
+        property("AboveMECHours", AboveMECHours, "In-range hours above the MEC."),
+        property("AboveMPCHours", AboveMPCHours, "In-range hours above the MPC."),
+        property("ReplacedHours", ReplacedHours, "In-range hours with 200% replacement."),
+        property("InvalidHours", InvalidHours,
+                 "Unusable hours in which the unit was not off line."),
+        property("Bins", Bins, histogram::kMeaningOfBins),
+    };
+}
 
 void RangeEvaluation::setThresholds(const RegionalSettings& regional)
 {

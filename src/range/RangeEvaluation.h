@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
+#include "foundation/Property.h"
 #include "foundation/RegionalSettings.h"
 #include "histogram/HourBins.h"
 
@@ -28,6 +29,8 @@ struct RangeEvaluation : histogram::InRangeHours {
         bool mpc = false;
     };
 
+    /// The results by their names.
+    [[nodiscard]] PropertyList Properties() const;
     /// Sets the values at 80% and at 20% of the range, kept to six decimals.
     void setThresholds(const RegionalSettings& regional);
     /// Zeroes all counters.

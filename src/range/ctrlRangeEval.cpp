@@ -2,6 +2,7 @@
 
 #include "foundation/NumberText.h"
 #include "foundation/PIDFunctions.h"
+#include "foundation/PropertyOf.h"
 #include "foundation/UtilityFunctions.h"
 #include "histogram/HistogramPage.h"
 #include "histogram/Quarters.h"
@@ -253,6 +254,13 @@ void ctrlRangeEval::ShowResults()
     lblOverRange.SetCaption(kOverRange + std::to_string(evaluation_.OverRangeHours));
     lblReplaced.SetCaption(kReplaced + std::to_string(evaluation_.ReplacedHours));
     lblInvalid.SetCaption(kInvalid + std::to_string(evaluation_.InvalidHours));
+}
+
+PropertyList ctrlRangeEval::results() const
+{
+    return {{"Evaluation", {withState(evaluation_.Properties())}},
+            property("UnitCatalogue", catalogue_,
+                     "Units by PID, their hourly parameters by PID, the spans of those by scale.")};
 }
 
 void ctrlRangeEval::ClearResults()

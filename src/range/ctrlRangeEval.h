@@ -27,6 +27,7 @@ public:
     [[nodiscard]] const Catalogue& UnitCatalogue() const { return catalogue_; }
     /// The results of the last evaluation, whatever the screen shows.
     [[nodiscard]] const RangeEvaluation& evaluation() const { return evaluation_; }
+    [[nodiscard]] PropertyList results() const override;
 
     [[nodiscard]] std::unique_ptr<ReportDocument> buildReport() const override;
 

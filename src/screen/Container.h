@@ -62,6 +62,9 @@ public:
     [[nodiscard]] std::string_view kind() const override { return "Control"; }
     /// Holds the entry "Widgets": each widget by its name with its kind and properties.
     [[nodiscard]] PropertyList Properties() const override;
+    /// What the control worked out and keeps beside its widgets: sets of results by name, or
+    /// results of their own. Each says its type and what it means.
+    [[nodiscard]] virtual PropertyList results() const { return {}; }
 
 protected:
     void SetMousePointer(screen::MousePointer pointer) { update(mousePointer_, pointer); }

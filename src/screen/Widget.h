@@ -1,7 +1,7 @@
 #pragma once
 
+#include "foundation/Property.h"
 #include "screen/Event.h"
-#include "screen/Property.h"
 
 #include <string>
 #include <string_view>

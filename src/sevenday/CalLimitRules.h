@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace k7deval
 {
@@ -20,5 +21,11 @@ enum CalLimitRulesEnum : std::int32_t {
     /// A percentage of the upscale reference (40 CFR 60 App. B PS 9).
     CalLimitRules_PercentOfRef = 3,
 };
+
+/// How the enumeration is called.
+constexpr std::string_view typeName(CalLimitRulesEnum /*rule*/)
+{
+    return "CalLimitRulesEnum";
+}
 
 } // namespace k7deval

@@ -1,6 +1,7 @@
 #include "sevenday/DriftReport.h"
 
 #include "foundation/DataInterface.h"
+#include "foundation/PropertyOf.h"
 #include "report/PageLayout.h"
 #include "sevenday/NumberedLine.h"
 
@@ -23,6 +24,15 @@ std::optional<Error> DriftReport::WriteDriftReport(const std::string& fileName)
         if (const auto document = build())
             document->SaveToFile(fileName);
     });
+}
+
+PropertyList DriftReport::Properties() const
+{
+    return {
+        property("strFacilityName", strFacilityName, "The title line of the last report."),
+        property("strPrecision", strPrecision,
+                 "The number format of the last report's figures, such as \"0.00\"."),
+    };
 }
 
 std::unique_ptr<ReportDocument> DriftReport::build()

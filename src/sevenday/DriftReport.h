@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Property.h"
 #include "report/ReportDocument.h"
 #include "screen/Services.h"
 #include "sevenday/DriftTest.h"
@@ -37,6 +38,9 @@ public:
 
     std::string strFacilityName; ///< The title line of each page.
     std::string strPrecision;    ///< The number format of all figures but the span.
+
+    /// The fields above, as the last report left them.
+    [[nodiscard]] PropertyList Properties() const;
 
 private:
     /// Where the next row goes, and the space that the summary takes under the last one.

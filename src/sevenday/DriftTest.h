@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/DataInterface.h"
+#include "foundation/Property.h"
 #include "foundation/RegionalSettings.h"
 #include "sevenday/CalLimitRules.h"
 #include "sevenday/clsDaySummary.h"
@@ -60,6 +61,9 @@ public:
     std::int32_t lngUndeterminedDays = 0; ///< Before the end of the test.
     DayArray objDaysToDisplay;
     std::string strSummary;
+
+    /// The state of the test by the names of its fields.
+    [[nodiscard]] PropertyList Properties() const;
 
     /// The test is passed with seven runs, of which one may be the allowed failure.
     [[nodiscard]] bool isPassed() const { return lngGoodCals + lngFailedCals == kRunsOfATest; }

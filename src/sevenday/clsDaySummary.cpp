@@ -1,6 +1,9 @@
 #include "sevenday/clsDaySummary.h"
 
+#include "foundation/PropertyOf.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace k7deval
 {
@@ -31,6 +34,26 @@ bool clsDaySummary::IsOpDay() const
 void clsDaySummary::SetIsOpDay(bool operated)
 {
     isOpDay_ = operated || HasOnlineCals();
+}
+
+PropertyList clsDaySummary::Properties() const
+{
+    PropertyValue displayed;
+    if (DisplayedCals.isSized()) {
+        PropertyValues keys;
+        for (const auto& run : DisplayedCals.items())
+            keys.push_back({minuteKey(run->CalTime)});
+        displayed = {std::move(keys)};
+    }
+    return {
+        {"TStamp", {TStamp}},
+        {"IsOpDay", {IsOpDay()}},
+        {"OpStatusIsUndetermined", {OpStatusIsUndetermined}},
+        {"HasOnlineCals", {HasOnlineCals()}},
+        {"DayIsUsedIn7Day", {DayIsUsedIn7Day()}},
+        {"CalsInDay", listOf(calsInDay_.Keys())},
+        {"DisplayedCals", std::move(displayed)},
+    };
 }
 
 } // namespace k7deval

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace k7deval
 {
@@ -16,6 +17,8 @@ using RunArray = Array<std::shared_ptr<cls7DayAnalyzerCal>>;
 class clsDaySummary
 {
 public:
+    static constexpr std::string_view kTypeName = "clsDaySummary";
+
     /// An hour has no operating data, or none can be had at all.
     bool OpStatusIsUndetermined = false;
     Date TStamp;            ///< Midnight at the beginning of the day.
@@ -33,6 +36,9 @@ public:
     [[nodiscard]] bool IsOpDay() const;
     /// An operating hour or an on-line run does not clear an undetermined status.
     void SetIsOpDay(bool operated);
+
+    /// Its runs stand there by their keys.
+    [[nodiscard]] PropertyList Properties() const;
 
 private:
     [[nodiscard]] bool AnyCalMatches(bool blnOnline, bool blnUsed) const;

@@ -1,6 +1,7 @@
 #include "sevenday/clsStrippedCal.h"
 
 #include "foundation/NumberText.h"
+#include "foundation/PropertyOf.h"
 
 #include <cmath>
 
@@ -22,6 +23,19 @@ float clsStrippedCal::Drift() const
 bool clsStrippedCal::isWithinLimit() const
 {
     return std::abs(Drift()) <= DriftLimit;
+}
+
+PropertyList clsStrippedCal::Properties() const
+{
+    return {
+        {"ReferenceValue", {ReferenceValue}},
+        {"MeasuredValue", {MeasuredValue}},
+        {"Drift", workedOut([this] { return Drift(); })},
+        {"DriftLimit", {DriftLimit}},
+        {"UsesAPS", {UsesAPS}},
+        {"InjectionEndTime", {InjectionEndTime}},
+        {"GasLevel", {GasLevel}},
+    };
 }
 
 } // namespace k7deval

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "foundation/Date.h"
+#include "foundation/Property.h"
 
 #include <string>
+#include <string_view>
 
 namespace k7deval
 {
@@ -10,6 +12,8 @@ namespace k7deval
 /// One gas injection of a calibration run, reduced to what a drift test needs.
 /// All values are in the analyzer's units (ppm, %, ...).
 struct clsStrippedCal {
+    static constexpr std::string_view kTypeName = "clsStrippedCal";
+
     float ReferenceValue = 0;
     float MeasuredValue = 0;
     float DriftLimit = 0; ///< The limit this injection is held to; -999 never passes.
@@ -21,6 +25,8 @@ struct clsStrippedCal {
     [[nodiscard]] float Drift() const;
     /// A drift equal to the limit passes (40 CFR 75 App. A 3.1).
     [[nodiscard]] bool isWithinLimit() const;
+
+    [[nodiscard]] PropertyList Properties() const;
 };
 
 } // namespace k7deval

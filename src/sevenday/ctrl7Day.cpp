@@ -53,6 +53,11 @@ void ctrl7Day::Terminate()
     ctrl7DaySetUp1.Terminate();
 }
 
+PropertyList ctrl7Day::results() const
+{
+    return {{"Test", {test_.Properties()}}, {"Report", {report_.Properties()}}};
+}
+
 /// After a failure the hourglass stays and the steps behind the failed one have not run.
 void ctrl7Day::SwitchPage(Page page)
 {

@@ -35,6 +35,7 @@ public:
 
     /// The state of the test, as the last evaluation left it.
     [[nodiscard]] const DriftTest& test() const { return test_; }
+    [[nodiscard]] PropertyList results() const override;
     /// The report that a save would write now. Null where a save writes none: when there are
     /// runs but no days to show them in. Raises what keeps it from being built; only a part that
     /// fails and leaves a gap posts its line.

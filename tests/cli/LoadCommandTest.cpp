@@ -1,6 +1,6 @@
 #include "cli/CommandRun.h"
+#include "cli/PrintedJson.h"
 #include "cli/SampleSites.h"
-#include "cli/ScreenJson.h"
 #include "load/ctrlMaxMW.h"
 #include "sitedb/SiteDatabase.h"
 #include "support/FakeServices.h"
@@ -123,8 +123,7 @@ TEST(LoadCommand, HoldsTheScreenThatTheControlHas)
     tool.txtCapacity.Type("110");
     tool.txtCapacity.Leave();
     tool.cmdCalculate.Press();
-    EXPECT_EQ(printedAsJson("load", fromTenTo110()).at("Screen"),
-              json::parse(toJson(tool.Properties()).dump()));
+    EXPECT_EQ(printedAsJson("load", fromTenTo110()).at("Screen"), printed(tool.Properties()));
 }
 
 struct LoadOption {

@@ -1,6 +1,6 @@
 #include "cli/CommandRun.h"
+#include "cli/PrintedJson.h"
 #include "cli/SampleSites.h"
-#include "cli/ScreenJson.h"
 #include "range/ctrlRangeEval.h"
 #include "sitedb/SiteDatabase.h"
 #include "support/FakeServices.h"
@@ -104,8 +104,7 @@ TEST(RangeCommand, HoldsTheScreenThatTheControlHas)
     tool.txtMEC.Type("20");
     tool.txtMPC.Type("80");
     tool.cmdCalculate.Press();
-    EXPECT_EQ(printedAsJson("range", upTo100()).at("Screen"),
-              json::parse(toJson(tool.Properties()).dump()));
+    EXPECT_EQ(printedAsJson("range", upTo100()).at("Screen"), printed(tool.Properties()));
 }
 
 struct RangeOption {

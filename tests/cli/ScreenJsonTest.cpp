@@ -1,6 +1,7 @@
 #include "cli/ScreenJson.h"
 
 #include "cli/CommandRun.h"
+#include "cli/PrintedJson.h"
 #include "cli/SampleSites.h"
 #include "sevenday/ctrl7Day.h"
 #include "support/FakeServices.h"
@@ -242,9 +243,9 @@ struct FreshScreen {
 TEST(ScreenJson, IsValidForAScreenThatWasNeverEvaluated)
 {
     const FreshScreen fresh;
-    const json screen = json::parse(toJson(fresh.control.Properties()).dump());
+    const json screen = printed(fresh.control.Properties());
     expectAllWidgets(screen);
-    const json test = json::parse(toJson(fresh.control.test()).dump());
+    const json test = printed(fresh.control.test().Properties());
     EXPECT_EQ(namesIn(test), kTest);
     EXPECT_EQ(test.at("dtStart"), "1899-12-30 00:00");
     EXPECT_EQ(test.at("dictCals"), nullptr);
@@ -262,7 +263,7 @@ TEST(ScreenJson, HasNoNumberForWhatIsNone)
     calibration->SpanCal->MeasuredValue = std::numeric_limits<float>::max();
     calibration->SpanCal->ReferenceValue = std::numeric_limits<float>::lowest();
     test.dictCals->Add("a", calibration);
-    const json document = json::parse(toJson(test).dump());
+    const json document = printed(test.Properties());
     EXPECT_EQ(document.at("sngAbsoluteLimit"), nullptr);
     const json& written = document.at("dictCals").at("a");
     EXPECT_EQ(written.at("SpanCal").at("Drift"), nullptr);

@@ -195,9 +195,9 @@ TEST(LoadToolLook, FixedTextsSayWhatTheyAreFor)
         const auto* widget = rig.tool.Find(expected.name);
         ASSERT_NE(widget, nullptr) << expected.name;
         std::string caption;
-        for (const auto& [name, content] : widget->Properties()) {
-            if (name == "Caption")
-                caption = std::get<std::string>(content.value);
+        for (const auto& property : widget->Properties()) {
+            if (property.name == "Caption")
+                caption = std::get<std::string>(property.content.value);
         }
         EXPECT_EQ(caption, expected.caption) << expected.name;
     }

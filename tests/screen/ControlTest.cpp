@@ -20,7 +20,7 @@ std::vector<std::string> namesOf(const std::vector<screen::Widget*>& widgets)
     return names;
 }
 
-std::vector<std::string> namesOf(const screen::PropertyList& properties)
+std::vector<std::string> namesOf(const PropertyList& properties)
 {
     std::vector<std::string> names;
     for (const auto& property : properties)

@@ -11,7 +11,7 @@ namespace k7deval::test
 namespace
 {
 
-std::string textOf(const screen::PropertyValue& content);
+std::string textOf(const PropertyValue& content);
 
 std::string listOf(const std::vector<std::string>& texts)
 {
@@ -31,33 +31,36 @@ struct ValueText {
         return text.str();
     }
     std::string operator()(const std::string& value) const { return '"' + value + '"'; }
-    std::string operator()(const screen::PropertyValues& values) const
+    std::string operator()(const PropertyValues& values) const
     {
         std::vector<std::string> texts;
         for (const auto& value : values)
             texts.push_back(textOf(value));
         return listOf(texts);
     }
-    std::string operator()(const screen::PropertyList& properties) const
+    std::string operator()(const PropertyList& properties) const
     {
         std::vector<std::string> texts;
         for (const auto& property : properties)
             texts.push_back(property.name + "=" + textOf(property.content));
         return listOf(texts);
     }
+    /// Widgets hold nothing else.
+    template <class Other> std::string operator()(const Other& /*value*/) const { return {}; }
 };
 
-std::string textOf(const screen::PropertyValue& content)
+std::string textOf(const PropertyValue& content)
 {
     return std::visit(ValueText{}, content.value);
 }
 
-void add(Snapshot& snapshot, const std::string& prefix, const screen::PropertyList& properties)
+void add(Snapshot& snapshot, const std::string& prefix, const PropertyList& properties)
 {
-    for (const auto& [name, content] : properties) {
-        const auto* nested = std::get_if<screen::PropertyList>(&content.value);
+    for (const Property& property : properties) {
+        const std::string& name = property.name;
+        const auto* nested = std::get_if<PropertyList>(&property.content.value);
         if (nested == nullptr)
-            snapshot[prefix + name] = textOf(content);
+            snapshot[prefix + name] = textOf(property.content);
         else
             add(snapshot, name == "Widgets" ? prefix : prefix + name + ".", *nested);
     }

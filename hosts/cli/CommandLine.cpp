@@ -3,7 +3,13 @@
 #include "cli/Texts.h"
 #include "cli/UsageError.h"
 
+#include <CLI/CLI.hpp>
+
+#include <array>
+#include <functional>
+#include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace k7deval::cli
@@ -11,6 +17,9 @@ namespace k7deval::cli
 
 namespace
 {
+
+/// What a command line asks for.
+using Action = std::function<Status(const Console&)>;
 
 /// What keeps a text from being one, or nothing. An option in its place would be taken for it.
 std::string faultOf(const std::string& text)
@@ -78,89 +87,8 @@ const CLI::App* namedCommand(const CLI::App& app)
     return named.empty() ? nullptr : named.front();
 }
 
-} // namespace
-
-CommandLine::CommandLine()
-    : app_("Evaluation of continuous emissions monitoring data under 40 CFR 75 and 60", "k7deval")
+void addSetUp(CLI::App& command, DriftOptions& options)
 {
-    app_.require_subcommand(0, 1);
-    addImport();
-    addUnits();
-    addAnalyzers();
-    addDrift();
-    addLoad();
-    addRanges();
-    addRange();
-    addRound();
-}
-
-void CommandLine::addImport()
-{
-    CLI::App& command = *app_.add_subcommand(
-        "import",
-        "Take EPA files into a site: monitoring plans, QA and emissions files (JSON), tables "
-        "of spans, hourly load and monitor hours (CSV), plain or gzip");
-    addSite(command, import_.site);
-    addText(
-        command, "--unit", import_.unit,
-        "The unit that the hours of a table belong to, or the one location to take from a table "
-        "of spans of locations");
-    addText(command, "--component", import_.component,
-            "The component that measured the hours of a table, where the unit has several");
-    addText(command, "--facility", import_.facility, "Name of the facility, for the reports");
-    command
-        .add_option(
-            "--capacity", import_.capacities,
-            "Capacity of a unit in MW, written UNIT=MW, in place of the one of its plan; can "
-            "be given for several units")
-        ->allow_extra_args(false)
-        ->check(faultOf);
-    command.add_flag(
-        "--leave-out", import_.leaveOutUnreadable,
-        "Leave out single injections that can't be read, and daily calibrations that the "
-        "site has already, and list them");
-    command.add_option("files", import_.files, "The files");
-    command.callback([this] {
-        command_ = [this](const Console& console) { return runImport(import_, console); };
-    });
-}
-
-void CommandLine::addUnits()
-{
-    CLI::App& command = *app_.add_subcommand("units", "List the units of a site");
-    addSite(command, site_);
-    command.callback(
-        [this] { command_ = [this](const Console& console) { return runUnits(site_, console); }; });
-}
-
-void CommandLine::addAnalyzers()
-{
-    CLI::App& command =
-        *app_.add_subcommand("analyzers", "List the analyzers of a site, or of one unit");
-    addSite(command, site_);
-    addText(command, "--unit", unit_, "The unit");
-    command.callback([this] {
-        command_ = [this](const Console& console) { return runAnalyzers(site_, unit_, console); };
-    });
-}
-
-void CommandLine::addDrift()
-{
-    CLI::App& command = *app_.add_subcommand("drift", "Evaluate a 7-Day drift test");
-    addScreen(command, drift_, "Print the whole screen and the state of the test as JSON");
-    addSetUp(command);
-    addTestInformation(command);
-    addText(command, "--xml", drift_.xml,
-            "Save the ECMPS export to this file, in place of one there");
-    command.add_flag("--check", drift_.check, "End with status 1 when the test is not passed");
-    command.callback([this] {
-        command_ = [this](const Console& console) { return runDrift(drift_, console); };
-    });
-}
-
-void CommandLine::addSetUp(CLI::App& command)
-{
-    DriftOptions& options = drift_.options;
     addText(command, "--unit", options.unit, "The unit; the first of the site if not given");
     addText(command, "--analyzer", options.analyzer, "The analyzer; the unit's first if not given");
     addText(command, "--from", options.from, "First day of the interval; a month ago if not given");
@@ -179,9 +107,8 @@ void CommandLine::addSetUp(CLI::App& command)
             "Calibrations to show: interval, test-end or test-only");
 }
 
-void CommandLine::addTestInformation(CLI::App& command)
+void addTestInformation(CLI::App& command, DriftOptions& options)
 {
-    DriftOptions& options = drift_.options;
     addText(command, "--oris", options.oris, "Test information: ORISPL code");
     addText(command, "--stack", options.stack, "Test information: unit or stack identifier");
     addText(command, "--component", options.component, "Test information: component identifier");
@@ -190,91 +117,183 @@ void CommandLine::addTestInformation(CLI::App& command)
     addText(command, "--test-number", options.testNumber, "Test information: test number");
 }
 
-void CommandLine::addLoad()
+void addImport(CLI::App& app, Action& chosen)
 {
-    CLI::App& command = *app_.add_subcommand(
-        "load", "Evaluate how a unit's load spreads over its range of operation");
-    addHistogram(command, load_, "the unit's load if not given");
-    addText(command, "--minimum", load_.minimum, "Minimum safe operating value; 0 if not given");
-    addText(command, "--capacity", load_.capacity,
-            "Nameplate or rated capacity; that of the site if not given");
-    addText(command, "--from", load_.from,
-            "First day of specified dates, in place of four operating quarters");
-    addText(command, "--to", load_.to, "Last day of specified dates");
-    command.callback(
-        [this] { command_ = [this](const Console& console) { return runLoad(load_, console); }; });
-}
-
-void CommandLine::addRanges()
-{
-    CLI::App& command = *app_.add_subcommand(
-        "ranges", "List the parameters and scales of a site, or of one unit, with their spans");
-    addSite(command, site_);
-    addText(command, "--unit", unit_, "The unit");
-    command.callback([this] {
-        command_ = [this](const Console& console) { return runRanges(site_, unit_, console); };
+    const auto request = std::make_shared<ImportRequest>();
+    CLI::App& command = *app.add_subcommand(
+        "import",
+        "Take EPA files into a site: monitoring plans, QA and emissions files (JSON), tables "
+        "of spans, hourly load and monitor hours (CSV), plain or gzip");
+    addSite(command, request->site);
+    addText(
+        command, "--unit", request->unit,
+        "The unit that the hours of a table belong to, or the one location to take from a table "
+        "of spans of locations");
+    addText(command, "--component", request->component,
+            "The component that measured the hours of a table, where the unit has several");
+    addText(command, "--facility", request->facility, "Name of the facility, for the reports");
+    command
+        .add_option(
+            "--capacity", request->capacities,
+            "Capacity of a unit in MW, written UNIT=MW, in place of the one of its plan; can "
+            "be given for several units")
+        ->allow_extra_args(false)
+        ->check(faultOf);
+    command.add_flag(
+        "--leave-out", request->leaveOutUnreadable,
+        "Leave out single injections that can't be read, and daily calibrations that the "
+        "site has already, and list them");
+    command.add_option("files", request->files, "The files");
+    command.callback([request, &chosen] {
+        chosen = [request](const Console& console) { return runImport(*request, console); };
     });
 }
 
-void CommandLine::addRange()
+void addUnits(CLI::App& app, Action& chosen)
 {
+    const auto site = std::make_shared<std::string>();
+    CLI::App& command = *app.add_subcommand("units", "List the units of a site");
+    addSite(command, *site);
+    command.callback([site, &chosen] {
+        chosen = [site](const Console& console) { return runUnits(*site, console); };
+    });
+}
+
+void addAnalyzers(CLI::App& app, Action& chosen)
+{
+    const auto site = std::make_shared<std::string>();
+    const auto unit = std::make_shared<std::string>();
     CLI::App& command =
-        *app_.add_subcommand("range", "Evaluate how an analyzer's range fits what it measured");
-    addHistogram(command, range_, "the unit's first if not given");
-    addText(command, "--scale", range_.scale,
-            "SINGLE, LOW, MID or HIGH; the parameter's first if not given");
-    addText(command, "--range", range_.range,
-            "Instrument range; the span of the scale if not given");
-    addText(command, "--mec", range_.mec,
-            "Maximum expected concentration, or none; the screen's proposal if not given");
-    addText(command, "--mpc", range_.mpc,
-            "Maximum potential concentration, or none; the screen's proposal if not given");
-    command.callback([this] {
-        command_ = [this](const Console& console) { return runRange(range_, console); };
+        *app.add_subcommand("analyzers", "List the analyzers of a site, or of one unit");
+    addSite(command, *site);
+    addText(command, "--unit", *unit, "The unit");
+    command.callback([site, unit, &chosen] {
+        chosen = [site, unit](const Console& console) {
+            return runAnalyzers(*site, *unit, console);
+        };
     });
 }
 
-void CommandLine::addRound()
+void addDrift(CLI::App& app, Action& chosen)
 {
-    CLI::App& command = *app_.add_subcommand(
+    const auto request = std::make_shared<DriftRequest>();
+    CLI::App& command = *app.add_subcommand("drift", "Evaluate a 7-Day drift test");
+    addScreen(command, *request, "Print the whole screen and the state of the test as JSON");
+    addSetUp(command, request->options);
+    addTestInformation(command, request->options);
+    addText(command, "--xml", request->xml,
+            "Save the ECMPS export to this file, in place of one there");
+    command.add_flag("--check", request->check, "End with status 1 when the test is not passed");
+    command.callback([request, &chosen] {
+        chosen = [request](const Console& console) { return runDrift(*request, console); };
+    });
+}
+
+void addLoad(CLI::App& app, Action& chosen)
+{
+    const auto request = std::make_shared<LoadRequest>();
+    CLI::App& command = *app.add_subcommand(
+        "load", "Evaluate how a unit's load spreads over its range of operation");
+    addHistogram(command, *request, "the unit's load if not given");
+    addText(command, "--minimum", request->minimum, "Minimum safe operating value; 0 if not given");
+    addText(command, "--capacity", request->capacity,
+            "Nameplate or rated capacity; that of the site if not given");
+    addText(command, "--from", request->from,
+            "First day of specified dates, in place of four operating quarters");
+    addText(command, "--to", request->to, "Last day of specified dates");
+    command.callback([request, &chosen] {
+        chosen = [request](const Console& console) { return runLoad(*request, console); };
+    });
+}
+
+void addRanges(CLI::App& app, Action& chosen)
+{
+    const auto site = std::make_shared<std::string>();
+    const auto unit = std::make_shared<std::string>();
+    CLI::App& command = *app.add_subcommand(
+        "ranges", "List the parameters and scales of a site, or of one unit, with their spans");
+    addSite(command, *site);
+    addText(command, "--unit", *unit, "The unit");
+    command.callback([site, unit, &chosen] {
+        chosen = [site, unit](const Console& console) { return runRanges(*site, *unit, console); };
+    });
+}
+
+void addRange(CLI::App& app, Action& chosen)
+{
+    const auto request = std::make_shared<RangeRequest>();
+    CLI::App& command =
+        *app.add_subcommand("range", "Evaluate how an analyzer's range fits what it measured");
+    addHistogram(command, *request, "the unit's first if not given");
+    addText(command, "--scale", request->scale,
+            "SINGLE, LOW, MID or HIGH; the parameter's first if not given");
+    addText(command, "--range", request->range,
+            "Instrument range; the span of the scale if not given");
+    addText(command, "--mec", request->mec,
+            "Maximum expected concentration, or none; the screen's proposal if not given");
+    addText(command, "--mpc", request->mpc,
+            "Maximum potential concentration, or none; the screen's proposal if not given");
+    command.callback([request, &chosen] {
+        chosen = [request](const Console& console) { return runRange(*request, console); };
+    });
+}
+
+void addRound(CLI::App& app, Action& chosen)
+{
+    const auto request = std::make_shared<RoundRequest>();
+    CLI::App& command = *app.add_subcommand(
         "round",
         "Evaluate all drift tests of a table, one line each, and save their reports and exports");
-    addSite(command, round_.site);
-    addText(command, "--tests", round_.tests, "The table of tests (CSV)")->required();
-    addText(command, "--out", round_.out, "The folder for PDF and XML files")->required();
-    command.callback([this] {
-        command_ = [this](const Console& console) { return runRound(round_, console); };
+    addSite(command, request->site);
+    addText(command, "--tests", request->tests, "The table of tests (CSV)")->required();
+    addText(command, "--out", request->out, "The folder for PDF and XML files")->required();
+    command.callback([request, &chosen] {
+        chosen = [request](const Console& console) { return runRound(*request, console); };
     });
 }
 
-Status CommandLine::run(int argc, const char* const* argv, const Console& console)
-{
-    try {
-        app_.parse(argc, argv);
-    } catch (const CLI::Success& help) {
-        app_.exit(help, console.out, console.notes);
-        return Status::Done;
-    } catch (const CLI::ParseError& error) {
-        throw UsageError(sentenceOf(error));
-    }
-    if (!command_)
-        throw UsageError("A command is missing; see k7deval --help.");
-    return command_(console);
-}
+/// Adds a command with its options. What it does is chosen when the arguments name it.
+using Adder = void (*)(CLI::App& app, Action& chosen);
+constexpr std::array<Adder, 8> kCommands{&addImport, &addUnits,  &addAnalyzers, &addDrift,
+                                         &addLoad,   &addRanges, &addRange,     &addRound};
 
-std::string CommandLine::sentenceOf(const CLI::ParseError& error) const
+/// A sentence for arguments that can't be read.
+std::string sentenceOf(const CLI::ParseError& error, const CLI::App& app)
 {
-    const CLI::App* command = namedCommand(app_);
+    const CLI::App* command = namedCommand(app);
     const std::string help =
         "; see k7deval " + (command == nullptr ? "" : command->get_name() + " ") + "--help.";
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
         return mismatchOf(error.what()) + help;
     if (dynamic_cast<const CLI::ExtrasError*>(&error) == nullptr)
         return error.what() + help;
-    const std::string extra = inQuotes(app_.remaining(true).front());
+    const std::string extra = inQuotes(app.remaining(true).front());
     if (command == nullptr)
         return "There is no command " + extra + help;
     return "k7deval " + command->get_name() + " does not take " + extra + help;
+}
+
+} // namespace
+
+Status runCommandLine(int argc, const char* const* argv, const Console& console)
+{
+    CLI::App app("Evaluation of continuous emissions monitoring data under 40 CFR 75 and 60",
+                 "k7deval");
+    app.require_subcommand(0, 1);
+    Action chosen;
+    for (const Adder add : kCommands)
+        add(app, chosen);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        app.exit(help, console.out, console.notes);
+        return Status::Done;
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(sentenceOf(error, app));
+    }
+    if (!chosen)
+        throw UsageError("A command is missing; see k7deval --help.");
+    return chosen(console);
 }
 
 } // namespace k7deval::cli

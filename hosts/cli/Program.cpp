@@ -24,8 +24,7 @@ std::string sentenceOf(const Error& error)
 
 Status runCommand(int argc, const char* const* argv, const Console& console)
 {
-    CommandLine commandLine;
-    const Status status = commandLine.run(argc, argv, console);
+    const Status status = runCommandLine(argc, argv, console);
     console.out.flush();
     if (!console.out)
         throw UsageError("The result could not be printed completely.");

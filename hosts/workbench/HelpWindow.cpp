@@ -1,5 +1,7 @@
 #include "workbench/HelpWindow.h"
 
+#include "workbench/Tools.h"
+
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QListWidget>
@@ -7,8 +9,6 @@
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QVBoxLayout>
-
-#include <array>
 
 namespace k7deval::workbench
 {
@@ -20,16 +20,6 @@ constexpr int kTopicRole = Qt::UserRole;
 constexpr int kWidth = 130;
 constexpr int kLines = 34;
 
-struct Topic {
-    const char* name;
-    const char* title;
-};
-constexpr std::array<Topic, 5> kTopics{{{"sites", "Sites and files"},
-                                        {"drift", "7-Day Drift"},
-                                        {"load", "Load Evaluation"},
-                                        {"range", "Range Evaluation"},
-                                        {"data", "Data"}}};
-
 QUrl urlOf(const QString& topic)
 {
     return {"qrc:/k7deval/help/" + topic + ".html"};
@@ -40,10 +30,13 @@ QListWidget* makeTopics(QWidget* parent)
     auto* topics = new QListWidget(parent);
     topics->setObjectName("helpTopics");
     topics->setAccessibleName("Topics");
-    for (const Topic& topic : kTopics) {
-        auto* item = new QListWidgetItem(topic.title, topics);
-        item->setData(kTopicRole, QString(topic.name));
-    }
+    const auto add = [topics](const char* name, const char* title) {
+        auto* item = new QListWidgetItem(title, topics);
+        item->setData(kTopicRole, QString(name));
+    };
+    add("sites", "Sites and files");
+    for (const Tool& tool : allTools())
+        add(tool.topic, tool.title);
     return topics;
 }
 

@@ -12,6 +12,7 @@
 #include "workbench/SiteProperties.h"
 #include "workbench/StartPage.h"
 #include "workbench/ToolTabs.h"
+#include "workbench/Tools.h"
 
 #include <QActionGroup>
 #include <QDir>
@@ -111,10 +112,10 @@ void MainWindow::addToolsMenu()
 {
     toolsMenu_ = menuBar()->addMenu("&Tools");
     int number = 0;
-    for (const Tool tool : kTools) {
+    for (const Tool& tool : allTools()) {
         const QString key = QString::number(++number);
-        toolsMenu_->addAction("&" + key + " " + titleOf(tool), QKeySequence("Ctrl+" + key), this,
-                              [this, tool] { tools_->goTo(tool); });
+        toolsMenu_->addAction("&" + key + " " + tool.title, QKeySequence("Ctrl+" + key), this,
+                              [this, id = tool.id] { tools_->goTo(id); });
     }
 }
 
@@ -333,10 +334,10 @@ void MainWindow::takeRegion(const QString& name)
 
 void MainWindow::onSameTool(const std::function<void()>& show)
 {
-    const auto tool = tools_->current();
+    const Tool* tool = tools_->current();
     show();
-    if (tool)
-        tools_->goTo(*tool);
+    if (tool != nullptr)
+        tools_->goTo(tool->id);
 }
 
 void MainWindow::showSite()
@@ -366,8 +367,8 @@ void MainWindow::showHelp()
 {
     if (help_ == nullptr)
         help_ = new HelpWindow(this);
-    const auto tool = tools_->current();
-    help_->showTopic(tool ? topicOf(*tool) : "sites");
+    const Tool* tool = tools_->current();
+    help_->showTopic(tool != nullptr ? tool->topic : "sites");
 }
 
 void MainWindow::showAbout()

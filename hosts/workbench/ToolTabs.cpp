@@ -1,13 +1,13 @@
 #include "workbench/ToolTabs.h"
 
 #include "qt/UserAction.h"
-#include "workbench/DataPage.h"
 #include "workbench/MessagePanel.h"
-#include "workbench/ToolPages.h"
+#include "workbench/Tools.h"
 
 #include <QScrollArea>
 #include <QTabBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace k7deval::workbench
@@ -16,37 +16,15 @@ namespace k7deval::workbench
 namespace
 {
 
+/// The tool of an id; nothing for another text.
+const Tool* toolOf(const QString& id)
+{
+    const auto tools = allTools();
+    const auto found = std::ranges::find_if(tools, [&](const Tool& tool) { return id == tool.id; });
+    return found == tools.end() ? nullptr : &*found;
+}
+
 } // namespace
-
-QString titleOf(Tool tool)
-{
-    switch (tool) {
-    case Tool::Drift:
-        return "7-Day Drift";
-    case Tool::Load:
-        return "Load Evaluation";
-    case Tool::Range:
-        return "Range Evaluation";
-    case Tool::Data:
-        break;
-    }
-    return "Data";
-}
-
-QString topicOf(Tool tool)
-{
-    switch (tool) {
-    case Tool::Drift:
-        return "drift";
-    case Tool::Load:
-        return "load";
-    case Tool::Range:
-        return "range";
-    case Tool::Data:
-        break;
-    }
-    return "data";
-}
 
 ToolTabs::ToolTabs(const screen::Surroundings& surroundings, MessagePanel& messages,
                    QWidget* parent)
@@ -68,7 +46,7 @@ void ToolTabs::open(std::shared_ptr<DIServer> server)
 {
     close();
     server_ = std::move(server);
-    for (const Tool tool : kTools)
+    for (const Tool& tool : allTools())
         addTool(tool);
     setCurrentIndex(0);
 }
@@ -80,32 +58,30 @@ void ToolTabs::close()
     server_.reset();
 }
 
-void ToolTabs::goTo(Tool tool)
+void ToolTabs::goTo(const QString& id)
 {
-    if (tabOf(tool) < 0 && server_)
-        addTool(tool);
-    setCurrentIndex(tabOf(tool));
+    const Tool* tool = toolOf(id);
+    if (tabOf(id) < 0 && server_ && tool != nullptr)
+        addTool(*tool);
+    setCurrentIndex(tabOf(id));
 }
 
-std::optional<Tool> ToolTabs::current() const
+const Tool* ToolTabs::current() const
 {
-    for (const Tool tool : kTools) {
-        if (count() > 0 && tabOf(tool) == currentIndex())
-            return tool;
-    }
-    return std::nullopt;
+    return count() == 0 ? nullptr : toolOf(currentWidget()->objectName());
 }
 
-QWidget* ToolTabs::page(Tool tool) const
+QWidget* ToolTabs::page(const QString& id) const
 {
-    const auto* scroll = dynamic_cast<QScrollArea*>(widget(tabOf(tool)));
+    const auto* scroll = dynamic_cast<QScrollArea*>(widget(tabOf(id)));
     return scroll == nullptr ? nullptr : scroll->widget();
 }
 
-int ToolTabs::tabOf(Tool tool) const
+/// A tab bears the id of its tool.
+int ToolTabs::tabOf(const QString& id) const
 {
     for (int tab = 0; tab < count(); ++tab) {
-        if (tabText(tab) == titleOf(tool))
+        if (widget(tab)->objectName() == id)
             return tab;
     }
     return -1;
@@ -113,57 +89,27 @@ int ToolTabs::tabOf(Tool tool) const
 
 /// What a tool can't do with the data is told to the user; the tool stays on view as far as it
 /// came.
-void ToolTabs::addTool(Tool tool)
+void ToolTabs::addTool(const Tool& tool)
 {
-    const auto add = [this, tool] {
-        switch (tool) {
-        case Tool::Drift:
-            return addDrift();
-        case Tool::Load:
-            return addHistogram<LoadPage>(tool);
-        case Tool::Range:
-            return addHistogram<RangePage>(tool);
-        case Tool::Data:
-            return addData();
-        }
+    const auto add = [&] {
+        tool.open({surroundings_, sinkOf(*messages_, surroundings_.clock, surroundings_.regional),
+                   server_, [&](QWidget& page) -> QWidget& { return addPage(tool, page); }});
     };
     qt::forward(*this, add);
 }
 
-void ToolTabs::addDrift()
-{
-    auto* page = new DriftPage(surroundings_, nullptr);
-    addPage(Tool::Drift, *page);
-    page->tool().Setup(sinkOf(*messages_, surroundings_.clock, surroundings_.regional), server_);
-}
-
-template <class Page> void ToolTabs::addHistogram(Tool tool)
-{
-    auto* page = new Page(surroundings_, nullptr);
-    addPage(tool, *page);
-    QWidget* tab = currentWidget();
-    // The tool is still at work when it says so.
-    page->tool().CloseClicked.Connect([tab] { tab->deleteLater(); });
-    page->tool().SetDIServer(server_);
-}
-
-void ToolTabs::addData()
-{
-    auto* page = new DataPage(surroundings_);
-    addPage(Tool::Data, *page);
-    page->setServer(server_);
-}
-
 /// On a small desktop a tool is seen in part and can be scrolled.
-void ToolTabs::addPage(Tool tool, QWidget& page)
+QWidget& ToolTabs::addPage(const Tool& tool, QWidget& page)
 {
     auto* scroll = new QScrollArea(this);
+    scroll->setObjectName(tool.id);
     scroll->setFrameShape(QFrame::NoFrame);
     // It follows the field that has the keys.
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidgetResizable(true);
     scroll->setWidget(&page);
-    setCurrentIndex(addTab(scroll, titleOf(tool)));
+    setCurrentIndex(addTab(scroll, tool.title));
+    return *scroll;
 }
 
 } // namespace k7deval::workbench

@@ -1,29 +1,17 @@
 #pragma once
 
-#include "foundation/Clock.h"
 #include "foundation/DataInterface.h"
-#include "foundation/RegionalSettings.h"
 #include "screen/Services.h"
 
 #include <QTabWidget>
 
-#include <array>
 #include <memory>
-#include <optional>
 
 namespace k7deval::workbench
 {
 
 class MessagePanel;
-
-/// What a site can be looked at with.
-enum class Tool { Drift, Load, Range, Data };
-inline constexpr std::array<Tool, 4> kTools{Tool::Drift, Tool::Load, Tool::Range, Tool::Data};
-
-/// The title of a tool's tab.
-QString titleOf(Tool tool);
-/// The topic of help on a tool.
-QString topicOf(Tool tool);
+struct Tool;
 
 /// The tools over one site, a tab each. They show and judge what the site held when they were
 /// opened.
@@ -40,20 +28,17 @@ public:
     /// Shows all tools on the data of a site in place of those before.
     void open(std::shared_ptr<DIServer> server);
     void close();
-    /// Goes to a tool, which is opened if it was closed.
-    void goTo(Tool tool);
+    /// Goes to a tool by its id, which is opened if it was closed.
+    void goTo(const QString& id);
     /// The tool on view; nothing without a tab.
-    [[nodiscard]] std::optional<Tool> current() const;
+    [[nodiscard]] const Tool* current() const;
     /// What is in the tab of a tool; nothing when it is closed.
-    [[nodiscard]] QWidget* page(Tool tool) const;
+    [[nodiscard]] QWidget* page(const QString& id) const;
 
 private:
-    void addTool(Tool tool);
-    void addDrift();
-    template <class Page> void addHistogram(Tool tool);
-    void addData();
-    void addPage(Tool tool, QWidget& page);
-    [[nodiscard]] int tabOf(Tool tool) const;
+    void addTool(const Tool& tool);
+    QWidget& addPage(const Tool& tool, QWidget& page);
+    [[nodiscard]] int tabOf(const QString& id) const;
 
     screen::Surroundings surroundings_;
     MessagePanel* messages_;

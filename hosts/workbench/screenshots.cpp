@@ -1,4 +1,3 @@
-#include "cli/OperatorActions.h"
 #include "foundation/Error.h"
 #include "qt/QtServices.h"
 #include "qt/Texts.h"
@@ -18,8 +17,11 @@
 #include <QTableView>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
+#include <string>
 #include <utility>
 
 /// Pictures of the desktop program at work on the sample sites, for documentation and for those who
@@ -40,6 +42,20 @@ struct Memory {
 
     Settings settings;
 };
+
+void pick(screen::ComboBox& list, const std::string& entry)
+{
+    const auto found = std::ranges::find(list.List(), entry);
+    if (found == list.List().end())
+        throw Error(errors::kInvalidCall, list.Name() + " does not hold " + entry + ".");
+    list.Pick(static_cast<std::int32_t>(found - list.List().begin()));
+}
+
+void type(screen::TextBox& field, const std::string& text)
+{
+    field.Type(text);
+    field.Leave();
+}
 
 /// One window, and the folder that its pictures go to.
 class Studio
@@ -77,7 +93,7 @@ private:
         return QDir(sites_).filePath(site + ".site");
     }
 
-    template <class Page> Page& goTo(Tool tool)
+    template <class Page> Page& goTo(const char* tool)
     {
         window_.tools().goTo(tool);
         return dynamic_cast<Page&>(*window_.tools().page(tool));
@@ -86,12 +102,12 @@ private:
     /// A test that was passed on its seventh day.
     void takeDrift()
     {
-        ctrl7Day& tool = goTo<DriftPage>(Tool::Drift).tool();
+        ctrl7Day& tool = goTo<DriftPage>("drift").tool();
         ctrl7DaySetUp& page = tool.ctrl7DaySetUp1;
-        cli::pick(page.cmbUnit, "GT3", "no unit GT3");
-        cli::pick(page.cmbAnalyzer, "NOX 310/L", "no analyzer NOX 310/L");
-        cli::type(page.txtFromDate, "5/3/2021", "date");
-        cli::type(page.txtToDate, "5/9/2021", "date");
+        pick(page.cmbUnit, "GT3");
+        pick(page.cmbAnalyzer, "NOX 310/L");
+        type(page.txtFromDate, "5/3/2021");
+        type(page.txtToDate, "5/9/2021");
         take("drift-setup", window_);
         tool.cmdNext.Press();
         take("drift-results", window_);
@@ -99,21 +115,23 @@ private:
 
     void takeLoad()
     {
-        ctrlMaxMW& tool = goTo<LoadPage>(Tool::Load).tool();
-        cli::pick(tool.cmbUnit, "GT4", "no unit GT4");
-        cli::type(tool.txtMinSafe, "30", "minimum");
-        cli::type(tool.txtCapacity, "84", "capacity");
-        cli::pickQuarter(tool.cmbYear, tool.cmbQTR, "2021", "Q4");
+        ctrlMaxMW& tool = goTo<LoadPage>("load").tool();
+        pick(tool.cmbUnit, "GT4");
+        type(tool.txtMinSafe, "30");
+        type(tool.txtCapacity, "84");
+        tool.cmbYear.Type("2021");
+        pick(tool.cmbQTR, "Q4");
         tool.cmdCalculate.Press();
         take("load", window_);
     }
 
     void takeRange()
     {
-        ctrlRangeEval& tool = goTo<RangePage>(Tool::Range).tool();
-        cli::pick(tool.cmbUnit, "4", "no unit 4");
-        cli::pick(tool.cmbParam, "HG", "no parameter HG");
-        cli::pickQuarter(tool.cmbYear, tool.cmbQTR, "2021", "Q3");
+        ctrlRangeEval& tool = goTo<RangePage>("range").tool();
+        pick(tool.cmbUnit, "4");
+        pick(tool.cmbParam, "HG");
+        tool.cmbYear.Type("2021");
+        pick(tool.cmbQTR, "Q3");
         tool.cmdCalculate.Press();
         take("range", window_);
     }
@@ -137,8 +155,8 @@ private:
 
     void takeData()
     {
-        window_.tools().goTo(Tool::Data);
-        QWidget& page = *window_.tools().page(Tool::Data);
+        window_.tools().goTo("data");
+        QWidget& page = *window_.tools().page("data");
         auto& rows = *page.findChild<QTableView*>("jgexGrid")->model();
         for (int row = 0; row < rows.rowCount(); ++row) {
             const QString name = rows.index(row, 1).data().toString();

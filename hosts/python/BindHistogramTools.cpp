@@ -1,77 +1,41 @@
 #include "histogram/HistogramTool.h"
+#include "load/ctrlMaxMW.h"
 #include "python/Controls.h"
+#include "python/Hosted.h"
+#include "python/Members.h"
+#include "range/ctrlRangeEval.h"
 
 #include <memory>
-#include <string>
+#include <utility>
 
 namespace k7deval::python
 {
 
 namespace py = pybind11;
+using namespace py::literals;
 using histogram::HistogramTool;
 
 namespace
 {
 
-using ToolClass = ControlClass<HistogramTool>;
-
-void bindEntries(ToolClass& tool)
+/// The part that all tools of this kind have.
+class SharedPart final : public World, public HistogramTool
 {
-    widget(tool, "fraSetup", &HistogramTool::fraSetup);
-    widget(tool, "lblUnit", &HistogramTool::lblUnit);
-    widget(tool, "cmbUnit", &HistogramTool::cmbUnit);
-    widget(tool, "lblParameter", &HistogramTool::lblParameter);
-    widget(tool, "cmbParam", &HistogramTool::cmbParam);
-    widget(tool, "chkShowPID", &HistogramTool::chkShowPID);
-    widget(tool, "cmdCalculate", &HistogramTool::cmdCalculate);
-    widget(tool, "cmdSave", &HistogramTool::cmdSave);
-    widget(tool, "chkPreview", &HistogramTool::chkPreview);
-    widget(tool, "cmdClose", &HistogramTool::cmdClose);
-    widget(tool, "CommonDialog1", &HistogramTool::CommonDialog1);
-}
+public:
+    explicit SharedPart(HostStateHandle state)
+        : World(py::none(), std::move(state)), HistogramTool({}, surroundings())
+    {
+    }
+    void SetDIServer(std::shared_ptr<k7deval::DIServer> /*server*/) override {}
+    [[nodiscard]] std::unique_ptr<ReportDocument> buildReport() const override { return nullptr; }
+};
 
-py::list bars(const py::object& self)
+void bindShared(py::module_& module, const HostStateHandle& state)
 {
-    const auto& tool = self.cast<const HistogramTool&>();
-    py::list labels;
-    for (int bar = 0; bar < histogram::BarLabels::Count(); ++bar)
-        labels.append(
-            py::cast(&tool.lblBar[bar], py::return_value_policy::reference_internal, self));
-    return labels;
-}
-
-void bindChart(ToolClass& tool)
-{
-    widget(tool, "fraResults", &HistogramTool::fraResults);
-    widget(tool, "lblHeader", &HistogramTool::lblHeader);
-    widget(tool, "lblLowOpPercent", &HistogramTool::lblLowOpPercent);
-    widget(tool, "lblMidOpPercent", &HistogramTool::lblMidOpPercent);
-    widget(tool, "lblHighOpPercent", &HistogramTool::lblHighOpPercent);
-    widget(tool, "linMin", &HistogramTool::linMin);
-    widget(tool, "linLow", &HistogramTool::linLow);
-    widget(tool, "linMid", &HistogramTool::linMid);
-    widget(tool, "linMax", &HistogramTool::linMax);
-    widget(tool, "linBase", &HistogramTool::linBase);
-    widget(tool, "lblMinSafe", &HistogramTool::lblMinSafe);
-    widget(tool, "lblLow", &HistogramTool::lblLow);
-    widget(tool, "lblMid", &HistogramTool::lblMid);
-    widget(tool, "lblMax", &HistogramTool::lblMax);
-    widget(tool, "lbl000", &HistogramTool::lbl000);
-    widget(tool, "lbl100", &HistogramTool::lbl100);
-    tool.def_property_readonly("lblBar", &bars,
-                               "The bars, a list of 21 labels; index 0 is the hidden pattern.");
-}
-
-} // namespace
-
-void bindHistogramTools(py::module_& module)
-{
-    ToolClass tool(
+    ControlClass<HistogramTool> tool(
         module, "HistogramTool", collectedControl<HistogramTool>(),
         "What load and range evaluation have in common: unit and parameter on the left,\n"
         "twenty bars over three levels on the right, and the buttons.");
-    bindEntries(tool);
-    bindChart(tool);
     tool.def_property_readonly("NeedsEvaluation", &HistogramTool::NeedsEvaluation,
                                "What is entered has changed since the last finished evaluation.")
         .def_property_readonly(
@@ -82,6 +46,34 @@ void bindHistogramTools(py::module_& module)
             py::keep_alive<0, 1>(), "The user wants to close the screen.")
         .def("buildReport", &HistogramTool::buildReport,
              "The ReportDocument of what the screen shows now. Error 91 without data.");
+    SharedPart sample(state);
+    bindMembers(tool, sample);
+}
+
+template <class Tool>
+void bindTool(py::module_& module, const HostStateHandle& state, const char* name, const char* doc)
+{
+    ControlClass<Tool, HistogramTool> tool(module, name, collectedControl<Tool>(), doc);
+    tool.def(py::init([state](py::object services) {
+                 return hostTool<Tool>(std::move(services), state);
+             }),
+             "services"_a = py::none());
+    bindData(tool, state);
+    bindLife(tool);
+    bindMembers(tool, *hostTool<Tool>(py::none(), state));
+}
+
+} // namespace
+
+void bindHistogramTools(py::module_& module, const HostStateHandle& state)
+{
+    bindShared(module, state);
+    bindTool<ctrlMaxMW>(module, state, "ctrlMaxMW",
+                        "The load tool: how does this unit's load spread over its range of "
+                        "operation\n(40 CFR 75 App. A 6.5.2.1)?");
+    bindTool<ctrlRangeEval>(module, state, "ctrlRangeEval",
+                            "The range tool: does this analyzer's range fit what it measured "
+                            "(40 CFR 75\nApp. A 2.1)?");
 }
 
 } // namespace k7deval::python

@@ -2,6 +2,7 @@
 #include "python/Controls.h"
 #include "python/HostErrors.h"
 #include "python/Hosted.h"
+#include "python/Members.h"
 #include "python/PythonObject.h"
 #include "selection/ParamSelect.h"
 #include "selection/SingleParamSelect.h"
@@ -118,10 +119,9 @@ void bindParamSelect(py::module_& module, const HostStateHandle& state)
         .def_property_readonly(
             "VisibleRows", [](const Control& self) { return self.VisibleRows(); },
             "Row of the list by row of the grid, which counts from 1: a copy.");
-    widget(control, "cmbUnit", &Control::cmbUnit);
-    widget(control, "jgexGrid", &Control::jgexGrid);
     bindData(control, state);
     bindLife(control);
+    bindMembers(control, *hostList<Control>(py::none(), state));
 }
 
 void bindSingleParamSelect(py::module_& module, const HostStateHandle& state)
@@ -139,10 +139,9 @@ void bindSingleParamSelect(py::module_& module, const HostStateHandle& state)
     bindRows(control);
     control.def("GetSelection", &Control::GetSelection,
                 "The PID of the selected entry. Error 381 with none selected.");
-    widget(control, "cmbUnit", &Control::cmbUnit);
-    widget(control, "cmbPID", &Control::cmbPID);
     bindData(control, state);
     bindLife(control);
+    bindMembers(control, *hostList<Control>(py::none(), state));
 }
 
 } // namespace

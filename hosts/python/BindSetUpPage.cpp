@@ -1,8 +1,8 @@
 #include "python/Controls.h"
 #include "python/Hosted.h"
+#include "python/Members.h"
 #include "sevenday/ctrl7DaySetUp.h"
 
-#include <string>
 #include <utility>
 
 namespace k7deval::python
@@ -16,69 +16,6 @@ namespace
 
 using Page = ctrl7DaySetUp;
 using PageClass = ControlClass<Page>;
-
-void bindInterval(PageClass& page)
-{
-    widget(page, "cmbUnit", &Page::cmbUnit);
-    widget(page, "cmbAnalyzer", &Page::cmbAnalyzer);
-    widget(page, "fraTargetTime", &Page::fraTargetTime);
-    widget(page, "lblFromDate", &Page::lblFromDate);
-    widget(page, "txtFromDate", &Page::txtFromDate);
-    widget(page, "cmdFromDate", &Page::cmdFromDate);
-    widget(page, "lblToDate", &Page::lblToDate);
-    widget(page, "txtToDate", &Page::txtToDate);
-    widget(page, "cmdToDate", &Page::cmdToDate);
-}
-
-void bindCriteria(PageClass& page)
-{
-    widget(page, "fraCriteria", &Page::fraCriteria);
-    widget(page, "chkManualCals", &Page::chkManualCals);
-    widget(page, "chk6of7", &Page::chk6of7);
-    widget(page, "fraDisplay", &Page::fraDisplay);
-    widget(page, "optShowInterval", &Page::optShowInterval);
-    widget(page, "optShowAllCals", &Page::optShowAllCals);
-    widget(page, "optShowDriftTestCals", &Page::optShowDriftTestCals);
-    widget(page, "chkShowSummary", &Page::chkShowSummary);
-}
-
-void bindSpecification(PageClass& page)
-{
-    widget(page, "fraPerfSpec", &Page::fraPerfSpec);
-    widget(page, "opt025Span", &Page::opt025Span);
-    widget(page, "lbl025Span", &Page::lbl025Span);
-    widget(page, "chkUseAPS", &Page::chkUseAPS);
-    widget(page, "opt05Span", &Page::opt05Span);
-    widget(page, "lbl05Span", &Page::lbl05Span);
-    widget(page, "opt005Absolute", &Page::opt005Absolute);
-    widget(page, "lbl005Absolute", &Page::lbl005Absolute);
-    widget(page, "optOtherSpan", &Page::optOtherSpan);
-    widget(page, "lblOtherSpan", &Page::lblOtherSpan);
-    widget(page, "txtOtherSpanValue", &Page::txtOtherSpanValue);
-    widget(page, "lblOtherSpanValue", &Page::lblOtherSpanValue);
-    widget(page, "optOtherAbsolute", &Page::optOtherAbsolute);
-    widget(page, "lblOtherAbsolute", &Page::lblOtherAbsolute);
-    widget(page, "txtOtherAbsoluteValue", &Page::txtOtherAbsoluteValue);
-    widget(page, "lblOtherAbsoluteValue", &Page::lblOtherAbsoluteValue);
-    widget(page, "optPS9GC", &Page::optPS9GC);
-    widget(page, "lblPS9GC", &Page::lblPS9GC);
-}
-
-void bindTestInfo(PageClass& page)
-{
-    widget(page, "fraTestInfo", &Page::fraTestInfo);
-    widget(page, "lblORIS", &Page::lblORIS);
-    widget(page, "txtORIS", &Page::txtORIS);
-    widget(page, "lblStackID", &Page::lblStackID);
-    widget(page, "txtStackID", &Page::txtStackID);
-    widget(page, "cmbStackID", &Page::cmbStackID);
-    widget(page, "lblComponentID", &Page::lblComponentID);
-    widget(page, "txtComponentID", &Page::txtComponentID);
-    widget(page, "lblTestReason", &Page::lblTestReason);
-    widget(page, "cmbTestReason", &Page::cmbTestReason);
-    widget(page, "lblTestNumber", &Page::lblTestNumber);
-    widget(page, "txtTestNumber", &Page::txtTestNumber);
-}
 
 void bindAnalyzer(PageClass& page)
 {
@@ -148,14 +85,11 @@ void bindSetUpPage(py::module_& module, const HostStateHandle& state)
             self.Setup(sinkOf(irm, self), serverOf(objDI, self, state));
         },
         "irm"_a, "objDI"_a, "Lists the units of the site and picks the first.");
-    bindInterval(page);
-    bindCriteria(page);
-    bindSpecification(page);
-    bindTestInfo(page);
     bindAnalyzer(page);
     bindChoices(page);
     bindTestRecord(page);
     bindLife(page);
+    bindMembers(page, *hostPage<Page>("ctrl7DaySetUp", py::none(), state));
 }
 
 } // namespace k7deval::python

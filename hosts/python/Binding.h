@@ -31,9 +31,7 @@ void bindReport(pybind11::module_& module);
 void bindSevenDay(pybind11::module_& module, const HostStateHandle& state);
 void bindSetUpPage(pybind11::module_& module, const HostStateHandle& state);
 void bindResultPage(pybind11::module_& module, const HostStateHandle& state);
-void bindHistogramTools(pybind11::module_& module);
-void bindLoad(pybind11::module_& module, const HostStateHandle& state);
-void bindRange(pybind11::module_& module, const HostStateHandle& state);
+void bindHistogramTools(pybind11::module_& module, const HostStateHandle& state);
 void bindSelection(pybind11::module_& module, const HostStateHandle& state);
 
 /// The data that a host hands to a control: a site database as it is, any other object by its
@@ -51,13 +49,6 @@ struct EventPort {
     ReferencesHandle references;
 };
 void connect(const EventPort& port, const pybind11::function& handler);
-
-/// A member that is a widget, under its name.
-template <class Class, class Member>
-void widget(Class& owner, const char* name, Member member, const char* doc = "")
-{
-    owner.def_readonly(name, member, doc);
-}
 
 /// Fields of records: plain ones settable, singles and integers held to their range.
 template <class Class, class Record>

@@ -42,22 +42,6 @@ template <class Class> void bindLife(Class& control)
              "Gives the control a new size in twips.");
 }
 
-/// A property that can be read and set.
-template <class Class, class Get, class Set>
-void setting(Class& control, const char* name, Get get, Set set, const char* doc)
-{
-    control.def_property(name, get, set, doc);
-}
-
-/// A result of the last evaluation, to be read.
-template <class Class, class Results, class Value>
-void result(Class& tool, const char* name, Value Results::*member, const char* doc)
-{
-    using Tool = typename Class::type;
-    tool.def_property_readonly(
-        name, [member](const Tool& self) { return self.evaluation().*member; }, doc);
-}
-
 /// The data as a property.
 template <class Class> void bindData(Class& control, const HostStateHandle& state)
 {

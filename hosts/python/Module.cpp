@@ -26,8 +26,6 @@ PYBIND11_MODULE(_core, module)
     bindSetUpPage(module, state);
     bindResultPage(module, state);
     bindSevenDay(module, state);
-    bindHistogramTools(module);
-    bindLoad(module, state);
-    bindRange(module, state);
+    bindHistogramTools(module, state);
     bindSelection(module, state);
 }

@@ -127,7 +127,8 @@ template <> struct type_caster<k7deval::CalLimitRulesEnum> {
 
 /// An array of objects: a list, or None for an array that was never sized. Error 91 for None in it.
 template <class Item> struct type_caster<k7deval::Array<Item>> {
-    PYBIND11_TYPE_CASTER(k7deval::Array<Item>, const_name("list"));
+    PYBIND11_TYPE_CASTER(k7deval::Array<Item>,
+                         const_name("list[") + make_caster<Item>::name + const_name("] | None"));
     bool load(handle source, bool convert)
     {
         value = {};
@@ -152,7 +153,8 @@ template <class Item> struct type_caster<k7deval::Array<Item>> {
 /// A dict in the map's order, a copy.
 template <class Key, class Value> struct type_caster<k7deval::OrderedMap<Key, Value>> {
     using Map = k7deval::OrderedMap<Key, Value>;
-    PYBIND11_TYPE_CASTER(Map, const_name("dict"));
+    PYBIND11_TYPE_CASTER(Map, const_name("dict[") + make_caster<Key>::name + const_name(", ") +
+                                  make_caster<Value>::name + const_name("]"));
     static handle cast(const Map& map, return_value_policy, handle)
     {
         dict result;

@@ -1,12 +1,14 @@
 """The package is complete: every member has a docstring, and the stubs tell what there is."""
 
 import ast
+import importlib.util
 import inspect
 import pathlib
 import re
 
 import k7deval
 import pytest
+from sample_sites import SOURCES
 
 PACKAGE = pathlib.Path(k7deval.__file__).parent
 CLASSES = {name: value for name, value in vars(k7deval).items() if isinstance(value, type)}
@@ -106,8 +108,8 @@ def undocumented(owner, members):
 
 def is_widget(value):
     result = value.fget.__doc__ if isinstance(value, property) else ""
-    kind = re.search(r"-> k7deval\._core\.(\w+)", result or "")
-    return kind is not None and issubclass(COMPILED[kind.group(1)], k7deval.Widget)
+    kind = re.search(r"-> (\w+)$", result or "", re.M)
+    return kind is not None and issubclass(COMPILED.get(kind.group(1), object), k7deval.Widget)
 
 
 def explained(value):
@@ -148,6 +150,23 @@ def test_every_widget_of_a_control_is_an_attribute_under_its_name(control, count
     assert len(parts) == count
     sample = (k7deval.ctrlMaxMW if control is k7deval.HistogramTool else control)()
     assert [getattr(sample, name).Name for name in parts] == parts
+
+
+def test_the_stubs_of_the_controls_are_up_to_date():
+    path = SOURCES / "scripts" / "make-stubs.py"
+    spec = importlib.util.spec_from_file_location("make_stubs", path)
+    script = importlib.util.module_from_spec(spec)
+    spec.loader.exec_module(script)
+    for name, text in script.stubs().items():
+        assert (script.FOLDER / name).read_text() == text, f"run {path}"
+
+
+def test_a_widget_of_a_misspelt_name_is_told_by_the_right_one():
+    tool = k7deval.ctrlMaxMW()
+    with pytest.raises(AttributeError, match="cmbUnits") as caught:
+        tool.cmbUnits
+    assert (caught.value.name, caught.value.obj) == ("cmbUnits", tool)
+    assert {"cmbUnit", "lblBar", "HighHours", "DIServer"} <= set(dir(tool))
 
 
 def test_the_package_is_typed_and_says_where_its_classes_live():

@@ -214,3 +214,14 @@ def test_the_private_steps_are_the_tools_own():
         assert not hasattr(tool, name)
     with pytest.raises(AttributeError):
         tool.dictCals = {}
+
+
+def test_the_fields_of_the_report_are_set_by_each_report(tmp_path):
+    path = tmp_path / "drift.pdf"
+    tool, messages = tool_on(drift_site(), Dialogs(save=(path, 1)))
+    assert (tool.strFacilityName, tool.strPrecision) == ("", "")
+    tool.cmdNext.Press()
+    assert (tool.strFacilityName, tool.strPrecision) == ("", ""), "an evaluation reports nothing"
+    tool.cmdSave.Press()
+    assert (tool.strFacilityName, tool.strPrecision) == (tool.DIServer.facility, "0.0")
+    assert messages.posted == []

@@ -1,8 +1,19 @@
 """Evaluation screens for continuous emissions monitoring data, driven from Python.
 
-The stubs are split by family; at run time all of it is in the one module.
+The stubs are split by family; at run time all of it is in the one module. This page is made
+by scripts/make-stubs.py.
 """
 
+from ._controls import (
+    ctrl7Day as ctrl7Day,
+    ctrl7DayResult as ctrl7DayResult,
+    ctrl7DaySetUp as ctrl7DaySetUp,
+    ctrlMaxMW as ctrlMaxMW,
+    ctrlRangeEval as ctrlRangeEval,
+    HistogramTool as HistogramTool,
+    ParamSelect as ParamSelect,
+    SingleParamSelect as SingleParamSelect,
+)
 from ._data import (
     DIDataPoint as DIDataPoint,
     DIDataSet as DIDataSet,
@@ -45,11 +56,6 @@ from ._functions import (
     ToSingle as ToSingle,
     UnitPID as UnitPID,
 )
-from ._histogram import (
-    ctrlMaxMW as ctrlMaxMW,
-    ctrlRangeEval as ctrlRangeEval,
-    HistogramTool as HistogramTool,
-)
 from ._records import (
     CalLimitRulesEnum as CalLimitRulesEnum,
     cls7DayAnalyzerCal as cls7DayAnalyzerCal,
@@ -66,15 +72,6 @@ from ._report import (
     ReportRectangles as ReportRectangles,
     ReportTextItem as ReportTextItem,
     ReportTextItems as ReportTextItems,
-)
-from ._selection import (
-    ParamSelect as ParamSelect,
-    SingleParamSelect as SingleParamSelect,
-)
-from ._sevenday import (
-    ctrl7Day as ctrl7Day,
-    ctrl7DayResult as ctrl7DayResult,
-    ctrl7DaySetUp as ctrl7DaySetUp,
 )
 from ._values import (
     DI1Params as DI1Params,

@@ -8,7 +8,7 @@ std::string SqliteDialect::insertOrUpdate(const RowColumns& row) const
     std::vector<std::string> changes;
     changes.reserve(row.values.size());
     for (const auto& column : row.values)
-        changes.push_back(column + " = excluded." + column);
+        changes.push_back(std::string(column).append(" = excluded.").append(column));
     return insertOf(row) + " ON CONFLICT (" + commaList(row.keys) + ") DO UPDATE SET " +
            commaList(changes);
 }

@@ -7,15 +7,8 @@
 namespace k7deval::sitedb
 {
 
-namespace
-{
-
-constexpr std::size_t kChunk = std::size_t{64} << 10U;
-
-} // namespace
-
 CheckSum::CheckSum(const SourceFile& file)
-    : file_(file), stream_(file.path, std::ios::binary), chunk_(kChunk)
+    : file_(file), stream_(file.path, std::ios::binary), chunk_(kChunkOfFile)
 {
     if (!stream_)
         throw file.error("", "the file can't be read", errors::kPathAccess);

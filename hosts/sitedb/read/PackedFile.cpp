@@ -12,8 +12,6 @@ namespace k7deval::sitedb
 namespace
 {
 
-constexpr std::size_t kChunk = std::size_t{64} << 10U;
-
 gzFile openPacked(const std::filesystem::path& path)
 {
 #ifdef _WIN32
@@ -113,7 +111,7 @@ unsigned long PackedFile::sumOfLast(std::uint32_t size)
     const std::int64_t begin = size_ - size;
     if (begin < 0 || gzseek(packed_.get(), begin, SEEK_SET) != begin)
         throw file_.error("", "the gzip file is damaged");
-    std::vector<char> chunk(kChunk);
+    std::vector<char> chunk(kChunkOfFile);
     uLong sum = 0;
     while (const std::size_t count = readSome(chunk.data(), chunk.size()))
         sum = sumWith(sum, chunk.data(), count);

@@ -17,14 +17,13 @@ namespace
 constexpr std::size_t kLargestContent = std::size_t{512} << 20U;
 // More than the header of any table.
 constexpr std::size_t kBeginning = std::size_t{32} << 10U;
-constexpr std::size_t kChunk = std::size_t{64} << 10U;
 
 /// Reads until there is more than that, or all.
 void readUpTo(std::size_t size, SourceFile& file, const OnBytesRead& onBytesRead)
 {
     file.content.clear();
     SourceStream stream(file, onBytesRead);
-    std::vector<char> chunk(kChunk);
+    std::vector<char> chunk(kChunkOfFile);
     for (std::streamsize count = -1; count != 0 && file.content.size() <= size;) {
         count = stream.sgetn(chunk.data(), static_cast<std::streamsize>(chunk.size()));
         file.content.append(chunk.data(), static_cast<std::size_t>(count));
@@ -67,7 +66,7 @@ std::int64_t checkSumOf(const SourceFile& file, const OnBytesRead& onBytesRead)
 {
     CheckSum sum(file);
     while (sum.bytesRead() < file.size) {
-        sum.readUpTo(sum.bytesRead() + static_cast<std::int64_t>(kChunk));
+        sum.readUpTo(sum.bytesRead() + static_cast<std::int64_t>(kChunkOfFile));
         if (onBytesRead)
             onBytesRead(sum.bytesRead());
     }

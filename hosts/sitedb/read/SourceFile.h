@@ -3,6 +3,7 @@
 #include "sitedb/PlainText.h"
 #include "sitedb/read/ImportError.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -12,6 +13,9 @@
 
 namespace k7deval::sitedb
 {
+
+/// How many bytes of a file are held at once while it is gone through.
+inline constexpr std::size_t kChunkOfFile = std::size_t{64} << 10U;
 
 /// A file to import: where it lies and, where it was asked for, its content.
 struct SourceFile {

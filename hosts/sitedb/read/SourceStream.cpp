@@ -10,13 +10,13 @@ namespace k7deval::sitedb
 namespace
 {
 
-constexpr std::size_t kChunk = std::size_t{64} << 10U;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 
 SourceStream::SourceStream(SourceFile& file, OnBytesRead onBytesRead)
-    : file_(file), onBytesRead_(std::move(onBytesRead)), packed_(file), sum_(file), text_(kChunk)
+    : file_(file), onBytesRead_(std::move(onBytesRead)), packed_(file), sum_(file),
+      text_(kChunkOfFile)
 {
 }
 
@@ -52,7 +52,7 @@ void SourceStream::fill()
 void SourceStream::follow()
 {
     sum_.readUpTo(atEnd_ ? file_.size : packed_.position());
-    const bool isDue = atEnd_ || sum_.bytesRead() - bytesTold_ >= std::int64_t{kChunk};
+    const bool isDue = atEnd_ || sum_.bytesRead() - bytesTold_ >= std::int64_t{kChunkOfFile};
     if (isDue && onBytesRead_) {
         bytesTold_ = sum_.bytesRead();
         onBytesRead_(bytesTold_);

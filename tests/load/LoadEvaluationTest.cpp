@@ -14,7 +14,7 @@ struct DayRig : LoadRig {
     DayRig() { specify("1/1/2024", "1/1/2024"); }
     DayRig& hour(std::optional<double> value, std::int32_t status)
     {
-        load().set(makeDate(2024, 1, 1, hours_++), value, status);
+        series().set(makeDate(2024, 1, 1, hours_++), value, status);
         return *this;
     }
 
@@ -102,55 +102,12 @@ TEST(LoadHourStatus, AValueOutOfASinglesRangeIsNothingInAnHourThatIsNot)
     EXPECT_EQ(countsOf(rig.results()), (HourCounts{.mid = 1}));
 }
 
-TEST(LoadYear, OfFourDigitsIsReadAndAnyOtherTextGivesWayToThePresentOne)
-{
-    for (const YearCase& year : kYears) {
-        LoadRig rig;
-        rig.tool.cmbYear.Type(year.typed);
-        rig.calculate();
-        EXPECT_EQ(rig.tool.cmbYear.Text(), year.shown) << year.typed;
-        ASSERT_FALSE(rig.site->reads.empty()) << year.typed;
-        EXPECT_EQ(rig.site->reads.front().start, makeDate(year.year, 1, 1)) << year.typed;
-        EXPECT_FALSE(rig.tool.NeedsEvaluation()) << year.typed;
-        EXPECT_TRUE(rig.tool.cmdSave.Enabled()) << year.typed;
-    }
-}
-
-TEST(LoadYear, ThePresentOneIsThatOfTheClock)
-{
-    LoadRig rig;
-    rig.tool.cmbYear.Type("?");
-    rig.clock.set(makeDate(2026, 1, 1));
-    rig.calculate();
-    EXPECT_EQ(rig.tool.cmbYear.Text(), "2026");
-    EXPECT_EQ(rig.site->reads.front().start, makeDate(2026, 1, 1));
-}
-
-TEST(LoadYear, OfTheFourthQuarterIsFollowedByTheNext)
-{
-    LoadRig rig;
-    rig.tool.cmbQTR.Pick(3);
-    rig.tool.cmbYear.Type("2019");
-    rig.calculate();
-    EXPECT_EQ(rig.site->reads.front(), (ReadRequest{kGT1Load, makeDate(2019, 10, 1), 92 * 24}));
-}
-
 TEST(LoadYear, WithSpecifiedDatesIsNotLookedAt)
 {
     LoadRig rig;
     rig.tool.cmbYear.Type("abc");
     rig.specify("1/1/2024", "1/1/2024").calculate();
     EXPECT_EQ(rig.tool.cmbYear.Text(), "abc");
-}
-
-TEST(LoadQuarter, NoneIsTheFirst)
-{
-    LoadRig rig(siteOfLoads(), makeDate(2024, 11, 10));
-    rig.tool.cmbQTR.SetListIndex(-1);
-    rig.calculate();
-    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q1");
-    EXPECT_EQ(rig.site->reads.front().start, makeDate(2024, 1, 1));
-    EXPECT_FALSE(rig.tool.NeedsEvaluation());
 }
 
 TEST(LoadInputs, AreReadFromTheirBoxesAlsoWhenTheseWereNotLeft)
@@ -227,33 +184,6 @@ TEST(LoadEarlyEnd, IsTriedAgainByTheNextCalculation)
     EXPECT_FALSE(rig.tool.NeedsEvaluation());
 }
 
-TEST(LoadEarlyEnd, AParameterThatIsGoneReadsNothing)
-{
-    LoadRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    rig.tool.cmbParam.Pick(0);
-    rig.takeReads();
-    std::erase_if(rig.site->parameters, [](const auto& p) { return p.pid == kGT1Load; });
-    rig.calculate();
-    EXPECT_TRUE(rig.takeReads().empty());
-    EXPECT_EQ(countsOf(rig.results()), HourCounts());
-    EXPECT_EQ(rig.results().Bins, histogram::HourBins());
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
-    EXPECT_EQ(rig.results().LowThreshold, 30);
-}
-
-TEST(LoadEarlyEnd, AParameterThatIsGoneIsMissedAfterThePeriodWasWorkedOut)
-{
-    LoadRig rig;
-    rig.tool.cmbYear.Type("abc");
-    std::erase_if(rig.site->parameters, [](const auto& p) { return p.pid == kGT1Load; });
-    rig.calculate();
-    EXPECT_EQ(rig.tool.cmbYear.Text(), "2024");
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-}
-
 TEST(LoadCapacityBelowMinimum, LeavesNoHourInTheRange)
 {
     LoadRig rig;
@@ -296,62 +226,6 @@ TEST(LoadMaximum, OfNegativeLoadsIsZero)
     rig.range("-50", "-10").hours({-5, -20}).calculate();
     EXPECT_EQ(countsOf(rig.results()), (HourCounts{.high = 1, .over = 1}));
     EXPECT_EQ(rig.results().MaxObserved, 0);
-}
-
-TEST(LoadEvaluationAgain, CountsFromZero)
-{
-    LoadRig rig;
-    rig.hours({-1, 10, 50, 90, 150}).calculate();
-    const auto bins = rig.results().Bins;
-    const HourCounts once{.low = 1, .mid = 1, .high = 1, .over = 1, .under = 1};
-    EXPECT_EQ(countsOf(rig.results()), once);
-    rig.tool.cmbParam.Pick(0);
-    rig.calculate();
-    EXPECT_EQ(countsOf(rig.results()), once);
-    EXPECT_EQ(rig.results().Bins, bins);
-}
-
-TEST(LoadEvaluationFailure, InTheMiddleLeavesTheHourglassAndTheEvaluationToBeDone)
-{
-    LoadRig rig;
-    rig.load().fill(makeDate(2023, 1, 1), makeDate(2024, 3, 31, 23), 50);
-    rig.site->failure = [&](const std::string& call, std::size_t) {
-        const bool isSecond = rig.site->countCalls("DIParameter.ReadData") == 2;
-        return call == "DIParameter.ReadData" && isSecond ? std::optional(Error(440))
-                                                          : std::nullopt;
-    };
-    EXPECT_EQ(errorOf([&] { rig.calculate(); }), 440);
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-    EXPECT_TRUE(isCleared(rig.tool));
-}
-
-TEST(LoadEvaluationFailure, IsMadeGoodByTheNextCalculation)
-{
-    LoadRig rig;
-    rig.hours({10, 50, 90});
-    failAt(*rig.site, "DIParameter.ReadData");
-    EXPECT_EQ(errorOf([&] { rig.calculate(); }), 440);
-    rig.site->failure = nullptr;
-    rig.calculate();
-    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 1, .mid = 1, .high = 1}));
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
-    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-}
-
-TEST(LoadEvaluationFailure, AnywhereOnItsWayReachesTheHost)
-{
-    for (const char* call : {"DIServer.Parameters", "DIParameters.Exists", "DIParameters.Item",
-                             "DIServer.StatusCodes", "DIParameter.ReadData"}) {
-        LoadRig rig;
-        rig.hours({10, 50, 90});
-        failAt(*rig.site, call);
-        EXPECT_EQ(errorOf([&] { rig.calculate(); }), 440) << call;
-        EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass) << call;
-        EXPECT_TRUE(rig.tool.NeedsEvaluation()) << call;
-        EXPECT_FALSE(rig.tool.cmdSave.Enabled()) << call;
-    }
 }
 
 } // namespace k7deval::test

@@ -228,7 +228,7 @@ TEST(LoadReport, ManyHoursAreInGeneralForm)
 {
     ReportRig rig;
     rig.specify("1/1/2023", "12/31/2023");
-    rig.load().fill(makeDate(2023, 1, 1), makeDate(2023, 12, 31, 23), 20);
+    rig.series().fill(makeDate(2023, 1, 1), makeDate(2023, 12, 31, 23), 20);
     rig.calculate();
     expectText(rig.page(), centred("8760 Hours", 144, kHoursY));
 }

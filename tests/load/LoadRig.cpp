@@ -30,32 +30,6 @@ std::shared_ptr<SiteData> siteOfLoads()
                              unitNamed(kGT2, "GT2"), hourlyNamed(kGT2Load, "GT2 Load")});
 }
 
-LoadRig& LoadRig::hours(const std::vector<double>& values, std::int32_t status)
-{
-    load() = {};
-    Date hour = makeDate(2024, 1, 1);
-    for (const double value : values) {
-        load().set(hour, value, status);
-        hour = dateFromSeconds(wholeSeconds(hour) + 3600);
-    }
-    return *this;
-}
-
-LoadRig& LoadRig::addHours(std::size_t count, double value)
-{
-    if (load().values.empty())
-        load().start = makeDate(2024, 1, 1);
-    load().values.insert(load().values.end(), count, value);
-    return *this;
-}
-
-std::vector<ReadRequest> LoadRig::takeReads()
-{
-    std::vector<ReadRequest> reads;
-    reads.swap(site->reads);
-    return reads;
-}
-
 bool isCleared(const ctrlMaxMW& tool)
 {
     for (const auto* label :
@@ -64,12 +38,7 @@ bool isCleared(const ctrlMaxMW& tool)
         if (!label->Caption().empty())
             return false;
     }
-    for (int bar = 1; bar <= 20; ++bar) {
-        const screen::Label& label = tool.lblBar[bar];
-        if (label.place().Top != 2700 || label.place().Height != 15 || !label.ToolTipText().empty())
-            return false;
-    }
-    return tool.lblBelow.Caption() == "0 hour(s) under minimum" &&
+    return barsLieFlat(tool.lblBar) && tool.lblBelow.Caption() == "0 hour(s) under minimum" &&
            tool.lblAbove.Caption() == "0 hour(s) over maximum";
 }
 

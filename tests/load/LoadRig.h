@@ -1,11 +1,7 @@
 #pragma once
 
-#include "foundation/ExpectError.h"
+#include "histogram/HistogramRig.h"
 #include "load/ctrlMaxMW.h"
-#include "support/FakeServices.h"
-#include "support/FakeSite.h"
-#include "support/HourlySite.h"
-#include "support/ScreenSnapshot.h"
 
 #include <cstdint>
 #include <iosfwd>
@@ -17,8 +13,6 @@
 
 namespace k7deval::test
 {
-
-using Lines = std::vector<std::string>;
 
 /// GT1, its load, and a constant that holds its capacity.
 inline constexpr PID kGT1 = 100'100'000;
@@ -39,37 +33,27 @@ std::shared_ptr<SiteData> siteOfLoads();
 /// A site of GT1 alone, with these parameters.
 std::shared_ptr<SiteData> siteOfParameters(const std::vector<ParameterData>& parameters);
 
-/// The load tool, on 10 May 2024 at 14:30 if not said otherwise. It has no data yet.
-struct LoadTool {
-    explicit LoadTool(Date now = makeDate(2024, 5, 10, 14, 30), const std::string& region = "en-US")
-        : clock(now), regional(regionalSettings(region))
-    {
-    }
-    LoadTool(const LoadTool&) = delete;
-    LoadTool& operator=(const LoadTool&) = delete;
-    ~LoadTool() = default;
+/// Whether the results of an evaluation are off the screen: no texts, flat bars, no tool tips.
+bool isCleared(const ctrlMaxMW& tool);
 
-    FakeServices services;
-    FixedClock clock;
-    RegionalSettings regional;
-    ctrlMaxMW tool{{services, clock, regional}};
-};
+using LoadTool = ToolAlone<ctrlMaxMW>;
 
 /// The load tool on a site of plain data, with GT1 and its load picked: minimum 0, capacity 100,
 /// four quarters ending with the first of 2024.
-struct LoadRig : LoadTool {
-    explicit LoadRig(std::shared_ptr<SiteData> data = siteOfLoads(),
-                     Date now = makeDate(2024, 5, 10, 14, 30), const std::string& region = "en-US")
-        : LoadTool(now, region), site(std::move(data))
+struct LoadRig : HistogramRig<LoadRig, ctrlMaxMW> {
+    static constexpr PID kSeries = kGT1Load;
+    static constexpr PID kOtherSeries = kGT2Load;
+    static constexpr const char* kHeader = "GT1 GT1 Load";
+    static constexpr const char* kTitle = "Load Evaluation";
+    static bool isEmpty(const ctrlMaxMW& tool) { return isCleared(tool); }
+    static void makeStale(ctrlMaxMW& tool) { tool.cmbParam.Pick(0); }
+
+    explicit LoadRig(std::shared_ptr<SiteData> data = siteOfLoads(), Date now = kAfternoonInMay,
+                     const std::string& region = "en-US")
+        : HistogramRig(std::move(data), now, region)
     {
-        tool.SetDIServer(serve(site));
     }
 
-    LoadRig& calculate()
-    {
-        tool.cmdCalculate.Press();
-        return *this;
-    }
     LoadRig& range(const std::string& minimum, const std::string& capacity)
     {
         enter(tool.txtMinSafe, minimum);
@@ -83,23 +67,7 @@ struct LoadRig : LoadTool {
         enter(tool.txtTo, to);
         return *this;
     }
-    /// One hour a value, from the first of January 2024 on. These are all hours of the load.
-    LoadRig& hours(const std::vector<double>& values, std::int32_t status = 0);
-    /// Gives the load as many hours of a value, behind those it has.
-    LoadRig& addHours(std::size_t count, double value);
-
-    [[nodiscard]] HourlyValues& load() const { return site->parameter(kGT1Load).hours; }
-    [[nodiscard]] const LoadEvaluation& results() const { return tool.evaluation(); }
-    /// What was read so far; forgets it.
-    std::vector<ReadRequest> takeReads();
-
-    template <class Action> Lines changesBy(Action action) { return changesOn(tool, action); }
-
-    std::shared_ptr<SiteData> site;
 };
-
-/// Whether the results of an evaluation are off the screen: no texts, flat bars, no tool tips.
-bool isCleared(const ctrlMaxMW& tool);
 
 /// Hours per counter and bin of an evaluation, for comparison.
 struct HourCounts {

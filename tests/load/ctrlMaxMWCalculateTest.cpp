@@ -75,50 +75,6 @@ TEST(LoadCalculate, VerifiesTheMinimumBeforeAnythingIsRead)
     EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
-TEST(LoadCalculate, WorksUnderTheHourglass)
-{
-    LoadRig rig;
-    std::vector<screen::MousePointer> seen;
-    rig.site->failure = [&](const std::string&, std::size_t) {
-        seen.push_back(rig.tool.MousePointer());
-        return std::optional<Error>();
-    };
-    rig.hours({50}).calculate();
-    EXPECT_FALSE(seen.empty());
-    EXPECT_TRUE(std::all_of(seen.begin(), seen.end(),
-                            [](auto p) { return p == screen::MousePointer::Hourglass; }));
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
-}
-
-TEST(LoadCalculate, HasSomethingToSaveAfterwards)
-{
-    LoadRig rig;
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-    rig.calculate();
-    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-}
-
-TEST(LoadCalculate, ReadsNothingWhenNothingHasChanged)
-{
-    LoadRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    rig.takeReads();
-    rig.hours({10, 10, 10});
-    EXPECT_EQ(rig.changesBy([&] { rig.calculate(); }), Lines());
-    EXPECT_TRUE(rig.takeReads().empty());
-    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 1, .mid = 1, .high = 1}));
-}
-
-TEST(LoadCalculate, ReadsAgainAfterANumberWasLeftUnchanged)
-{
-    LoadRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    rig.hours({10, 10, 10});
-    rig.tool.txtMinSafe.Leave();
-    rig.calculate();
-    EXPECT_EQ(countsOf(rig.results()), (HourCounts{.low = 3}));
-}
-
 TEST(LoadCalculate, WithoutAParameterFailsOnTheEmptyList)
 {
     LoadRig rig(siteOfParameters({}));
@@ -127,13 +83,6 @@ TEST(LoadCalculate, WithoutAParameterFailsOnTheEmptyList)
     EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
     EXPECT_TRUE(rig.tool.NeedsEvaluation());
     EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-}
-
-TEST(LoadCalculate, WithoutDataFailsOnTheEmptyList)
-{
-    LoadTool rig;
-    EXPECT_EQ(errorOf([&] { rig.tool.cmdCalculate.Press(); }), 381);
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
 }
 
 TEST(LoadCalculate, WithAZeroRangeStillNeedsAParameter)

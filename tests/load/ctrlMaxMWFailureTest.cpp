@@ -83,23 +83,6 @@ void expectRecovery(LoadRig& rig, const Action& action)
 
 } // namespace
 
-TEST(LoadFailure, OfACalculationIsTheHostsAndTheNextOneIsWhole)
-{
-    atEveryCall(kNothing, kCalculate, [](LoadRig& rig) {
-        expectFailure(rig, kCalculate);
-        EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-        expectRecovery(rig, kCalculate);
-    });
-}
-
-TEST(LoadFailure, OfTheEvaluationLeavesItToBeDone)
-{
-    LoadRig rig(siteWithHours());
-    failAt(*rig.site, "DIParameter.ReadData");
-    expectFailure(rig, kCalculate);
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-}
-
 TEST(LoadFailure, OfTheHeaderComesAfterTheEvaluation)
 {
     LoadRig rig(siteWithHours());
@@ -127,45 +110,6 @@ TEST(LoadFailure, OfShowingPIDsIsTheHostsAndLeavesTheResults)
         EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 GT1 Load");
         EXPECT_TRUE(rig.tool.cmdSave.Enabled());
     });
-}
-
-TEST(LoadFailure, OfAReportNeverReachesTheHost)
-{
-    const test::TemporaryFolder folder;
-    const std::string path = folder.file("Load.pdf");
-    const Action save = [&](LoadRig& rig) {
-        rig.services.saveAnswer = screen::SaveAnswer{path, 1};
-        rig.services.answers = {screen::MsgBoxAnswer::Yes};
-        rig.tool.cmdSave.Press();
-    };
-    const Action calculated = [](LoadRig& rig) {
-        rig.calculate();
-        rig.services.boxes.clear();
-    };
-    atEveryCall(calculated, save, [&](LoadRig& rig) {
-        std::filesystem::remove(path);
-        EXPECT_EQ(errorOf([&] { save(rig); }), 0);
-        EXPECT_TRUE(rig.services.boxes.empty());
-        EXPECT_EQ(folder.names(), Lines());
-        EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-    });
-}
-
-TEST(LoadFailure, OfAnotherKindKeepsItsText)
-{
-    LoadRig rig(siteWithHours());
-    rig.site->failure = [](const std::string& call, std::size_t) -> std::optional<Error> {
-        if (call == "DIParameter.ReadData")
-            throw Error(1234, "no such archive");
-        return std::nullopt;
-    };
-    try {
-        rig.calculate();
-        ADD_FAILURE() << "the failure did not reach the host";
-    } catch (const Error& error) {
-        EXPECT_EQ(error.number(), 1234);
-        EXPECT_EQ(error.description(), "no such archive");
-    }
 }
 
 } // namespace k7deval::test

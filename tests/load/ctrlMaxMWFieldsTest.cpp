@@ -354,39 +354,6 @@ TEST(LoadCalendar, CannotBeOpenedWhileFourQuartersAreLookedFor)
     EXPECT_TRUE(rig.services.dateRequests.empty());
 }
 
-TEST(LoadShowPID, PutsThePIDAheadOfEveryName)
-{
-    LoadRig rig(
-        siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), hourlyNamed(131'017'512, "Steam")}));
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.List(),
-              (Lines{"[1-602-0-75-01] GT1 Load", "[1-310-1-75-12] Steam"}));
-    EXPECT_EQ(rig.tool.cmbParam.itemDataList(), (std::vector<std::int32_t>{kGT1Load, 131'017'512}));
-    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 0);
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"GT1 Load", "Steam"}));
-}
-
-TEST(LoadShowPID, LeavesResultsOnTheScreen)
-{
-    CalculatedRig rig;
-    const Lines changes = rig.changesBy([&] { rig.tool.chkShowPID.Press(); });
-    EXPECT_TRUE(rig.isUntouched());
-    EXPECT_EQ(changes.size(), 3U) << "the box, the list and its text";
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-602-0-75-01] GT1 Load");
-    EXPECT_EQ(rig.tool.lblHeader.Caption(), "GT1 GT1 Load");
-}
-
-TEST(LoadShowPID, KeepsThePickedRow)
-{
-    LoadRig rig(
-        siteOfParameters({hourlyNamed(kGT1Load, "GT1 Load"), hourlyNamed(131'017'512, "Steam")}));
-    rig.tool.cmbParam.Pick(1);
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 1);
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-310-1-75-12] Steam");
-}
-
 TEST(LoadShowPID, RowsOfParametersThatAreGoneKeepTheirText)
 {
     LoadRig rig(
@@ -397,30 +364,6 @@ TEST(LoadShowPID, RowsOfParametersThatAreGoneKeepTheirText)
     rig.site->parameters.pop_back();
     rig.tool.chkShowPID.Press();
     EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"[1-602-0-75-01] GT1 Load", "Steam"}));
-}
-
-TEST(LoadShowPID, TakesTheNamesAsTheyAreNow)
-{
-    LoadRig rig;
-    rig.site->parameter(kGT1Load).name = "Gross Load";
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"[1-602-0-75-01] Gross Load"});
-}
-
-TEST(LoadShowPID, WithoutDataDoesNothing)
-{
-    LoadTool rig;
-    rig.tool.chkShowPID.Press();
-    EXPECT_TRUE(rig.tool.chkShowPID.isChecked());
-    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
-}
-
-TEST(LoadShowPID, AfterTheDataWasTakenAwayDoesNothing)
-{
-    LoadRig rig;
-    rig.tool.SetDIServer(nullptr);
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
 }
 
 } // namespace k7deval::test

@@ -100,17 +100,6 @@ TEST(LoadStaleness, OtherActionsLeaveTheResults)
     }
 }
 
-TEST(LoadStaleness, AQuarterPickedFromTheListIsNotReadByTheNextCalculation)
-{
-    LoadRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    rig.takeReads();
-    rig.tool.cmbQTR.Pick(3);
-    rig.tool.cmbYear.Pick(2);
-    EXPECT_EQ(rig.changesBy([&] { rig.calculate(); }), Lines());
-    EXPECT_TRUE(rig.takeReads().empty());
-}
-
 TEST(LoadStaleness, ATypedYearIsReadByTheNextCalculation)
 {
     LoadRig rig;

@@ -59,7 +59,7 @@ void addScatteredLoads(LoadRig& rig)
         -3, 0, 4, 29, 30, 31, 59, 60, 61, 99, 100, 101, 130, std::nullopt, 45, 77.7};
     Date hour = makeDate(2023, 1, 1);
     for (int i = 0; i < 400; ++i) {
-        rig.load().set(hour, values[static_cast<std::size_t>(i) % values.size()], i % 3);
+        rig.series().set(hour, values[static_cast<std::size_t>(i) % values.size()], i % 3);
         hour = dateFromSeconds(wholeSeconds(hour) + 27 * 3600);
     }
 }
@@ -163,7 +163,7 @@ void CourseRig::act(int kind, int number)
         tool.cmdSave.Press();
         break;
     case 11:
-        load().values[static_cast<std::size_t>(number)] = number;
+        series().values[static_cast<std::size_t>(number)] = number;
         break;
     case 12:
         tool.SetDIServer(number % 2 == 0 ? serve(site) : tool.DIServer());

@@ -32,23 +32,6 @@ TEST(LoadData, ListsTheUnitsInTheirOrderAndPicksTheFirst)
     EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT9");
 }
 
-TEST(LoadData, PickingTheFirstUnitListsItsParametersAndItsCapacity)
-{
-    const LoadRig rig;
-    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"GT1 Load"});
-    EXPECT_EQ(rig.tool.cmbParam.itemDataList(), std::vector<std::int32_t>{kGT1Load});
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "GT1 Load");
-    EXPECT_EQ(rig.tool.txtCapacity.Text(), "100");
-}
-
-TEST(LoadData, IsKept)
-{
-    LoadTool rig;
-    const auto server = serve(siteOfLoads());
-    rig.tool.SetDIServer(server);
-    EXPECT_EQ(rig.tool.DIServer(), server);
-}
-
 TEST(LoadData, UnitsAreReadBeforeTheParametersOfTheFirstAndThoseBeforeItsConstants)
 {
     const LoadRig rig;
@@ -59,31 +42,6 @@ TEST(LoadData, UnitsAreReadBeforeTheParametersOfTheFirstAndThoseBeforeItsConstan
     }
     EXPECT_EQ(asked, (Lines{"DIServer.Units", "DIServer.ParametersOfUnitTypes",
                             "DIServer.ConstantsOfUnitTypes"}));
-}
-
-TEST(LoadData, NothingEmptiesTheListsOfAToolThatHadNone)
-{
-    LoadTool rig;
-    rig.tool.SetDIServer(nullptr);
-    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
-    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
-}
-
-TEST(LoadData, TakenAwayLeavesNoUnitNoParameterNoResultsAndNothingToSave)
-{
-    LoadRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    rig.tool.SetDIServer(nullptr);
-    EXPECT_EQ(rig.tool.DIServer(), nullptr);
-    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
-    EXPECT_EQ(rig.tool.cmbUnit.Text(), "");
-    EXPECT_EQ(rig.tool.cmbParam.listCount(), 0);
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "");
-    EXPECT_TRUE(isCleared(rig.tool));
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadData, TakenAwayLeavesTheNumbersAndTheEvaluationAsTheyAre)
@@ -149,46 +107,6 @@ TEST(LoadData, AFailureOfTheUnitsReachesTheHost)
     EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(site)); }), 440);
     EXPECT_NE(rig.tool.DIServer(), nullptr);
     EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
-}
-
-TEST(LoadData, AFailureOfTheFirstUnitsParametersReachesTheHostUnderTheHourglass)
-{
-    LoadTool rig;
-    const auto site = siteOfLoads();
-    failAt(*site, "DIServer.ParametersOfUnitTypes");
-    EXPECT_EQ(errorOf([&] { rig.tool.SetDIServer(serve(site)); }), 440);
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
-}
-
-TEST(LoadData, IsReleasedWhenTheToolEnds)
-{
-    LoadTool rig;
-    std::weak_ptr<DIServer> server;
-    {
-        const auto held = serve(siteOfLoads());
-        server = held;
-        rig.tool.SetDIServer(held);
-    }
-    EXPECT_FALSE(server.expired());
-    rig.tool.Terminate();
-    EXPECT_TRUE(server.expired());
-    EXPECT_EQ(rig.tool.DIServer(), nullptr);
-}
-
-TEST(LoadData, IsReleasedWhenTheToolIsDestroyed)
-{
-    FakeServices services;
-    const FixedClock clock(makeDate(2024, 5, 10));
-    const RegionalSettings regional;
-    std::weak_ptr<DIServer> server;
-    {
-        ctrlMaxMW tool({services, clock, regional});
-        const auto held = serve(siteOfLoads());
-        server = held;
-        tool.SetDIServer(held);
-    }
-    EXPECT_TRUE(server.expired());
 }
 
 } // namespace k7deval::test

@@ -63,23 +63,6 @@ TEST(LoadToolStart, PreselectsTheNewestFinishedQuarterOfAnyMonth)
     }
 }
 
-TEST(LoadToolStart, InJanuaryTheYearIsTheLastOneButTheListBeginsWithThePresentOne)
-{
-    const LoadTool rig(makeDate(2025, 1, 15, 9));
-    EXPECT_EQ(rig.tool.cmbYear.List(), (Lines{"2025", "2024", "2023"}));
-    EXPECT_EQ(rig.tool.cmbYear.Text(), "2024");
-    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q4");
-    EXPECT_EQ(rig.tool.txtFrom.Text(), "10/1/2024");
-    EXPECT_EQ(rig.tool.txtTo.Text(), "12/31/2024");
-}
-
-TEST(LoadToolStart, OffersFourQuartersAndThreeYears)
-{
-    const LoadTool rig;
-    EXPECT_EQ(rig.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
-    EXPECT_EQ(rig.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
-}
-
 TEST(LoadToolStart, WritesTheDatesAsTheRegionDoes)
 {
     const LoadTool rig(makeDate(2024, 8, 3), "de-DE");
@@ -97,18 +80,6 @@ TEST(LoadToolStart, TakesTheSpecifiedDatesFromTheirBoxes)
     }
 }
 
-TEST(LoadToolStart, HasNoUnitAndNoParameter)
-{
-    const LoadTool rig;
-    EXPECT_EQ(rig.tool.DIServer(), nullptr);
-    for (const auto* list : {&rig.tool.cmbUnit, &rig.tool.cmbParam}) {
-        EXPECT_EQ(list->listCount(), 0);
-        EXPECT_EQ(list->ListIndex(), -1);
-        EXPECT_EQ(list->Text(), "");
-        EXPECT_TRUE(list->Enabled());
-    }
-}
-
 TEST(LoadToolStart, MinimumAndCapacityAreZero)
 {
     const LoadTool rig;
@@ -119,58 +90,6 @@ TEST(LoadToolStart, MinimumAndCapacityAreZero)
     EXPECT_TRUE(rig.tool.txtMinSafe.Enabled());
     EXPECT_TRUE(rig.tool.txtCapacity.Enabled());
     EXPECT_TRUE(rig.tool.lblCapacity.Enabled());
-}
-
-TEST(LoadToolStart, LooksForFourQuartersAndNotForDates)
-{
-    const LoadTool rig;
-    EXPECT_TRUE(rig.tool.optTimeEnd.isSelected());
-    EXPECT_FALSE(rig.tool.optTimeSelect.isSelected());
-    EXPECT_TRUE(rig.tool.cmbYear.Enabled());
-    EXPECT_TRUE(rig.tool.cmbQTR.Enabled());
-    EXPECT_FALSE(rig.tool.txtFrom.Enabled());
-    EXPECT_FALSE(rig.tool.cmdFrom.Enabled());
-    EXPECT_FALSE(rig.tool.txtTo.Enabled());
-    EXPECT_FALSE(rig.tool.cmdTo.Enabled());
-}
-
-TEST(LoadToolStart, HasNothingToSaveAndEverythingToEvaluate)
-{
-    const LoadTool rig;
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_FALSE(rig.tool.chkShowPID.isChecked());
-    EXPECT_FALSE(rig.tool.chkPreview.isChecked());
-    EXPECT_TRUE(rig.tool.cmdCalculate.Enabled());
-    EXPECT_TRUE(rig.tool.cmdClose.Enabled());
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
-}
-
-TEST(LoadToolStart, ShowsNoResults)
-{
-    const LoadTool rig;
-    EXPECT_TRUE(isCleared(rig.tool));
-    EXPECT_EQ(countsOf(rig.tool.evaluation()), HourCounts());
-    EXPECT_EQ(rig.tool.evaluation().Bins, histogram::HourBins());
-    EXPECT_EQ(rig.tool.evaluation().MaxObserved, 0);
-}
-
-TEST(LoadToolStart, AsksForNothing)
-{
-    const LoadTool rig;
-    EXPECT_TRUE(rig.services.boxes.empty());
-    EXPECT_TRUE(rig.services.filters.empty());
-    EXPECT_TRUE(rig.services.dateRequests.empty());
-}
-
-TEST(LoadToolStart, ClosingIsLeftToTheHost)
-{
-    LoadRig rig;
-    int closed = 0;
-    rig.tool.CloseClicked.Connect([&] { ++closed; });
-    EXPECT_EQ(rig.changesBy([&] { rig.tool.cmdClose.Press(); }), Lines());
-    EXPECT_EQ(closed, 1);
-    EXPECT_NE(rig.tool.DIServer(), nullptr);
 }
 
 } // namespace k7deval::test

@@ -158,17 +158,6 @@ TEST(LoadUnit, WithoutParametersSelectsNone)
     EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Default);
 }
 
-TEST(LoadUnit, ListsPIDsAheadOfTheNamesWhenTheyAreShown)
-{
-    LoadRig rig;
-    rig.tool.chkShowPID.Press();
-    rig.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"[2-602-0-75-01] GT2 Load"});
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
-    EXPECT_EQ(rig.tool.cmbParam.ItemData(), kGT2Load);
-    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT2") << "units show no PID";
-}
-
 TEST(LoadUnit, LeavesTheMinimumToTheUser)
 {
     LoadRig rig;
@@ -178,16 +167,6 @@ TEST(LoadUnit, LeavesTheMinimumToTheUser)
     EXPECT_EQ(rig.results().MinSafeValue, 20);
     rig.tool.cmbUnit.Pick(0);
     EXPECT_EQ(rig.tool.txtMinSafe.Text(), "20");
-}
-
-TEST(LoadUnit, MakesTheResultsStale)
-{
-    LoadRig rig;
-    rig.hours({50}).calculate();
-    rig.tool.cmbUnit.Pick(0);
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_TRUE(isCleared(rig.tool));
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(LoadUnit, WithoutParametersMakesTheResultsStaleToo)

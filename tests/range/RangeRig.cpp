@@ -8,25 +8,6 @@
 namespace k7deval::test
 {
 
-namespace
-{
-
-constexpr float kBase = 2700;
-constexpr float kFlat = 15;
-
-bool barsLieFlat(const ctrlRangeEval& tool)
-{
-    for (int bar = 1; bar <= histogram::kBinCount; ++bar) {
-        const screen::Label& label = tool.lblBar[bar];
-        if (label.place().Top != kBase || label.place().Height != kFlat ||
-            !label.ToolTipText().empty())
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
 void addScale(SiteData& site, const ScaleFacts& facts)
 {
     ParameterData calibration;
@@ -66,16 +47,8 @@ std::shared_ptr<SiteData> siteOfTwoUnits()
                            {.unit = 2, .scale = std::string("MID"), .span = 250.0F}});
     site->parameters.push_back(hourlyNamed(MakePID(1, 230, 1, 75, 0), "CO2"));
     site->parameters.push_back(unitNamed(kGT2, "GT2"));
-    site->parameters.push_back(hourlyNamed(MakePID(2, 120, 1, 75, 0), "NOX"));
+    site->parameters.push_back(hourlyNamed(kGT2NOx, "NOX"));
     return site;
-}
-
-RangeRig& RangeRig::hours(const std::vector<std::optional<double>>& values, std::int32_t status)
-{
-    series() = {};
-    for (std::size_t hour = 0; hour < values.size(); ++hour)
-        series().set(makeDate(2024, 1, 1, static_cast<int>(hour)), values[hour], status);
-    return *this;
 }
 
 RangeRig& RangeRig::limits(const std::string& mec, const std::string& mpc)
@@ -83,11 +56,6 @@ RangeRig& RangeRig::limits(const std::string& mec, const std::string& mpc)
     enter(tool.txtMEC, mec);
     enter(tool.txtMPC, mpc);
     return *this;
-}
-
-std::vector<ReadRequest> RangeRig::takeReads()
-{
-    return std::exchange(site->reads, {});
 }
 
 Counters countersOf(const RangeEvaluation& evaluation)
@@ -122,7 +90,7 @@ bool isCleared(const ctrlRangeEval& tool)
                               &tool.lblMidOpPercent, &tool.lblHighOpPercent};
     const bool hasNoTexts = std::all_of(texts.begin(), texts.end(),
                                         [](const auto* label) { return label->Caption().empty(); });
-    return hasNoTexts && barsLieFlat(tool) &&
+    return hasNoTexts && barsLieFlat(tool.lblBar) &&
            tool.lblAboveMEC.Caption() == "Hours above MEC:  N/A" &&
            tool.lblAboveMPC.Caption() == "Hours above MPC:  N/A" &&
            tool.lblOverRange.Caption() == "Hours over Range:  N/A" &&

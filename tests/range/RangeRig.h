@@ -1,10 +1,7 @@
 #pragma once
 
+#include "histogram/HistogramRig.h"
 #include "range/ctrlRangeEval.h"
-#include "support/FakeServices.h"
-#include "support/FakeSite.h"
-#include "support/HourlySite.h"
-#include "support/ScreenSnapshot.h"
 
 #include <cstdint>
 #include <iosfwd>
@@ -16,12 +13,13 @@
 namespace k7deval::test
 {
 
-using Lines = std::vector<std::string>;
-
 inline constexpr PID kGT1 = 100'100'000;
 inline constexpr PID kGT2 = 200'100'000;
 /// The hourly NOx of GT1.
 inline constexpr PID kNOx = 112'017'500;
+
+/// The hourly NOx of GT2, where a site has it.
+inline constexpr PID kGT2NOx = 212'017'500;
 
 /// A calibration definition: as it stands, of GT1's NOx analyzer on its only scale.
 struct ScaleFacts {
@@ -47,56 +45,33 @@ std::shared_ptr<SiteData> siteOfNOx(const std::vector<ScaleFacts>& scales = {Sca
 /// "MID" (250).
 std::shared_ptr<SiteData> siteOfTwoUnits();
 
-/// The range tool, on 15 May 2024 at 14:30 if not said otherwise. It has no data yet.
-struct RangeTool {
-    explicit RangeTool(Date now = makeDate(2024, 5, 15, 14, 30),
-                       const std::string& region = "en-US")
-        : clock(now), regional(regionalSettings(region))
+/// Whether no results stand on the screen: no texts, "N/A" in the lines of counts, flat bars.
+bool isCleared(const ctrlRangeEval& tool);
+
+using RangeTool = ToolAlone<ctrlRangeEval>;
+
+/// The range tool on a site of plain data: if not said otherwise GT1's NOX with a range of
+/// 100, an expected value of 20 and a potential one of 100, up to the first quarter of 2024.
+struct RangeRig : HistogramRig<RangeRig, ctrlRangeEval> {
+    static constexpr PID kSeries = kNOx;
+    static constexpr PID kOtherSeries = kGT2NOx;
+    static constexpr const char* kHeader = "GT1 NOX";
+    static constexpr const char* kTitle = "Range Evaluation";
+    static bool isEmpty(const ctrlRangeEval& tool) { return isCleared(tool); }
+    static void makeStale(ctrlRangeEval& tool) { tool.txtRange.Leave(); }
+
+    explicit RangeRig(std::shared_ptr<SiteData> data = siteOfNOx(), Date now = kAfternoonInMay,
+                      const std::string& region = "en-US")
+        : HistogramRig(std::move(data), now, region)
     {
     }
-    RangeTool(const RangeTool&) = delete;
-    RangeTool& operator=(const RangeTool&) = delete;
-    ~RangeTool() = default;
 
-    template <class Action> Lines changesBy(Action action) { return changesOn(tool, action); }
-
-    FakeServices services;
-    FixedClock clock;
-    RegionalSettings regional;
-    ctrlRangeEval tool{{services, clock, regional}};
-};
-
-/// The range tool on a site of plain data: if not said otherwise GT1's NOX with a range of 100, an
-/// expected value of 20 and a potential one of 100, up to the first quarter of 2024.
-struct RangeRig : RangeTool {
-    explicit RangeRig(std::shared_ptr<SiteData> data = siteOfNOx(),
-                      Date now = makeDate(2024, 5, 15, 14, 30), const std::string& region = "en-US")
-        : RangeTool(now, region), site(std::move(data)), server(serve(site))
-    {
-        tool.SetDIServer(server);
-    }
-
-    RangeRig& calculate()
-    {
-        tool.cmdCalculate.Press();
-        return *this;
-    }
     RangeRig& range(const std::string& text)
     {
         enter(tool.txtRange, text);
         return *this;
     }
-    /// Values from the first hour of 2024 on, in place of the hours that were there.
-    RangeRig& hours(const std::vector<std::optional<double>>& values, std::int32_t status = 0);
     RangeRig& limits(const std::string& mec, const std::string& mpc);
-
-    [[nodiscard]] HourlyValues& series() const { return site->parameter(kNOx).hours; }
-    [[nodiscard]] const RangeEvaluation& results() const { return tool.evaluation(); }
-    /// What was read so far; forgets it.
-    std::vector<ReadRequest> takeReads();
-
-    std::shared_ptr<SiteData> site;
-    std::shared_ptr<DIServer> server;
 };
 
 /// The counters of an evaluation.
@@ -116,8 +91,5 @@ std::ostream& operator<<(std::ostream& out, const Counters& counters);
 
 /// Bins by their numbers, without the empty ones.
 std::string filledBins(const RangeEvaluation& evaluation);
-
-/// Whether no results stand on the screen: no texts, "N/A" in the lines of counts, flat bars.
-bool isCleared(const ctrlRangeEval& tool);
 
 } // namespace k7deval::test

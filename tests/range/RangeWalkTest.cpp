@@ -1,9 +1,6 @@
-#include "foundation/UtilityFunctions.h"
 #include "range/RangeRig.h"
 
 #include <gtest/gtest.h>
-
-#include <set>
 
 /// How far back the hours are read: to four quarters with any hour and more than 720 hours, or to
 /// twelve quarters.
@@ -116,92 +113,6 @@ TEST(RangeWalk, InvalidHoursOfEmptyQuartersAreCountedToo)
     const WalkRig rig({{5, 10, 50, 1}});
     EXPECT_EQ(rig.quartersRead(), 12U);
     EXPECT_EQ(rig.results().InvalidHours, 10);
-}
-
-TEST(RangeWalk, AsksForEachQuarterAsAWhole)
-{
-    const WalkRig rig(evenly(12, 90));
-    const std::vector<ReadRequest> expected{
-        {kNOx, makeDate(2024, 1, 1), 91 * 24}, {kNOx, makeDate(2023, 10, 1), 92 * 24},
-        {kNOx, makeDate(2023, 7, 1), 92 * 24}, {kNOx, makeDate(2023, 4, 1), 91 * 24},
-        {kNOx, makeDate(2023, 1, 1), 90 * 24}, {kNOx, makeDate(2022, 10, 1), 92 * 24},
-        {kNOx, makeDate(2022, 7, 1), 92 * 24}, {kNOx, makeDate(2022, 4, 1), 91 * 24},
-        {kNOx, makeDate(2022, 1, 1), 90 * 24},
-    };
-    EXPECT_EQ(rig.site->reads, expected);
-}
-
-TEST(RangeWalk, UsesOneDataSet)
-{
-    const WalkRig rig({});
-    EXPECT_EQ(rig.site->readSets.size(), 12U);
-    EXPECT_EQ(
-        std::set<const DIDataSet*>(rig.site->readSets.begin(), rig.site->readSets.end()).size(),
-        1U);
-}
-
-TEST(RangeWalk, TheFirstAndTheLastHourOfAQuarterBelongToIt)
-{
-    RangeRig rig;
-    rig.series().fill(makeDate(2023, 12, 31, 23), makeDate(2023, 12, 31, 23), 10);
-    rig.series().fill(makeDate(2024, 1, 1), makeDate(2024, 1, 1), 50);
-    rig.series().fill(makeDate(2024, 3, 31, 23), makeDate(2024, 3, 31, 23), 50);
-    rig.series().fill(makeDate(2024, 4, 1), makeDate(2024, 4, 1), 90);
-    rig.calculate();
-    EXPECT_EQ(rig.results().LowHours, 1);
-    EXPECT_EQ(rig.results().MidHours, 2);
-    EXPECT_EQ(rig.results().HighHours, 0) << "the second quarter is not read";
-}
-
-TEST(RangeWalk, BeginsWithTheQuarterThatIsPicked)
-{
-    RangeRig rig;
-    rig.series().fill(makeDate(2022, 1, 1), makeDate(2024, 12, 31, 23), 50);
-    for (const auto& [quarter, start] : {std::pair(0, makeDate(2023, 1, 1)),
-                                         {1, makeDate(2023, 4, 1)},
-                                         {2, makeDate(2023, 7, 1)},
-                                         {3, makeDate(2023, 10, 1)}}) {
-        rig.tool.cmbYear.Type("2023");
-        rig.tool.cmbQTR.Pick(quarter);
-        rig.range("100").calculate();
-        const auto reads = rig.takeReads();
-        ASSERT_EQ(reads.size(), 4U);
-        EXPECT_EQ(reads[0].start, start) << quarter;
-        EXPECT_EQ(reads[3].start, DateAddExact("m", -9, start)) << quarter;
-    }
-}
-
-TEST(RangeWalk, BeginsWithAYearThatIsNotInTheList)
-{
-    RangeRig rig;
-    rig.tool.cmbYear.Type("1998");
-    rig.calculate();
-    EXPECT_EQ(rig.site->reads.front().start, makeDate(1998, 1, 1));
-    EXPECT_EQ(rig.tool.cmbYear.Text(), "1998");
-}
-
-TEST(RangeWalk, WithAYearThatIsNoneBeginsInThePresentOneAndShowsIt)
-{
-    for (const char* text : {"abc", "", "99", "10000", "2020.5"}) {
-        RangeRig rig;
-        rig.tool.cmbYear.Type(text);
-        rig.calculate();
-        EXPECT_EQ(rig.site->reads.front().start, makeDate(2024, 1, 1)) << text;
-        EXPECT_EQ(rig.tool.cmbYear.Text(), "2024") << text;
-        EXPECT_FALSE(rig.tool.NeedsEvaluation()) << text;
-        EXPECT_TRUE(rig.tool.cmdSave.Enabled()) << text;
-        EXPECT_FALSE(isCleared(rig.tool)) << text;
-    }
-}
-
-TEST(RangeWalk, WithoutAQuarterBeginsWithTheFirst)
-{
-    RangeRig rig(siteOfNOx(), makeDate(2024, 8, 1));
-    ASSERT_EQ(rig.tool.cmbQTR.Text(), "Q2");
-    rig.tool.cmbQTR.SetListIndex(-1);
-    rig.calculate();
-    EXPECT_EQ(rig.site->reads.front().start, makeDate(2024, 1, 1));
-    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q1");
 }
 
 TEST(RangeWalk, ReadsTheParameterThatIsPicked)

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 
 /// The click of the calculate button.
 namespace k7deval::test
@@ -33,48 +32,7 @@ void expectFailed(const RangeRig& rig)
     EXPECT_TRUE(rig.tool.NeedsEvaluation());
 }
 
-/// The n-th call of that name fails, from 1.
-void failAtCall(SiteData& site, const std::string& name, std::size_t number)
-{
-    site.calls.clear();
-    site.failure = [&site, name, number](const std::string& call, std::size_t) {
-        return call == name && site.countCalls(name) == number
-                   ? std::optional(Error(440, "the line is down"))
-                   : std::nullopt;
-    };
-}
-
 } // namespace
-
-TEST(RangeCalculate, EvaluatesShowsAndAllowsSaving)
-{
-    RangeRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    EXPECT_EQ(countersOf(rig.results()), (Counters{.low = 1, .mid = 1, .high = 1, .aboveMEC = 2}));
-    EXPECT_EQ(filledBins(rig.results()), "2: 1, 10: 1, 18: 1");
-    EXPECT_FALSE(rig.tool.NeedsEvaluation());
-    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-    EXPECT_FALSE(isCleared(rig.tool));
-    EXPECT_EQ(rig.tool.MousePointer(), MousePointer::Default);
-}
-
-TEST(RangeCalculate, ShowsTheHourglassWhileItReadsAndPaints)
-{
-    RangeRig rig;
-    std::set<std::string> underHourglass;
-    rig.site->failure = [&](const std::string& call, std::size_t) {
-        if (rig.tool.MousePointer() == MousePointer::Hourglass)
-            underHourglass.insert(call);
-        return std::optional<Error>();
-    };
-    bool painted = false;
-    rig.tool.lblHeader.Changed.Connect(
-        [&] { painted = rig.tool.MousePointer() == MousePointer::Hourglass; });
-    rig.calculate();
-    EXPECT_TRUE(underHourglass.contains("DIParameter.ReadData"));
-    EXPECT_TRUE(painted);
-    EXPECT_EQ(rig.tool.MousePointer(), MousePointer::Default);
-}
 
 TEST(RangeCalculate, DrawsTheChartAheadOfTheTextsAndAllowsSavingLast)
 {
@@ -88,17 +46,6 @@ TEST(RangeCalculate, DrawsTheChartAheadOfTheTextsAndAllowsSavingLast)
     rig.calculate();
     order.erase(std::unique(order.begin(), order.end()), order.end());
     EXPECT_EQ(order, (Lines{"bar", "header", "invalid", "save"}));
-}
-
-TEST(RangeCalculate, PressedAgainReadsNothingAndShowsTheSame)
-{
-    RangeRig rig;
-    rig.hours({10, 50, 90}).calculate();
-    rig.hours({1, 2, 3});
-    rig.site->calls.clear();
-    EXPECT_EQ(rig.changesBy([&] { rig.calculate(); }), Lines());
-    EXPECT_EQ(rig.site->countCalls("DIParameter.ReadData"), 0U);
-    EXPECT_EQ(rig.results().HighHours, 1);
 }
 
 TEST(RangeCalculate, CountsAnewEachTime)
@@ -185,14 +132,6 @@ TEST(RangeCalculate, ReadsNumbersAsTheRegionWritesThem)
     EXPECT_EQ(rig.results().AboveMPCHours, 1);
 }
 
-TEST(RangeCalculate, WithoutASelectedParameterFails)
-{
-    RangeRig rig(std::make_shared<SiteData>());
-    EXPECT_EQ(errorOfCalculating(rig), 381);
-    expectFailed(rig);
-    EXPECT_TRUE(isCleared(rig.tool));
-}
-
 TEST(RangeCalculate, ARangeThatCannotBeReadFailsAndLeavesTheResultsBefore)
 {
     for (const auto& [text, error] : {std::pair("abc", 13), {"", 13}, {"1E39", 6}}) {
@@ -204,74 +143,6 @@ TEST(RangeCalculate, ARangeThatCannotBeReadFailsAndLeavesTheResultsBefore)
         expectFailed(rig);
         EXPECT_EQ(rig.results().MidHours, 1) << "the counters are zeroed later";
         EXPECT_EQ(rig.results().RangeValue, 100);
-    }
-}
-
-TEST(RangeCalculate, AYearWithoutADateFailsWithTheResultsGone)
-{
-    RangeRig rig;
-    rig.hours({50}, 35).calculate();
-    rig.tool.cmbYear.Type("9999");
-    rig.tool.cmbQTR.Pick(3);
-    EXPECT_EQ(errorOfCalculating(rig), 5);
-    expectFailed(rig);
-    EXPECT_EQ(countersOf(rig.results()), Counters());
-    EXPECT_EQ(filledBins(rig.results()), "");
-}
-
-TEST(RangeCalculate, AParameterThatIsGoneShowsZerosAndStaysToBeEvaluated)
-{
-    RangeRig rig;
-    rig.hours({50}, 35).calculate();
-    rig.range("100");
-    std::erase_if(rig.site->parameters, [](const auto& p) { return p.pid == kNOx; });
-    rig.takeReads();
-    rig.calculate();
-    EXPECT_EQ(rig.takeReads(), std::vector<ReadRequest>());
-    EXPECT_EQ(countersOf(rig.results()), Counters());
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-    EXPECT_EQ(rig.tool.MousePointer(), MousePointer::Default);
-    EXPECT_EQ(rig.tool.lblHeader.Caption(), "") << "it keeps its text";
-    EXPECT_EQ(rig.tool.lblMidOpPercent.Caption(), "-----");
-    EXPECT_EQ(rig.tool.lblOverRange.Caption(), "Hours over Range:  0");
-    EXPECT_EQ(rig.tool.lblMax.Caption(), "100");
-}
-
-TEST(RangeCalculate, AParameterThatIsGoneStillSetsTheYearRight)
-{
-    RangeRig rig;
-    std::erase_if(rig.site->parameters, [](const auto& p) { return p.pid == kNOx; });
-    rig.tool.cmbYear.Type("abc");
-    rig.calculate();
-    EXPECT_EQ(rig.tool.cmbYear.Text(), "2024");
-}
-
-TEST(RangeCalculate, AFailureOfTheDataLeavesTheCountersAsFarAsTheyCame)
-{
-    RangeRig rig;
-    rig.series().fill(makeDate(2023, 10, 1), makeDate(2024, 3, 31, 23), 50);
-    failAtCall(*rig.site, "DIParameter.ReadData", 2);
-    EXPECT_EQ(errorOfCalculating(rig), 440);
-    expectFailed(rig);
-    EXPECT_EQ(rig.results().MidHours, 91 * 24);
-    EXPECT_EQ(filledBins(rig.results()), "10: 2184");
-    EXPECT_TRUE(isCleared(rig.tool));
-    rig.site->failure = nullptr;
-    rig.calculate();
-    EXPECT_EQ(rig.results().MidHours, (91 + 92) * 24);
-    EXPECT_EQ(rig.tool.MousePointer(), MousePointer::Default);
-}
-
-TEST(RangeCalculate, AnyFailureOfTheDataReachesTheHost)
-{
-    for (const char* call : {"DIServer.Parameters", "DIParameters.Exists", "DIParameters.Item",
-                             "DIServer.StatusCodes", "DIParameter.ReadData", "DIParameter.Name"}) {
-        RangeRig rig;
-        failAt(*rig.site, call);
-        EXPECT_EQ(errorOfCalculating(rig), 440) << call;
-        EXPECT_EQ(rig.tool.MousePointer(), MousePointer::Hourglass) << call;
-        EXPECT_FALSE(rig.tool.cmdSave.Enabled()) << call;
     }
 }
 

@@ -145,42 +145,6 @@ TEST(RangePick, OfAPercentGasTakesTheLimitsOfTheGasBeforeAway)
     EXPECT_EQ(rig.tool.txtMEC.Text(), "10");
 }
 
-TEST(RangeShowPID, WritesThePIDAheadOfEachParameterAndTakesItAwayAgain)
-{
-    RangeRig rig(siteOfTwoUnits());
-    rig.tool.cmbParam.Pick(1);
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"[1-120-1-75-00] NOX", "[1-230-1-75-00] CO2"}));
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "[1-230-1-75-00] CO2");
-    EXPECT_EQ(rig.tool.cmbParam.ListIndex(), 1);
-    EXPECT_EQ(rig.tool.cmbParam.itemDataList(), (std::vector<std::int32_t>{kNOx, 123017500}));
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    rig.tool.chkShowPID.Press();
-    EXPECT_EQ(rig.tool.cmbParam.List(), (Lines{"NOX", "CO2"}));
-    EXPECT_EQ(rig.tool.cmbParam.Text(), "CO2");
-}
-
-TEST(RangeShowPID, HoldsForTheNextUnitToo)
-{
-    RangeRig rig(siteOfTwoUnits());
-    rig.tool.chkShowPID.Press();
-    rig.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(rig.tool.cmbParam.List(), Lines{"[2-120-1-75-00] NOX"});
-    EXPECT_EQ(rig.tool.cmbUnit.Text(), "GT2");
-}
-
-TEST(RangeShowPID, ChangesTheListAndNothingElse)
-{
-    RangeRig rig;
-    rig.hours({50}).calculate();
-    EXPECT_EQ(
-        rig.changesBy([&] { rig.tool.chkShowPID.Press(); }),
-        (Lines{"chkShowPID.Value: 0 -> 1", "cmbParam.List: [\"NOX\"] -> [\"[1-120-1-75-00] NOX\"]",
-               "cmbParam.Text: \"NOX\" -> \"[1-120-1-75-00] NOX\""}));
-    EXPECT_FALSE(rig.tool.NeedsEvaluation());
-    EXPECT_TRUE(rig.tool.cmdSave.Enabled());
-}
-
 TEST(RangeValidation, ANumberIsTheNewRange)
 {
     RangeRig rig;
@@ -208,15 +172,6 @@ TEST(RangeValidation, AnyOtherTextIsReplacedByTheLastGoodValue)
         EXPECT_EQ(rig.tool.txtRange.Text(), "62.5") << text;
         EXPECT_EQ(rig.results().RangeValue, 62.5F) << text;
     }
-}
-
-TEST(RangeValidation, ReadsAndWritesAsTheRegionDoes)
-{
-    RangeRig rig(siteOfNOx(), makeDate(2024, 5, 15), "de-DE");
-    rig.range("62,5");
-    EXPECT_EQ(rig.results().RangeValue, 62.5F);
-    rig.range("abc");
-    EXPECT_EQ(rig.tool.txtRange.Text(), "62,5");
 }
 
 TEST(RangeValidation, DoesNotTouchTheProposedLimits)

@@ -138,24 +138,4 @@ TEST(RangeServer, AFailedHandoverCanBeRepeated)
     EXPECT_EQ(rig.tool.cmbScale.List(), (Lines{"LOW", "HIGH"}));
 }
 
-TEST(RangeServer, IsDroppedWithTheCatalogueAtTheEnd)
-{
-    RangeRig rig;
-    const std::weak_ptr<DIServer> server = rig.server;
-    rig.server.reset();
-    EXPECT_FALSE(server.expired());
-    rig.tool.Terminate();
-    EXPECT_TRUE(server.expired());
-    EXPECT_EQ(rig.tool.DIServer(), nullptr);
-    EXPECT_TRUE(rig.tool.UnitCatalogue().isEmpty());
-}
-
-TEST(RangeServer, IsNotKeptByAToolThatIsGone)
-{
-    auto rig = std::make_unique<RangeRig>();
-    const std::weak_ptr<DIServer> server = rig->server;
-    rig.reset();
-    EXPECT_TRUE(server.expired());
-}
-
 } // namespace k7deval::test

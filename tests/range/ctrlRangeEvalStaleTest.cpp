@@ -74,12 +74,6 @@ bool isStale(const ctrlRangeEval& tool)
 
 } // namespace
 
-TEST(RangeStale, AnEvaluationIsFresh)
-{
-    const EvaluatedRig rig;
-    EXPECT_TRUE(isFresh(rig.tool));
-}
-
 TEST(RangeStale, AChangeOfTheInputsTakesTheResultsOffTheScreen)
 {
     for (const ActionCase& row : kMakingStale) {
@@ -104,18 +98,6 @@ TEST(RangeStale, OtherActionsLeaveTheResultsAndTheyAreNotEvaluatedAgain)
         rig.calculate();
         EXPECT_TRUE(rig.site->reads.empty()) << row.what;
     }
-}
-
-TEST(RangeStale, AQuarterPickedAfterwardsIsNotEvaluatedUntilSomethingElseIs)
-{
-    EvaluatedRig rig;
-    rig.tool.cmbQTR.Pick(2);
-    rig.tool.cmbYear.Pick(1);
-    EXPECT_EQ(rig.changesBy([&] { rig.calculate(); }), Lines());
-    EXPECT_EQ(rig.takeReads(), std::vector<ReadRequest>());
-    rig.tool.txtRange.Leave();
-    rig.calculate();
-    EXPECT_EQ(rig.takeReads().front().start, makeDate(2023, 7, 1));
 }
 
 TEST(RangeStale, AnExpectedValueTurnedOffAfterwardsIsNotShown)
@@ -155,13 +137,6 @@ TEST(RangeStale, ANewRangeIsTheResultsOwnAtOnce)
     rig.range("60");
     EXPECT_EQ(rig.results().RangeValue, 60);
     EXPECT_EQ(rig.results().LowThreshold, 10) << "the others wait for the evaluation";
-}
-
-TEST(RangeStale, LeavingTheRangeDoesNotStopAnything)
-{
-    EvaluatedRig rig;
-    rig.range("abc");
-    EXPECT_TRUE(rig.services.boxes.empty());
 }
 
 } // namespace k7deval::test

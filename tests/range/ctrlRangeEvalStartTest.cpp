@@ -67,37 +67,6 @@ constexpr QuarterCase kQuarters[] = {
 
 } // namespace
 
-TEST(RangeStart, TheLastFinishedQuarterIsSelected)
-{
-    for (const QuarterCase& row : kQuarters) {
-        const RangeTool rig(makeDate(2024, row.month, 15));
-        EXPECT_EQ(rig.tool.cmbQTR.Text(), row.quarter) << row.month;
-        EXPECT_EQ(rig.tool.cmbYear.Text(), row.year) << row.month;
-        EXPECT_EQ(rig.tool.cmbQTR.List(), (Lines{"Q1", "Q2", "Q3", "Q4"}));
-        EXPECT_EQ(rig.tool.cmbYear.List(), (Lines{"2024", "2023", "2022"}));
-    }
-}
-
-TEST(RangeStart, TheSelectedQuarterIsAnEntryOfTheLists)
-{
-    const RangeTool rig(makeDate(2024, 1, 15));
-    EXPECT_EQ(rig.tool.cmbQTR.ListIndex(), 3);
-    EXPECT_EQ(rig.tool.cmbYear.ListIndex(), 1);
-}
-
-TEST(RangeStart, NothingIsEvaluatedAndNothingCanBeSaved)
-{
-    const RangeTool rig;
-    EXPECT_TRUE(rig.tool.NeedsEvaluation());
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
-    EXPECT_FALSE(rig.tool.chkShowPID.isChecked());
-    EXPECT_FALSE(rig.tool.chkPreview.isChecked());
-    EXPECT_TRUE(isCleared(rig.tool));
-    EXPECT_EQ(countersOf(rig.tool.evaluation()), Counters());
-    EXPECT_TRUE(rig.tool.UnitCatalogue().isEmpty());
-    EXPECT_EQ(rig.tool.DIServer(), nullptr);
-}
-
 TEST(RangeStart, TheFieldsHaveTheirStartingTexts)
 {
     const RangeTool rig;
@@ -166,17 +135,6 @@ TEST(RangeStart, TheMarksStandAt0And20And80And100Percent)
     EXPECT_EQ(base.Y2(), 2700);
 }
 
-TEST(RangeStart, TwentyBarsStandReadyBesideTheirHiddenPattern)
-{
-    const RangeTool rig;
-    EXPECT_FALSE(rig.tool.lblBar[0].Visible());
-    for (int bar = 1; bar <= 20; ++bar)
-        EXPECT_TRUE(rig.tool.lblBar[bar].Visible()) << bar;
-    EXPECT_EQ(rig.tool.lblBar[1].place().Left, 120);
-    EXPECT_EQ(rig.tool.lblBar[20].place().Left, 5580);
-    EXPECT_EQ(rig.tool.lblBar[20].place().Width, 315);
-}
-
 TEST(RangeStart, EachWidgetLiesInItsFrame)
 {
     RangeTool rig;
@@ -188,32 +146,6 @@ TEST(RangeStart, EachWidgetLiesInItsFrame)
         EXPECT_FALSE(rig.tool.Find(name)->isReachable()) << name;
     for (const char* name : {"cmdCalculate", "cmdClose", "chkPreview"})
         EXPECT_TRUE(rig.tool.Find(name)->isReachable()) << name;
-}
-
-TEST(RangeStart, ClosingIsTheHostsBusiness)
-{
-    RangeTool rig;
-    int closed = 0;
-    rig.tool.CloseClicked.Connect([&] { ++closed; });
-    EXPECT_EQ(rig.changesBy([&] { rig.tool.cmdClose.Press(); }), Lines());
-    EXPECT_EQ(closed, 1);
-}
-
-TEST(RangeStart, OnlyTheYearIsTypedIn)
-{
-    RangeTool rig;
-    rig.tool.cmbYear.Type("2019");
-    EXPECT_EQ(rig.tool.cmbYear.Text(), "2019");
-    rig.tool.cmbQTR.Type("Q9");
-    EXPECT_EQ(rig.tool.cmbQTR.Text(), "Q1");
-}
-
-TEST(RangeStart, WithoutDataCalculatingFailsForWantOfAParameter)
-{
-    RangeTool rig;
-    EXPECT_THROW(rig.tool.cmdCalculate.Press(), Error);
-    EXPECT_EQ(rig.tool.MousePointer(), screen::MousePointer::Hourglass);
-    EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
 TEST(RangeStart, WithoutDataTheOtherActionsDoNoHarm)

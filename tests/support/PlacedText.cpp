@@ -26,7 +26,75 @@ bool stands(const ReportTextItem& item, const PlacedText& expected)
            isNear(item.Y(), expected.y);
 }
 
+/// A length or a place with two decimals, without those that are zero.
+std::string lengthOf(double value)
+{
+    std::ostringstream text;
+    const double hundredths = std::round(value * 100);
+    text << (hundredths == 0 ? 0 : hundredths / 100);
+    return text.str();
+}
+
+std::string placeOf(double x, double y)
+{
+    return lengthOf(x) + ", " + lengthOf(y);
+}
+
+std::string colorOf(std::int32_t color)
+{
+    std::ostringstream text;
+    text << std::hex << std::uppercase << color;
+    return text.str();
+}
+
+std::string described(const ReportRectangle& box)
+{
+    return "rectangle at " + placeOf(box.X(), box.Y()) + ", " + lengthOf(box.Width()) + " wide, " +
+           lengthOf(box.Height()) + " high, filled " + colorOf(box.FillColor()) + ", drawn " +
+           colorOf(box.LineColor());
+}
+
+std::string described(const ReportLine& line)
+{
+    return std::string(line.isDashed() ? "dashed line" : "line") + " from " +
+           placeOf(line.X1(), line.Y1()) + " to " + placeOf(line.X2(), line.Y2());
+}
+
+std::string described(const ReportTextItem& item)
+{
+    return "text at " + placeOf(item.X(), item.Y()) + ", font " + std::to_string(item.Font()) +
+           ", size " + lengthOf(item.Size()) + (item.readsUpward() ? ", upward" : "") + ": \"" +
+           item.Text() + '"';
+}
+
+std::string itemsOf(const ReportPage& page)
+{
+    std::ostringstream text;
+    for (const ReportRectangle& box : page.Rectangles())
+        text << "  " << described(box) << '\n';
+    for (const ReportLine& line : page.Lines())
+        text << "  " << described(line) << '\n';
+    for (const ReportTextItem& item : page.TextItems())
+        text << "  " << described(item) << '\n';
+    return text.str();
+}
+
 } // namespace
+
+std::string itemsOf(const ReportDocument& document)
+{
+    std::ostringstream text;
+    text << "title \"" << document.Title() << "\", subject \"" << document.Subject()
+         << "\", author \"" << document.Author() << "\", creator \"" << document.Creator()
+         << "\"\n";
+    int number = 0;
+    for (const ReportPage& page : document.Pages()) {
+        text << "page " << ++number << ", " << lengthOf(page.Width()) << " by "
+             << lengthOf(page.Height()) << '\n'
+             << itemsOf(page);
+    }
+    return text.str();
+}
 
 std::string listingOf(const ReportPage& page)
 {

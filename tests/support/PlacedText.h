@@ -1,12 +1,12 @@
 #pragma once
 
-#include "report/ReportPage.h"
+#include "report/ReportDocument.h"
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
-/// The texts that stand on a page of a report.
+/// What stands on the pages of a report.
 namespace k7deval::test
 {
 
@@ -32,6 +32,10 @@ struct PlacedText {
 
 /// The texts that stand on a page, one a line as "text (font, size) at x, y".
 std::string listingOf(const ReportPage& page);
+
+/// All that is placed on the pages of a report, one item a line in the order in which it was added,
+/// rectangles first as they lie undermost. Numbers have two decimals.
+std::string itemsOf(const ReportDocument& document);
 
 /// Fails with the listing of the page unless the text stands there, to a fiftieth of a point.
 void expectText(const ReportPage& page, const PlacedText& expected);

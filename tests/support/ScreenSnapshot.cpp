@@ -72,7 +72,53 @@ std::string valueOr(const Snapshot& snapshot, const std::string& name, const std
     return found == snapshot.end() ? otherwise : found->second;
 }
 
+/// Whether a property is worth a word: most widgets are visible, enabled and without content.
+bool tellsMore(const std::string& name, const std::string& text)
+{
+    const bool isPlace = name == "Left" || name == "Top" || name == "Width" || name == "Height";
+    const bool isUsual = text == "\"\"" || text == "[]" || text == "False" ||
+                         (text == "True" && (name == "Visible" || name == "Enabled"));
+    return !isPlace && !isUsual && name != "Widgets" && name != "Kind";
+}
+
+std::string placeOf(const screen::Geometry& place)
+{
+    std::ostringstream text;
+    if (!(place == screen::Geometry()))
+        text << " (" << place.Left << ", " << place.Top << ", " << place.Width << ", "
+             << place.Height << ")";
+    return text.str();
+}
+
+std::string lineOf(const screen::Widget& widget)
+{
+    std::string line = std::string(widget.kind()) + " " + widget.Name() + placeOf(widget.place());
+    for (const auto& [name, content] : widget.Properties()) {
+        const std::string text = name == "Widgets" ? "" : textOf(content);
+        const bool isOff = text == "False" && (name == "Visible" || name == "Enabled");
+        if (isOff || tellsMore(name, text))
+            line.append(" ").append(name).append("=").append(text);
+    }
+    return line + '\n';
+}
+
+void addLayout(std::string& layout, const screen::Widget& widget, std::size_t depth)
+{
+    layout.append(2 * depth, ' ').append(lineOf(widget));
+    if (const auto* container = dynamic_cast<const screen::Container*>(&widget)) {
+        for (const screen::Widget* child : container->Children())
+            addLayout(layout, *child, depth + 1);
+    }
+}
+
 } // namespace
+
+std::string layoutOf(const screen::Control& control)
+{
+    std::string layout;
+    addLayout(layout, control, 0);
+    return layout;
+}
 
 Snapshot snapshotOf(const screen::Control& control)
 {

@@ -31,11 +31,11 @@ double widthOf(const std::string& text, int font = 5, float size = 10);
 PlacedText centred(const std::string& text, double x, double y, int font = 5, float size = 10);
 PlacedText rightAligned(const std::string& text, double x, double y);
 
-/// GT1 of the facility "Bethpage" on 10 May 2024 at 14:30, with a minimum of 10 and a capacity of
+/// GT1 of the facility "Bethpage" on 15 May 2024 at 14:30, with a minimum of 10 and a capacity of
 /// 110.
 struct ReportRig : LoadRig {
     explicit ReportRig(const std::string& region = "en-US")
-        : LoadRig(siteOfLoads(), makeDate(2024, 5, 10, 14, 30), region)
+        : LoadRig(siteOfLoads(), kAfternoonInMay, region)
     {
         site->facilityName = "Bethpage";
         range("10", "110");

@@ -66,13 +66,6 @@ TEST(ReportPaging, AReportOfFewRowsIsOnePageWithoutANumber)
     EXPECT_EQ(rig.rowsOn(0), 7U);
 }
 
-TEST(ReportPaging, RowsStackDownward)
-{
-    PagingRig rig(3);
-    EXPECT_EQ(firstTextsOfRows(rig, 3),
-              (Lines{"1/1/2024 08:15", "1/2/2024 08:15", "1/3/2024 08:15"}));
-}
-
 TEST(ReportPaging, TheRowBeforeTheLimitLeavesTheReportOnOnePage)
 {
     PagingRig rig(kRowsAboveAnOutcome - 1);
@@ -108,20 +101,6 @@ TEST(ReportPaging, ANumberStandsAtTheRightMargin)
     PagingRig rig(kRowsAboveAnOutcome);
     expectText(rig.sheet(0), {"Page 1", 7, 8, 756 - 25.352, kFooterY});
     expectText(rig.sheet(1), {"Page 2", 7, 8, 756 - 25.352, kFooterY});
-}
-
-TEST(ReportPaging, EachPageHasHeadFooterAndSize)
-{
-    PagingRig rig(kRowsAboveAnOutcome + 1);
-    for (const std::size_t index : {0U, 1U}) {
-        const ReportPage& page = rig.sheet(index);
-        EXPECT_EQ(page.Height(), 612);
-        EXPECT_EQ(page.Width(), 792);
-        EXPECT_EQ(page.Lines().Count(), 2);
-        expectText(page, {"Bethpage", 6, 14, 392 - 63.784 / 2, 563.05});
-        expectText(page, {"7-Day Drift Summary 3/10/2024 2:30 PM", 7, 8, 36, kFooterY});
-    }
-    EXPECT_EQ(textsAt(rig.sheet(1), rowY(1)).front(), "2/1/2024 08:15");
 }
 
 TEST(ReportPaging, WithoutAnOutcomeTheRowsRunDownToTheFooter)

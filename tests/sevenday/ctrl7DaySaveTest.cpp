@@ -1,11 +1,11 @@
 #include "foundation/ExpectError.h"
 #include "report/PdfWriter.h"
 #include "sevenday/ToolRig.h"
+#include "support/HourlySite.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <limits>
 
 /// The click of the save button.
@@ -57,12 +57,9 @@ struct SaveRig : ToolRig {
         services.answers = answers;
         return *this;
     }
-    /// Every call of that name fails from now on.
     SaveRig& failing(const std::string& name)
     {
-        site->failure = [name](const std::string& call, std::size_t) {
-            return call == name ? std::optional(Error(440, "the line is down")) : std::nullopt;
-        };
+        failAt(*site, name);
         return *this;
     }
     [[nodiscard]] std::string beginning(std::size_t length) const
@@ -200,27 +197,6 @@ TEST(Save, AskedWhetherToDeleteNoLeavesTheFileAsItWas)
     }
 }
 
-TEST(Save, AskedWhetherToDeleteYesReplacesTheFile)
-{
-    SaveRig rig;
-    rig.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
-    EXPECT_EQ(rig.beginning(5), "%PDF-");
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
-}
-
-TEST(Save, AWriteProtectedFileStaysAndABoxSaysWhy)
-{
-    SaveRig rig;
-    rig.existing({MsgBoxAnswer::Yes});
-    std::filesystem::permissions(rig.path, std::filesystem::perms::owner_read);
-    rig.save();
-    EXPECT_EQ(contentOf(rig.path), "old");
-    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("70:Permission denied")}));
-    EXPECT_EQ(rig.services.opened, Lines());
-    EXPECT_EQ(rig.messages->lines(), Lines());
-}
-
 TEST(Save, AReportThatFailsBehindADeletionShowsTheBoxAndNoPreview)
 {
     SaveRig rig;
@@ -251,30 +227,9 @@ TEST(Save, AReportThatFailsWithoutADeletionGoesOnToThePreview)
     EXPECT_EQ(rig.services.opened, Lines{rig.path});
 }
 
-TEST(Save, AnExportThatFailsWithoutADeletionGoesOnToThePreview)
-{
-    SaveRig rig(kXml);
-    rig.setUp().txtORIS.SetText("");
-    rig.save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-015: 13, Type mismatch"});
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
-    EXPECT_EQ(rig.folder.names(), Lines());
-}
-
 TEST(Save, WritesTheReportThatAHostCanBuildToo)
 {
     SaveRig rig;
-    rig.save();
-    EXPECT_EQ(contentOf(rig.path), pdfOf(*rig.tool.buildReport()));
-}
-
-TEST(Save, ABuiltReportIsThatOfTheResultsAsTheyAreNow)
-{
-    SaveRig rig(kPdf, siteWithDailyCals(7));
-    rig.back();
-    rig.setUp().chkShowSummary.Press();
-    rig.next();
     rig.save();
     EXPECT_EQ(contentOf(rig.path), pdfOf(*rig.tool.buildReport()));
 }
@@ -316,15 +271,6 @@ TEST(Save, AFailingViewerPostsTheLineOfTheClick)
     rig.save();
     EXPECT_EQ(rig.messages->lines(), Lines{"DEval-002: 53, File not found"});
     EXPECT_EQ(rig.services.boxes, Boxes());
-}
-
-TEST(Save, AFailingViewerBehindADeletionShowsTheBox)
-{
-    SaveRig rig;
-    rig.services.openError = Error(errors::kFileNotFound);
-    rig.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(rig.messages->lines(), Lines());
-    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("53:File not found")}));
 }
 
 TEST(SaveExport, HoldsTheRunsOfTheTestThatTheDisplayShows)

@@ -76,7 +76,8 @@ std::string valueOr(const Snapshot& snapshot, const std::string& name, const std
 bool tellsMore(const std::string& name, const std::string& text)
 {
     const bool isPlace = name == "Left" || name == "Top" || name == "Width" || name == "Height";
-    const bool isUsual = text == "\"\"" || text == "[]" || text == "False" ||
+    const bool isUsual = text == "\"\"" || text == "[]" || text == "False" || text == "\"Left\"" ||
+                         text == "\"0x00000000\"" || text == "\"0x8000000F\"" ||
                          (text == "True" && (name == "Visible" || name == "Enabled"));
     return !isPlace && !isUsual && name != "Widgets" && name != "Kind";
 }

@@ -14,12 +14,10 @@
 namespace k7deval::test
 {
 
-/// GT1, its load, and a constant that holds its capacity.
-inline constexpr PID kGT1 = 100'100'000;
+/// The load of GT1, and a constant that holds its capacity.
 inline constexpr PID kGT1Load = 160'207'501;
 inline constexpr PID kGT1Capacity = 160'200'000;
-/// GT2 and its load; it has no constant.
-inline constexpr PID kGT2 = 200'100'000;
+/// The load of GT2, which has no constant.
 inline constexpr PID kGT2Load = 260'207'501;
 
 /// A type under which a site may keep constants.

@@ -20,8 +20,8 @@ namespace
 
 using k7deval::test::failAt;
 using k7deval::test::LoadRig;
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 /// An operator at the load tool on GT1: ten hours of load on the bounds of bins and levels.
 struct LoadScreen {

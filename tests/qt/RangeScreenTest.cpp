@@ -18,7 +18,7 @@ namespace
 
 using k7deval::test::RangeRig;
 using k7deval::test::siteOfTwoUnits;
-using testing::IsEmpty;
+using ::testing::IsEmpty;
 
 /// An operator at the range tool, on GT1 with its scales and GT2.
 struct RangeScreen {

@@ -26,8 +26,8 @@ using k7deval::test::kNox;
 using k7deval::test::ParamSelectRig;
 using k7deval::test::selectionOf;
 using k7deval::test::SingleRig;
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 /// An operator at the list of five parameters of two units, under the filter of units.
 struct ListScreen {

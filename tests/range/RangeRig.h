@@ -13,8 +13,6 @@
 namespace k7deval::test
 {
 
-inline constexpr PID kGT1 = 100'100'000;
-inline constexpr PID kGT2 = 200'100'000;
 /// The hourly NOx of GT1.
 inline constexpr PID kNOx = 112'017'500;
 

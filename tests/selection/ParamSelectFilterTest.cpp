@@ -109,18 +109,27 @@ void PrintTo(const UnitRowsCase& row, std::ostream* out)
 // The entries of the filter for lists with units, of which each needs a parameter right behind it.
 const UnitRowsCase kUnitRowsCases[] = {
     {"EachWithParameters", {kGT1, kNox, kGT2, kLoad}, {"GT1", "GT2"}, {"GT1", "GT2"}},
-    {"UnpopulatedFirst", {kGT1, kGT2, kLoad, kGT3, kSo2}, {"GT2", "GT3"}, {"GT1", "GT2", "GT3"}},
-    {"UnpopulatedBetween", {kGT1, kNox, kGT2, kGT3, kSo2}, {"GT1", "GT3"}, {"GT1", "GT2", "GT3"}},
-    {"UnpopulatedLast", {kGT1, kNox, kGT2, kLoad, kGT3}, {"GT1", "GT2"}, {"GT1", "GT2", "GT3"}},
+    {"UnpopulatedFirst",
+     {kGT1, kGT2, kLoad, kThirdUnit, kSo2},
+     {"GT2", "GT3"},
+     {"GT1", "GT2", "GT3"}},
+    {"UnpopulatedBetween",
+     {kGT1, kNox, kGT2, kThirdUnit, kSo2},
+     {"GT1", "GT3"},
+     {"GT1", "GT2", "GT3"}},
+    {"UnpopulatedLast",
+     {kGT1, kNox, kGT2, kLoad, kThirdUnit},
+     {"GT1", "GT2"},
+     {"GT1", "GT2", "GT3"}},
     {"TwoUnpopulatedInARow",
-     {kGT1, kGT2, kGT3, kSo2, kCommon, kOpacity},
+     {kGT1, kGT2, kThirdUnit, kSo2, kCommon, kOpacity},
      {"GT3", "Common"},
      {"GT1", "GT2", "GT3", "Common"}},
     {"TwoUnpopulatedLast",
-     {kGT1, kNox, kGT3, kSo2, kCommon, kGT2},
+     {kGT1, kNox, kThirdUnit, kSo2, kCommon, kGT2},
      {"GT1", "GT3"},
      {"GT1", "GT3", "Common", "GT2"}},
-    {"NonePopulated", {kGT1, kGT2, kGT3}, {}, {"GT1", "GT2", "GT3"}},
+    {"NonePopulated", {kGT1, kGT2, kThirdUnit}, {}, {"GT1", "GT2", "GT3"}},
     {"ParametersAheadOfTheUnits", {kNox, kGT1, kGT2}, {}, {"GT1", "GT2"}},
     {"ParameterOfAnotherUnitBehind", {kGT1, kLoad, kGT2, kNox}, {"GT1", "GT2"}, {"GT1", "GT2"}},
     {"AUnitTwice", {kGT1, kNox, kGT1, kCo}, {"GT1", "GT1"}, {"GT1", "GT1"}},
@@ -168,7 +177,7 @@ INSTANTIATE_TEST_SUITE_P(, ParamSelectUnits, ::testing::ValuesIn(kUnitRowsCases)
 TEST(ParamSelectUnpopulatedUnits, OfHeadersAreThoseOfUnitsListedByThemselves)
 {
     ParamSelectRig rig;
-    rig.filtered().list({kGT1, kLoad, kGT3, kSo2});
+    rig.filtered().list({kGT1, kLoad, kThirdUnit, kSo2});
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
     rig.tool.SetShowUnpopulatedUnits(true);
@@ -255,7 +264,7 @@ TEST(ParamSelectOneUnit, WithoutAllUnitsLeavesTheHeadersAsTheHostHasThem)
 TEST(ParamSelectOneUnit, IsOneOfSeveralWhenTheOthersAreUnpopulated)
 {
     ParamSelectRig rig;
-    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3});
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kThirdUnit});
     EXPECT_FALSE(rig.tool.ShowUnitCombo());
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load", "-- GT3 --"}));
 }

@@ -258,14 +258,14 @@ TEST(ParamSelectWithoutData, ListsNoPIDs)
 TEST(ParamSelectWithoutData, CannotNameTheUnitsOfACollection)
 {
     ParamSelect tool;
-    const auto parameters = collectionOf(siteOfUnits(), {kNox});
+    const auto parameters = collectionOf(siteOfThreeUnits(), {kNox});
     EXPECT_EQ(errorOf([&] { return tool.SetParamList(parameters), 0; }), 91);
 }
 
 TEST(ParamSelectWithoutData, ListsACollectionWithUnitsWhoseCellsStayUnset)
 {
     ParamSelect tool;
-    tool.SetParamList(collectionOf(siteOfUnits(), {kGT1, kNox}), true);
+    tool.SetParamList(collectionOf(siteOfThreeUnits(), {kGT1, kNox}), true);
     EXPECT_EQ(tool.rows().Count(), 2);
     EXPECT_EQ(view(tool), (Lines{"(unset)", "(unset)"}));
     tool.SelectAll();

@@ -117,7 +117,7 @@ TEST(ParamSelectAllUnits, ShowsTheRowsOfAUnitOnceForEachOfItsHeaders)
 TEST(ParamSelectAllUnits, HidesTheRowsOfAUnitThatLeftTheFilter)
 {
     ParamSelectRig rig;
-    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kNox});
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kThirdUnit, kSo2, kNox});
     EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
     rig.tool.SetShowUnpopulatedUnits(true);
     EXPECT_EQ(view(rig.tool),

@@ -15,8 +15,8 @@ namespace k7deval::test
 namespace
 {
 
-const PIDs kAnyPIDs = {kCommon, kOpacity, kGT1,  kNox, kCo,  kO2,
-                       kGT2,    kLoad,    kFlow, kGT3, kSo2, kUnknown};
+const PIDs kAnyPIDs = {kCommon, kOpacity, kGT1,  kNox,       kCo,  kO2,
+                       kGT2,    kLoad,    kFlow, kThirdUnit, kSo2, kUnknown};
 
 enum class Act {
     List,
@@ -257,7 +257,7 @@ RC_GTEST_PROP(ParamSelectProperties, EveryParameterOfTheListHasARowBelowItsUnitI
     }
     PIDs expected;
     std::copy_if(list.begin(), list.end(), std::back_inserter(expected), [](PID pid) {
-        return pid != kUnknown && pid != kCommon && pid != kGT1 && pid != kGT2 && pid != kGT3;
+        return pid != kUnknown && pid != kCommon && pid != kGT1 && pid != kGT2 && pid != kThirdUnit;
     });
     RC_ASSERT(parameters == expected);
 }

@@ -83,7 +83,7 @@ TEST(ParamSelectSelection, ListsTheTickedRowsFromTopToBottomNotInTheOrderOfTheir
 TEST(ParamSelectSelection, ListsTheTickedRowsInTheOrderOnViewNotInThatOfTheList)
 {
     ParamSelectRig rig;
-    rig.filtered().listWithUnits({kGT2, kGT1, kNox, kLoad, kGT3, kSo2, kCo, kFlow});
+    rig.filtered().listWithUnits({kGT2, kGT1, kNox, kLoad, kThirdUnit, kSo2, kCo, kFlow});
     rig.tool.SetShowUnpopulatedUnits(true);
     rig.tick({2, 3, 5, 6, 8});
     EXPECT_EQ(selectionOf(rig.tool), (PIDs{kLoad, kFlow, kNox, kCo, kSo2}));

@@ -67,10 +67,10 @@ TEST(ParamSelectStart, ActionsOnAListWithoutRowsLeaveItEmpty)
 TEST(ParamSelectData, IsKept)
 {
     ParamSelect tool;
-    const auto server = serve(siteOfUnits());
+    const auto server = serve(siteOfThreeUnits());
     tool.SetDIServer(server);
     EXPECT_EQ(tool.DIServer(), server);
-    const auto other = serve(siteOfUnits());
+    const auto other = serve(siteOfThreeUnits());
     tool.SetDIServer(other);
     EXPECT_EQ(tool.DIServer(), other);
 }

@@ -31,7 +31,7 @@ std::string lineOf(const screen::GridCells& cells)
 
 } // namespace
 
-std::shared_ptr<SiteData> siteOfUnits()
+std::shared_ptr<SiteData> siteOfThreeUnits()
 {
     auto site = std::make_shared<SiteData>();
     const auto add = [&](PID pid, const std::string& name, std::int32_t type = kHourlyType) {
@@ -46,7 +46,7 @@ std::shared_ptr<SiteData> siteOfUnits()
     add(kGT2, "GT2", kUnitType);
     add(kLoad, "Load");
     add(kFlow, "Flow");
-    add(kGT3, "GT3", kUnitType);
+    add(kThirdUnit, "GT3", kUnitType);
     add(kSo2, "SO2");
     return site;
 }
@@ -87,15 +87,6 @@ PIDs selectionOf(const ParamSelect& tool)
         return {};
     EXPECT_FALSE(selection->empty());
     return *selection;
-}
-
-void failAt(SiteData& site, const std::string& name, std::size_t number)
-{
-    const std::size_t before = site.countCalls(name);
-    site.failure = [&site, name, before, number](const std::string& call, std::size_t) {
-        const bool isReached = call == name && site.countCalls(name) >= before + number;
-        return isReached ? std::optional(Error(440, "the line is down")) : std::nullopt;
-    };
 }
 
 } // namespace k7deval::test

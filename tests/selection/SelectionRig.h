@@ -2,7 +2,7 @@
 
 #include "selection/ParamSelect.h"
 #include "selection/SingleParamSelect.h"
-#include "support/FakeSite.h"
+#include "support/HourlySite.h"
 
 #include <cstdint>
 #include <memory>
@@ -22,14 +22,12 @@ using Indexes = std::vector<std::int32_t>;
 /// Three units and a common one of number 0, with their parameters.
 inline constexpr PID kCommon = 100'000;
 inline constexpr PID kOpacity = 10'007'500; ///< 0-100-0-75-00
-inline constexpr PID kGT1 = 100'100'000;
-inline constexpr PID kNox = 110'007'500; ///< 1-100-0-75-00
-inline constexpr PID kCo = 114'007'500;  ///< 1-140-0-75-00
-inline constexpr PID kO2 = 122'007'500;  ///< 1-220-0-75-00
-inline constexpr PID kGT2 = 200'100'000;
-inline constexpr PID kLoad = 260'207'500; ///< 2-602-0-75-00
-inline constexpr PID kFlow = 225'007'500; ///< 2-250-0-75-00
-inline constexpr PID kGT3 = 300'100'000;
+inline constexpr PID kNox = 110'007'500;    ///< 1-100-0-75-00
+inline constexpr PID kCo = 114'007'500;     ///< 1-140-0-75-00
+inline constexpr PID kO2 = 122'007'500;     ///< 1-220-0-75-00
+inline constexpr PID kLoad = 260'207'500;   ///< 2-602-0-75-00
+inline constexpr PID kFlow = 225'007'500;   ///< 2-250-0-75-00
+inline constexpr PID kThirdUnit = 300'100'000;
 inline constexpr PID kSo2 = 311'007'500; ///< 3-110-0-75-00
 /// No parameter of the site, though of its first unit.
 inline constexpr PID kUnknown = 199'907'500;
@@ -42,7 +40,7 @@ inline constexpr PID kHeader3 = 300'000'000;
 /// Three parameters of GT1, then two of GT2.
 inline const PIDs kFiveParameters = {kNox, kCo, kO2, kLoad, kFlow};
 
-std::shared_ptr<SiteData> siteOfUnits();
+std::shared_ptr<SiteData> siteOfThreeUnits();
 
 /// The parameters with these PIDs, as the data interface hands them out.
 DIParameterList collectionOf(const std::shared_ptr<SiteData>& site, const PIDs& pids);
@@ -56,9 +54,6 @@ Lines view(const ParamSelect& tool);
 
 /// The ticked PIDs on view; none for Empty, which never comes as an array without entry.
 PIDs selectionOf(const ParamSelect& tool);
-
-/// Every call of that name fails from its n-th on with error 440, "the line is down".
-void failAt(SiteData& site, const std::string& name, std::size_t number = 1);
 
 /// The list of parameters on the site, measured by a font so wide that a header has no more dashes
 /// than it needs.
@@ -101,7 +96,7 @@ struct ParamSelectRig {
         return *this;
     }
 
-    std::shared_ptr<SiteData> site = siteOfUnits();
+    std::shared_ptr<SiteData> site = siteOfThreeUnits();
     ParamSelect tool;
 };
 
@@ -133,7 +128,7 @@ struct SingleRig {
         return *this;
     }
 
-    std::shared_ptr<SiteData> site = siteOfUnits();
+    std::shared_ptr<SiteData> site = siteOfThreeUnits();
     SingleParamSelect tool;
 };
 

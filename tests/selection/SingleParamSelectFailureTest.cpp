@@ -84,7 +84,7 @@ TEST(SingleParamSelectWithoutData, CannotNameUnits)
     SingleParamSelect tool;
     EXPECT_EQ(errorOf([&] { return tool.SetParamList(PIDs{kNox}), 0; }), 91);
     tool.SetShowUnitCombo(true);
-    const auto list = collectionOf(siteOfUnits(), {kGT1, kNox, kGT2, kLoad});
+    const auto list = collectionOf(siteOfThreeUnits(), {kGT1, kNox, kGT2, kLoad});
     EXPECT_EQ(errorOf([&] { return tool.SetParamList(list, true), 0; }), 91);
 }
 
@@ -92,7 +92,7 @@ TEST(SingleParamSelectWithoutData, ListsPlainNamesOfACollectionWithUnits)
 {
     SingleParamSelect tool;
     tool.SetShowUnitCombo(false);
-    tool.SetParamList(collectionOf(siteOfUnits(), {kGT1, kNox, kGT2, kLoad}), true);
+    tool.SetParamList(collectionOf(siteOfThreeUnits(), {kGT1, kNox, kGT2, kLoad}), true);
     EXPECT_EQ(tool.cmbPID.List(), (Lines{"NOx", "Load"}));
 }
 

@@ -57,7 +57,7 @@ TEST(SingleParamSelectStart, PropertiesOfAnEmptyListAreStoredAndFillNothing)
 TEST(SingleParamSelectData, IsKeptAndNothingLeavesIt)
 {
     SingleParamSelect tool;
-    const auto server = serve(siteOfUnits());
+    const auto server = serve(siteOfThreeUnits());
     tool.SetDIServer(server);
     EXPECT_EQ(tool.DIServer(), server);
     tool.SetDIServer(nullptr);

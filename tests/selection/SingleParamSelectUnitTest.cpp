@@ -33,7 +33,7 @@ TEST(SingleParamSelectFilter, ForAllUnitsNamesTheUnitAheadOfEachParameter)
 TEST(SingleParamSelectFilter, ForAllUnitsShowsParametersOfUnitsThatLeftTheFilterToo)
 {
     SingleRig rig;
-    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kNox});
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kThirdUnit, kSo2, kNox});
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
     EXPECT_EQ(rig.tool.cmbPID.List(), (Lines{"GT2 Load", "GT3 SO2", "GT1 NOx"}));
 }
@@ -41,7 +41,7 @@ TEST(SingleParamSelectFilter, ForAllUnitsShowsParametersOfUnitsThatLeftTheFilter
 TEST(SingleParamSelectFilter, HasUnpopulatedUnitsWhenTheyAreWanted)
 {
     SingleRig rig;
-    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kGT3, kSo2, kCommon});
+    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kThirdUnit, kSo2, kCommon});
     EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
     rig.tool.SetShowUnpopulatedUnits(true);
     EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());

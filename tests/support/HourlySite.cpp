@@ -26,10 +26,12 @@ ParameterData hourlyNamed(PID pid, const std::string& name, std::int32_t type)
     return hourly;
 }
 
-void failAt(SiteData& site, const std::string& name)
+void failAt(SiteData& site, const std::string& name, std::size_t number)
 {
-    site.failure = [name](const std::string& call, std::size_t) {
-        return call == name ? std::optional(Error(440, "the line is down")) : std::nullopt;
+    const std::size_t before = site.countCalls(name);
+    site.failure = [&site, name, before, number](const std::string& call, std::size_t) {
+        const bool isReached = call == name && site.countCalls(name) >= before + number;
+        return isReached ? std::optional(Error(440, "the line is down")) : std::nullopt;
     };
 }
 

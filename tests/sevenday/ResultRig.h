@@ -48,9 +48,7 @@ struct ResultRig {
 
     template <class Action> std::vector<std::string> changesBy(Action action)
     {
-        const Snapshot before = snapshotOf(page);
-        action();
-        return changesBetween(before, snapshotOf(page));
+        return changesOn(page, action);
     }
 
     RegionalSettings regional;

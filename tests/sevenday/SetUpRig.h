@@ -37,9 +37,7 @@ struct SetUpRig {
     /// What an action changes on the page.
     template <class Action> std::vector<std::string> changesBy(Action action)
     {
-        const Snapshot before = snapshotOf(page);
-        action();
-        return changesBetween(before, snapshotOf(page));
+        return changesOn(page, action);
     }
 
     std::shared_ptr<SiteData> site;

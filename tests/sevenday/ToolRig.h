@@ -76,12 +76,7 @@ struct ToolRig {
     /// How often calibrations were read.
     [[nodiscard]] std::size_t retrievals() const { return site->rangeQueries.size(); }
 
-    template <class Action> Lines changesBy(Action action)
-    {
-        const Snapshot before = snapshotOf(tool);
-        action();
-        return changesBetween(before, snapshotOf(tool));
-    }
+    template <class Action> Lines changesBy(Action action) { return changesOn(tool, action); }
 
     std::shared_ptr<SiteData> site;
     std::shared_ptr<DIServer> server;

@@ -75,19 +75,13 @@ struct LimitTextCase {
 
 constexpr LimitTextCase kLimitTexts[] = {
     {"a number", "4", "4", 4},
-    {"decimals", "0.125", "0.125", 0.125F},
     {"zero", "0", "0", 0},
     {"below zero", "-2", "-2", -2},
-    {"an exponent", "1.5E1", "1.5E1", 15},
-    {"blanks around", " 6 ", " 6 ", 6},
-    {"more digits than a single holds", "0.123456789", "0.123456789", 0.12345679F},
     {"the largest single", "3.402823E+38", "3.402823E+38", 3.402823e38F},
     {"above the largest single", "3.5E38", "8", 8},
     {"above the largest double", "1E999", "8", 8},
     {"text", "a lot", "8", 8},
     {"nothing", "", "8", 8},
-    {"another region's mark", "4,5.", "4,5.", 45},
-    {"two marks", "4.5.6", "8", 8},
 };
 
 class SetUpLimitField : public ::testing::TestWithParam<LimitTextCase>
@@ -149,24 +143,13 @@ struct TypedDate {
 // On 10 March 2024, in the region en-US; the field holds 2/10/2024 before.
 const TypedDate kDates[] = {
     {"a date", "3/1/2024", {2024, 3, 1}, "3/1/2024"},
-    {"leading zeros", "03/01/2024", {2024, 3, 1}, "3/1/2024"},
     {"a date and a time", "3/1/2024 3:05 PM", {2024, 3, 1}, "3/1/2024"},
     {"the last second of a day", "3/1/2024 23:59:59", {2024, 3, 1}, "3/1/2024"},
-    {"an impossible month", "13/3/2024", {2024, 3, 13}, "3/13/2024"},
-    {"year first", "2024-03-01", {2024, 3, 1}, "3/1/2024"},
-    {"a month's name", "1 March 2024", {2024, 3, 1}, "3/1/2024"},
-    {"a month's short name", "Mar 1, 2024", {2024, 3, 1}, "3/1/2024"},
     {"no year", "3/1", {2024, 3, 1}, "3/1/2024"},
-    {"a year of two digits in this century", "3/1/29", {2029, 3, 1}, "3/1/2029"},
-    {"a year of two digits in the last", "3/1/30", {1930, 3, 1}, "3/1/1930"},
     {"a time alone", "3:05 PM", {1899, 12, 30}, "12/30/1899"},
-    {"29 February", "2/29/2024", {2024, 2, 29}, "2/29/2024"},
     {"29 February of another year", "2/29/2023", {2024, 2, 10}, "2/10/2024"},
-    {"a number", "45361", {2024, 2, 10}, "2/10/2024"},
     {"text", "yesterday", {2024, 2, 10}, "2/10/2024"},
     {"nothing", "", {2024, 2, 10}, "2/10/2024"},
-    {"a year too early", "3/1/0099", {2024, 2, 10}, "2/10/2024"},
-    {"a year too late", "3/1/10000", {2024, 2, 10}, "2/10/2024"},
 };
 
 TEST(SetUpFields, ADateIsTakenWithoutItsTimeAndRewrittenOrComesBack)

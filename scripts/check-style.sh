@@ -63,12 +63,12 @@ check_includes() {
 }
 
 check_length() {
-    files '*.h' '*.cpp' '*.py' '*.pyi' '*.sh' '*.cmake' '*CMakeLists.txt' | xargs wc -l |
+    files '*.h' '*.cpp' '*.py' '*.sh' '*.cmake' '*CMakeLists.txt' | xargs wc -l |
         awk '$1 > 500 && $2 != "total"' | fail_if_any "These files have more than 500 lines"
 }
 
 check_blanks() {
-    (files '*.h' '*.cpp' '*.py' '*.pyi' '*.sh' '*.cmake' '*CMakeLists.txt' '*.md' '*.json' '.clang-*' '.ci/*' \
+    (files '*.h' '*.cpp' '*.py' '*.sh' '*.cmake' '*CMakeLists.txt' '*.md' '*.json' '.clang-*' '.ci/*' \
         ':!:data' ':!:tests/golden' ':!:tests/*/data' | xargs grep -nE '[[:blank:]]+$' || true) |
         fail_if_any "These lines end in blanks"
 }
@@ -84,7 +84,7 @@ check_python() {
 }
 
 check_spelling() {
-    files '*.h' '*.cpp' '*.py' '*.pyi' '*.sh' '*.cmake' '*CMakeLists.txt' '*.md' '*.html' |
+    files '*.h' '*.cpp' '*.py' '*.sh' '*.cmake' '*CMakeLists.txt' '*.md' '*.html' |
         xargs codespell --ignore-words scripts/spelling.txt
 }
 

@@ -32,7 +32,7 @@ def python_type(text):
     """A type as the stubs write it."""
     text = re.sub(r"\bk7deval\._core\.", "", text)
     text = re.sub(r"\bdatetime\.datetime\b", "datetime", text)
-    text = re.sub(r"\b[Ll]ist\b", "list", text)
+    text = re.sub(r"\b(List|list)\b", "list", text)
     text = re.sub(r"\bOptional\[(\w+(?:\[[^\[\]]*\])?)\]", r"\1 | None", text)
     return re.sub(r"\bobject\b", "Any", text)
 

@@ -10,10 +10,8 @@
 #include <functional>
 #include <set>
 
-/// What load and range evaluation do alike, as cases that each of the two is put through with its
-/// own rig. A rig tells `kSeries` (the PID of its series), `kHeader` (what stands over its
-/// results), `kTitle` (its boxes' title) and `makeStale`; its default site has two units, an hourly
-/// series each.
+/// What load and range evaluation do alike, as cases for the rig of either. A rig tells `kSeries`
+/// (the PID of its series), `kHeader` (over its results), `kTitle` (of its boxes) and `makeStale`.
 namespace k7deval::test
 {
 
@@ -65,11 +63,11 @@ template <class Rig> struct SavingRig : Rig {
     /// The file is there, and the user wants it deleted.
     SavingRig& existing()
     {
-        testing::writeFile(path, "old");
+        test::writeFile(path, "old");
         this->services.answers = {screen::MsgBoxAnswer::Yes};
         return *this;
     }
-    testing::TemporaryFolder folder;
+    test::TemporaryFolder folder;
     std::string path = folder.file("report.pdf");
 };
 
@@ -387,7 +385,7 @@ TYPED_TEST_P(HistogramToolCases, SavingWritesTheReportThatAHostCanBuildAndOpensI
     rig.save();
     EXPECT_EQ(rig.services.filters, Lines{"PDF File (*.pdf)|*.pdf"});
     EXPECT_EQ(rig.services.extensions, Lines{".pdf"});
-    EXPECT_EQ(testing::contentOf(rig.path), pdfOf(*rig.tool.buildReport()));
+    EXPECT_EQ(test::contentOf(rig.path), pdfOf(*rig.tool.buildReport()));
     EXPECT_EQ(rig.services.opened, Lines{rig.path});
     EXPECT_TRUE(rig.services.boxes.empty());
     EXPECT_EQ(rig.changesBy([&] { rig.existing().save(); }), Lines());
@@ -421,7 +419,7 @@ TYPED_TEST_P(HistogramToolCases, SavingAnsweredNoLeavesTheFile)
     SavingRig<TypeParam> rig;
     rig.existing().services.answers = {screen::MsgBoxAnswer::No};
     rig.save();
-    EXPECT_EQ(testing::contentOf(rig.path), "old");
+    EXPECT_EQ(test::contentOf(rig.path), "old");
     EXPECT_EQ(rig.services.boxes.size(), 1U);
     EXPECT_EQ(rig.services.opened, Lines());
 }
@@ -456,7 +454,7 @@ TYPED_TEST_P(HistogramToolCases, SavingThatFailsWithoutADeletionIsSilentAndGoesO
 
 TYPED_TEST_P(HistogramToolCases, AFailureOfTheDataWhileSavingNeverReachesTheHost)
 {
-    const testing::TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     const auto save = [&](TypeParam& rig) {
         rig.services.saveAnswer = screen::SaveAnswer{folder.file("report.pdf"), 1};
         rig.tool.cmdSave.Press();

@@ -22,7 +22,7 @@ struct SixHoursRig : ReportRig {
 /// The report as it would be saved now is the one approved for that case.
 void expectReport(const LoadRig& rig, const std::string& name)
 {
-    testing::expectApproved("load-report/" + name + "/items.txt", itemsOf(*rig.tool.buildReport()));
+    test::expectApproved("load-report/" + name + "/items.txt", itemsOf(*rig.tool.buildReport()));
 }
 
 } // namespace

@@ -29,7 +29,7 @@ constexpr QuarterCase kQuarters[] = {
 
 TEST(LoadScreenApproved, AtTheStart)
 {
-    testing::expectApproved("load-screen/start/widgets.txt", layoutOf(LoadTool().tool));
+    test::expectApproved("load-screen/start/widgets.txt", layoutOf(LoadTool().tool));
 }
 
 TEST(LoadToolStart, PreselectsTheNewestFinishedQuarterAndItsDates)

@@ -29,8 +29,7 @@ struct SixHoursRig : RangeRig {
 /// The report as it would be saved now is the one approved for that case.
 void expectReport(const RangeRig& rig, const std::string& name)
 {
-    testing::expectApproved("range-report/" + name + "/items.txt",
-                            itemsOf(*rig.tool.buildReport()));
+    test::expectApproved("range-report/" + name + "/items.txt", itemsOf(*rig.tool.buildReport()));
 }
 
 } // namespace

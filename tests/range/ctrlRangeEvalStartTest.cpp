@@ -9,7 +9,7 @@ namespace k7deval::test
 
 TEST(RangeScreenApproved, AtTheStart)
 {
-    testing::expectApproved("range-screen/start/widgets.txt", layoutOf(RangeTool().tool));
+    test::expectApproved("range-screen/start/widgets.txt", layoutOf(RangeTool().tool));
 }
 
 TEST(RangeStart, NothingIsCounted)

@@ -8,8 +8,6 @@ namespace k7deval::test
 namespace
 {
 
-constexpr std::int32_t kHourlyType = 8;
-
 ParameterData parameterNamed(PID pid, const std::string& name, std::int32_t type)
 {
     ParameterData parameter;

@@ -12,7 +12,7 @@ namespace
 
 void expectReport(ReportRig& rig, const std::string& name)
 {
-    testing::expectApproved("drift-report/" + name + "/items.txt", itemsOf(rig.build()));
+    test::expectApproved("drift-report/" + name + "/items.txt", itemsOf(rig.build()));
 }
 
 /// A run of each kind on seven days: used, failed, off-line and not used, without zero and without

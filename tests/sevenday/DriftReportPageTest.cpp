@@ -10,9 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kDay = makeDate(2024, 3, 10);
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-
 /// A text centred on a column.
 struct CentredText {
     const char* text;

@@ -10,10 +10,6 @@ namespace k7deval::test
 namespace
 {
 
-const Date kMorning = makeDate(2024, 3, 10, 8, 15);
-const Date kEvening = makeDate(2024, 3, 10, 20, 15);
-const Date kDay = makeDate(2024, 3, 10);
-
 constexpr const char* kLegend[] = {"OnlinePass", "OfflinePass", "OnlineFail", "OfflineFail",
                                    "OpDayNoCals"};
 
@@ -26,7 +22,7 @@ std::string quoted(const std::string& text)
 
 TEST(ResultPageApproved, AtTheStart)
 {
-    testing::expectApproved("drift-result/start/widgets.txt", layoutOf(ResultRig().page));
+    test::expectApproved("drift-result/start/widgets.txt", layoutOf(ResultRig().page));
 }
 
 TEST(ResultStart, TheTreeHasNoEntryAtAll)

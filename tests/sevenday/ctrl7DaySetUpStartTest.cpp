@@ -9,7 +9,7 @@ namespace k7deval::test
 
 TEST(SetUpPageApproved, AtTheStart)
 {
-    testing::expectApproved("drift-setup/start/widgets.txt", layoutOf(SetUpRig().page));
+    test::expectApproved("drift-setup/start/widgets.txt", layoutOf(SetUpRig().page));
 }
 
 TEST(SetUpStart, ChecksManualCalsAndTheSummaryAndShowsAllCalsToTheTestEnd)

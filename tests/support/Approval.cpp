@@ -1,5 +1,6 @@
 #include "support/Approval.h"
 
+#include "support/Places.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@
 #include <filesystem>
 #include <sstream>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 namespace
@@ -17,8 +18,7 @@ namespace
 /// What was approved; empty where nothing was yet.
 std::string approved(const std::string& file)
 {
-    const std::filesystem::path path =
-        std::filesystem::path(K7DEVAL_SOURCE_DIR) / "tests/golden" / file;
+    const std::filesystem::path path = projectFile("tests/golden/" + file);
     return std::filesystem::exists(path) ? contentOf(path) : std::string();
 }
 
@@ -64,4 +64,4 @@ void expectApproved(const std::string& file, const std::string& text)
                   << "\n`scripts/golden.sh` shows all of it and approves it.";
 }
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

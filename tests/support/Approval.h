@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace k7deval::testing
+namespace k7deval::test
 {
 
 /// Fails unless a text is the one that was approved for a case: the content of that file below
@@ -13,4 +13,4 @@ namespace k7deval::testing
 /// tests/golden.
 void expectApproved(const std::string& file, const std::string& text);
 
-} // namespace k7deval::testing
+} // namespace k7deval::test

@@ -94,8 +94,9 @@ std::string placeOf(const screen::Geometry& place)
 std::string lineOf(const screen::Widget& widget)
 {
     std::string line = std::string(widget.kind()) + " " + widget.Name() + placeOf(widget.place());
-    for (const auto& [name, content] : widget.Properties()) {
-        const std::string text = name == "Widgets" ? "" : textOf(content);
+    for (const Property& property : widget.Properties()) {
+        const std::string& name = property.name;
+        const std::string text = name == "Widgets" ? "" : textOf(property.content);
         const bool isOff = text == "False" && (name == "Visible" || name == "Enabled");
         if (isOff || tellsMore(name, text))
             line.append(" ").append(name).append("=").append(text);

@@ -44,7 +44,7 @@ TEST(LoadReportApproved, OfSpecifiedDatesNamesWhatStandsInTheBoxesAndCountsInsid
     rig.specify("1/1/2024", "12/31/2024");
     rig.inBin(1, 1).inBin(4, 956).inBin(5, 957).inBin(6, 1000).calculate();
     rig.tool.txtTo.Type("the end");
-    expectReport(rig, "specified-dates");
+    expectReport(rig, "given-dates");
 }
 
 TEST(LoadReportApproved, WithoutHoursInTheRangeHasDashesAndTheGridAlone)

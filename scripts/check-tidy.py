@@ -71,12 +71,18 @@ class Batch:
         of_tests = self.output.startswith(("tests/", "examples/"))
         return PROJECT / ("tests/.clang-tidy" if of_tests else ".clang-tidy")
 
+    def own_checks(self):
+        """What the folder's own configuration says beside the project's."""
+        own = PROJECT / self.output.split("/CMakeFiles/")[0] / ".clang-tidy"
+        found = re.search(r"^Checks: (\S+)$", own.read_text(encoding="utf-8"), re.MULTILINE) if own.exists() else None
+        return [f"--checks={found.group(1)}"] if found else []
+
     def key(self, version):
         """The hash of all that the result depends on, the same for every place of the project."""
         seen = subprocess.run(
             [*self.compiler, "-E", "-C", str(self.source)], cwd=self.folder, capture_output=True, check=True
         )
-        flags = " ".join(self.compiler)
+        flags = " ".join([*self.compiler, *self.own_checks()])
         key = hashlib.sha256(version + self.config().read_bytes())
         for part in (flags.encode(), seen.stdout):
             key.update(hashlib.sha256(part.replace(os.fsencode(PROJECT), b".")).digest())
@@ -85,7 +91,8 @@ class Batch:
     def complaints(self):
         """What clang-tidy says against the sources; empty when they are clean."""
         result = subprocess.run(
-            [TIDY, "-quiet", f"--config-file={self.config()}", str(self.source), "--", *self.compiler[1:]],
+            [TIDY, "-quiet", f"--config-file={self.config()}", *self.own_checks(), str(self.source)]
+            + ["--", *self.compiler[1:]],
             cwd=self.folder,
             capture_output=True,
             text=True,

@@ -16,7 +16,7 @@ namespace py = pybind11;
 namespace
 {
 
-constexpr double kMicrosecondsPerDay = 86'400e6;
+constexpr double kMicrosecondsPerDay = kSecondsPerDay * 1e6;
 
 void needDateTime()
 {

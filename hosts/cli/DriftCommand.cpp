@@ -29,7 +29,7 @@ PropertyList documentOfSession(const DriftSession& session)
                       session.postedLines());
 }
 
-void printScreen(DriftSession& session, bool json, const Console& console)
+void printDrift(DriftSession& session, bool json, const Console& console)
 {
     ctrl7DayResult& results = session.control().ctrl7DayResult1;
     if (json)
@@ -62,7 +62,7 @@ Status runDrift(const DriftRequest& request, const Console& console)
         throw UsageError(session.control().ctrl7DaySetUp1.AnalyzerInfoText() +
                          " is not under 40 CFR 75, so there is no ECMPS export of it.");
     session.evaluate();
-    printScreen(session, request.json, console);
+    printDrift(session, request.json, console);
     if (const std::string failure = session.failure(); !failure.empty())
         throw UsageError(failure);
     save(session, request);

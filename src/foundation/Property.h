@@ -7,7 +7,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -22,8 +21,8 @@ using PropertyList = std::vector<Property>;
 struct PropertyValue;
 using PropertyValues = std::vector<PropertyValue>;
 
-/// Values by key, in their order; a key is a number or a text.
-using PropertyEntry = std::pair<std::variant<std::int32_t, std::string>, PropertyValue>;
+/// Values by key, in their order.
+struct PropertyEntry;
 using PropertyMap = std::vector<PropertyEntry>;
 
 /// A choice by its number, and the enumeration that the number belongs to.
@@ -44,6 +43,12 @@ struct PropertyValue {
     std::variant<std::monostate, bool, std::int32_t, float, std::string, Date, PropertyChoice,
                  PropertyRecord, PropertyValues, PropertyMap, PropertyList>
         value;
+};
+
+/// One value of a map, and its key: a number or a text.
+struct PropertyEntry {
+    std::variant<std::int32_t, std::string> key;
+    PropertyValue item;
 };
 
 /// What kind of values a property has, also while it has none.

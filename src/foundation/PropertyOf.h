@@ -91,7 +91,7 @@ template <class Key, class Item> struct PropertyOf<OrderedMap<Key, Item>> {
     {
         PropertyMap entries;
         for (const auto& [key, item] : map)
-            entries.emplace_back(key, PropertyOf<Item>::value(item));
+            entries.push_back({key, PropertyOf<Item>::value(item)});
         return {std::move(entries)};
     }
 };

@@ -83,9 +83,9 @@ TEST(Property, KeepsTheOrderOfAMapAndSharesItsRecords)
 
     const auto& entries = std::get<PropertyMap>(listed.value);
     ASSERT_EQ(entries.size(), 2U);
-    EXPECT_EQ(std::get<std::int32_t>(entries[0].first), 9);
-    EXPECT_EQ(std::get<std::int32_t>(entries[1].first), 2);
-    const auto& record = std::get<PropertyRecord>(entries[0].second.value);
+    EXPECT_EQ(std::get<std::int32_t>(entries[0].key), 9);
+    EXPECT_EQ(std::get<std::int32_t>(entries[1].key), 2);
+    const auto& record = std::get<PropertyRecord>(entries[0].item.value);
     EXPECT_EQ(std::any_cast<std::shared_ptr<Walk>>(record.handle), walk);
     EXPECT_EQ(std::get<float>(record.describe().at(0).content.value), 4);
 }

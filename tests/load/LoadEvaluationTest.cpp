@@ -38,21 +38,6 @@ constexpr StatusCase kStatuses[] = {
 
 constexpr std::int32_t kWords[] = {7, 0, 35, 36, -1, 0x40000000};
 
-struct YearCase {
-    const char* typed;
-    const char* shown;
-    int year;
-};
-
-// On 10 May 2024.
-constexpr YearCase kYears[] = {
-    {"2019", "2019", 2019},  {"1950", "1950", 1950},  {"2031", "2031", 2031},
-    {"9998", "9998", 9998},  {"abc", "2024", 2024},   {"", "2024", 2024},
-    {"20x4", "2024", 2024},  {"99", "2024", 2024},    {"0", "2024", 2024},
-    {"-2023", "2024", 2024}, {"10000", "2024", 2024}, {"2023.5", "2024", 2024},
-    {"1E9", "2024", 2024},
-};
-
 } // namespace
 
 TEST(LoadHourStatus, AnHourIsUsedWhenItsStatusIsValidAndNotExcluded)

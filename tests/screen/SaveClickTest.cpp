@@ -16,7 +16,6 @@ namespace
 
 using screen::MsgBoxAnswer;
 using screen::WriteOutcome;
-using test::contentOf;
 using test::writeFile;
 
 const screen::MsgBoxRequest kDeleteQuestion{"Delete Existing File?", "Delete Existing File?",

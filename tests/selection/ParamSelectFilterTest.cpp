@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 /// Which units the filter lists, and when it hides by itself.
 namespace k7deval::test
 {
@@ -10,88 +12,131 @@ namespace k7deval::test
 namespace
 {
 
+/// What a host and its user do; behind it the entries of the filter, which of them is selected,
+/// whether the filter is on view, and the rows.
+struct FilterCase {
+    const char* what;
+    void (*steps)(ParamSelectRig& rig);
+    const char* entries;
+    std::int32_t selected;
+    bool isOnView;
+    const char* shown;
+};
+
+void PrintTo(const FilterCase& row, std::ostream* out)
+{
+    *out << row.what;
+}
+
+const FilterCase kFilters[] = {
+    {"HasAllUnitsAndThenEachUnit", [](auto& r) { r.filtered().list(kFiveParameters); },
+     "===All Units===, GT1, GT2", 0, true,
+     "-- GT1 --, [ ] NOx, [ ] CO, [ ] O2, -- GT2 --, [ ] Load, [ ] Flow"},
+    {"IsNotFilledWhileItIsOff", [](auto& r) { r.listOf(kNox).unpopulated(); }, "", -1, false,
+     "-- GT1 --, [ ] NOx"},
+    {"IsFilledAnewByEachList",
+     [](auto& r) { r.filtered().list(kFiveParameters).pick(2).listOf(kNox, kSo2); },
+     "===All Units===, GT1, GT3", 0, true, "-- GT1 --, [ ] NOx, -- GT3 --, [ ] SO2"},
+    // An empty list offers all units and keeps the old rows on view.
+    {"OfAnEmptyList", [](auto& r) { r.filtered().list(kFiveParameters).pick(2).listOf(); },
+     "===All Units===", 0, true, "[ ] Load, [ ] Flow"},
+    {"OfAnEmptyListPicked",
+     [](auto& r) { r.filtered().list(kFiveParameters).pick(2).listOf().pick(0); },
+     "===All Units===", 0, true, "[ ] Load, [ ] Flow"},
+    {"WithoutAllUnitsHasItsFirstUnitPicked",
+     [](auto& r) { r.withoutAllUnits().filtered().list(kFiveParameters); }, "GT1, GT2", 0, true,
+     "[ ] NOx, [ ] CO, [ ] O2"},
+    // All units come and go with the next filling.
+    {"KeepsAllUnitsUntilItIsFilled",
+     [](auto& r) { r.filtered().listOf(kNox, kLoad).withoutAllUnits(); },
+     "===All Units===, GT1, GT2", 0, true, "-- GT1 --, [ ] NOx, -- GT2 --, [ ] Load"},
+    {"LosesAllUnitsWhenItIsFilled",
+     [](auto& r) { r.filtered().listOf(kNox, kLoad).withoutAllUnits().unpopulated(false); },
+     "GT1, GT2", 0, true, "[ ] NOx"},
+    // Headers of units listed by themselves are those of unpopulated units.
+    {"LeavesOutUnpopulatedHeaders",
+     [](auto& r) { r.filtered().listOf(kGT1, kLoad, kThirdUnit, kSo2); },
+     "===All Units===, GT2, GT3", 0, true, "-- GT2 --, [ ] Load, -- GT3 --, [ ] SO2"},
+    {"HasUnpopulatedHeadersWhenTheyAreWanted",
+     [](auto& r) { r.filtered().listOf(kGT1, kLoad, kThirdUnit, kSo2).unpopulated(); },
+     "===All Units===, GT1, GT2, GT3", 0, true,
+     "-- GT1 --, -- GT2 --, [ ] Load, -- GT3 --, [ ] SO2"},
+    {"ThatIsOffShowsUnpopulatedHeadersAnyway", [](auto& r) { r.listOf(kGT1, kLoad); }, "", -1,
+     false, "-- GT1 --, -- GT2 --, [ ] Load"},
+    {"ThatIsOffShowsThemWantedOrNot", [](auto& r) { r.listOf(kGT1, kLoad).unpopulated(); }, "", -1,
+     false, "-- GT1 --, -- GT2 --, [ ] Load"},
+    {"GoesBackToItsFirstEntryForUnpopulatedOnesAndKeepsTheTicks",
+     [](auto& r) { r.filtered().listOf(kNox, kLoad).ticks(2).pick(2).unpopulated(); },
+     "===All Units===, GT1, GT2", 0, true, "-- GT1 --, [x] NOx, -- GT2 --, [ ] Load"},
+    // A single unit hides the filter and keeps its header.
+    {"OfOneUnitHides", [](auto& r) { r.filtered().listOf(kNox, kCo); }, "===All Units===, GT1", 0,
+     false, "-- GT1 --, [ ] NOx, [ ] CO"},
+    {"OfOneUnitRunsThePickRuleBeforeItHides",
+     [](auto& r) { r.filtered().headers(false).listOf(kNox, kCo); }, "===All Units===, GT1", 0,
+     false, "-- GT1 --, [ ] NOx, [ ] CO"},
+    {"OfOneUnitWithoutAllUnitsHasNoEntrySelected",
+     [](auto& r) { r.withoutAllUnits().filtered().listOf(kNox, kCo); }, "GT1", -1, false,
+     "-- GT1 --, [ ] NOx, [ ] CO"},
+    {"OfOneUnitWithoutAllUnitsLeavesTheHeadersAsTheHostHasThem",
+     [](auto& r) { r.withoutAllUnits().filtered().headers(false).listOf(kNox); }, "GT1", -1, false,
+     "[ ] NOx"},
+    {"OfOneUnitOfSeveralWhenTheOthersAreUnpopulated",
+     [](auto& r) { r.filtered().withUnits(kGT1, kGT2, kLoad, kThirdUnit); }, "===All Units===, GT2",
+     0, false, "-- GT1 --, -- GT2 --, [ ] Load, -- GT3 --"},
+    {"StaysHiddenForTheNextList", [](auto& r) { r.filtered().listOf(kNox).listOf(kNox, kLoad); },
+     "===All Units===, GT1", 0, false, "-- GT1 --, [ ] NOx, -- GT2 --, [ ] Load"},
+    {"ComesBackWhenTheHostShowsIt",
+     [](auto& r) { r.filtered().listOf(kNox).filtered().listOf(kNox, kLoad); },
+     "===All Units===, GT1, GT2", 0, true, "-- GT1 --, [ ] NOx, -- GT2 --, [ ] Load"},
+    {"OfUnpopulatedUnitsIsOnView",
+     [](auto& r) { r.unpopulated().filtered().withUnits(kGT1, kNox, kGT2); },
+     "===All Units===, GT1, GT2", 0, true, "-- GT1 --, [ ] NOx, -- GT2 --"},
+    {"OfUnpopulatedUnitsHidesWhenTheyLeaveIt",
+     [](auto& r) { r.unpopulated().filtered().withUnits(kGT1, kNox, kGT2).unpopulated(false); },
+     "===All Units===, GT1", 0, false, "-- GT1 --, [ ] NOx, -- GT2 --"},
+    {"OfNoUnitHasNothingButAllUnitsAndNoRowsOnView",
+     [](auto& r) { r.filtered().withUnits(kNox, kLoad); }, "===All Units===", 0, true, ""},
+};
+
 } // namespace
 
-TEST(ParamSelectFilter, ListsAllUnitsAndThenEachUnit)
+class ParamSelectFilter : public ::testing::TestWithParam<FilterCase>
+{
+};
+
+TEST_P(ParamSelectFilter, HasTheUnitsOfTheList)
+{
+    ParamSelectRig rig;
+    GetParam().steps(rig);
+    EXPECT_EQ(entriesOf(rig.tool.cmbUnit), GetParam().entries);
+    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), GetParam().selected);
+    EXPECT_EQ(rig.tool.cmbUnit.Visible(), GetParam().isOnView);
+    EXPECT_EQ(rig.tool.ShowUnitCombo(), GetParam().isOnView);
+    EXPECT_EQ(rig.tool.jgexGrid.place().Top == 0.0F, !GetParam().isOnView);
+    EXPECT_EQ(viewText(rig.tool), GetParam().shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(, ParamSelectFilter, ::testing::ValuesIn(kFilters),
+                         [](const auto& test) { return std::string(test.param.what); });
+
+TEST(ParamSelectFilterData, IsThePIDOfTheHeaderOrOfTheUnitInTheList)
 {
     ParamSelectRig rig;
     rig.filtered().list(kFiveParameters);
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
     EXPECT_EQ(rig.tool.cmbUnit.itemDataList(), (Indexes{-1, kHeader1, kHeader2}));
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
-                                     "[ ] Load", "[ ] Flow"}));
-}
-
-TEST(ParamSelectFilter, ListsTheUnitsOfTheListUnderTheirOwnPIDs)
-{
-    ParamSelectRig rig;
-    rig.filtered().listWithUnits({kGT2, kLoad, kGT1, kNox});
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT1"}));
+    rig.withUnits(kGT2, kLoad, kGT1, kNox);
+    EXPECT_EQ(entriesOf(rig.tool.cmbUnit), "===All Units===, GT2, GT1");
     EXPECT_EQ(rig.tool.cmbUnit.itemDataList(), (Indexes{-1, kGT2, kGT1}));
 }
 
-TEST(ParamSelectFilter, IsNotFilledWhileItIsOff)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    rig.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(rig.tool.cmbUnit.listCount(), 0);
-}
-
-TEST(ParamSelectFilter, IsFilledAnewByEachList)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    rig.list({kNox, kSo2});
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT3"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT3 --", "[ ] SO2"}));
-}
-
-TEST(ParamSelectFilter, OfAnEmptyListOffersAllUnitsAndKeepsTheOldRowsOnView)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    rig.list({});
-    EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{kAll});
-    EXPECT_TRUE(rig.tool.ShowUnitCombo());
-    EXPECT_TRUE(rig.tool.OffsetUnits());
-    EXPECT_EQ(view(rig.tool), (Lines{"[ ] Load", "[ ] Flow"}));
-    rig.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(view(rig.tool), (Lines{"[ ] Load", "[ ] Flow"}));
-}
-
-TEST(ParamSelectFilter, WithoutAllUnitsHasNoFirstEntryToSelectInAnEmptyList)
+TEST(ParamSelectFilterData, WithoutAllUnitsHasNoFirstEntryToSelectInAnEmptyList)
 {
     ParamSelectRig rig;
     rig.withoutAllUnits().filtered();
-    EXPECT_EQ(errorOf([&] { return rig.tool.SetParamList(PIDs{}), 0; }), 381);
-    EXPECT_EQ(errorOf([&] { return rig.tool.SetShowUnpopulatedUnits(true), 0; }), 381);
-}
-
-TEST(ParamSelectFilter, WithoutAllUnitsPicksTheFirstUnit)
-{
-    ParamSelectRig rig;
-    rig.withoutAllUnits().filtered().list(kFiveParameters);
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_FALSE(rig.tool.OffsetUnits());
-    EXPECT_EQ(view(rig.tool), (Lines{"[ ] NOx", "[ ] CO", "[ ] O2"}));
-}
-
-TEST(ParamSelectFilter, OffersAllUnitsOrNotFromItsNextFillingOn)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.withoutAllUnits();
     EXPECT_FALSE(rig.tool.AllUnitsInCombo());
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 7);
-    rig.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{"GT1", "GT2"}));
+    EXPECT_EQ(errorOf([&] { return rig.listOf(), 0; }), 381);
+    EXPECT_EQ(errorOf([&] { return rig.unpopulated(), 0; }), 381);
+    EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());
 }
 
 struct UnitRowsCase {
@@ -157,148 +202,29 @@ TEST_P(ParamSelectUnits, AreInTheFilterWhenAParameterFollowsThem)
 
 TEST_P(ParamSelectUnits, AreAllInTheFilterWhenUnpopulatedOnesAreWanted)
 {
-    rig.tool.SetShowUnpopulatedUnits(true);
-    rig.filtered().listWithUnits(GetParam().list);
+    rig.unpopulated().filtered().listWithUnits(GetParam().list);
     EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().all));
 }
 
 TEST_P(ParamSelectUnits, ComeAndGoWithTheWishForUnpopulatedOnes)
 {
     rig.filtered().listWithUnits(GetParam().list);
-    rig.tool.SetShowUnpopulatedUnits(true);
+    rig.unpopulated();
     EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().all));
-    rig.tool.SetShowUnpopulatedUnits(false);
+    rig.unpopulated(false);
     EXPECT_EQ(rig.tool.cmbUnit.List(), withAll(GetParam().populated));
 }
 
 INSTANTIATE_TEST_SUITE_P(, ParamSelectUnits, ::testing::ValuesIn(kUnitRowsCases),
                          [](const auto& test) { return std::string(test.param.what); });
 
-TEST(ParamSelectUnpopulatedUnits, OfHeadersAreThoseOfUnitsListedByThemselves)
-{
-    ParamSelectRig rig;
-    rig.filtered().list({kGT1, kLoad, kThirdUnit, kSo2});
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT2", "GT3"}));
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
-    rig.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_TRUE(rig.tool.ShowUnpopulatedUnits());
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2", "GT3"}));
-    EXPECT_EQ(view(rig.tool),
-              (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load", "-- GT3 --", "[ ] SO2"}));
-}
-
-TEST(ParamSelectUnpopulatedUnits, WithoutAFilterShowTheirHeadersAnyway)
-{
-    ParamSelectRig rig;
-    rig.list({kGT1, kLoad});
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load"}));
-    rig.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load"}));
-}
-
-TEST(ParamSelectUnpopulatedUnits, SetTheFilterBackToItsFirstEntryAndKeepTheTicks)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters).tick({2});
-    rig.tool.cmbUnit.Pick(2);
-    rig.tool.SetShowUnpopulatedUnits(true);
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_TRUE(rig.tool.OffsetUnits());
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[x] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
-                                     "[ ] Load", "[ ] Flow"}));
-}
-
-TEST(ParamSelectOneUnit, HidesTheFilterAndKeepsItsHeader)
-{
-    ParamSelectRig rig;
-    rig.filtered().list({kNox, kCo});
-    EXPECT_FALSE(rig.tool.ShowUnitCombo());
-    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
-    EXPECT_TRUE(rig.tool.OffsetUnits());
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), 0);
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO"}));
-}
-
-TEST(ParamSelectOneUnit, RunsThePickRuleBeforeTheFilterHides)
-{
-    ParamSelectRig rig;
-    rig.filtered();
-    rig.tool.SetOffsetUnits(false);
-    rig.list({kNox, kCo});
-    EXPECT_TRUE(rig.tool.OffsetUnits());
-}
-
 TEST(ParamSelectOneUnit, GivesTheGridTheFullHeight)
 {
     ParamSelectRig rig;
-    rig.filtered().list({kNox, kCo});
-    EXPECT_EQ(rig.tool.jgexGrid.place().Top, 0.0F);
+    rig.filtered().listOf(kNox, kCo);
     EXPECT_EQ(rig.tool.jgexGrid.place().Height, 3495.0F);
-}
-
-TEST(ParamSelectOneUnit, WithoutAllUnitsHidesTheFilterAndSelectsNoEntry)
-{
-    ParamSelectRig rig;
-    rig.withoutAllUnits().filtered().list({kNox, kCo});
-    EXPECT_FALSE(rig.tool.ShowUnitCombo());
-    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbUnit.List(), Lines{"GT1"});
-    EXPECT_EQ(rig.tool.cmbUnit.ListIndex(), -1);
-    EXPECT_EQ(rig.tool.jgexGrid.place().Top, 0.0F);
+    rig.withoutAllUnits().filtered().listOf(kNox, kCo);
     EXPECT_EQ(rig.tool.jgexGrid.place().Height, 3495.0F);
-}
-
-TEST(ParamSelectOneUnit, WithoutAllUnitsLeavesTheHeadersAsTheHostHasThem)
-{
-    for (const bool offset : {true, false}) {
-        ParamSelectRig rig;
-        rig.withoutAllUnits().filtered();
-        rig.tool.SetOffsetUnits(offset);
-        rig.list({kNox});
-        EXPECT_EQ(rig.tool.OffsetUnits(), offset);
-        EXPECT_EQ(view(rig.tool).size(), offset ? 2U : 1U);
-    }
-}
-
-TEST(ParamSelectOneUnit, IsOneOfSeveralWhenTheOthersAreUnpopulated)
-{
-    ParamSelectRig rig;
-    rig.filtered().listWithUnits({kGT1, kGT2, kLoad, kThirdUnit});
-    EXPECT_FALSE(rig.tool.ShowUnitCombo());
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "-- GT2 --", "[ ] Load", "-- GT3 --"}));
-}
-
-TEST(ParamSelectOneUnit, StaysHiddenForTheNextListUntilTheHostShowsItAgain)
-{
-    ParamSelectRig rig;
-    rig.filtered().list({kNox}).list(kFiveParameters);
-    EXPECT_FALSE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1"}));
-    rig.filtered().list(kFiveParameters);
-    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.cmbUnit.List(), (Lines{kAll, "GT1", "GT2"}));
-}
-
-TEST(ParamSelectOneUnit, HidesTheFilterOfUnpopulatedUnitsWhenTheyLeaveIt)
-{
-    ParamSelectRig rig;
-    rig.tool.SetShowUnpopulatedUnits(true);
-    rig.filtered().listWithUnits({kGT1, kNox, kGT2});
-    EXPECT_TRUE(rig.tool.ShowUnitCombo());
-    rig.tool.SetShowUnpopulatedUnits(false);
-    EXPECT_FALSE(rig.tool.ShowUnitCombo());
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --"}));
-}
-
-TEST(ParamSelectNoUnit, LeavesTheFilterWithNothingButAllUnitsAndNoRowsOnView)
-{
-    ParamSelectRig rig;
-    rig.filtered().listWithUnits({kNox, kLoad});
-    EXPECT_TRUE(rig.tool.ShowUnitCombo());
-    EXPECT_TRUE(rig.tool.cmbUnit.Visible());
-    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 0);
-    EXPECT_EQ(rig.tool.rows().Count(), 2);
 }
 
 } // namespace k7deval::test

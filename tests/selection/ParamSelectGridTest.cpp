@@ -112,35 +112,78 @@ TEST(ParamSelectMultiSelect, IsHandedToTheGrid)
     EXPECT_FALSE(tool.jgexGrid.MultiSelect());
 }
 
-TEST(ParamSelectEdit, TicksAndUnticksTheRow)
+/// What a user does to a list of five parameters, what is ticked behind it, and whether the grid
+/// is told to read.
+struct TickCase {
+    const char* what;
+    void (*act)(ParamSelectRig& rig);
+    PIDs ticked;
+    bool reads;
+};
+
+TEST(ParamSelectTicks, FollowEditsAndDoubleClicks)
+{
+    const TickCase rows[] = {
+        {"an edit", [](auto& rig) { rig.ticks(3); }, {kCo}, true},
+        {"an edit to the same value", [](auto& rig) { rig.ticks(3, 3); }, {kCo}, true},
+        {"an edit taken back",
+         [](auto& rig) { rig.ticks(3).tool.jgexGrid.Edit(3, false); },
+         {},
+         true},
+        {"an edit under a filter", [](auto& rig) { rig.pick(2).ticks(2); }, {kFlow}, true},
+        {"an edit of a unit", [](auto& rig) { rig.ticks(5); }, {kHeader2}, true},
+        {"an edit of a unit taken back",
+         [](auto& rig) { rig.ticks(5).tool.jgexGrid.Edit(5, false); },
+         {},
+         true},
+        {"a double click on a name", [](auto& rig) { doubleClick(rig.tool, 6, 2); }, {kLoad}, true},
+        {"a second one",
+         [](auto& rig) {
+             doubleClick(rig.tool, 6, 2);
+             doubleClick(rig.tool, 6, 2);
+         },
+         {},
+         true},
+        {"one under a filter",
+         [](auto& rig) { doubleClick(rig.pick(2).tool, 1, 2); },
+         {kLoad},
+         true},
+        {"one on the check box, which is left to it",
+         [](auto& rig) { doubleClick(rig.tool, 2, 1); },
+         {},
+         false},
+        {"one on a unit", [](auto& rig) { doubleClick(rig.tool, 5, 2); }, {}, true},
+        {"one on a ticked unit",
+         [](auto& rig) { doubleClick(rig.ticks(1).tool, 1, 2); },
+         {kHeader1},
+         true},
+        {"one beside the columns", [](auto& rig) { doubleClick(rig.tool, 2, 0); }, {kNox}, true},
+        {"one behind presses elsewhere, a press alone ticking nothing",
+         [](auto& rig) {
+             rig.tool.jgexGrid.MouseDown(2, 1);
+             doubleClick(rig.tool, 3, 2);
+             rig.tool.jgexGrid.MoveTo(6, 2);
+         },
+         {kCo},
+         true},
+    };
+    for (const TickCase& row : rows) {
+        ParamSelectRig rig;
+        rig.filtered().list(kFiveParameters);
+        const Raised changed(rig.tool.jgexGrid.Changed);
+        row.act(rig);
+        EXPECT_EQ(selectionOf(rig.tool), row.ticked) << row.what;
+        EXPECT_EQ(changed.count > 0, row.reads) << row.what;
+    }
+}
+
+TEST(ParamSelectDoubleClick, LetsTheGridReadOnceOnAUnit)
 {
     ParamSelectRig rig;
     rig.list(kFiveParameters);
-    rig.tool.jgexGrid.Edit(3, true);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kCo});
-    rig.tool.jgexGrid.Edit(3, true);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kCo});
-    rig.tool.jgexGrid.Edit(3, false);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-}
-
-TEST(ParamSelectEdit, UnderAFilterTicksTheRowOnView)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    rig.tool.jgexGrid.Edit(2, true);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kFlow});
-}
-
-TEST(ParamSelectEdit, TicksAUnitAsWell)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    rig.tool.jgexGrid.Edit(5, true);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kHeader2});
-    rig.tool.jgexGrid.Edit(5, false);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
+    const Raised changed(rig.tool.jgexGrid.Changed);
+    doubleClick(rig.tool, 5, 2);
+    EXPECT_EQ(changed.count, 1);
 }
 
 TEST(ParamSelectEdit, KeepsTheCurrentRowThoughTheGridReadsAgain)
@@ -186,53 +229,6 @@ TEST(ParamSelectCurrentCell, MayBeInEitherColumn)
     }
 }
 
-TEST(ParamSelectDoubleClick, OnANameTicksAndUnticksIt)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    doubleClick(rig.tool, 6, 2);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
-    doubleClick(rig.tool, 6, 2);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-}
-
-TEST(ParamSelectDoubleClick, UnderAFilterTicksTheRowOnView)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    doubleClick(rig.tool, 1, 2);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
-}
-
-TEST(ParamSelectDoubleClick, OnTheCheckBoxIsLeftToIt)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    const Raised changed(rig.tool.jgexGrid.Changed);
-    doubleClick(rig.tool, 2, 1);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-    EXPECT_EQ(changed.count, 0);
-}
-
-TEST(ParamSelectDoubleClick, OnAUnitTicksNothingButLetsTheGridRead)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    const Raised changed(rig.tool.jgexGrid.Changed);
-    doubleClick(rig.tool, 5, 2);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-    EXPECT_EQ(changed.count, 1);
-}
-
-TEST(ParamSelectDoubleClick, LeavesATickedUnitTicked)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters).tick({1});
-    doubleClick(rig.tool, 1, 2);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kHeader1});
-}
-
 TEST(ParamSelectDoubleClick, IsAboutTheRowUnderTheMouseAndKeepsTheCurrentOne)
 {
     ParamSelectRig rig;
@@ -253,26 +249,6 @@ TEST(ParamSelectDoubleClick, SetsTheCurrentRowBackWhereReadingMovesIt)
     goToTheFirstRowWhenReading(rig.tool.jgexGrid);
     doubleClick(rig.tool, 2, 2);
     EXPECT_EQ(rig.tool.jgexGrid.Row(), 7);
-}
-
-TEST(ParamSelectDoubleClick, IsAboutThePlaceOfTheLastPress)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    rig.tool.jgexGrid.MouseDown(2, 1);
-    rig.tool.jgexGrid.MouseDown(3, 2);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt) << "a press alone ticks nothing";
-    rig.tool.jgexGrid.DoubleClick();
-    rig.tool.jgexGrid.MoveTo(6, 2);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kCo});
-}
-
-TEST(ParamSelectDoubleClick, BesideTheColumnsTicksTheRow)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    doubleClick(rig.tool, 2, 0);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
 }
 
 TEST(ParamSelectDoubleClick, WithNoRowUnderTheMouseIsAnErrorOfTheMapOfRows)

@@ -42,63 +42,71 @@ Rows rowsOf(const ParamSelect& tool)
 
 } // namespace
 
-TEST(ParamSelectList, APIDOfAnotherUnitThanTheLastOpensAHeader)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    EXPECT_EQ(rowsOf(rig.tool),
-              (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"), parameterRow(kCo, "CO"),
-                    parameterRow(kO2, "O2"), unitRow(kHeader2, "GT2"), parameterRow(kLoad, "Load"),
-                    parameterRow(kFlow, "Flow")}));
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO", "[ ] O2", "-- GT2 --",
-                                     "[ ] Load", "[ ] Flow"}));
-}
+struct ListCase {
+    const char* what;
+    PIDs pids;
+    bool hasUnits;
+    Rows rows;
+};
 
-TEST(ParamSelectList, AUnitThatComesBackGetsASecondHeader)
-{
-    ParamSelectRig rig;
-    rig.list({kNox, kLoad, kCo});
-    EXPECT_EQ(view(rig.tool),
-              (Lines{"-- GT1 --", "[ ] NOx", "-- GT2 --", "[ ] Load", "-- GT1 --", "[ ] CO"}));
-}
+const ParamRow kNoxRow = parameterRow(kNox, "NOx");
+const ParamRow kCoRow = parameterRow(kCo, "CO");
+const ParamRow kLoadRow = parameterRow(kLoad, "Load");
 
-TEST(ParamSelectList, TheUnitOfNumberNoughtGetsAHeaderOfPIDNought)
-{
-    ParamSelectRig rig;
-    rig.list({kOpacity});
-    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(0, "Common"), parameterRow(kOpacity, "Opacity")}));
-}
+// Without units in the list a PID of another unit than the last opens a header of that unit.
+const ListCase kLists[] = {
+    {"two units",
+     kFiveParameters,
+     false,
+     {unitRow(kHeader1, "GT1"), kNoxRow, kCoRow, parameterRow(kO2, "O2"), unitRow(kHeader2, "GT2"),
+      kLoadRow, parameterRow(kFlow, "Flow")}},
+    {"a unit that comes back",
+     {kNox, kLoad, kCo},
+     false,
+     {unitRow(kHeader1, "GT1"), kNoxRow, unitRow(kHeader2, "GT2"), kLoadRow,
+      unitRow(kHeader1, "GT1"), kCoRow}},
+    {"the unit of number nought",
+     {kOpacity},
+     false,
+     {unitRow(0, "Common"), parameterRow(kOpacity, "Opacity")}},
+    {"units among the PIDs, which are dropped but open a header",
+     {kGT1, kNox, kGT1, kGT2},
+     false,
+     {unitRow(kHeader1, "GT1"), kNoxRow, unitRow(kHeader2, "GT2")}},
+    {"a PID twice", {kNox, kNox}, false, {unitRow(kHeader1, "GT1"), kNoxRow, kNoxRow}},
+    {"units of the list's own",
+     {kNox, kGT2, kLoad, kGT1},
+     true,
+     {kNoxRow, unitRow(kGT2, "GT2"), kLoadRow, unitRow(kGT1, "GT1")}},
+};
 
-TEST(ParamSelectList, UnitsAmongThePIDsAreDroppedThoughTheyOpenAHeader)
+TEST(ParamSelectList, GivesTheRowsOfItsPIDsOrParameters)
 {
-    ParamSelectRig rig;
-    rig.list({kGT1, kNox, kGT1, kGT2});
-    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"),
-                                      unitRow(kHeader2, "GT2")}));
+    for (const ListCase& row : kLists) {
+        ParamSelectRig rig;
+        rig.tool.SetParamList(row.pids, row.hasUnits);
+        EXPECT_EQ(rowsOf(rig.tool), row.rows) << row.what;
+        EXPECT_EQ(rig.site->countCalls("DIServer.StatusCodes") == 0, row.hasUnits) << row.what;
+        ParamSelectRig other;
+        other.tool.SetParamList(collectionOf(other.site, row.pids), row.hasUnits);
+        EXPECT_EQ(rowsOf(other.tool), row.rows) << row.what << ", as parameters";
+    }
 }
 
 TEST(ParamSelectList, PIDsThatDoNotExistAreSkippedAndOpenNoHeader)
 {
     ParamSelectRig rig;
     rig.list({kUnknown, kLoad, kUnknown, kFlow, 0, -1});
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load", "[ ] Flow"}));
+    EXPECT_EQ(viewText(rig.tool), "-- GT2 --, [ ] Load, [ ] Flow");
     rig.listWithUnits({kUnknown, kLoad});
-    EXPECT_EQ(view(rig.tool), Lines{"[ ] Load"});
+    EXPECT_EQ(viewText(rig.tool), "[ ] Load");
 }
 
-TEST(ParamSelectList, APIDListedTwiceHasTwoRows)
+TEST(ParamSelectList, EachRowOfAPIDListedTwiceIsTickedByItself)
 {
     ParamSelectRig rig;
     rig.list({kNox, kNox}).tick({3});
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[x] NOx"}));
-}
-
-TEST(ParamSelectList, ACollectionOfParametersGivesTheRowsOfItsPIDs)
-{
-    ParamSelectRig rig;
-    rig.tool.SetParamList(collectionOf(rig.site, {kGT1, kNox, kLoad}));
-    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader1, "GT1"), parameterRow(kNox, "NOx"),
-                                      unitRow(kHeader2, "GT2"), parameterRow(kLoad, "Load")}));
+    EXPECT_EQ(viewText(rig.tool), "-- GT1 --, [ ] NOx, [x] NOx");
 }
 
 TEST(ParamSelectList, TheParametersOfACollectionAreNotLookedUp)
@@ -109,23 +117,6 @@ TEST(ParamSelectList, TheParametersOfACollectionAreNotLookedUp)
     EXPECT_EQ(rig.site->countCalls("DIServer.Parameters"), 0U);
     EXPECT_EQ(rig.site->countCalls("DIParameters.Exists"), 0U);
     EXPECT_EQ(rig.site->countCalls("DIParameters.Item"), 0U);
-}
-
-TEST(ParamSelectList, AListWithUnitsGetsNoHeadersButItsOwn)
-{
-    ParamSelectRig rig;
-    rig.listWithUnits({kNox, kGT2, kLoad, kGT1});
-    EXPECT_EQ(rowsOf(rig.tool), (Rows{parameterRow(kNox, "NOx"), unitRow(kGT2, "GT2"),
-                                      parameterRow(kLoad, "Load"), unitRow(kGT1, "GT1")}));
-    EXPECT_EQ(rig.site->countCalls("DIServer.StatusCodes"), 0U);
-}
-
-TEST(ParamSelectList, ACollectionWithUnitsGetsNoHeadersButItsOwn)
-{
-    ParamSelectRig rig;
-    rig.tool.SetParamList(collectionOf(rig.site, {kGT2, kLoad, kNox}), true);
-    EXPECT_EQ(rowsOf(rig.tool),
-              (Rows{unitRow(kGT2, "GT2"), parameterRow(kLoad, "Load"), parameterRow(kNox, "NOx")}));
 }
 
 TEST(ParamSelectList, AnythingElseGivesNoRowsAndNoError)
@@ -201,23 +192,21 @@ INSTANTIATE_TEST_SUITE_P(, ParamSelectWithoutRows,
                                            ListWithoutRows{"AnythingElse", std::monostate{}}),
                          [](const auto& test) { return std::string(test.param.what); });
 
-TEST(ParamSelectSecondList, ReplacesRowsAndTicks)
+TEST(ParamSelectSecondList, ReplacesRowsAndTicksAndLeavesNoneOfTheFirst)
 {
     ParamSelectRig rig;
-    rig.list({kNox, kCo}).tick({2, 3});
-    rig.list({kNox, kCo});
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT1 --", "[ ] NOx", "[ ] CO"}));
+    rig.list({kNox, kCo}).tick({2, 3}).list({kNox, kCo});
+    EXPECT_EQ(viewText(rig.tool), "-- GT1 --, [ ] NOx, [ ] CO");
     EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-}
-
-TEST(ParamSelectSecondList, OfFewerRowsLeavesNoneOfTheFirst)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters).tick({6});
-    rig.list({kSo2});
-    EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader3, "GT3"), parameterRow(kSo2, "SO2")}));
-    EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1}));
-    EXPECT_EQ(rig.tool.jgexGrid.RowCount(), 2);
+    for (const bool emptyBetween : {false, true}) {
+        rig.list(kFiveParameters).tick({6});
+        if (emptyBetween)
+            rig.list({});
+        rig.list({kSo2});
+        EXPECT_EQ(rowsOf(rig.tool), (Rows{unitRow(kHeader3, "GT3"), parameterRow(kSo2, "SO2")}));
+        EXPECT_EQ(visibleIndexes(rig.tool), (Indexes{0, 1}));
+        EXPECT_EQ(viewText(rig.tool), "-- GT3 --, [ ] SO2");
+    }
 }
 
 TEST(ParamSelectSecondList, OfFewerRowsIsFilteredByUnitAtOnce)
@@ -237,14 +226,6 @@ TEST(ParamSelectSecondList, IsNotMixedWithTheFirstWhileItIsShown)
     rig.tool.jgexGrid.Changed.Connect([&] { EXPECT_NO_THROW(view(rig.tool)); });
     rig.list({kSo2});
     EXPECT_EQ(view(rig.tool), Lines{"[ ] SO2"});
-}
-
-TEST(ParamSelectSecondList, BehindAnEmptyOneReplacesTheOldRows)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters).tick({2}).list({}).list({kLoad});
-    EXPECT_EQ(view(rig.tool), (Lines{"-- GT2 --", "[ ] Load"}));
-    EXPECT_EQ(rig.tool.rows().all().items().size(), 2U);
 }
 
 TEST(ParamSelectWithoutData, ListsNoPIDs)

@@ -7,52 +7,96 @@
 namespace k7deval::test
 {
 
-TEST(ParamSelectSelectAll, TicksAllRowsOnViewTheUnitsAsWell)
+/// What is done to a list, and the PIDs that are selected: ticked and on view, from top to bottom.
+struct SelectionCase {
+    const char* what;
+    void (*steps)(ParamSelectRig& rig);
+    PIDs selected;
+};
+
+void selectAll(ParamSelectRig& rig)
 {
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
     rig.tool.SelectAll();
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox, kCo, kO2, kHeader2, kLoad, kFlow}));
 }
 
-TEST(ParamSelectSelectAll, TicksNoUnitThatIsNotOnView)
+void deselectAll(ParamSelectRig& rig)
 {
-    ParamSelectRig rig;
-    rig.list({kNox, kLoad});
-    rig.tool.SetOffsetUnits(false);
-    rig.tool.SelectAll();
-    rig.tool.SetOffsetUnits(true);
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kNox, kLoad}));
-}
-
-TEST(ParamSelectSelectAll, UnderAFilterTicksNothingBehindIt)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    rig.tool.SelectAll();
-    rig.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kLoad, kFlow}));
-}
-
-TEST(ParamSelectDeselectAll, UnticksAllRowsOnViewTheUnitsAsWell)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    rig.tool.SelectAll();
     rig.tool.DeselectAll();
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
 }
 
-TEST(ParamSelectDeselectAll, UnderAFilterUnticksNothingBehindIt)
+const PIDs kNoPIDs;
+const PIDs kAllOfFive = {kHeader1, kNox, kCo, kO2, kHeader2, kLoad, kFlow};
+const PIDs kAllOfGT1 = {kHeader1, kNox, kCo, kO2, kHeader2};
+const PIDs kLoadAndFlow = {kLoad, kFlow};
+const PIDs kNoxAlone = {kNox};
+const PIDs kLoadAlone = {kLoad};
+const PIDs kNoxAndLoad = {kNox, kLoad};
+const PIDs kO2First = {kO2, kNox, kLoad};
+const PIDs kByUnit = {kLoad, kFlow, kNox, kCo, kSo2};
+const PIDs kOfHeader = {kHeader1, kNox};
+const PIDs kOfUnit = {kGT1, kNox};
+
+// A filter has the entries "===All Units===", GT1 and GT2.
+const SelectionCase kSelections[] = {
+    {"nothing", [](auto& r) { r.list(kFiveParameters); }, kNoPIDs},
+    // All and nothing are about the rows on view, the units among them.
+    {"all", [](auto& r) { selectAll(r.list(kFiveParameters)); }, kAllOfFive},
+    {"all without headers",
+     [](auto& r) {
+         selectAll(r.listOf(kNox, kLoad).headers(false));
+         r.headers(true);
+     },
+     kNoxAndLoad},
+    {"all under a filter",
+     [](auto& r) {
+         selectAll(r.filtered().list(kFiveParameters).pick(2));
+         r.pick(0);
+     },
+     kLoadAndFlow},
+    {"none",
+     [](auto& r) {
+         selectAll(r.list(kFiveParameters));
+         deselectAll(r);
+     },
+     kNoPIDs},
+    {"none under a filter",
+     [](auto& r) {
+         selectAll(r.filtered().list(kFiveParameters));
+         deselectAll(r.pick(2));
+         r.pick(0);
+     },
+     kAllOfGT1},
+    // The order is that of the rows on view: not that of the ticks, nor that of the list.
+    {"ticked from below", [](auto& r) { r.listOf(kO2, kNox, kLoad).ticks(5, 3, 2); }, kO2First},
+    {"in the order on view",
+     [](auto& r) {
+         r.filtered().withUnits(kGT2, kGT1, kNox, kLoad, kThirdUnit, kSo2, kCo, kFlow);
+         r.unpopulated().ticks(2, 3, 5, 6, 8);
+     },
+     kByUnit},
+    // Ticked rows behind the filter and headers that are off don't count until they come back.
+    {"of GT2", [](auto& r) { r.filtered().list(kFiveParameters).ticks(2, 6).pick(2); }, kLoadAlone},
+    {"of GT1", [](auto& r) { r.filtered().list(kFiveParameters).ticks(2, 6).pick(2).pick(1); },
+     kNoxAlone},
+    {"of all again",
+     [](auto& r) { r.filtered().list(kFiveParameters).ticks(2, 6).pick(2).pick(1).pick(0); },
+     kNoxAndLoad},
+    {"all behind the filter", [](auto& r) { r.filtered().list(kFiveParameters).ticks(2).pick(2); },
+     kNoPIDs},
+    {"a ticked header that is off",
+     [](auto& r) { r.listOf(kNox, kLoad).ticks(1, 2).headers(false); }, kNoxAlone},
+    {"a ticked header that came back",
+     [](auto& r) { r.listOf(kNox, kLoad).ticks(1, 2).headers(false).headers(true); }, kOfHeader},
+    {"a ticked unit of the list", [](auto& r) { r.withUnits(kGT1, kNox).ticks(1, 2); }, kOfUnit},
+};
+
+TEST(ParamSelectSelection, IsWhatIsTickedAndOnView)
 {
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.SelectAll();
-    rig.tool.cmbUnit.Pick(2);
-    rig.tool.DeselectAll();
-    rig.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox, kCo, kO2, kHeader2}));
+    for (const SelectionCase& row : kSelections) {
+        ParamSelectRig rig;
+        row.steps(rig);
+        EXPECT_EQ(selectionOf(rig.tool), row.selected) << row.what;
+    }
 }
 
 TEST(ParamSelectSelection, OfAllOrNothingLetsTheGridReadOnce)
@@ -66,106 +110,33 @@ TEST(ParamSelectSelection, OfAllOrNothingLetsTheGridReadOnce)
     EXPECT_EQ(changed.count, 2);
 }
 
-TEST(ParamSelectSelection, IsEmptyAsLongAsNothingIsTicked)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-}
+struct UnitNameCase {
+    const char* what;
+    void (*steps)(ParamSelectRig& rig);
+    const char* name;
+};
 
-TEST(ParamSelectSelection, ListsTheTickedRowsFromTopToBottomNotInTheOrderOfTheirTicks)
-{
-    ParamSelectRig rig;
-    rig.list({kO2, kNox, kLoad}).tick({5, 3, 2});
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kO2, kNox, kLoad}));
-}
+constexpr UnitNameCase kUnitNames[] = {
+    {"a picked unit", [](auto& r) { r.filtered().list(kFiveParameters).pick(2); }, "GT2"},
+    {"all units", [](auto& r) { r.filtered().list(kFiveParameters); }, ""},
+    {"the first entry, though it is a unit",
+     [](auto& r) { r.withoutAllUnits().filtered().list(kFiveParameters); }, ""},
+    {"the second entry, a unit",
+     [](auto& r) { r.withoutAllUnits().filtered().list(kFiveParameters).pick(1); }, "GT2"},
+    {"a unit behind a filter that is off",
+     [](auto& r) { r.filtered().list(kFiveParameters).pick(2).filtered(false); }, ""},
+    {"a unit of a filter that came back",
+     [](auto& r) { r.filtered().list(kFiveParameters).pick(2).filtered(false).filtered(); }, "GT2"},
+    {"nothing selected", [](auto& r) { r.list(kFiveParameters).filtered(); }, ""},
+};
 
-TEST(ParamSelectSelection, ListsTheTickedRowsInTheOrderOnViewNotInThatOfTheList)
+TEST(ParamSelectUnitName, IsThatOfAPickedUnitBehindTheFirstEntry)
 {
-    ParamSelectRig rig;
-    rig.filtered().listWithUnits({kGT2, kGT1, kNox, kLoad, kThirdUnit, kSo2, kCo, kFlow});
-    rig.tool.SetShowUnpopulatedUnits(true);
-    rig.tick({2, 3, 5, 6, 8});
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kLoad, kFlow, kNox, kCo, kSo2}));
-}
-
-TEST(ParamSelectSelection, LeavesOutATickedRowBehindTheFilter)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters).tick({2, 6});
-    rig.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kLoad});
-    rig.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
-    rig.tool.cmbUnit.Pick(0);
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kNox, kLoad}));
-}
-
-TEST(ParamSelectSelection, IsEmptyWhenAllTickedRowsAreBehindTheFilter)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters).tick({2});
-    rig.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(rig.tool.GetSelection(), std::nullopt);
-}
-
-TEST(ParamSelectSelection, LeavesOutATickedUnitWithoutHeaders)
-{
-    ParamSelectRig rig;
-    rig.list({kNox, kLoad}).tick({1, 2});
-    rig.tool.SetOffsetUnits(false);
-    EXPECT_EQ(selectionOf(rig.tool), PIDs{kNox});
-    rig.tool.SetOffsetUnits(true);
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kHeader1, kNox}));
-}
-
-TEST(ParamSelectSelection, HasTheUnitsOfTheListUnderTheirOwnPIDs)
-{
-    ParamSelectRig rig;
-    rig.listWithUnits({kGT1, kNox}).tick({1, 2});
-    EXPECT_EQ(selectionOf(rig.tool), (PIDs{kGT1, kNox}));
-}
-
-TEST(ParamSelectUnitName, IsThatOfThePickedUnit)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    EXPECT_EQ(rig.tool.GetUnitName(), "GT2");
-}
-
-TEST(ParamSelectUnitName, IsEmptyForAllUnits)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    EXPECT_EQ(rig.tool.GetUnitName(), "");
-}
-
-TEST(ParamSelectUnitName, IsEmptyForTheFirstEntryEvenIfItIsAUnit)
-{
-    ParamSelectRig rig;
-    rig.withoutAllUnits().filtered().list(kFiveParameters);
-    EXPECT_EQ(rig.tool.GetUnitName(), "");
-    rig.tool.cmbUnit.Pick(1);
-    EXPECT_EQ(rig.tool.GetUnitName(), "GT2");
-}
-
-TEST(ParamSelectUnitName, IsEmptyWithoutAFilterWhateverIsSelectedInIt)
-{
-    ParamSelectRig rig;
-    rig.filtered().list(kFiveParameters);
-    rig.tool.cmbUnit.Pick(2);
-    rig.tool.SetShowUnitCombo(false);
-    EXPECT_EQ(rig.tool.GetUnitName(), "");
-    rig.tool.SetShowUnitCombo(true);
-    EXPECT_EQ(rig.tool.GetUnitName(), "GT2");
-}
-
-TEST(ParamSelectUnitName, IsEmptyWithNothingSelected)
-{
-    ParamSelectRig rig;
-    rig.list(kFiveParameters).filtered();
-    EXPECT_EQ(rig.tool.GetUnitName(), "");
+    for (const UnitNameCase& row : kUnitNames) {
+        ParamSelectRig rig;
+        row.steps(rig);
+        EXPECT_EQ(rig.tool.GetUnitName(), row.name) << row.what;
+    }
 }
 
 } // namespace k7deval::test

@@ -27,6 +27,14 @@ std::string lineOf(const screen::GridCells& cells)
     return (*mark ? "[x] " : "[ ] ") + name;
 }
 
+std::string joined(const Lines& lines)
+{
+    std::string text;
+    for (const std::string& line : lines)
+        text += (text.empty() ? "" : ", ") + line;
+    return text;
+}
+
 } // namespace
 
 std::shared_ptr<SiteData> siteOfThreeUnits()
@@ -76,6 +84,16 @@ Lines view(const ParamSelect& tool)
     for (std::int32_t row = 1; row <= tool.jgexGrid.RowCount(); ++row)
         lines.push_back(lineOf(tool.jgexGrid.Cells(row)));
     return lines;
+}
+
+std::string viewText(const ParamSelect& tool)
+{
+    return joined(view(tool));
+}
+
+std::string entriesOf(const screen::ComboBox& box)
+{
+    return joined(box.List());
 }
 
 PIDs selectionOf(const ParamSelect& tool)

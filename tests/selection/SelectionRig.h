@@ -55,81 +55,88 @@ Lines view(const ParamSelect& tool);
 /// The ticked PIDs on view; none for Empty, which never comes as an array without entry.
 PIDs selectionOf(const ParamSelect& tool);
 
-/// The list of parameters on the site, measured by a font so wide that a header has no more dashes
-/// than it needs.
-struct ParamSelectRig {
-    ParamSelectRig()
+/// The same on one line: "-- GT1 --, [ ] NOx, [x] CO".
+std::string viewText(const ParamSelect& tool);
+
+/// The entries of a box on one line: "GT1, GT2".
+std::string entriesOf(const screen::ComboBox& box);
+
+/// A control of the selection on the site. The list of parameters is measured by a font so wide
+/// that a header has no more dashes than it needs.
+template <class Tool> struct SelectionRig {
+    SelectionRig()
     {
-        tool.jgexGrid.TextWidth = [](const std::string&) { return 1e6F; };
+        if constexpr (requires { tool.jgexGrid; })
+            tool.jgexGrid.TextWidth = [](const std::string&) { return 1e6F; };
         tool.SetDIServer(serve(site));
     }
-    ParamSelectRig(const ParamSelectRig&) = delete;
-    ParamSelectRig& operator=(const ParamSelectRig&) = delete;
-    ~ParamSelectRig() = default;
+    SelectionRig(const SelectionRig&) = delete;
+    SelectionRig& operator=(const SelectionRig&) = delete;
+    ~SelectionRig() = default;
 
-    ParamSelectRig& filtered()
+    SelectionRig& filtered(bool on = true)
     {
-        tool.SetShowUnitCombo(true);
+        tool.SetShowUnitCombo(on);
         return *this;
     }
-    ParamSelectRig& withoutAllUnits()
+    SelectionRig& withoutAllUnits()
     {
         tool.SetAllUnitsInCombo(false);
         return *this;
     }
+    SelectionRig& unpopulated(bool on = true)
+    {
+        tool.SetShowUnpopulatedUnits(on);
+        return *this;
+    }
+    SelectionRig& withPIDs(bool on = true)
+    {
+        tool.SetShowPIDNumber(on);
+        return *this;
+    }
+    /// The host shows or hides the headers of a list to tick.
+    SelectionRig& headers(bool on)
+    {
+        tool.SetOffsetUnits(on);
+        return *this;
+    }
     /// Headers are made where the unit changes.
-    ParamSelectRig& list(const PIDs& pids)
+    SelectionRig& list(const PIDs& pids)
     {
         tool.SetParamList(pids);
         return *this;
     }
     /// The list brings its own units.
-    ParamSelectRig& listWithUnits(const PIDs& pids)
+    SelectionRig& listWithUnits(const PIDs& pids)
     {
         tool.SetParamList(pids, true);
         return *this;
     }
-    ParamSelectRig& tick(const Indexes& gridRows)
+    /// The same two for PIDs one by one.
+    template <class... Each> SelectionRig& listOf(Each... pids) { return list({pids...}); }
+    template <class... Each> SelectionRig& withUnits(Each... pids)
+    {
+        return listWithUnits({pids...});
+    }
+    /// The user picks an entry of the filter.
+    SelectionRig& pick(std::int32_t entry)
+    {
+        tool.cmbUnit.Pick(entry);
+        return *this;
+    }
+    SelectionRig& tick(const Indexes& gridRows)
     {
         for (const std::int32_t row : gridRows)
             tool.jgexGrid.Edit(row, true);
         return *this;
     }
+    template <class... Each> SelectionRig& ticks(Each... rows) { return tick({rows...}); }
 
     std::shared_ptr<SiteData> site = siteOfThreeUnits();
-    ParamSelect tool;
+    Tool tool;
 };
 
-/// The drop-down boxes on the site.
-struct SingleRig {
-    SingleRig() { tool.SetDIServer(serve(site)); }
-    SingleRig(const SingleRig&) = delete;
-    SingleRig& operator=(const SingleRig&) = delete;
-    ~SingleRig() = default;
-
-    SingleRig& filtered(bool on = true)
-    {
-        tool.SetShowUnitCombo(on);
-        return *this;
-    }
-    SingleRig& withoutAllUnits()
-    {
-        tool.SetAllUnitsInCombo(false);
-        return *this;
-    }
-    SingleRig& list(const PIDs& pids)
-    {
-        tool.SetParamList(pids);
-        return *this;
-    }
-    SingleRig& listWithUnits(const PIDs& pids)
-    {
-        tool.SetParamList(pids, true);
-        return *this;
-    }
-
-    std::shared_ptr<SiteData> site = siteOfThreeUnits();
-    SingleParamSelect tool;
-};
+using ParamSelectRig = SelectionRig<ParamSelect>;  ///< The list to tick.
+using SingleRig = SelectionRig<SingleParamSelect>; ///< The drop-down boxes.
 
 } // namespace k7deval::test

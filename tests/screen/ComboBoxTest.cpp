@@ -30,7 +30,129 @@ protected:
     screen::ComboBox& combo = screen.page.combo;
 };
 
+using screen::EditField;
+
+/// What goes before, an action, and all that is left of it on a box with the entries of above.
+struct ComboCase {
+    const char* what;
+    EditField edit;
+    void (*before)(screen::ComboBox& box);
+    void (*act)(screen::ComboBox& box);
+    const char* list;
+    std::int32_t index;
+    const char* text;
+    int picks; ///< How often the pick rule ran.
+    int typed; ///< How often the change rule ran.
+};
+
+constexpr const char* kBoth = "Unit 1 (101), Unit 2 (102)";
+
+void pickFirst(screen::ComboBox& box)
+{
+    box.Pick(0);
+}
+
+void pickSecond(screen::ComboBox& box)
+{
+    box.Pick(1);
+}
+
+void typeFirst(screen::ComboBox& box)
+{
+    box.Type("Unit 1");
+}
+
+void nothing(screen::ComboBox& /*box*/) {}
+
+constexpr EditField kNo = EditField::No;
+constexpr EditField kYes = EditField::Yes;
+
+constexpr ComboCase kCombos[] = {
+    {"a pick", kNo, nothing, pickSecond, kBoth, 1, "Unit 2", 1, 0},
+    {"a pick is no change of the edit field", kYes, nothing, pickSecond, kBoth, 1, "Unit 2", 1, 0},
+    {"a pick of the selected entry", kNo, pickSecond, pickSecond, kBoth, 1, "Unit 2", 1, 0},
+    {"the selected entry by code", kNo, pickSecond, [](auto& box) { box.SetListIndex(1); }, kBoth,
+     1, "Unit 2", 1, 0},
+    {"another entry by code", kYes, pickSecond, [](auto& box) { box.SetListIndex(0); }, kBoth, 0,
+     "Unit 1", 1, 0},
+    {"a pick behind the list", kNo, pickSecond, [](auto& box) { box.Pick(2); }, kBoth, 1, "Unit 2",
+     0, 0},
+    {"a pick ahead of the list", kNo, pickSecond, [](auto& box) { box.Pick(-1); }, kBoth, 1,
+     "Unit 2", 0, 0},
+    {"deselecting", kYes, pickSecond, [](auto& box) { box.SetListIndex(-1); }, kBoth, -1, "", 0, 0},
+    {"clearing", kYes, pickSecond, [](auto& box) { box.clear(); }, "", -1, "", 0, 0},
+    // Typing selects no entry, not even the one of that name.
+    {"typing", kYes, pickFirst, [](auto& box) { box.Type("Unit 2"); }, kBoth, -1, "Unit 2", 0, 1},
+    {"typing the same again", kYes, typeFirst, typeFirst, kBoth, -1, "Unit 1", 0, 0},
+    {"typing the selected entry", kYes, pickFirst, typeFirst, kBoth, -1, "Unit 1", 0, 0},
+    {"typing without an edit field", kNo, pickSecond, typeFirst, kBoth, 1, "Unit 2", 0, 0},
+    {"a text by code", kYes, pickFirst, [](auto& box) { box.SetText("2024"); }, kBoth, -1, "2024",
+     0, 1},
+    // Entries that are rewritten or removed run nothing; the selection stays with its entry.
+    {"another entry rewritten", kYes, pickFirst, [](auto& box) { box.setItemText(1, "[2]"); },
+     "Unit 1 (101), [2] (102)", 0, "Unit 1", 0, 0},
+    {"the selected entry rewritten", kYes, pickSecond,
+     [](auto& box) { box.setItemText(1, "Second"); }, "Unit 1 (101), Second (102)", 1, "Second", 0,
+     0},
+    {"an entry rewritten behind a typed text", kYes, typeFirst,
+     [](auto& box) { box.setItemText(0, "First"); }, "First (101), Unit 2 (102)", -1, "Unit 1", 0,
+     0},
+    {"an entry removed", kYes, nothing, [](auto& box) { box.removeItem(0); }, "Unit 2 (102)", -1,
+     "", 0, 0},
+    {"an entry removed ahead", kNo, pickSecond, [](auto& box) { box.removeItem(0); },
+     "Unit 2 (102)", 0, "Unit 2", 0, 0},
+    {"an entry removed behind", kNo, pickFirst, [](auto& box) { box.removeItem(1); },
+     "Unit 1 (101)", 0, "Unit 1", 0, 0},
+    {"the selected entry removed", kNo, pickSecond, [](auto& box) { box.removeItem(1); },
+     "Unit 1 (101)", -1, "", 0, 0},
+    {"an entry removed behind a typed text", kYes, typeFirst, [](auto& box) { box.removeItem(0); },
+     "Unit 2 (102)", -1, "Unit 1", 0, 0},
+};
+
+std::string listText(const screen::ComboBox& box)
+{
+    std::string text;
+    for (std::size_t i = 0; i < box.List().size(); ++i)
+        text += (i == 0 ? "" : ", ") + box.List()[i] + " (" +
+                std::to_string(box.itemDataList().at(i)) + ")";
+    return text;
+}
+
 } // namespace
+
+TEST_F(ComboBox, KeepsListSelectionAndTextAndRunsItsRules)
+{
+    for (const ComboCase& row : kCombos) {
+        SCOPED_TRACE(row.what);
+        TestScreen fresh;
+        screen::ComboBox& box = row.edit == kYes ? fresh.page.combo : fresh.page.list;
+        box.addItem("Unit 1", 101);
+        box.addItem("Unit 2", 102);
+        row.before(box);
+        const Raised picked(box.Picked);
+        const Raised typed(box.TextChanged);
+        row.act(box);
+        EXPECT_EQ(listText(box), row.list);
+        EXPECT_EQ(box.itemDataList().size(), box.List().size());
+        EXPECT_EQ(box.ListIndex(), row.index);
+        EXPECT_EQ(box.Text(), row.text);
+        EXPECT_EQ(picked.count, row.picks);
+        EXPECT_EQ(typed.count, row.typed);
+        if (row.index >= 0)
+            EXPECT_EQ(box.ItemData(), box.itemDataList().at(static_cast<std::size_t>(row.index)));
+        else
+            EXPECT_EQ(errorOf([&] { return box.ItemData(); }), 381);
+    }
+}
+
+TEST_F(ComboBox, TellsItsViewOfEntriesThatAreRewrittenOrRemoved)
+{
+    const Raised changed(combo.Changed);
+    combo.setItemText(1, "[2] Unit 2");
+    EXPECT_EQ(changed.count, 1);
+    combo.removeItem(0);
+    EXPECT_EQ(changed.count, 2);
+}
 
 TEST_F(ComboBox, FillingItSelectsNothing)
 {
@@ -41,108 +163,11 @@ TEST_F(ComboBox, FillingItSelectsNothing)
     EXPECT_EQ(list.Text(), "");
 }
 
-TEST_F(ComboBox, APickShowsTheEntryAndRunsThePickRule)
-{
-    const Raised picked(list.Picked);
-    list.Pick(1);
-    EXPECT_EQ(list.ListIndex(), 1);
-    EXPECT_EQ(list.Text(), "Unit 2");
-    EXPECT_EQ(list.ItemData(), 102);
-    EXPECT_EQ(picked.count, 1);
-}
-
-TEST_F(ComboBox, APickOfTheSelectedEntryRunsThePickRuleAgain)
-{
-    list.Pick(1);
-    const Raised picked(list.Picked);
-    list.Pick(1);
-    list.SetListIndex(1);
-    EXPECT_EQ(picked.count, 2);
-}
-
-TEST_F(ComboBox, APickIsNoChangeOfTheEditField)
-{
-    const Raised changed(combo.TextChanged);
-    combo.Pick(1);
-    combo.SetListIndex(0);
-    EXPECT_EQ(changed.count, 0);
-}
-
-TEST_F(ComboBox, APickOutsideTheListDoesNothing)
-{
-    list.Pick(1);
-    const Raised picked(list.Picked);
-    list.Pick(2);
-    list.Pick(-1);
-    EXPECT_EQ(list.ListIndex(), 1);
-    EXPECT_EQ(picked.count, 0);
-}
-
 TEST_F(ComboBox, AnIndexOutsideTheListIsAnErrorForCode)
 {
     for (const int index : {2, -2})
         EXPECT_EQ(errorOf([&] { return list.SetListIndex(index), 0; }), 381) << index;
     EXPECT_EQ(list.ListIndex(), -1);
-}
-
-TEST_F(ComboBox, DeselectingEmptiesTheTextAndRunsNothing)
-{
-    combo.Pick(1);
-    const Raised picked(combo.Picked);
-    const Raised changed(combo.TextChanged);
-    combo.SetListIndex(-1);
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "");
-    EXPECT_EQ(picked.count + changed.count, 0);
-}
-
-TEST_F(ComboBox, ItemDataWithNoEntrySelectedIsAnError)
-{
-    EXPECT_EQ(errorOf([&] { return list.ItemData(); }), 381);
-}
-
-TEST_F(ComboBox, ClearingRunsNothingAndLeavesNoEntryAndNoText)
-{
-    combo.Pick(1);
-    const Raised picked(combo.Picked);
-    const Raised changed(combo.TextChanged);
-    combo.clear();
-    EXPECT_EQ(combo.listCount(), 0);
-    EXPECT_TRUE(combo.itemDataList().empty());
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "");
-    EXPECT_EQ(picked.count + changed.count, 0);
-}
-
-TEST_F(ComboBox, TypingSelectsNoEntryNotEvenTheOneOfThatName)
-{
-    combo.Pick(0);
-    combo.Type("Unit 2");
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "Unit 2");
-    EXPECT_EQ(errorOf([&] { return combo.ItemData(); }), 381);
-}
-
-TEST_F(ComboBox, TypingRunsTheChangeRuleAndNoPickRule)
-{
-    combo.Pick(0);
-    const Raised picked(combo.Picked);
-    const Raised changed(combo.TextChanged);
-    combo.Type("Unit");
-    EXPECT_EQ(changed.count, 1);
-    combo.Type("Unit");
-    EXPECT_EQ(changed.count, 1);
-    EXPECT_EQ(picked.count, 0);
-}
-
-TEST_F(ComboBox, TypingTheTextOfTheSelectedEntryDeselectsItAndRunsNothing)
-{
-    combo.Pick(0);
-    const Raised changed(combo.TextChanged);
-    combo.Type("Unit 1");
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "Unit 1");
-    EXPECT_EQ(changed.count, 0);
 }
 
 TEST_F(ComboBox, WhoFollowsItSeesEntryAndTextOfTypingTogether)
@@ -152,24 +177,6 @@ TEST_F(ComboBox, WhoFollowsItSeesEntryAndTextOfTypingTogether)
     combo.Changed.Connect([&] { seen.emplace_back(combo.ListIndex(), combo.Text()); });
     combo.Type("x");
     EXPECT_EQ(seen, (std::vector<std::pair<int, std::string>>{{-1, "x"}}));
-}
-
-TEST_F(ComboBox, AListWithoutAnEditFieldIsNotTypedIn)
-{
-    list.Pick(0);
-    list.Type("Unit 2");
-    EXPECT_EQ(list.ListIndex(), 0);
-    EXPECT_EQ(list.Text(), "Unit 1");
-}
-
-TEST_F(ComboBox, SettingTheTextByCodeRunsTheChangeRuleAndSelectsNoEntry)
-{
-    combo.Pick(0);
-    const Raised changed(combo.TextChanged);
-    combo.SetText("2024");
-    EXPECT_EQ(combo.Text(), "2024");
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(changed.count, 1);
 }
 
 TEST_F(ComboBox, AListWithoutAnEditFieldTakesNoTextByCode)
@@ -200,90 +207,11 @@ TEST_F(ComboBox, APickRuleMayRefillTheList)
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
-TEST_F(ComboBox, RewritingAnEntryKeepsListSelectionAndItemDataAndRunsNothing)
-{
-    combo.Pick(0);
-    const Raised picked(combo.Picked);
-    const Raised textChanged(combo.TextChanged);
-    const Raised changed(combo.Changed);
-    combo.setItemText(1, "[2] Unit 2");
-    EXPECT_EQ(combo.List(), (std::vector<std::string>{"Unit 1", "[2] Unit 2"}));
-    EXPECT_EQ(combo.itemDataList(), (std::vector<std::int32_t>{101, 102}));
-    EXPECT_EQ(combo.ListIndex(), 0);
-    EXPECT_EQ(combo.Text(), "Unit 1");
-    EXPECT_EQ(changed.count, 1) << "a view shows the new entry";
-    EXPECT_EQ(picked.count + textChanged.count, 0);
-}
-
-TEST_F(ComboBox, TheTextFollowsTheSelectedEntryThatIsRewritten)
-{
-    combo.Pick(1);
-    const Raised picked(combo.Picked);
-    const Raised textChanged(combo.TextChanged);
-    combo.setItemText(1, "Second");
-    EXPECT_EQ(combo.Text(), "Second");
-    EXPECT_EQ(combo.ListIndex(), 1);
-    EXPECT_EQ(combo.ItemData(), 102);
-    EXPECT_EQ(picked.count + textChanged.count, 0);
-}
-
-TEST_F(ComboBox, ATypedTextStaysWhenEntriesAreRewritten)
-{
-    combo.Type("Unit 1");
-    combo.setItemText(0, "First");
-    EXPECT_EQ(combo.Text(), "Unit 1");
-    EXPECT_EQ(combo.ListIndex(), -1);
-}
-
 TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRewritten)
 {
     for (const int index : {-1, 2})
         EXPECT_EQ(errorOf([&] { return list.setItemText(index, "x"), 0; }), 381) << index;
     EXPECT_EQ(list.List(), (std::vector<std::string>{"Unit 1", "Unit 2"}));
-}
-
-TEST_F(ComboBox, RemovingAnEntryTakesItsItemDataAndRunsNothing)
-{
-    const Raised picked(combo.Picked);
-    const Raised textChanged(combo.TextChanged);
-    const Raised changed(combo.Changed);
-    combo.removeItem(0);
-    EXPECT_EQ(combo.List(), std::vector<std::string>{"Unit 2"});
-    EXPECT_EQ(combo.itemDataList(), std::vector<std::int32_t>{102});
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(changed.count, 1) << "a view drops the entry";
-    EXPECT_EQ(picked.count + textChanged.count, 0);
-}
-
-TEST_F(ComboBox, TheSelectionStaysWithItsEntryWhenAnotherIsRemoved)
-{
-    list.addItem("Unit 3", 103);
-    list.Pick(1);
-    list.removeItem(2);
-    EXPECT_EQ(list.ListIndex(), 1);
-    list.removeItem(0);
-    EXPECT_EQ(list.ListIndex(), 0);
-    EXPECT_EQ(list.ItemData(), 102);
-    EXPECT_EQ(list.Text(), "Unit 2");
-}
-
-TEST_F(ComboBox, TheSelectionGoesWithItsEntry)
-{
-    list.Pick(1);
-    const Raised picked(list.Picked);
-    list.removeItem(1);
-    EXPECT_EQ(list.ListIndex(), -1);
-    EXPECT_EQ(list.Text(), "");
-    EXPECT_EQ(errorOf([&] { return list.ItemData(); }), 381);
-    EXPECT_EQ(picked.count, 0);
-}
-
-TEST_F(ComboBox, ATypedTextStaysWhenAnEntryIsRemoved)
-{
-    combo.Type("Unit 1");
-    combo.removeItem(0);
-    EXPECT_EQ(combo.Text(), "Unit 1");
-    EXPECT_EQ(combo.ListIndex(), -1);
 }
 
 TEST_F(ComboBox, AnEntryOutsideTheListCannotBeRemoved)

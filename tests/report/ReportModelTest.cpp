@@ -148,85 +148,56 @@ TEST(ReportTextItem, StacksRowsOnTheValueReadBack)
     EXPECT_FLOAT_EQ(y, 563.05F - 3 * 13.17F);
 }
 
-TEST(ReportTextItem, RefusesAFontThatIsNone)
+TEST(ReportTextItem, RefusesAFontASizeAndAPlaceThatIsNone)
 {
     ReportDocument document;
     ReportTextItem& item = document.Pages().Add().TextItems().Add("text");
     for (const int code : {4, 8, 0, -1})
         EXPECT_EQ(errorOf([&] { return item.SetFont(code), 0; }), errors::kInvalidCall) << code;
     EXPECT_EQ(item.Font(), 5);
-}
-
-TEST(ReportTextItem, RefusesASizeThatIsNone)
-{
-    ReportDocument document;
-    ReportTextItem& item = document.Pages().Add().TextItems().Add("text");
     for (const float size : {0.0F, -10.0F, kNoNumber, kInfinite})
         EXPECT_EQ(errorOf([&] { return item.SetSize(size), 0; }), errors::kInvalidCall) << size;
     EXPECT_EQ(item.Size(), 10);
-}
-
-TEST(ReportTextItem, RefusesAPlaceThatIsNone)
-{
-    ReportDocument document;
-    ReportTextItem& item = document.Pages().Add().TextItems().Add("text");
     EXPECT_EQ(errorOf([&] { return item.SetX(kNoNumber), 0; }), errors::kInvalidCall);
     EXPECT_EQ(errorOf([&] { return item.SetY(kInfinite), 0; }), errors::kInvalidCall);
 }
 
-TEST(ReportLine, ReadsBackWhatWasSet)
+/// A coordinate reads back as it was set, and refuses what is no number.
+template <class Item>
+void expectCoordinate(Item& item, float (Item::*get)() const, void (Item::*set)(float), float value)
+{
+    (item.*set)(value);
+    EXPECT_EQ((item.*get)(), value);
+    EXPECT_EQ(errorOf([&] { return (item.*set)(kNoNumber), 0; }), errors::kInvalidCall);
+    EXPECT_EQ((item.*get)(), value);
+}
+
+TEST(ReportLine, HasTwoEndsAndIsDashedInStyle3)
 {
     ReportDocument document;
     ReportLine& line = document.Pages().Add().Lines().Add();
+    expectCoordinate(line, &ReportLine::X1, &ReportLine::SetX1, 36);
+    expectCoordinate(line, &ReportLine::Y1, &ReportLine::SetY1, 49.1F);
+    expectCoordinate(line, &ReportLine::X2, &ReportLine::SetX2, 756);
+    expectCoordinate(line, &ReportLine::Y2, &ReportLine::SetY2, 50);
     EXPECT_FALSE(line.isDashed());
-    line.SetX1(36);
-    line.SetY1(49.1F);
-    line.SetX2(756);
-    line.SetY2(50);
     line.SetStyle(3);
-    EXPECT_EQ(line.X1(), 36);
-    EXPECT_EQ(line.Y1(), 49.1F);
-    EXPECT_EQ(line.X2(), 756);
-    EXPECT_EQ(line.Y2(), 50);
     EXPECT_EQ(line.Style(), 3);
     EXPECT_TRUE(line.isDashed());
 }
 
-TEST(ReportRectangle, ReadsBackWhatWasSet)
+TEST(ReportRectangle, HasAPlaceASizeAndColours)
 {
     ReportDocument document;
     ReportRectangle& rectangle = document.Pages().Add().Rectangles().Add();
-    rectangle.SetX(36);
-    rectangle.SetY(400.5F);
-    rectangle.SetWidth(720);
-    rectangle.SetHeight(11.25F);
+    expectCoordinate(rectangle, &ReportRectangle::X, &ReportRectangle::SetX, 36);
+    expectCoordinate(rectangle, &ReportRectangle::Y, &ReportRectangle::SetY, 400.5F);
+    expectCoordinate(rectangle, &ReportRectangle::Width, &ReportRectangle::SetWidth, 720);
+    expectCoordinate(rectangle, &ReportRectangle::Height, &ReportRectangle::SetHeight, 11.25F);
     rectangle.SetFillColor(0xF0F0F0);
     rectangle.SetLineColor(0xB4B4B4);
-    EXPECT_EQ(rectangle.X(), 36);
-    EXPECT_EQ(rectangle.Y(), 400.5F);
-    EXPECT_EQ(rectangle.Width(), 720);
-    EXPECT_EQ(rectangle.Height(), 11.25F);
     EXPECT_EQ(rectangle.FillColor(), 0xF0F0F0);
     EXPECT_EQ(rectangle.LineColor(), 0xB4B4B4);
-}
-
-TEST(ReportItems, RefuseCoordinatesThatAreNone)
-{
-    ReportDocument document;
-    ReportPage& page = document.Pages().Add();
-    ReportLine& line = page.Lines().Add();
-    ReportRectangle& rectangle = page.Rectangles().Add();
-    const auto refused = [](auto& item, auto set) {
-        return errorOf([&] { return (item.*set)(kNoNumber), 0; }) == errors::kInvalidCall;
-    };
-    EXPECT_TRUE(refused(line, &ReportLine::SetX1));
-    EXPECT_TRUE(refused(line, &ReportLine::SetY1));
-    EXPECT_TRUE(refused(line, &ReportLine::SetX2));
-    EXPECT_TRUE(refused(line, &ReportLine::SetY2));
-    EXPECT_TRUE(refused(rectangle, &ReportRectangle::SetX));
-    EXPECT_TRUE(refused(rectangle, &ReportRectangle::SetY));
-    EXPECT_TRUE(refused(rectangle, &ReportRectangle::SetWidth));
-    EXPECT_TRUE(refused(rectangle, &ReportRectangle::SetHeight));
 }
 
 static_assert(!std::is_copy_constructible_v<ReportDocument>, "items know their document's fonts");

@@ -3,7 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <span>
+#include <string>
 
 namespace k7deval::test
 {
@@ -24,17 +25,7 @@ struct EvaluationCase {
     int undetermined = 0;
 };
 
-void PrintTo(const EvaluationCase& row, std::ostream* out)
-{
-    *out << row.days;
-}
-
 constexpr int kNone = -1;
-
-std::string nameOf(const testing::TestParamInfo<EvaluationCase>& row)
-{
-    return row.param.name;
-}
 
 void expectOutcome(const EvaluationCase& row, model::Options options)
 {
@@ -55,17 +46,6 @@ void expectOutcome(const EvaluationCase& row, model::Options options)
     EXPECT_EQ(found.prevFailDay, row.prevFail == kNone ? past : row.prevFail);
     EXPECT_EQ(found.undeterminedDays, row.undetermined);
     EXPECT_THAT(rig.messages->lines(), testing::IsEmpty());
-}
-
-} // namespace
-
-class AllSevenRequired : public testing::TestWithParam<EvaluationCase>
-{
-};
-
-TEST_P(AllSevenRequired, Finds)
-{
-    expectOutcome(GetParam(), {.sixOfSeven = false, .includeManual = false});
 }
 
 constexpr EvaluationCase kAllSevenRequired[] = {
@@ -98,18 +78,6 @@ constexpr EvaluationCase kAllSevenRequired[] = {
     {"AnOperatedHourMakesAnOperatingDay", "PWU", 0, 0, 1, 1, "...", 1},
     {"UndeterminedDaysAheadOfARestartStayCounted", "UUPFU", 0, 0, 3, 3, ".....", 3},
 };
-
-INSTANTIATE_TEST_SUITE_P(Evaluation, AllSevenRequired, testing::ValuesIn(kAllSevenRequired),
-                         nameOf);
-
-class SixOfSeven : public testing::TestWithParam<EvaluationCase>
-{
-};
-
-TEST_P(SixOfSeven, Finds)
-{
-    expectOutcome(GetParam(), {.sixOfSeven = true, .includeManual = false});
-}
 
 constexpr EvaluationCase kSixOfSeven[] = {
     // Without a failure nothing changes.
@@ -146,17 +114,6 @@ constexpr EvaluationCase kSixOfSeven[] = {
     {"UndeterminedDaysUpToTheEndOfTheTest", "UPPFUPPPPU", 6, 1, 3, kNone, ".111.1111.", 2},
 };
 
-INSTANTIATE_TEST_SUITE_P(Evaluation, SixOfSeven, testing::ValuesIn(kSixOfSeven), nameOf);
-
-class ManualIncluded : public testing::TestWithParam<EvaluationCase>
-{
-};
-
-TEST_P(ManualIncluded, Finds)
-{
-    expectOutcome(GetParam(), {.sixOfSeven = false, .includeManual = true});
-}
-
 constexpr EvaluationCase kManualIncluded[] = {
     // A day counts once, with its last automatic run or else its first.
     {"TheLaterOfTwoAutomaticRuns", "A+A+", 1, 0, kNone, kNone, "2"},
@@ -180,17 +137,6 @@ constexpr EvaluationCase kManualIncluded[] = {
     {"AnOnlineRunWithoutOperatingHours", "A+ N A+", 2, 0, kNone, kNone, "1.1"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Evaluation, ManualIncluded, testing::ValuesIn(kManualIncluded), nameOf);
-
-class ManualExcluded : public testing::TestWithParam<EvaluationCase>
-{
-};
-
-TEST_P(ManualExcluded, Finds)
-{
-    expectOutcome(GetParam(), {.sixOfSeven = false, .includeManual = false});
-}
-
 constexpr EvaluationCase kManualExcluded[] = {
     {"AnAutomaticRunAheadOfAManualOne", "A+M+", 1, 0, kNone, kNone, "1"},
     {"AManualRunAheadOfAnAutomaticOne", "M+A+", 1, 0, kNone, kNone, "2"},
@@ -201,17 +147,6 @@ constexpr EvaluationCase kManualExcluded[] = {
     {"AFailedManualRun", "P M- P", 1, 0, 1, 1, "..1"},
     {"AFailedManualRunBesideAGoodAutomaticOne", "P A+M- P", 1, 0, 1, 1, "..1"},
 };
-
-INSTANTIATE_TEST_SUITE_P(Evaluation, ManualExcluded, testing::ValuesIn(kManualExcluded), nameOf);
-
-class ManualExcludedSixOfSeven : public testing::TestWithParam<EvaluationCase>
-{
-};
-
-TEST_P(ManualExcludedSixOfSeven, Finds)
-{
-    expectOutcome(GetParam(), {.sixOfSeven = true, .includeManual = false});
-}
 
 constexpr EvaluationCase kManualExcludedSixOfSeven[] = {
     // The allowed failure is the day's first eligible run, whether or not it is the failed one.
@@ -231,13 +166,36 @@ constexpr EvaluationCase kManualExcludedSixOfSeven[] = {
     {"AnExcludedFailureAsTheThird", "F F P M- P", 2, 1, 3, 1, "..1.1"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Evaluation, ManualExcludedSixOfSeven,
-                         testing::ValuesIn(kManualExcludedSixOfSeven), nameOf);
+constexpr EvaluationCase kManualIncludedSixOfSeven[] = {
+    {"TheFirstRunStandsForTheFailureAlsoWhenItIsManual", "M+A-", 0, 1, 0, kNone, "1"},
+};
 
-TEST(ManualIncludedSixOfSeven, TheFirstRunStandsForTheFailureAlsoWhenItIsManual)
+struct EvaluationGroup {
+    const char* name;
+    model::Options options;
+    std::span<const EvaluationCase> rows;
+};
+
+constexpr EvaluationGroup kEvaluations[] = {
+    {"all seven required", {false, false}, kAllSevenRequired},
+    {"six of seven", {true, false}, kSixOfSeven},
+    {"manual included", {false, true}, kManualIncluded},
+    {"manual excluded", {false, false}, kManualExcluded},
+    {"manual excluded, six of seven", {true, false}, kManualExcludedSixOfSeven},
+    {"manual included, six of seven", {true, true}, kManualIncludedSixOfSeven},
+};
+
+} // namespace
+
+// 40 CFR 75 App. A 6.3.1: seven operating days in a row, each with a run within its limits.
+TEST(Evaluation, FindsTheTestInThePatternOfDays)
 {
-    const EvaluationCase row{"", "M+A-", 0, 1, 0, kNone, "1"};
-    expectOutcome(row, {.sixOfSeven = true, .includeManual = true});
+    for (const EvaluationGroup& group : kEvaluations) {
+        for (const EvaluationCase& row : group.rows) {
+            SCOPED_TRACE(std::string(group.name) + ": " + row.name);
+            expectOutcome(row, group.options);
+        }
+    }
 }
 
 TEST(Evaluation, AnEmptyIntervalIsNoScan)

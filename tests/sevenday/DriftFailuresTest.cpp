@@ -18,6 +18,7 @@ using Line = std::pair<std::int32_t, std::string>;
 
 constexpr std::int32_t kSeverity = 4;
 constexpr const char* kNotSet = "91, Object variable or With block variable not set";
+constexpr const char* kNullUsed = "94, Invalid use of Null";
 
 // Makes the call of that index fail, counted from now.
 void failAt(SiteData& site, std::size_t index)
@@ -87,16 +88,20 @@ TEST(FailingRetrieval, PostsItsLineAndKeepsTheRunsAtEveryCall)
     EXPECT_GT(index, 40U);
 }
 
-TEST(FailingRetrieval, LeavesNoRunsWhereThereWereNone)
+TEST(FailingRetrieval, LeavesNoRunsWhereThereWereNoneAndIsSilentWithoutASink)
 {
     const auto calls = callsOfARetrieval();
     for (std::size_t index = 0; index < calls.size(); ++index) {
-        DriftRig rig;
-        giveRecords(rig);
-        failAt(*rig.site, index);
-        rig.test.RetrieveCals();
-        EXPECT_EQ(rig.test.dictCals, nullptr) << calls[index];
-        EXPECT_EQ(rig.messages->posted.size(), 1U) << calls[index];
+        for (const bool hasSink : {true, false}) {
+            DriftRig rig;
+            giveRecords(rig);
+            if (!hasSink)
+                rig.test.irm = nullptr;
+            failAt(*rig.site, index);
+            EXPECT_NO_THROW(rig.test.RetrieveCals()) << calls[index];
+            EXPECT_EQ(rig.test.dictCals, nullptr) << calls[index];
+            EXPECT_EQ(rig.messages->posted.size(), hasSink ? 1U : 0U) << calls[index];
+        }
     }
 }
 
@@ -117,20 +122,6 @@ TEST(FailingRetrieval, KeepsTheOperatingTimeFoundSoFar)
     }
 }
 
-TEST(FailingRetrieval, LetsNothingEscapeWithoutASink)
-{
-    const auto calls = callsOfARetrieval();
-    for (std::size_t index = 0; index < calls.size(); ++index) {
-        DriftRig rig;
-        giveRecords(rig);
-        rig.test.irm = nullptr;
-        failAt(*rig.site, index);
-        EXPECT_NO_THROW(rig.test.RetrieveCals()) << calls[index];
-        EXPECT_EQ(rig.test.dictCals, nullptr) << calls[index];
-        EXPECT_THAT(rig.messages->posted, IsEmpty());
-    }
-}
-
 TEST(FailingRetrieval, PostsAFailureWithoutANumberAsOneOfTheHost)
 {
     DriftRig rig;
@@ -145,47 +136,41 @@ TEST(FailingRetrieval, PostsAFailureWithoutANumberAsOneOfTheHost)
                 ElementsAre(Line(kSeverity, "DEval-003: 440, the table is locked")));
 }
 
-TEST(FailingRetrieval, NamesAnAbsentServer)
-{
-    DriftRig rig;
-    giveRecords(rig);
-    rig.test.DIServer = nullptr;
-    rig.test.RetrieveCals();
-    EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-003: ") + kNotSet));
-}
+struct RetrievalFailureCase {
+    const char* what;
+    void (*spoil)(DriftRig& rig);
+    const char* error;
+};
 
-TEST(FailingRetrieval, NamesASourceThatIsNoParameter)
+// Of the three records the first is a zero injection, the second its upscale one, and the third an
+// upscale one that stands alone: its flags are read.
+TEST(FailingRetrieval, NamesWhatIsWrong)
 {
-    DriftRig rig;
-    giveRecords(rig);
-    rig.site->records[1].sourceTag = kDriftSource + 1;
-    rig.test.RetrieveCals();
-    EXPECT_THAT(rig.messages->lines(),
-                ElementsAre("DEval-003: 5, Invalid procedure call or argument"));
-}
-
-TEST(FailingRetrieval, NamesAUnitThatIsNoParameter)
-{
-    DriftRig rig;
-    giveRecords(rig);
-    rig.test.lngAnalyzedPID = kDriftAnalyzer + 100000000;
-    rig.test.RetrieveCals();
-    EXPECT_THAT(rig.messages->lines(),
-                ElementsAre("DEval-003: 5, Invalid procedure call or argument"));
-}
-
-TEST(FailingRetrieval, RefusesNullInAFieldThatItReads)
-{
-    using Field = Variant RecordData::*;
-    for (const Field field : {&RecordData::span, &RecordData::manual, &RecordData::measured,
-                              &RecordData::reference, &RecordData::sourceTag}) {
+    constexpr RetrievalFailureCase kRows[] = {
+        {"no server", [](auto& rig) { rig.test.DIServer = nullptr; }, kNotSet},
+        {"a source that is no parameter",
+         [](auto& rig) { rig.site->records[1].sourceTag = kDriftSource + 1; },
+         "5, Invalid procedure call or argument"},
+        {"a unit that is no parameter",
+         [](auto& rig) { rig.test.lngAnalyzedPID = kDriftAnalyzer + 100000000; },
+         "5, Invalid procedure call or argument"},
+        {"a text that is no number",
+         [](auto& rig) { rig.site->records[0].measured = std::string("n/a"); },
+         "13, Type mismatch"},
+        {"Null span", [](auto& rig) { rig.site->records[2].span = Null{}; }, kNullUsed},
+        {"Null manual", [](auto& rig) { rig.site->records[2].manual = Null{}; }, kNullUsed},
+        {"Null measured", [](auto& rig) { rig.site->records[2].measured = Null{}; }, kNullUsed},
+        {"Null reference", [](auto& rig) { rig.site->records[2].reference = Null{}; }, kNullUsed},
+        {"Null source", [](auto& rig) { rig.site->records[1].sourceTag = Null{}; }, kNullUsed},
+    };
+    for (const RetrievalFailureCase& row : kRows) {
         DriftRig rig;
         giveRecords(rig);
-        rig.site->records.erase(rig.site->records.begin());
-        rig.site->records.front().*field = Null{};
+        row.spoil(rig);
         rig.test.RetrieveCals();
-        EXPECT_THAT(rig.messages->lines(), ElementsAre("DEval-003: 94, Invalid use of Null"));
-        EXPECT_EQ(rig.test.dictCals, nullptr);
+        EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-003: ") + row.error))
+            << row.what;
+        EXPECT_EQ(rig.test.dictCals, nullptr) << row.what;
     }
 }
 
@@ -198,15 +183,6 @@ TEST(FailingRetrieval, DoesNotReadTheFlagsOfAnUpscaleRecordThatHasAZeroOne)
     rig.test.RetrieveCals();
     EXPECT_THAT(rig.messages->lines(), IsEmpty());
     EXPECT_EQ(rig.test.dictCals->Count(), 2U);
-}
-
-TEST(FailingRetrieval, RefusesATextThatIsNoNumber)
-{
-    DriftRig rig;
-    giveRecords(rig);
-    rig.site->records[0].measured = std::string("n/a");
-    rig.test.RetrieveCals();
-    EXPECT_THAT(rig.messages->lines(), ElementsAre("DEval-003: 13, Type mismatch"));
 }
 
 namespace
@@ -261,7 +237,7 @@ TEST(FailingDayAnalysis, LeavesTheEvaluationToTheDaysOfTheRunsAtEveryCall)
                             "DIParameters.Item", "DIParameter.ReadData"));
 }
 
-TEST(FailingDayAnalysis, LeavesNoDaysOfItsOwn)
+TEST(FailingDayAnalysis, LeavesNoDaysOfItsOwnAndIsSilentWithoutASink)
 {
     const auto calls = callsOfAnEvaluation();
     for (std::size_t index = 0; index < calls.size(); ++index) {
@@ -270,45 +246,33 @@ TEST(FailingDayAnalysis, LeavesNoDaysOfItsOwn)
         failAt(*rig.site, index);
         rig.test.AnalyzeOperatingDays();
         EXPECT_TRUE(rig.test.dictDays.isEmpty()) << calls[index];
+        DriftRig silent;
+        giveThreeDays(silent);
+        silent.test.irm = nullptr;
+        failAt(*silent.site, index);
+        EXPECT_NO_THROW(silent.test.EvaluateDriftTest()) << calls[index];
+        EXPECT_EQ(silent.test.lngGoodCals, 2) << calls[index];
+        EXPECT_THAT(silent.messages->posted, IsEmpty());
     }
 }
 
-TEST(FailingDayAnalysis, LetsNothingEscapeWithoutASink)
+TEST(FailingDayAnalysis, NamesAFailureOfTheHostAndAnAbsentServer)
 {
-    const auto calls = callsOfAnEvaluation();
-    for (std::size_t index = 0; index < calls.size(); ++index) {
+    for (const bool hasServer : {true, false}) {
         DriftRig rig;
         giveThreeDays(rig);
-        rig.test.irm = nullptr;
-        failAt(*rig.site, index);
-        EXPECT_NO_THROW(rig.test.EvaluateDriftTest()) << calls[index];
-        EXPECT_EQ(rig.test.lngGoodCals, 2) << calls[index];
-        EXPECT_THAT(rig.messages->posted, IsEmpty());
+        if (!hasServer)
+            rig.test.DIServer = nullptr;
+        rig.site->failure = [](const std::string& call, std::size_t) -> std::optional<Error> {
+            if (call == "DIParameter.ReadData")
+                throw std::runtime_error("the archive is closed");
+            return std::nullopt;
+        };
+        rig.test.EvaluateDriftTest();
+        const std::string error = hasServer ? "440, the archive is closed" : kNotSet;
+        EXPECT_THAT(rig.messages->posted, ElementsAre(Line(kSeverity, "DEval-005: " + error)));
+        EXPECT_EQ(rig.test.lngGoodCals, 2);
     }
-}
-
-TEST(FailingDayAnalysis, PostsAFailureWithoutANumberAsOneOfTheHost)
-{
-    DriftRig rig;
-    giveThreeDays(rig);
-    rig.site->failure = [](const std::string& call, std::size_t) -> std::optional<Error> {
-        if (call == "DIParameter.ReadData")
-            throw std::runtime_error("the archive is closed");
-        return std::nullopt;
-    };
-    rig.test.EvaluateDriftTest();
-    EXPECT_THAT(rig.messages->posted,
-                ElementsAre(Line(kSeverity, "DEval-005: 440, the archive is closed")));
-}
-
-TEST(FailingDayAnalysis, NamesAnAbsentServer)
-{
-    DriftRig rig;
-    giveThreeDays(rig);
-    rig.test.DIServer = nullptr;
-    rig.test.EvaluateDriftTest();
-    EXPECT_THAT(rig.messages->lines(), ElementsAre(std::string("DEval-005: ") + kNotSet));
-    EXPECT_EQ(rig.test.lngGoodCals, 2);
 }
 
 // The hour behind the calendar's last one can not be formed; what was read up to it stands.
@@ -378,34 +342,29 @@ TEST(WithoutRuns, NothingEscapesWithoutASink)
     EXPECT_THAT(rig.messages->posted, IsEmpty());
 }
 
-// A drift that is out of range fails the evaluation on its day; what was counted up to it stands.
-TEST(FailingEvaluation, KeepsWhatTheScanCameTo)
+TEST(FailingEvaluation, LooksAtTheRunsBehindAFailedOneAndKeepsWhatTheScanCameTo)
 {
-    DriftRig rig;
-    setDays(rig, daysOf("PPP"));
-    clsStrippedCal& upscale = *rig.test.dictCals->Item("2024/03/12 06:00")->SpanCal;
-    upscale.MeasuredValue = 3e38F;
-    upscale.ReferenceValue = -3e38F;
+    // A drift that is out of range fails the evaluation on its day; what was counted stands.
+    struct OverflowCase {
+        const char* days;
+        const char* run;
+        const char* marks;
+    };
+    for (const OverflowCase& row : {OverflowCase{"PPP", "2024/03/12 06:00", "11."},
+                                    OverflowCase{"P A-A+", "2024/03/11 06:01", "1."}}) {
+        DriftRig rig;
+        const std::vector<model::Day> days = daysOf(row.days);
+        setDays(rig, days);
+        clsStrippedCal& upscale = *rig.test.dictCals->Item(row.run)->SpanCal;
+        upscale.MeasuredValue = 3e38F;
+        upscale.ReferenceValue = -3e38F;
 
-    rig.test.EvaluateDriftTest();
+        rig.test.EvaluateDriftTest();
 
-    EXPECT_THAT(rig.messages->posted, ElementsAre(Line(kSeverity, "DEval-006: 6, Overflow")));
-    EXPECT_EQ(rig.test.lngGoodCals, 2);
-    EXPECT_EQ(marksText(outcomeOf(rig.test), 3), "11.");
-}
-
-TEST(FailingEvaluation, LooksAtTheRunsBehindAFailedOne)
-{
-    DriftRig rig;
-    setDays(rig, daysOf("P A-A+"));
-    clsStrippedCal& upscale = *rig.test.dictCals->Item("2024/03/11 06:01")->SpanCal;
-    upscale.MeasuredValue = 3e38F;
-    upscale.ReferenceValue = -3e38F;
-
-    rig.test.EvaluateDriftTest();
-
-    EXPECT_THAT(rig.messages->lines(), ElementsAre("DEval-006: 6, Overflow"));
-    EXPECT_EQ(rig.test.lngGoodCals, 1);
+        EXPECT_THAT(rig.messages->posted, ElementsAre(Line(kSeverity, "DEval-006: 6, Overflow")));
+        EXPECT_EQ(marksText(outcomeOf(rig.test), days.size()), row.marks);
+        EXPECT_EQ(rig.test.lngGoodCals, static_cast<std::int32_t>(days.size()) - 1);
+    }
 }
 
 } // namespace k7deval::test

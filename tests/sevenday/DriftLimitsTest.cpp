@@ -47,28 +47,17 @@ protected:
 
 } // namespace
 
-TEST_F(Limits, OfAnAbsoluteValueHoldBothInjectionsToIt)
-{
-    run_->ZeroCal->UsesAPS = true;
-    run_->SpanCal->UsesAPS = true;
-    rig_.test.sngAbsoluteLimit = 0.5F;
-    apply(CalLimitRules_AbsoluteValue);
-    expectZero(0.5F, false);
-    expectUpscale(0.5F, false);
-}
-
-TEST_F(Limits, OfAnAbsoluteValueAreNotRounded)
-{
-    rig_.test.sngAbsoluteLimit = 0.12345F;
-    apply(CalLimitRules_AbsoluteValue);
-    expectUpscale(0.12345F, false);
-}
-
-TEST_F(Limits, OfAPercentageOfSpanHoldBothInjectionsToIt)
+TEST_F(Limits, OfAnAbsoluteValueOrAPercentageOfSpanHoldBothInjectionsToIt)
 {
     run_->ZeroCal->UsesAPS = true;
     run_->SpanCal->UsesAPS = true;
     rig_.test.sngPercentOfSpanLimit = 2.5F;
+    rig_.test.sngAbsoluteLimit = 0.12345F;
+    apply(CalLimitRules_AbsoluteValue);
+    expectZero(0.12345F, false);
+    expectUpscale(0.12345F, false);
+    run_->ZeroCal->UsesAPS = true;
+    run_->SpanCal->UsesAPS = true;
     apply(CalLimitRules_PercentOfSpan);
     expectZero(2.5F, false);
     expectUpscale(2.5F, false);
@@ -98,19 +87,35 @@ std::string nameOfLimit(const testing::TestParamInfo<RoundedLimitCase>& row)
 
 class LimitOfSpan : public testing::TestWithParam<RoundedLimitCase>
 {
+protected:
+    // The limit of an upscale injection of that reference, read exactly, on that span.
+    static float limitBy(CalLimitRulesEnum rule, float span, float reference)
+    {
+        DriftRig rig;
+        const auto run = runAt(onDay(0, 8));
+        run->InstrumentSpan = span;
+        run->SpanCal = injection(reference, reference, kUnset);
+        rig.add(run);
+        rig.test.sngPercentOfSpanLimit = GetParam().percent;
+        rig.test.sngPercentOfRefLimit = GetParam().percent;
+        rig.test.lngLimitRule = rule;
+        rig.test.ApplyLimits();
+        return run->SpanCal->DriftLimit;
+    }
+};
+
+class LimitOfReference : public LimitOfSpan
+{
 };
 
 TEST_P(LimitOfSpan, IsRoundedToThreeDecimals)
 {
-    const RoundedLimitCase& row = GetParam();
-    DriftRig rig;
-    const auto run = runAt(onDay(0, 8));
-    run->InstrumentSpan = row.base;
-    rig.add(run);
-    rig.test.sngPercentOfSpanLimit = row.percent;
-    rig.test.lngLimitRule = CalLimitRules_PercentOfSpan;
-    rig.test.ApplyLimits();
-    EXPECT_EQ(run->SpanCal->DriftLimit, row.limit);
+    EXPECT_EQ(limitBy(CalLimitRules_PercentOfSpan, GetParam().base, 100), GetParam().limit);
+}
+
+TEST_P(LimitOfReference, IsRoundedToThreeDecimals)
+{
+    EXPECT_EQ(limitBy(CalLimitRules_PercentOfRef, 1, GetParam().base), GetParam().limit);
 }
 
 constexpr RoundedLimitCase kLimitsOfSpan[] = {
@@ -129,24 +134,6 @@ constexpr RoundedLimitCase kLimitsOfSpan[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Limits, LimitOfSpan, testing::ValuesIn(kLimitsOfSpan), nameOfLimit);
-
-class LimitOfReference : public testing::TestWithParam<RoundedLimitCase>
-{
-};
-
-TEST_P(LimitOfReference, IsRoundedToThreeDecimals)
-{
-    const RoundedLimitCase& row = GetParam();
-    DriftRig rig;
-    const auto run = runAt(onDay(0, 8));
-    run->InstrumentSpan = 1;
-    run->SpanCal = injection(row.base, row.base, kUnset);
-    rig.add(run);
-    rig.test.sngPercentOfRefLimit = row.percent;
-    rig.test.lngLimitRule = CalLimitRules_PercentOfRef;
-    rig.test.ApplyLimits();
-    EXPECT_EQ(run->SpanCal->DriftLimit, row.limit);
-}
 
 constexpr RoundedLimitCase kLimitsOfReference[] = {
     {"AWholeNumber", 50, 10, 5},
@@ -188,53 +175,33 @@ protected:
     }
 };
 
-TEST_F(Alternative, IsNotNeededOnThePercentage)
-{
-    apply(2.5F, -2.5F);
-    expectZero(2.5F, false);
-    expectUpscale(2.5F, false);
-    EXPECT_TRUE(run_->AnalyzerPassed());
-}
+struct AlternativeCase {
+    const char* what;
+    float zeroDrift;
+    float upscaleDrift;
+    bool zeroUsesAPS; ///< Held to 5, else to 2.5.
+    bool upscaleUsesAPS;
+    bool passed;
+};
 
-TEST_F(Alternative, HoldsAnInjectionThatMissesThePercentage)
+TEST_F(Alternative, HoldsEachInjectionThatMissesThePercentage)
 {
-    apply(2.6F, -2.6F);
-    expectZero(5, true);
-    expectUpscale(5, true);
-    EXPECT_TRUE(run_->AnalyzerPassed());
-}
-
-TEST_F(Alternative, IsNeededJustOverThePercentage)
-{
-    apply(2.5001F, 2.49996F);
-    expectZero(5, true);
-    expectUpscale(2.5F, false);
-}
-
-TEST_F(Alternative, FailsAnInjectionThatMissesIt)
-{
-    apply(0, 5.1F);
-    expectUpscale(5, true);
-    EXPECT_FALSE(run_->SpanCal->isWithinLimit());
-    EXPECT_FALSE(run_->AnalyzerPassed());
-}
-
-TEST_F(Alternative, PassesAnInjectionOnIt)
-{
-    apply(5, -5);
-    expectZero(5, true);
-    EXPECT_TRUE(run_->AnalyzerPassed());
-}
-
-TEST_F(Alternative, IsChosenForEachInjectionByItself)
-{
-    apply(2.6F, 1);
-    expectZero(5, true);
-    expectUpscale(2.5F, false);
-
-    apply(1, 2.6F);
-    expectZero(2.5F, false);
-    expectUpscale(5, true);
+    constexpr AlternativeCase kRows[] = {
+        {"on the percentage", 2.5F, -2.5F, false, false, true},
+        {"just over it, and just under", 2.5001F, 2.49996F, true, false, true},
+        {"over the percentage", 2.6F, -2.6F, true, true, true},
+        {"zero gas alone", 2.6F, 1, true, false, true},
+        {"upscale gas alone", 1, 2.6F, false, true, true},
+        {"on the alternative", 5, -5, true, true, true},
+        {"over the alternative", 0, 5.1F, false, true, false},
+    };
+    for (const AlternativeCase& row : kRows) {
+        SCOPED_TRACE(row.what);
+        apply(row.zeroDrift, row.upscaleDrift);
+        expectZero(row.zeroUsesAPS ? 5 : 2.5F, row.zeroUsesAPS);
+        expectUpscale(row.upscaleUsesAPS ? 5 : 2.5F, row.upscaleUsesAPS);
+        EXPECT_EQ(run_->AnalyzerPassed(), row.passed);
+    }
 }
 
 TEST_F(Alternative, MayBeTighterThanThePercentage)

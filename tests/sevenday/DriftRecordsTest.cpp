@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace k7deval::test
 {
@@ -164,52 +166,70 @@ constexpr RunCase kRuns[] = {
 INSTANTIATE_TEST_SUITE_P(Run, RunVerdict, testing::ValuesIn(kRuns),
                          [](const auto& row) { return row.param.name; });
 
+struct WithinCase {
+    const char* what;
+    float measured; ///< Of a reference of 50.
+    float limit;
+    bool within;
+};
+
+// 40 CFR 75 App. A 3.1: a drift equal to the limit passes.
 TEST(Injection, IsWithinALimitThatItsDriftEquals)
 {
-    EXPECT_TRUE(injection(50, 52.5F, 2.5F)->isWithinLimit());
-    EXPECT_TRUE(injection(50, 47.5F, 2.5F)->isWithinLimit());
-    EXPECT_FALSE(injection(50, 52.5001F, 2.5F)->isWithinLimit());
-    EXPECT_FALSE(injection(50, 47.4999F, 2.5F)->isWithinLimit());
+    constexpr WithinCase kRows[] = {
+        {"on the limit", 52.5F, 2.5F, true},
+        {"on the limit below", 47.5F, 2.5F, true},
+        {"just over it", 52.5001F, 2.5F, false},
+        {"just over it below", 47.4999F, 2.5F, false},
+        {"no limit and no drift", 50, 0, true},
+        {"no limit and a drift too small to show", 50.00001F, 0, true},
+        {"no limit and a drift", 50.0001F, 0, false},
+        {"no limit and a drift below", 49.9999F, 0, false},
+        {"a limit below zero", 50, -999, false},
+    };
+    for (const WithinCase& row : kRows) {
+        EXPECT_EQ(injection(50, row.measured, row.limit)->isWithinLimit(), row.within) << row.what;
+        cls7DayAnalyzerCal run;
+        run.ZeroCal = injection(50, row.measured, row.limit);
+        run.SpanCal = injection(50, 50, 5);
+        EXPECT_EQ(run.AnalyzerPassed(), row.within) << row.what;
+    }
 }
 
-TEST(Injection, CanNotPassTheLimitBelowZero)
-{
-    EXPECT_FALSE(injection(0, 0, -999)->isWithinLimit());
-    cls7DayAnalyzerCal run;
-    run.ZeroCal = injection(0, 0, -999);
-    run.SpanCal = injection(50, 50, 5);
-    EXPECT_FALSE(run.AnalyzerPassed());
-}
+struct StatusCase {
+    const char* what;
+    std::vector<bool> runs; ///< Whether each is on-line.
+    bool undetermined;
+    bool set; ///< What is written behind the runs.
+    bool operated;
+};
 
-TEST(Injection, WithoutALimitPassesOnlyWithNoDriftAtAll)
+TEST(Day, IsWhatItWasSetToUnlessARunIsOnline)
 {
-    EXPECT_TRUE(injection(50, 50, 0)->isWithinLimit());
-    EXPECT_TRUE(injection(50, 50.00001F, 0)->isWithinLimit());
-    EXPECT_FALSE(injection(50, 50.0001F, 0)->isWithinLimit());
-    EXPECT_FALSE(injection(50, 49.9999F, 0)->isWithinLimit());
-}
-
-TEST(Day, WithoutRunsIsWhatItWasSetTo)
-{
-    clsDaySummary day;
-    EXPECT_FALSE(day.HasOnlineCals());
-    EXPECT_FALSE(day.DayIsUsedIn7Day());
-    EXPECT_FALSE(day.IsOpDay());
-    day.SetIsOpDay(true);
-    EXPECT_TRUE(day.IsOpDay());
-    day.SetIsOpDay(false);
-    EXPECT_FALSE(day.IsOpDay());
-}
-
-TEST(Day, WithAnOnlineRunIsAnOperatingDayWhateverIsSet)
-{
-    clsDaySummary day;
-    addRun(day, 0, false);
-    addRun(day, 1, true);
-    EXPECT_TRUE(day.HasOnlineCals());
-    EXPECT_TRUE(day.IsOpDay());
-    day.SetIsOpDay(false);
-    EXPECT_TRUE(day.IsOpDay());
+    const StatusCase rows[] = {
+        {"no runs, operated", {}, false, true, true},
+        {"no runs, idle", {}, false, false, false},
+        {"off-line runs, operated", {false, false}, false, true, true},
+        {"off-line runs, idle", {false, false}, false, false, false},
+        {"an on-line run, operated", {false, true}, false, true, true},
+        {"an on-line run, idle", {false, true}, false, false, true},
+        {"undetermined, operated", {}, true, true, true},
+        {"undetermined, an on-line run", {true}, true, false, true},
+    };
+    for (const StatusCase& row : rows) {
+        clsDaySummary day;
+        EXPECT_FALSE(day.IsOpDay());
+        day.OpStatusIsUndetermined = row.undetermined;
+        for (const bool online : row.runs)
+            addRun(day, static_cast<int>(day.CalsInDay().Count()), online);
+        const bool hasOnline = std::count(row.runs.begin(), row.runs.end(), true) > 0;
+        EXPECT_EQ(day.HasOnlineCals(), hasOnline) << row.what;
+        EXPECT_EQ(day.IsOpDay(), hasOnline) << row.what;
+        day.SetIsOpDay(row.set);
+        EXPECT_EQ(day.IsOpDay(), row.operated) << row.what;
+        EXPECT_EQ(day.OpStatusIsUndetermined, row.undetermined) << row.what;
+        EXPECT_FALSE(day.DayIsUsedIn7Day()) << row.what;
+    }
 }
 
 TEST(Day, OfARunThatIsAddedLaterBecomesAnOperatingDay)
@@ -229,35 +249,6 @@ TEST(Day, KeepsWhatItsOnlineRunsMadeOfAWrittenStatus)
     day.CalsInDay().Item("2024/03/10 08:00")->IsOnline = false;
     EXPECT_FALSE(day.HasOnlineCals());
     EXPECT_TRUE(day.IsOpDay());
-}
-
-TEST(Day, WithOfflineRunsOnlyIsWhatItWasSetTo)
-{
-    clsDaySummary day;
-    addRun(day, 0, false);
-    addRun(day, 1, false);
-    EXPECT_FALSE(day.HasOnlineCals());
-    EXPECT_FALSE(day.IsOpDay());
-    day.SetIsOpDay(true);
-    EXPECT_TRUE(day.IsOpDay());
-}
-
-TEST(Day, OfUndeterminedStatusStaysSoWhenItOperated)
-{
-    clsDaySummary day;
-    day.OpStatusIsUndetermined = true;
-    day.SetIsOpDay(true);
-    EXPECT_TRUE(day.OpStatusIsUndetermined);
-    addRun(day, 0, true);
-    day.SetIsOpDay(false);
-    EXPECT_TRUE(day.OpStatusIsUndetermined);
-}
-
-TEST(Day, OfDeterminedStatusStaysSoWhenItOperated)
-{
-    clsDaySummary day;
-    day.SetIsOpDay(true);
-    EXPECT_FALSE(day.OpStatusIsUndetermined);
 }
 
 TEST(Day, IsUsedWhenOneOfItsRunsIs)
@@ -280,20 +271,15 @@ TEST(Day, IsNotOnlineByAUsedRunThatIsNot)
     EXPECT_FALSE(day.IsOpDay());
 }
 
-TEST(Day, KeepsItsRunsInTheOrderInWhichTheyCame)
+TEST(Day, KeepsItsRunsInTheOrderInWhichTheyCameAndDisplaysNoneAtFirst)
 {
     clsDaySummary day;
+    EXPECT_FALSE(day.DisplayedCals.isSized());
     addRun(day, 30, true);
     addRun(day, 10, true);
     addRun(day, 20, true);
     EXPECT_THAT(day.CalsInDay().Keys(),
                 testing::ElementsAre("2024/03/10 08:30", "2024/03/10 08:10", "2024/03/10 08:20"));
-}
-
-TEST(Day, HasNoDisplayedRunsAtFirst)
-{
-    const clsDaySummary day;
-    EXPECT_FALSE(day.DisplayedCals.isSized());
 }
 
 } // namespace k7deval::test

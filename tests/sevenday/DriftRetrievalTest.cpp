@@ -136,19 +136,12 @@ TEST_F(Retrieval, DropsAnotherScaleBeforeAnythingElse)
     EXPECT_EQ(rig_.site->countCalls("DIRecord.GasLevelCode"), 1U);
 }
 
-TEST_F(Retrieval, KeepsAnOfflineRunAsSuch)
+TEST_F(Retrieval, TakesEveryStatusButOneForOnline)
 {
-    RecordData offline = zeroRecord(onDay(0, 8, 15));
-    offline.calStatus = 29;
-    EXPECT_FALSE(runOf(offline).IsOnline);
-}
-
-TEST_F(Retrieval, TakesEveryOtherStatusForOnline)
-{
-    for (const std::int32_t status : {0, 28, 30, -29}) {
+    for (const std::int32_t status : {0, 28, 29, 30, -29}) {
         RecordData record = zeroRecord(onDay(0, 8, 15));
         record.calStatus = status;
-        EXPECT_TRUE(runOf(record).IsOnline) << status;
+        EXPECT_EQ(runOf(record).IsOnline, status != 29) << status;
         rig_.site->records.clear();
     }
 }
@@ -190,51 +183,37 @@ TEST_F(Retrieval, ReadsTheValuesOfARunAndItsInjections)
     EXPECT_FALSE(run.IsUsedIn7Day);
 }
 
-TEST_F(Retrieval, TakesTheFlagsOfTheZeroRecord)
+TEST_F(Retrieval, TakesTheFlagsOfTheZeroRecordOrElseOfTheUpscaleOne)
 {
-    RecordData& zero = addZero(onDay(0, 8, 15));
-    zero.manual = true;
-    zero.calStatus = 29;
-    zero.span = 300.0F;
-    addUpscale(onDay(0, 8, 15, 20));
-    retrieve();
+    for (const bool hasZero : {true, false}) {
+        rig_.site->records.clear();
+        if (hasZero)
+            addZero(onDay(0, 8, 15));
+        addUpscale(onDay(0, 8, 15, 20));
+        RecordData& first = rig_.site->records.front();
+        first.manual = true;
+        first.calStatus = 29;
+        first.span = 300.0F;
+        retrieve();
 
-    const cls7DayAnalyzerCal& run = rig_.run(kEight);
-    EXPECT_TRUE(run.ManualCal);
-    EXPECT_FALSE(run.IsOnline);
-    EXPECT_EQ(run.InstrumentSpan, 300);
-    EXPECT_EQ(run.CalTime, onDay(0, 8, 15));
+        const cls7DayAnalyzerCal& run = rig_.run(kEight);
+        EXPECT_TRUE(run.ManualCal);
+        EXPECT_FALSE(run.IsOnline);
+        EXPECT_EQ(run.InstrumentSpan, 300);
+        EXPECT_EQ(run.CalTime, first.runTime);
+        EXPECT_EQ(run.ZeroCal != nullptr, hasZero);
+    }
 }
 
-TEST_F(Retrieval, TakesTheFlagsOfAnUpscaleRecordWithoutAZeroOne)
-{
-    RecordData& upscale = addUpscale(onDay(0, 8, 15, 20));
-    upscale.manual = true;
-    upscale.calStatus = 29;
-    upscale.span = 300.0F;
-    retrieve();
-
-    const cls7DayAnalyzerCal& run = rig_.run(kEight);
-    EXPECT_TRUE(run.ManualCal);
-    EXPECT_FALSE(run.IsOnline);
-    EXPECT_EQ(run.InstrumentSpan, 300);
-    EXPECT_EQ(run.CalTime, onDay(0, 8, 15, 20));
-    EXPECT_FALSE(run.ZeroCal);
-}
-
-TEST_F(Retrieval, TakesTheRunTimeForAnInjectionWithoutAnEnd)
+TEST_F(Retrieval, TakesTheEndOfAnInjectionOrElseTheRunTime)
 {
     addZero(onDay(0, 8, 15, 10));
     addUpscale(onDay(0, 8, 15, 50));
     retrieve();
     EXPECT_EQ(rig_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 15, 10));
     EXPECT_EQ(rig_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 15, 50));
-}
-
-TEST_F(Retrieval, TakesTheEndOfAnInjectionThatHasOne)
-{
-    addZero(onDay(0, 8, 15, 10)).injectionEnd = onDay(0, 8, 11);
-    addUpscale(onDay(0, 8, 15, 50)).injectionEnd = onDay(0, 8, 20);
+    rig_.site->records[0].injectionEnd = onDay(0, 8, 11);
+    rig_.site->records[1].injectionEnd = onDay(0, 8, 20);
     retrieve();
     EXPECT_EQ(rig_.run(kEight).ZeroCal->InjectionEndTime, onDay(0, 8, 11));
     EXPECT_EQ(rig_.run(kEight).SpanCal->InjectionEndTime, onDay(0, 8, 20));

@@ -63,55 +63,73 @@ TEST_F(Summary, IsEmptyWhenItIsNotToBeShown)
     }
 }
 
-TEST_F(Summary, SaysThatTheTestWasPassed)
+struct SummaryCase {
+    const char* name;
+    int good;
+    int failed;
+    bool sixOfSeven;
+    int undetermined;
+    const char* text;
+};
+
+void PrintTo(const SummaryCase& row, std::ostream* out)
 {
-    EXPECT_EQ(summary(7, 0, false), "The 7-Day Drift Test has been passed.");
-    EXPECT_EQ(summary(7, 0, true), "The 7-Day Drift Test has been passed.");
-    EXPECT_EQ(summary(6, 1, true), "The 7-Day Drift Test has been passed.");
-    EXPECT_EQ(summary(6, 1, false), "The 7-Day Drift Test has been passed.");
+    *out << row.good << " good, " << row.failed << " failed";
 }
 
-TEST_F(Summary, SaysHowManyRunsAreMissing)
+class SummaryOf : public Summary, public testing::WithParamInterface<SummaryCase>
 {
-    EXPECT_EQ(summary(3, 0, false),
-              "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.");
+};
+
+TEST_P(SummaryOf, SaysHowTheTestStands)
+{
+    const SummaryCase& row = GetParam();
+    EXPECT_EQ(summary(row.good, row.failed, row.sixOfSeven, row.undetermined), row.text);
 }
 
-TEST_F(Summary, SaysThatAFailureIsAllowed)
-{
-    EXPECT_EQ(summary(3, 0, true),
-              "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test where 1 of "
-              "remaining cals is allowed to fail.");
-}
+constexpr const char* kTestPassed = "The 7-Day Drift Test has been passed.";
 
-TEST_F(Summary, SaysThatAFailureWasTaken)
-{
-    EXPECT_EQ(summary(3, 1, true),
-              "Starting on 3/10/2024 there are 3 on-line cal(s) and 1 on-line failed cal counted "
-              "in the 7-Day Drift Test.\r\n3 more on-line daily cal(s) are needed to pass the "
-              "Drift Test.");
-}
+constexpr SummaryCase kSummaries[] = {
+    {"Passed", 7, 0, false, 0, kTestPassed},
+    {"PassedWithTheOption", 7, 0, true, 0, kTestPassed},
+    {"PassedWithTheAllowedFailure", 6, 1, true, 0, kTestPassed},
+    {"PassedThoughTheOptionWasTakenBack", 6, 1, false, 0, kTestPassed},
+    {"RunsAreMissing", 3, 0, false, 0,
+     "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+     "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test."},
+    {"AFailureIsAllowed", 3, 0, true, 0,
+     "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+     "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test where 1 of "
+     "remaining cals is allowed to fail."},
+    {"AFailureWasTaken", 3, 1, true, 0,
+     "Starting on 3/10/2024 there are 3 on-line cal(s) and 1 on-line failed cal counted "
+     "in the 7-Day Drift Test.\r\n3 more on-line daily cal(s) are needed to pass the "
+     "Drift Test."},
+    // The option was taken back behind the evaluation: the failure is named, but makes up for none.
+    {"AFailureCountsForNothingWithoutTheOption", 3, 1, false, 0,
+     "Starting on 3/10/2024 there are 3 on-line cal(s) and 1 on-line failed cal counted "
+     "in the 7-Day Drift Test.\r\n4 more on-line daily cal(s) are needed to pass the "
+     "Drift Test."},
+    // The plural stays in brackets for one.
+    {"OneRunIsMissing", 6, 0, false, 0,
+     "Starting on 3/10/2024 there are 6 on-line cal(s) counted in the 7-Day Drift "
+     "Test.\r\n1 more on-line daily cal(s) are needed to pass the Drift Test."},
+    {"OneRunIsCounted", 1, 0, false, 0,
+     "Starting on 3/10/2024 there are 1 on-line cal(s) counted in the 7-Day Drift "
+     "Test.\r\n6 more on-line daily cal(s) are needed to pass the Drift Test."},
+    {"OneDayIsUndetermined", 7, 0, false, 1,
+     "The 7-Day Drift Test has been passed.\r\nUnit operating status cannot be determined "
+     "for 1 day in selected timeframe prior to completion of the test. Test results may "
+     "be inaccurate."},
+    {"SeveralDaysAreUndetermined", 3, 0, false, 2,
+     "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+     "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.\r\nUnit "
+     "operating status cannot be determined for 2 days in selected timeframe prior to "
+     "completion of the test. Test results may be inaccurate."},
+};
 
-// The option was taken back behind the evaluation: the failure is named, but it makes up for none.
-TEST_F(Summary, CountsAFailureForNothingWithoutTheOption)
-{
-    EXPECT_EQ(summary(3, 1, false),
-              "Starting on 3/10/2024 there are 3 on-line cal(s) and 1 on-line failed cal counted "
-              "in the 7-Day Drift Test.\r\n4 more on-line daily cal(s) are needed to pass the "
-              "Drift Test.");
-}
-
-TEST_F(Summary, KeepsThePluralInBracketsForOneAndNone)
-{
-    EXPECT_EQ(summary(6, 0, false),
-              "Starting on 3/10/2024 there are 6 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n1 more on-line daily cal(s) are needed to pass the Drift Test.");
-    EXPECT_EQ(summary(1, 0, false),
-              "Starting on 3/10/2024 there are 1 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n6 more on-line daily cal(s) are needed to pass the Drift Test.");
-}
+INSTANTIATE_TEST_SUITE_P(, SummaryOf, testing::ValuesIn(kSummaries),
+                         [](const auto& row) { return row.param.name; });
 
 TEST_F(Summary, StartsOnTheEarliestMarkedRun)
 {
@@ -135,69 +153,39 @@ TEST_F(Summary, WritesTheDateAsTheRegionDoes)
     EXPECT_THAT(summary(3, 0, false), testing::StartsWith("Starting on 10.03.2024 there are 3 "));
 }
 
-TEST_F(Summary, NamesOneUndeterminedDay)
-{
-    EXPECT_EQ(summary(7, 0, false, 1),
-              "The 7-Day Drift Test has been passed.\r\nUnit operating status cannot be determined "
-              "for 1 day in selected timeframe prior to completion of the test. Test results may "
-              "be inaccurate.");
-}
+// A whole test, as daysOf reads it, evaluated and summed up.
+struct TestSummaryCase {
+    const char* name;
+    const char* days;
+    bool sixOfSeven;
+    const char* text;
+};
 
-TEST_F(Summary, NamesSeveralUndeterminedDays)
+TEST(SummaryOfATest, GoesByItsEvaluation)
 {
-    EXPECT_EQ(summary(3, 0, false, 2),
-              "Starting on 3/10/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.\r\nUnit "
-              "operating status cannot be determined for 2 days in selected timeframe prior to "
-              "completion of the test. Test results may be inaccurate.");
-}
-
-namespace
-{
-
-std::string summaryOf(std::string_view days, bool sixOfSeven = false)
-{
-    DriftRig rig;
-    setDays(rig, daysOf(days));
-    rig.test.blnSixOfSeven = sixOfSeven;
-    rig.test.EvaluateDriftTest();
-    rig.test.BuildSummary(true);
-    return rig.test.strSummary;
-}
-
-} // namespace
-
-TEST(SummaryOfATest, StartsOnItsFirstDay)
-{
-    EXPECT_EQ(summaryOf("PPFNPPP"),
-              "Starting on 3/14/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test.");
-}
-
-TEST(SummaryOfATest, StartsOnTheLastRunBehindARestartOnTheLastDay)
-{
-    EXPECT_EQ(summaryOf("PPPF"),
-              "Starting on 3/13/2024 there are 0 on-line cal(s) counted in the 7-Day Drift "
-              "Test.\r\n7 more on-line daily cal(s) are needed to pass the Drift Test.");
-}
-
-// The count is kept over the second failure, so the test is passed with five marks.
-TEST(SummaryOfATest, SaysPassedByTheCountNotByTheMarks)
-{
-    EXPECT_EQ(summaryOf("PPFPFPPP", true), "The 7-Day Drift Test has been passed.");
-}
-
-TEST(SummaryOfATest, NamesTheUndeterminedDaysUpToItsEnd)
-{
-    EXPECT_EQ(summaryOf("PPPUPPPP"),
-              "The 7-Day Drift Test has been passed.\r\nUnit operating status cannot be determined "
-              "for 1 day in selected timeframe prior to completion of the test. Test results may "
-              "be inaccurate.");
-}
-
-TEST(SummaryOfATest, DoesNotNameUndeterminedDaysBehindItsEnd)
-{
-    EXPECT_EQ(summaryOf("PPPPPPPUU"), "The 7-Day Drift Test has been passed.");
+    constexpr TestSummaryCase kRows[] = {
+        {"it starts on the first day of the test", "PPFNPPP", false,
+         "Starting on 3/14/2024 there are 3 on-line cal(s) counted in the 7-Day Drift "
+         "Test.\r\n4 more on-line daily cal(s) are needed to pass the Drift Test."},
+        {"it starts on the last run behind a restart on the last day", "PPPF", false,
+         "Starting on 3/13/2024 there are 0 on-line cal(s) counted in the 7-Day Drift "
+         "Test.\r\n7 more on-line daily cal(s) are needed to pass the Drift Test."},
+        // The count is kept over the second failure, so the test is passed with five marks.
+        {"passed by the count and not by the marks", "PPFPFPPP", true, kTestPassed},
+        {"an undetermined day ahead of its end is named", "PPPUPPPP", false,
+         "The 7-Day Drift Test has been passed.\r\nUnit operating status cannot be determined "
+         "for 1 day in selected timeframe prior to completion of the test. Test results may "
+         "be inaccurate."},
+        {"undetermined days behind its end are not", "PPPPPPPUU", false, kTestPassed},
+    };
+    for (const TestSummaryCase& row : kRows) {
+        DriftRig rig;
+        setDays(rig, daysOf(row.days));
+        rig.test.blnSixOfSeven = row.sixOfSeven;
+        rig.test.EvaluateDriftTest();
+        rig.test.BuildSummary(true);
+        EXPECT_EQ(rig.test.strSummary, row.text) << row.name;
+    }
 }
 
 } // namespace k7deval::test

@@ -124,22 +124,18 @@ TEST(OperatingDays, StandInOrderUnderTheirDates)
     EXPECT_THAT(statusOf(rig.test), ElementsAre("operating", "idle", "idle?"));
 }
 
-TEST(OperatingDays, EndWithTheLastHourOfTheInterval)
-{
-    DriftRig rig;
-    rig.setInterval(2);
-    setHours(rig, onDay(0), ofDay("") + ofDay("") + "1");
-    rig.test.AnalyzeOperatingDays();
-    EXPECT_THAT(statusOf(rig.test), ElementsAre("idle", "idle"));
-}
-
-TEST(OperatingDays, AreNotTouchedByAnHourWithoutDataOfTheDayBefore)
+TEST(OperatingDays, AreJudgedByTheirOwnHoursAlone)
 {
     DriftRig rig;
     rig.setInterval(3);
-    setHours(rig, onDay(0), ofDay("") + ofDay("00000000000000000000000-") + ofDay("1"));
+    setHours(rig, onDay(0), ofDay("") + ofDay("00000000000000000000000-") + ofDay("1") + "1");
     rig.test.AnalyzeOperatingDays();
     EXPECT_THAT(statusOf(rig.test), ElementsAre("idle", "idle?", "operating"));
+    DriftRig shorter;
+    shorter.setInterval(2);
+    setHours(shorter, onDay(0), ofDay("") + ofDay("") + "1");
+    shorter.test.AnalyzeOperatingDays();
+    EXPECT_THAT(statusOf(shorter.test), ElementsAre("idle", "idle")) << "an hour behind the end";
 }
 
 TEST(OperatingDays, MayBeginWithinADay)

@@ -25,62 +25,55 @@ protected:
     }
 };
 
+// What the site has: whether the unit has an operating time, what the analyzer of an upscale record
+// is linked to, and the operating time of the stack; 0 for none.
+struct OperatingTimeCase {
+    const char* name;
+    bool unitHasOne;
+    PID linked;
+    PID ofStack;
+    PID found;
+};
+
+void PrintTo(const OperatingTimeCase& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class OperatingTimeOf : public OperatingTime, public testing::WithParamInterface<OperatingTimeCase>
+{
+};
+
+TEST_P(OperatingTimeOf, IsThatOfTheLinkedObjectWhereItHasOne)
+{
+    const OperatingTimeCase& row = GetParam();
+    if (!row.unitHasOne)
+        rig_.site->parameter(kDriftUnit).links.clear();
+    if (row.linked != 0)
+        link(kDriftSource, row.linked);
+    if (row.ofStack != 0)
+        giveStackItsOwn(row.ofStack);
+    addUpscale(onDay(0, 8));
+    EXPECT_EQ(found(), row.found);
+}
+
+constexpr OperatingTimeCase kOperatingTimes[] = {
+    {"WithoutALink", true, 0, 0, kDriftUnitHours},
+    {"OfAUnitWithoutOne", false, 0, 0, 0},
+    {"OfTheStack", true, kDriftStack, kDriftStackHours, kDriftStackHours},
+    {"OfTheStackForAUnitWithoutOne", false, kDriftStack, kDriftStackHours, kDriftStackHours},
+    {"OfAStackWithoutOne", true, kDriftStack, 0, kDriftUnitHours},
+    {"OfAStackWhoseOwnDoesNotExist", true, kDriftStack, kDriftStackHours + 1, kDriftUnitHours},
+    {"OfAStackThatDoesNotExist", true, kDriftStack + 1, 0, kDriftUnitHours},
+};
+
+INSTANTIATE_TEST_SUITE_P(, OperatingTimeOf, testing::ValuesIn(kOperatingTimes),
+                         [](const auto& row) { return row.param.name; });
+
 TEST_F(OperatingTime, OfTheUnitIsTakenWithoutRecords)
 {
     EXPECT_EQ(found(), kDriftUnitHours);
     EXPECT_EQ(rig_.site->countCalls("DIRecord.SourceTagID"), 0U);
-}
-
-TEST_F(OperatingTime, OfTheUnitIsTakenWithoutALink)
-{
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), kDriftUnitHours);
-}
-
-TEST_F(OperatingTime, IsNoneForAUnitWithoutOne)
-{
-    rig_.site->parameter(kDriftUnit).links.clear();
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), 0);
-}
-
-TEST_F(OperatingTime, OfTheLinkedObjectWins)
-{
-    link(kDriftSource, kDriftStack);
-    giveStackItsOwn(kDriftStackHours);
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), kDriftStackHours);
-}
-
-TEST_F(OperatingTime, OfTheLinkedObjectWinsForAUnitWithoutOne)
-{
-    rig_.site->parameter(kDriftUnit).links.clear();
-    link(kDriftSource, kDriftStack);
-    giveStackItsOwn(kDriftStackHours);
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), kDriftStackHours);
-}
-
-TEST_F(OperatingTime, OfTheUnitStandsWhenTheLinkedObjectHasNone)
-{
-    link(kDriftSource, kDriftStack);
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), kDriftUnitHours);
-}
-
-TEST_F(OperatingTime, OfTheUnitStandsWhenThatOfTheLinkedObjectDoesNotExist)
-{
-    link(kDriftSource, kDriftStack);
-    giveStackItsOwn(kDriftStackHours + 1);
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), kDriftUnitHours);
-}
-
-TEST_F(OperatingTime, OfTheUnitStandsWhenTheLinkedObjectDoesNotExist)
-{
-    link(kDriftSource, kDriftStack + 1);
-    addUpscale(onDay(0, 8));
-    EXPECT_EQ(found(), kDriftUnitHours);
 }
 
 TEST_F(OperatingTime, WithPidZeroNeverWins)

@@ -54,26 +54,36 @@ TEST(ReportFailure, AWrittenReportPostsNothing)
     EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
-TEST(ReportFailure, DaysNeverSizedLeaveNoFile)
-{
-    WritingRig rig;
-    rig.test.objDaysToDisplay = DayArray();
-    const auto failure = rig.write();
-    ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(failure->number(), 9);
-    EXPECT_EQ(rig.messages->posted, (std::vector<std::pair<std::int32_t, std::string>>{
-                                        {4, "DEval-011: 9, Subscript out of range"}}));
-    EXPECT_EQ(rig.folder.names(), Lines());
-}
+struct ReportFailureCase {
+    const char* what;
+    void (*spoil)(WritingRig& rig);
+    const char* file;
+    int number;
+    const char* line;
+};
 
-TEST(ReportFailure, AbsentCalibrationsLeaveNoFile)
+TEST(ReportFailure, LeavesNoFileAndIsSilentWithoutASink)
 {
-    WritingRig rig;
-    rig.test.dictCals = nullptr;
-    EXPECT_TRUE(rig.write().has_value());
-    EXPECT_EQ(rig.messages->lines(),
-              Lines{"DEval-011: 91, Object variable or With block variable not set"});
-    EXPECT_EQ(rig.folder.names(), Lines());
+    const ReportFailureCase rows[] = {
+        {"days never sized", [](auto& rig) { rig.test.objDaysToDisplay = DayArray(); }, "7Day.pdf",
+         9, "DEval-011: 9, Subscript out of range"},
+        {"no calibrations", [](auto& rig) { rig.test.dictCals = nullptr; }, "7Day.pdf", 91,
+         "DEval-011: 91, Object variable or With block variable not set"},
+        {"no such folder", [](auto&) {}, "nowhere/7Day.pdf", 76, "DEval-011: 76, Path not found"},
+    };
+    for (const ReportFailureCase& row : rows) {
+        WritingRig rig;
+        row.spoil(rig);
+        const auto failure = rig.report.WriteDriftReport(rig.folder.file(row.file));
+        ASSERT_TRUE(failure.has_value()) << row.what;
+        EXPECT_EQ(failure->number(), row.number) << row.what;
+        const std::vector<std::pair<std::int32_t, std::string>> posted = {{4, row.line}};
+        EXPECT_EQ(rig.messages->posted, posted) << row.what;
+        EXPECT_EQ(rig.folder.names(), Lines()) << row.what;
+        rig.test.irm = nullptr;
+        EXPECT_TRUE(rig.report.WriteDriftReport(rig.folder.file(row.file)).has_value());
+        EXPECT_EQ(rig.messages->posted, posted) << row.what;
+    }
 }
 
 TEST(ReportFailure, AtAnyCallOfTheDataLeavesNoFile)
@@ -93,24 +103,6 @@ TEST(ReportFailure, AtAnyCallOfTheDataLeavesNoFile)
         EXPECT_EQ(rig.messages->lines(), Lines{"DEval-011: 440, the line is down"}) << calls[i];
         EXPECT_EQ(rig.folder.names(), Lines()) << calls[i];
     }
-}
-
-TEST(ReportFailure, AFileThatCannotBeWrittenIsTheReportsFailure)
-{
-    WritingRig rig;
-    const auto failure = rig.report.WriteDriftReport(rig.folder.file("nowhere/7Day.pdf"));
-    ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(failure->number(), 76);
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-011: 76, Path not found"});
-}
-
-TEST(ReportFailure, WithoutAMessageSinkItIsSilent)
-{
-    WritingRig rig;
-    rig.test.irm = nullptr;
-    rig.test.objDaysToDisplay = DayArray();
-    EXPECT_TRUE(rig.write().has_value());
-    EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
 TEST(ReportFailure, OfAHeadEndsTheHeadAndTheRowsGoOn)

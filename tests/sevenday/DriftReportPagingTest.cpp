@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 /// Which rows the report has, where its pages break, and where the outcome stands.
 ///
 /// Under the head at 506.136 a row takes 13.17. With an outcome the rows keep 4 of them free, so
@@ -58,12 +60,34 @@ Lines firstTextsOfRows(ReportRig& rig, int rows)
 
 } // namespace
 
-TEST(ReportPaging, AReportOfFewRowsIsOnePageWithoutANumber)
+struct PagesCase {
+    const char* what;
+    int rows;
+    const char* summary;
+    std::vector<std::size_t> rowsOnPages;
+};
+
+TEST(ReportPaging, BreaksBehindTheRowThatCrossesTheLimit)
 {
-    PagingRig rig(7);
-    EXPECT_EQ(rig.countPages(), 1U);
-    EXPECT_EQ(rig.numberOf(0), "");
-    EXPECT_EQ(rig.rowsOn(0), 7U);
+    const PagesCase rows[] = {
+        {"a single row", 1, kOutcome, {1}},
+        {"a few rows", 7, kOutcome, {7}},
+        {"a row less than a page", kRowsAboveAnOutcome - 1, kOutcome, {30}},
+        {"a page of rows", kRowsAboveAnOutcome, kOutcome, {31, 0}},
+        {"two pages and a row", 2 * kRowsAboveAnOutcome + 1, kOutcome, {31, 31, 1}},
+        {"a row less than a page without an outcome", kRowsAlone - 1, "", {34}},
+        {"a row more than a page without an outcome", kRowsAlone + 1, "", {35, 1}},
+    };
+    for (const PagesCase& row : rows) {
+        SCOPED_TRACE(row.what);
+        PagingRig rig(row.rows, row.summary);
+        ASSERT_EQ(rig.countPages(), row.rowsOnPages.size());
+        for (std::size_t page = 0; page < row.rowsOnPages.size(); ++page) {
+            EXPECT_EQ(rig.rowsOn(page), row.rowsOnPages[page]);
+            EXPECT_EQ(rig.numberOf(page),
+                      rig.countPages() == 1 ? "" : "Page " + std::to_string(page + 1));
+        }
+    }
 }
 
 TEST(ReportPaging, TheRowBeforeTheLimitLeavesTheReportOnOnePage)
@@ -84,17 +108,6 @@ TEST(ReportPaging, TheRowThatCrossesTheLimitStaysAndThePageBreaksBehindIt)
     expectText(rig.sheet(1), {kOutcome, 5, 10, 36, kHeadRule - 2 * kBodyRow});
 }
 
-TEST(ReportPaging, FromTwoPagesOnEachBearsItsNumber)
-{
-    PagingRig rig(2 * kRowsAboveAnOutcome + 1);
-    ASSERT_EQ(rig.countPages(), 3U);
-    EXPECT_EQ(rig.numberOf(0), "Page 1");
-    EXPECT_EQ(rig.numberOf(1), "Page 2");
-    EXPECT_EQ(rig.numberOf(2), "Page 3");
-    EXPECT_EQ(rig.rowsOn(1), 31U);
-    EXPECT_EQ(rig.rowsOn(2), 1U);
-}
-
 TEST(ReportPaging, ANumberStandsAtTheRightMargin)
 {
     // "Page 1" is 3169 thousandths wide: P 667, a 556, g 556, e 556, blank 278, 1 556.
@@ -111,16 +124,6 @@ TEST(ReportPaging, WithoutAnOutcomeTheRowsRunDownToTheFooter)
     EXPECT_EQ(textsAt(rig.sheet(0), 45.186).front(), "2/4/2024 08:15");
     EXPECT_EQ(rig.rowsOn(1), 1U);
     EXPECT_EQ(countTexts(rig.sheet(1)), 24U + 11U + 1U) << "no outcome";
-}
-
-TEST(ReportPaging, WithoutAnOutcomeOneRowLessIsOnePage)
-{
-    EXPECT_EQ(PagingRig(kRowsAlone - 1, "").countPages(), 1U);
-}
-
-TEST(ReportPaging, ASingleRowNeverBreaksThePage)
-{
-    EXPECT_EQ(PagingRig(1).countPages(), 1U);
 }
 
 TEST(ReportRows, TheFirstDayShowsOneOfItsRunsAndLaterDaysAll)
@@ -161,16 +164,6 @@ TEST(ReportRows, EachRowIsShadedByItself)
     EXPECT_NEAR(std::next(bands.begin())->Height(), 10.17, 0.01);
 }
 
-TEST(ReportRows, WithoutRunsTheOutcomeStandsAtOnceUnderTheHead)
-{
-    ReportRig rig;
-    rig.test.objDaysToDisplay = arrayOf(daysOfOneRun(2));
-    rig.test.strSummary = "There are no calibrations in selected time range.";
-    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, kHeadRule - kBodyRow});
-    EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
-    EXPECT_EQ(rig.countPages(), 1U);
-}
-
 TEST(ReportRows, WithNothingCountedTheDisplayOfDriftCalsHasNoRows)
 {
     ReportRig rig;
@@ -208,37 +201,32 @@ TEST(ReportRows, AnEmptyListOfDaysWritesNoFileAndPostsNothing)
     EXPECT_EQ(rig.messages->lines(), Lines());
 }
 
-TEST(ReportOutcome, ALineBreakSplitsItAndLeavesAnEmptyLine)
-{
-    ReportRig rig;
-    rig.test.strSummary = "first\r\nsecond";
-    const ReportPage& page = rig.sheet(0);
-    expectText(page, {"first", 5, 10, 36, 492.966});
-    expectText(page, {"second", 5, 10, 36, 492.966 - 2 * kBodyRow});
-    EXPECT_EQ(countTexts(page), 26U);
-}
+struct OutcomeCase {
+    const char* what;
+    std::string summary;
+    std::vector<std::pair<std::string, double>> texts; ///< Each with its place, the first 492.966.
+};
 
-TEST(ReportOutcome, OnlyTheFirstLineBreakSplitsIt)
+TEST(ReportOutcome, IsSplitByItsFirstLineBreakWithAnEmptyLineBetween)
 {
-    ReportRig rig;
-    rig.test.strSummary = "first\r\nsecond\r\nthird";
-    expectText(rig.sheet(0), {"second\r\nthird", 5, 10, 36, 466.626});
-    EXPECT_EQ(countTexts(rig.sheet(0)), 26U);
-}
-
-TEST(ReportOutcome, ALineFeedAloneIsNoLineBreak)
-{
-    ReportRig rig;
-    rig.test.strSummary = "first\nsecond\r";
-    expectText(rig.sheet(0), {"first\nsecond\r", 5, 10, 36, 492.966});
-    EXPECT_EQ(countTexts(rig.sheet(0)), 25U);
-}
-
-TEST(ReportOutcome, IsNotWrappedAtThePagesEdge)
-{
-    ReportRig rig;
-    rig.test.strSummary = std::string(400, 'W');
-    expectText(rig.sheet(0), {rig.test.strSummary, 5, 10, 36, 492.966});
+    const double first = 492.966;
+    const double second = first - 2 * kBodyRow;
+    const OutcomeCase rows[] = {
+        {"a line break", "first\r\nsecond", {{"first", first}, {"second", second}}},
+        {"two line breaks",
+         "first\r\nsecond\r\nthird",
+         {{"first", first}, {"second\r\nthird", second}}},
+        {"a line feed alone", "first\nsecond\r", {{"first\nsecond\r", first}}},
+        {"wider than the page", std::string(400, 'W'), {{std::string(400, 'W'), first}}},
+    };
+    for (const OutcomeCase& row : rows) {
+        SCOPED_TRACE(row.what);
+        ReportRig rig;
+        rig.test.strSummary = row.summary;
+        for (const auto& [text, y] : row.texts)
+            expectText(rig.sheet(0), {text, 5, 10, 36, y});
+        EXPECT_EQ(countTexts(rig.sheet(0)), 24U + row.texts.size());
+    }
 }
 
 } // namespace k7deval::test

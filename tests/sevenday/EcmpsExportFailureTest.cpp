@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 /// Failures that end the export: the line is posted, and there is no file.
 namespace k7deval::test
 {
@@ -12,71 +14,50 @@ namespace
 struct FailureRig : ExportRig {
     FailureRig() { show({dayOf(runAt(kMorning))}); }
 
-    /// Writes, and expects the failure and no file.
-    void expectFailure(int number, const std::string& line)
-    {
-        const auto failure = write();
-        ASSERT_TRUE(failure.has_value());
-        EXPECT_EQ(failure->number(), number);
-        EXPECT_EQ(messages->posted,
-                  (std::vector<std::pair<std::int32_t, std::string>>{{4, "DEval-015: " + line}}));
-        EXPECT_EQ(folder.names(), Lines());
-    }
+    cls7DayAnalyzerCal& run() { return *test.objDaysToDisplay[0]->DisplayedCals[0]; }
+};
+
+struct ExportFailureCase {
+    const char* what;
+    void (*spoil)(FailureRig& rig);
+    int number;
+    const char* line;
+};
+
+constexpr const char* kAbsent = "DEval-015: 91, Object variable or With block variable not set";
+
+std::optional<Error> isDown(const std::string& /*call*/, std::size_t /*index*/)
+{
+    return Error(440, "the line is down");
+}
+
+constexpr ExportFailureCase kExportFailures[] = {
+    {"no zero injection", [](auto& rig) { rig.run().ZeroCal = nullptr; }, 91, kAbsent},
+    {"no span injection", [](auto& rig) { rig.run().SpanCal = nullptr; }, 91, kAbsent},
+    {"an ORIS code that is no number", [](auto& rig) { rig.page.txtORIS.SetText(""); }, 13,
+     "DEval-015: 13, Type mismatch"},
+    {"a typed test reason", [](auto& rig) { rig.page.cmbTestReason.Type("Diagnostic"); }, 381,
+     "DEval-015: 381, Invalid property array index"},
+    {"days never sized", [](auto& rig) { rig.test.objDaysToDisplay = DayArray(); }, 9,
+     "DEval-015: 9, Subscript out of range"},
+    {"an analyzer that does not answer", [](auto& rig) { rig.site->failure = isDown; }, 440,
+     "DEval-015: 440, the line is down"},
 };
 
 } // namespace
 
-TEST(ExportFailure, ARunWithoutAZeroInjection)
+TEST(ExportFailure, LeavesNoFile)
 {
-    FailureRig rig;
-    rig.test.objDaysToDisplay[0]->DisplayedCals[0]->ZeroCal = nullptr;
-    rig.expectFailure(91, "91, Object variable or With block variable not set");
-}
-
-TEST(ExportFailure, ARunWithoutASpanInjection)
-{
-    FailureRig rig;
-    rig.test.objDaysToDisplay[0]->DisplayedCals[0]->SpanCal = nullptr;
-    rig.expectFailure(91, "91, Object variable or With block variable not set");
-}
-
-TEST(ExportFailure, AnOrisCodeThatIsNoNumber)
-{
-    FailureRig rig;
-    rig.page.txtORIS.SetText("");
-    rig.expectFailure(13, "13, Type mismatch");
-}
-
-TEST(ExportFailure, ATypedTestReason)
-{
-    FailureRig rig;
-    rig.page.cmbTestReason.Type("Diagnostic");
-    rig.expectFailure(381, "381, Invalid property array index");
-}
-
-TEST(ExportFailure, DaysNeverSized)
-{
-    FailureRig rig;
-    rig.test.objDaysToDisplay = DayArray();
-    rig.expectFailure(9, "9, Subscript out of range");
-}
-
-TEST(ExportFailure, AnAnalyzerThatDoesNotAnswer)
-{
-    FailureRig rig;
-    rig.site->failure = [](const std::string&, std::size_t) {
-        return std::optional(Error(440, "the line is down"));
-    };
-    rig.expectFailure(440, "440, the line is down");
-}
-
-TEST(ExportFailure, AFolderThatIsNotThere)
-{
-    FailureRig rig;
-    const auto failure = rig.exporter.WriteEcmpsExport(rig.folder.file("nowhere/7Day.xml"));
-    ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(failure->number(), 76);
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-015: 76, Path not found"});
+    for (const ExportFailureCase& row : kExportFailures) {
+        FailureRig rig;
+        row.spoil(rig);
+        const auto failure = rig.write();
+        ASSERT_TRUE(failure.has_value()) << row.what;
+        EXPECT_EQ(failure->number(), row.number) << row.what;
+        const std::vector<std::pair<std::int32_t, std::string>> posted = {{4, row.line}};
+        EXPECT_EQ(rig.messages->posted, posted) << row.what;
+        EXPECT_EQ(rig.folder.names(), Lines()) << row.what;
+    }
 }
 
 TEST(ExportFailure, LeavesAFileThatIsThereAsItWas)

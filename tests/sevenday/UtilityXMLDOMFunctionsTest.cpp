@@ -27,74 +27,89 @@ TEST(CreateXMLDocument, IsEmpty)
     EXPECT_EQ(documentText(CreateXMLDocument()), "");
 }
 
-TEST(AddChildElement, AppendsTheElementBehindTheOthersAndReturnsIt)
+struct TreeStepsCase {
+    const char* what;
+    void (*build)(pugi::xml_node root);
+    const char* text;
+};
+
+constexpr TreeStepsCase kTreeSteps[] = {
+    {"children stand in their order, namesakes too",
+     [](auto root) {
+         AddChildElement(root, "A", "1");
+         AddChildElement(root, "B", "2");
+         AddChildElement(root, "A", "3");
+     },
+     "<Root><A>1</A><B>2</B><A>3</A></Root>"},
+    {"what XML keeps for itself is escaped", [](auto root) { AddChildElement(root, "A", "<&>"); },
+     "<Root><A>&lt;&amp;&gt;</A></Root>"},
+    {"a text takes the place of that of the first namesake",
+     [](auto root) {
+         AddChildElement(root, "A", "old");
+         AddChildElement(root, "B", "");
+         AddChildElement(root, "A", "second");
+         SetNodeText(root, "A", "new");
+         SetNodeText(root, "B", "filled");
+     },
+     "<Root><A>new</A><B>filled</B><A>second</A></Root>"},
+    {"an element can be emptied",
+     [](auto root) {
+         AddChildElement(root, "A", "old");
+         SetNodeText(root, "A", "");
+     },
+     "<Root><A/></Root>"},
+    {"an element that is not among the children is added",
+     [](auto root) {
+         AddChildElement(AddChildElement(root, "Child", ""), "A", "deep");
+         SetNodeText(root, "A", "new");
+     },
+     "<Root><Child><A>deep</A></Child><A>new</A></Root>"},
+    {"a date fills an element that is there",
+     [](auto root) {
+         AddChildElement(root, "When", "");
+         AddChildElement(root, "Behind", "");
+         SetDateNode(root, "When", makeDate(2024, 3, 5), "yyyy-mm-dd");
+     },
+     "<Root><When>2024-03-05</When><Behind/></Root>"},
+    {"no date empties it",
+     [](auto root) {
+         AddChildElement(root, "When", "2024-03-05");
+         SetDateNode(root, "When", {}, "yyyy-mm-dd");
+     },
+     "<Root><When/></Root>"},
+    {"a truth fills an element that is there",
+     [](auto root) {
+         AddChildElement(root, "Is", "");
+         SetBooleanNode(root, "Is", true, kSettings);
+     },
+     "<Root><Is>1</Is></Root>"},
+};
+
+TEST(XMLTree, IsBuiltStepByStep)
+{
+    for (const TreeStepsCase& row : kTreeSteps) {
+        Tree tree;
+        row.build(tree.root);
+        EXPECT_EQ(tree.text(), row.text) << row.what;
+    }
+}
+
+TEST(XMLTree, GivesTheElementThatWasAddedOrFilled)
 {
     Tree tree;
-    AddChildElement(tree.root, "First", "1");
-    const pugi::xml_node second = AddChildElement(tree.root, "Second", "2");
+    const pugi::xml_node added = AddChildElement(tree.root, "A", "");
+    EXPECT_EQ(added, tree.root.last_child());
+    EXPECT_FALSE(added.first_child()) << "an empty text is no content";
+    const pugi::xml_node second = SetNodeText(tree.root, "B", "2");
     EXPECT_EQ(second, tree.root.last_child());
-    EXPECT_EQ(tree.text(), "<Root><First>1</First><Second>2</Second></Root>");
+    EXPECT_EQ(SetNodeText(tree.root, "A", "1"), added);
+    SetNodeText(tree.root, "A", "");
+    EXPECT_FALSE(added.first_child());
 }
 
-TEST(AddChildElement, AddsANamesakeToo)
-{
-    Tree tree;
-    AddChildElement(tree.root, "A", "1");
-    AddChildElement(tree.root, "A", "2");
-    EXPECT_EQ(tree.text(), "<Root><A>1</A><A>2</A></Root>");
-}
-
-TEST(AddChildElement, AnEmptyTextLeavesTheElementWithoutContent)
-{
-    Tree tree;
-    const pugi::xml_node element = AddChildElement(tree.root, "A", "");
-    EXPECT_FALSE(element.first_child());
-}
-
-TEST(AddChildElement, WithoutAParentGivesNothing)
+TEST(XMLTree, WithoutAParentGivesNothing)
 {
     EXPECT_FALSE(AddChildElement(pugi::xml_node(), "A", "1"));
-}
-
-TEST(SetNodeText, ReplacesTheTextOfTheFirstChildOfThatNameInItsPlace)
-{
-    Tree tree;
-    const pugi::xml_node first = AddChildElement(tree.root, "A", "old");
-    AddChildElement(tree.root, "B", "");
-    AddChildElement(tree.root, "A", "second");
-    EXPECT_EQ(SetNodeText(tree.root, "A", "new"), first);
-    SetNodeText(tree.root, "B", "filled");
-    EXPECT_EQ(tree.text(), "<Root><A>new</A><B>filled</B><A>second</A></Root>");
-}
-
-TEST(SetNodeText, CanEmptyAnElement)
-{
-    Tree tree;
-    AddChildElement(tree.root, "A", "old");
-    SetNodeText(tree.root, "A", "");
-    EXPECT_FALSE(tree.root.child("A").first_child());
-}
-
-TEST(SetNodeText, AddsAnElementThatIsNotThere)
-{
-    Tree tree;
-    AddChildElement(tree.root, "A", "1");
-    const pugi::xml_node added = SetNodeText(tree.root, "B", "2");
-    EXPECT_EQ(added, tree.root.last_child());
-    EXPECT_EQ(tree.text(), "<Root><A>1</A><B>2</B></Root>");
-}
-
-TEST(SetNodeText, LooksAmongTheChildrenAlone)
-{
-    Tree tree;
-    const pugi::xml_node child = AddChildElement(tree.root, "Child", "");
-    AddChildElement(child, "A", "deep");
-    SetNodeText(tree.root, "A", "new");
-    EXPECT_EQ(tree.text(), "<Root><Child><A>deep</A></Child><A>new</A></Root>");
-}
-
-TEST(SetNodeText, WithoutAParentGivesNothing)
-{
     EXPECT_FALSE(SetNodeText(pugi::xml_node(), "A", "1"));
 }
 
@@ -132,17 +147,6 @@ TEST(SetDateNode, WritesTheDateInItsFormatOrInTheOneThatFits)
     }
 }
 
-TEST(SetDateNode, FillsAnElementThatIsThere)
-{
-    Tree tree;
-    AddChildElement(tree.root, "When", "");
-    AddChildElement(tree.root, "Behind", "");
-    SetDateNode(tree.root, "When", makeDate(2024, 3, 5), "yyyy-mm-dd");
-    EXPECT_EQ(tree.text(), "<Root><When>2024-03-05</When><Behind/></Root>");
-    SetDateNode(tree.root, "When", {}, "yyyy-mm-dd");
-    EXPECT_EQ(tree.text(), "<Root><When/><Behind/></Root>");
-}
-
 struct BooleanCase {
     const char* what;
     Variant value;
@@ -176,21 +180,6 @@ TEST(SetBooleanNode, WritesOneForTrueAndAnyNumberButZero)
         EXPECT_EQ(std::string(element.text().as_string()), row.text) << row.what;
         EXPECT_EQ(element.first_child().empty(), *row.text == '\0') << row.what;
     }
-}
-
-TEST(SetBooleanNode, FillsAnElementThatIsThere)
-{
-    Tree tree;
-    AddChildElement(tree.root, "Is", "");
-    SetBooleanNode(tree.root, "Is", true, kSettings);
-    EXPECT_EQ(tree.text(), "<Root><Is>1</Is></Root>");
-}
-
-TEST(DocumentText, EscapesWhatXMLKeepsForItself)
-{
-    Tree tree;
-    AddChildElement(tree.root, "A", "<&>");
-    EXPECT_EQ(tree.text(), "<Root><A>&lt;&amp;&gt;</A></Root>");
 }
 
 } // namespace k7deval::test

@@ -65,66 +65,78 @@ TEST(ResultTree, AnArrayNeverSizedFailsAtItsFirstElement)
     EXPECT_TRUE(rig.page.tvwCalTimes.Nodes().empty());
 }
 
-TEST(ResultTree, ADayWithoutDisplayedRunsIsAnOperatingDayWithoutCalsAndNeverUsed)
-{
-    CalDay used = dayWith(kDay, {runAt(kMorning)});
-    used->DisplayedCals = RunArray();
-    CalDay cut = dayWith(makeDate(2024, 3, 11), {});
-    cut->DisplayedCals.resizeKeeping(-1);
-    EXPECT_EQ(treeOf({used, cut, operated(dayWith(makeDate(2024, 3, 12), {}))}),
-              (Lines{"3/10/2024 [OpDayNoCals] light", "3/11/2024 [OpDayNoCals] light",
-                     "3/12/2024 [OpDayNoCals] light"}));
-}
-
-TEST(ResultTree, ADayWithOneRunIsTheRunItself)
-{
-    EXPECT_EQ(treeOf({dayWith(kDay, {runAt(kMorning)})}),
-              Lines{"3/10/2024 08:15 [OnlinePass] white"});
-}
-
-TEST(ResultTree, ADayWithSeveralRunsHoldsThem)
-{
-    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning)), runAt(kEvening)})}),
-              (Lines{"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] light",
-                     "  3/10/2024 20:15 [OnlinePass] white"}));
-}
-
-TEST(ResultTree, MixesDatesAndDatesWithTimes)
-{
-    EXPECT_EQ(treeOf({dayWith(kDay, {runAt(kMorning), runAt(kEvening)}),
-                      dayWith(makeDate(2024, 3, 11), {runAt(kNextMorning)}),
-                      operated(dayWith(makeDate(2024, 3, 12), {}))}),
-              (Lines{"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] white",
-                     "  3/10/2024 20:15 [OnlinePass] white", "3/11/2024 08:15 [OnlinePass] white",
-                     "3/12/2024 [OpDayNoCals] light"}));
-}
-
-struct ImageCase {
-    bool passed;
-    bool online;
-    const char* image;
+struct TreeCase {
+    const char* what;
+    std::vector<CalDay> days;
+    Lines shown;
 };
 
-TEST(ResultTree, TheImageOfARunTellsPassedAndOnline)
+/// A day of two runs and a third one that is not displayed.
+CalDay dayWithHidden(const std::vector<CalRun>& displayed, const CalRun& hidden)
 {
-    constexpr ImageCase kRows[] = {{true, true, "OnlinePass"},
-                                   {true, false, "OfflinePass"},
-                                   {false, true, "OnlineFail"},
-                                   {false, false, "OfflineFail"}};
-    for (const ImageCase& row : kRows) {
-        CalRun run = row.passed ? runAt(kMorning) : failedRunAt(kMorning);
-        run->IsOnline = row.online;
-        const std::string look = std::string(" [") + row.image + "] white";
-        EXPECT_EQ(treeOf({dayWith(kDay, {run})}), Lines{"3/10/2024 08:15" + look});
-        CalRun second = runAt(kEvening);
-        EXPECT_EQ(treeOf({dayWith(kDay, {run, second})})[1], "  3/10/2024 08:15" + look);
-    }
+    CalDay day = dayWith(kDay, displayed);
+    day->CalsInDay().Add(minuteKey(hidden->CalTime), hidden);
+    return day;
 }
 
-TEST(ResultTree, ARunThatIsNotUsedHasTheLightBackground)
+TEST(ResultTree, ShowsDaysAndRuns)
 {
-    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning))})}),
-              Lines{"3/10/2024 08:15 [OnlinePass] light"});
+    const Date second = makeDate(2024, 3, 11);
+    const Date third = makeDate(2024, 3, 12);
+    const Date late = makeDate(2024, 3, 10, 22, 0);
+    CalDay used = dayWith(kDay, {runAt(kMorning)});
+    used->DisplayedCals = RunArray();
+    CalDay cut = dayWith(second, {});
+    cut->DisplayedCals.resizeKeeping(-1);
+    const TreeCase rows[] = {
+        {"a day without displayed runs is never used",
+         {used, cut, operated(dayWith(third, {}))},
+         {"3/10/2024 [OpDayNoCals] light", "3/11/2024 [OpDayNoCals] light",
+          "3/12/2024 [OpDayNoCals] light"}},
+        {"a day with one run is the run",
+         {dayWith(kDay, {unused(runAt(kMorning))})},
+         {"3/10/2024 08:15 [OnlinePass] light"}},
+        {"a day with several runs holds them and is white when one is used",
+         {dayWith(kDay, {unused(runAt(kMorning)), runAt(kEvening)})},
+         {"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] light",
+          "  3/10/2024 20:15 [OnlinePass] white"}},
+        {"a day whose runs are not used is light",
+         {dayWith(kDay, {unused(runAt(kMorning)), unused(runAt(kEvening))})},
+         {"3/10/2024 [OnlinePass] light", "  3/10/2024 08:15 [OnlinePass] light",
+          "  3/10/2024 20:15 [OnlinePass] light"}},
+        {"dates and dates with times are mixed",
+         {dayWith(kDay, {runAt(kMorning), runAt(kEvening)}), dayWith(second, {runAt(kNextMorning)}),
+          operated(dayWith(third, {}))},
+         {"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] white",
+          "  3/10/2024 20:15 [OnlinePass] white", "3/11/2024 08:15 [OnlinePass] white",
+          "3/12/2024 [OpDayNoCals] light"}},
+        {"an on-line run that is not displayed makes an on-line day",
+         {dayWithHidden({offline(runAt(kMorning)), offline(runAt(kEvening))}, runAt(late))},
+         {"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OfflinePass] white",
+          "  3/10/2024 20:15 [OfflinePass] white"}},
+        {"a failed run that is not displayed does not fail its day",
+         {dayWithHidden({runAt(kMorning), runAt(kEvening)}, failedRunAt(late))},
+         {"3/10/2024 [OnlinePass] white", "  3/10/2024 08:15 [OnlinePass] white",
+          "  3/10/2024 20:15 [OnlinePass] white"}},
+        {"a run alone, passed on-line",
+         {dayWith(kDay, {runAt(kMorning)})},
+         {"3/10/2024 08:15 [OnlinePass] white"}},
+        {"a run alone, passed off-line",
+         {dayWith(kDay, {offline(runAt(kMorning))})},
+         {"3/10/2024 08:15 [OfflinePass] white"}},
+        {"a run alone, failed on-line",
+         {dayWith(kDay, {failedRunAt(kMorning)})},
+         {"3/10/2024 08:15 [OnlineFail] white"}},
+        {"a run alone, failed off-line",
+         {dayWith(kDay, {offline(failedRunAt(kMorning))})},
+         {"3/10/2024 08:15 [OfflineFail] white"}},
+        {"runs of a day, failed on-line and off-line",
+         {dayWith(kDay, {failedRunAt(kMorning), offline(failedRunAt(kEvening))})},
+         {"3/10/2024 [OnlineFail] white", "  3/10/2024 08:15 [OnlineFail] white",
+          "  3/10/2024 20:15 [OfflineFail] white"}},
+    };
+    for (const TreeCase& row : rows)
+        EXPECT_EQ(treeOf(row.days), row.shown) << row.what;
 }
 
 struct DayImageCase {
@@ -162,30 +174,6 @@ TEST(ResultTree, TheImageOfADayRollsUpItsRuns)
         day->SetIsOpDay(row.dayOperated);
         EXPECT_EQ(treeOf({day})[0], std::string("3/10/2024 [") + row.image + "] white") << row.what;
     }
-}
-
-TEST(ResultTree, ADayWhoseOnlineRunIsNotDisplayedIsStillAnOnlineDay)
-{
-    CalDay day = dayWith(kDay, {offline(runAt(kMorning)), offline(runAt(kEvening))});
-    const CalRun hidden = runAt(makeDate(2024, 3, 10, 22, 0));
-    day->CalsInDay().Add(minuteKey(hidden->CalTime), hidden);
-    EXPECT_EQ(treeOf({day})[0], "3/10/2024 [OnlinePass] white");
-}
-
-TEST(ResultTree, AFailedRunThatIsNotDisplayedDoesNotFailItsDay)
-{
-    CalDay day = dayWith(kDay, {runAt(kMorning), runAt(kEvening)});
-    const CalRun hidden = failedRunAt(makeDate(2024, 3, 10, 22, 0));
-    day->CalsInDay().Add(minuteKey(hidden->CalTime), hidden);
-    EXPECT_EQ(treeOf({day})[0], "3/10/2024 [OnlinePass] white");
-}
-
-TEST(ResultTree, ADayIsWhiteWhenOneOfItsRunsIsUsed)
-{
-    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning)), runAt(kEvening)})})[0],
-              "3/10/2024 [OnlinePass] white");
-    EXPECT_EQ(treeOf({dayWith(kDay, {unused(runAt(kMorning)), unused(runAt(kEvening))})})[0],
-              "3/10/2024 [OnlinePass] light");
 }
 
 TEST(ResultTree, TheFirstEntryIsSelectedAndItsDetailsShown)

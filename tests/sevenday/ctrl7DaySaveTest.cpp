@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string_view>
 
 /// The click of the save button.
 namespace k7deval::test
@@ -28,13 +29,18 @@ const screen::MsgBoxRequest kFailedQuestion{
     "The 7-Day Drift Test has not been completed.\r\nAre you sure want to export the data?",
     "Failed Drift Test", screen::MsgBoxButtons::YesNo, screen::MsgBoxIcon::Exclamation};
 
+const std::string kFailed = "Error Deleting File:  ";
+
 screen::MsgBoxRequest failureBox(const std::string& failure)
 {
-    return {"Error Deleting File:  " + failure, "7-Day Drift", screen::MsgBoxButtons::OK,
-            screen::MsgBoxIcon::None};
+    return {kFailed + failure, "7-Day Drift", screen::MsgBoxButtons::OK, screen::MsgBoxIcon::None};
 }
 
 using Boxes = std::vector<screen::MsgBoxRequest>;
+
+const std::vector<MsgBoxAnswer> kYes = {MsgBoxAnswer::Yes};
+const std::vector<MsgBoxAnswer> kNo = {MsgBoxAnswer::No};
+const std::vector<MsgBoxAnswer> kYesNo = {MsgBoxAnswer::Yes, MsgBoxAnswer::No};
 
 /// The tool on its results page, and a folder to save in.
 struct SaveRig : ToolRig {
@@ -61,6 +67,12 @@ struct SaveRig : ToolRig {
     {
         failAt(*site, name);
         return *this;
+    }
+    /// Makes the row of 3 March fail.
+    void spoilRow()
+    {
+        test().dictCals->Item("2024/03/03 08:15")->InstrumentSpan =
+            std::numeric_limits<float>::infinity();
     }
     [[nodiscard]] std::string beginning(std::size_t length) const
     {
@@ -115,35 +127,111 @@ TEST(Save, CannotBePressedOnTheFirstPage)
     EXPECT_TRUE(rig.services.filters.empty());
 }
 
-TEST(Save, WritesTheReportAndOpensIt)
+/// The boxes that were shown: "delete?", "failed?", or the text of a failure box.
+std::string boxesOf(const FakeServices& services)
+{
+    std::string text;
+    for (const screen::MsgBoxRequest& box : services.boxes) {
+        const std::string shown = box == kDeleteQuestion   ? "delete?"
+                                  : box == kFailedQuestion ? "failed?"
+                                  : box == failureBox(box.prompt.substr(kFailed.size()))
+                                      ? box.prompt
+                                      : "another box";
+        text += (text.empty() ? "" : ", ") + shown;
+    }
+    return text;
+}
+
+/// A click and all that comes of it.
+struct SaveCase {
+    const char* what;
+    std::int32_t filterIndex;
+    int runs; ///< Passed ones; seven complete the test.
+    void (*prepare)(SaveRig& rig);
+    const char* posted;
+    const char* boxes;
+    std::string_view content; ///< The beginning of the file; empty for none.
+    bool isOpened;
+};
+
+constexpr std::string_view kReport = "%PDF-";
+constexpr std::string_view kExport = "<QualityAssuranceAndCert";
+constexpr std::string_view kNoFile;
+
+const SaveCase kSaves[] = {
+    {"a report", kPdf, 7, [](auto&) {}, "", "", kReport, true},
+    {"an export", kXml, 7, [](auto&) {}, "", "", kExport, true},
+    {"a report without the preview", kPdf, 7, [](auto& rig) { rig.tool.chkPreview.Press(); }, "",
+     "", kReport, false},
+    {"an export without the preview", kXml, 7, [](auto& rig) { rig.tool.chkPreview.Press(); }, "",
+     "", kExport, false},
+    {"a cancelled dialog", kPdf, 7, [](auto& rig) { rig.services.saveAnswer.reset(); }, "", "",
+     kNoFile, false},
+    {"a failing dialog", kPdf, 7,
+     [](auto& rig) { rig.services.saveError = Error(440, "no dialog"); },
+     "DEval-002: 440, no dialog", "", kNoFile, false},
+    {"a failing viewer", kPdf, 7,
+     [](auto& rig) { rig.services.openError = Error(errors::kFileNotFound); },
+     "DEval-002: 53, File not found", "", kReport, true},
+    // An existing file is deleted on Yes alone. A writer that fails behind that shows the box and
+    // no preview; one that fails without goes on to the preview.
+    {"a report over a file that stays", kPdf, 7, [](auto& rig) { rig.existing(kNo); }, "",
+     "delete?", "old", false},
+    {"an export over a file that stays", kXml, 7, [](auto& rig) { rig.existing(kNo); }, "",
+     "delete?", "old", false},
+    {"a failing report behind a deletion", kPdf, 7,
+     [](auto& rig) { rig.existing(kYes).failing("DIServer.LookupService"); },
+     "DEval-011: 440, the line is down", "delete?, Error Deleting File:  440:the line is down",
+     kNoFile, false},
+    {"a failing export behind a deletion", kXml, 7,
+     [](auto& rig) { rig.existing(kYes).setUp().txtORIS.SetText(""); },
+     "DEval-015: 13, Type mismatch", "delete?, Error Deleting File:  13:Type mismatch", kNoFile,
+     false},
+    {"a failing report without a deletion", kPdf, 7,
+     [](auto& rig) { rig.failing("DIServer.LookupService"); }, "DEval-011: 440, the line is down",
+     "", kNoFile, true},
+    {"a report with a failed row behind a deletion", kPdf, 7,
+     [](auto& rig) { rig.existing(kYes).spoilRow(); }, "DEval-013: 6, Overflow", "delete?", kReport,
+     true},
+    // A test that is not completed is reported without a question and exported on Yes alone. The
+    // file is asked about first, and is gone whatever the second answer.
+    {"the report of a failed test", kPdf, 6, [](auto&) {}, "", "", kReport, true},
+    {"the export of a failed test, yes", kXml, 6, [](auto& rig) { rig.services.answers = kYes; },
+     "", "failed?", kExport, true},
+    {"the export of a failed test, no", kXml, 6, [](auto& rig) { rig.services.answers = kNo; }, "",
+     "failed?", kNoFile, false},
+    {"the export of a failed test, OK", kXml, 6, [](auto& rig) { rig.services.answers.clear(); },
+     "", "failed?", kNoFile, false},
+    {"the export of a failed test over a file", kXml, 6, [](auto& rig) { rig.existing(kYesNo); },
+     "", "delete?, failed?", kNoFile, false},
+    {"the export of a failed test without an answer", kXml, 6,
+     [](auto& rig) { rig.services.msgBoxError = Error(440, "no box"); }, "DEval-002: 440, no box",
+     "failed?", kNoFile, false},
+};
+
+TEST(Save, WritesPostsAsksAndOpens)
+{
+    for (const SaveCase& row : kSaves) {
+        SCOPED_TRACE(row.what);
+        SaveRig rig(row.filterIndex, siteWithDailyCals(row.runs));
+        row.prepare(rig);
+        rig.save();
+        EXPECT_EQ(rig.messages->lines(), *row.posted == '\0' ? Lines() : Lines{row.posted});
+        EXPECT_EQ(boxesOf(rig.services), row.boxes);
+        EXPECT_EQ(rig.services.opened, row.isOpened ? Lines{rig.path} : Lines());
+        EXPECT_EQ(rig.folder.names().size(), row.content.empty() ? 0U : 1U);
+        const bool hasFile = !row.content.empty();
+        EXPECT_EQ(hasFile ? rig.beginning(row.content.size()) : "", row.content);
+    }
+}
+
+TEST(Save, AFailingDialogBeginsNoReport)
 {
     SaveRig rig;
+    rig.services.saveError = Error(440, "no dialog");
+    rig.site->calls.clear();
     rig.save();
-    EXPECT_EQ(rig.beginning(5), "%PDF-");
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.messages->lines(), Lines());
-}
-
-TEST(Save, WritesTheExportOfAPassedTestWithoutAQuestionAndOpensIt)
-{
-    SaveRig rig(kXml);
-    rig.save();
-    EXPECT_EQ(rig.beginning(24), "<QualityAssuranceAndCert");
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.messages->lines(), Lines());
-}
-
-TEST(Save, OpensNothingWithoutThePreview)
-{
-    for (const std::int32_t filterIndex : {kPdf, kXml}) {
-        SaveRig rig(filterIndex);
-        rig.tool.chkPreview.Press();
-        rig.save();
-        EXPECT_EQ(rig.folder.names().size(), 1U);
-        EXPECT_EQ(rig.services.opened, Lines());
-    }
+    EXPECT_EQ(rig.site->calls, Lines());
 }
 
 TEST(Save, LeavesTheScreenAsItIs)
@@ -151,29 +239,6 @@ TEST(Save, LeavesTheScreenAsItIs)
     SaveRig rig;
     rig.save();
     EXPECT_EQ(rig.changesBy([&] { rig.existing({MsgBoxAnswer::Yes}).save(); }), Lines());
-}
-
-TEST(Save, CancellingTheDialogPostsNothing)
-{
-    SaveRig rig;
-    rig.services.saveAnswer.reset();
-    rig.save();
-    EXPECT_EQ(rig.messages->lines(), Lines());
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.services.opened, Lines());
-    EXPECT_EQ(rig.folder.names(), Lines());
-}
-
-TEST(Save, AFailingDialogPostsItsLineAndNothingElseHappens)
-{
-    SaveRig rig;
-    rig.services.saveError = Error(440, "no dialog");
-    rig.site->calls.clear();
-    rig.save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-002: 440, no dialog"});
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.services.opened, Lines());
-    EXPECT_EQ(rig.site->calls, Lines()) << "no report was begun";
 }
 
 TEST(Save, WithoutAMessageSinkAFailingDialogIsSilent)
@@ -184,47 +249,6 @@ TEST(Save, WithoutAMessageSinkAFailingDialogIsSilent)
     rig.services.saveError = Error(440);
     EXPECT_NO_THROW(rig.save());
     EXPECT_EQ(rig.messages->lines(), Lines());
-}
-
-TEST(Save, AskedWhetherToDeleteNoLeavesTheFileAsItWas)
-{
-    for (const std::int32_t filterIndex : {kPdf, kXml}) {
-        SaveRig rig(filterIndex);
-        rig.existing({MsgBoxAnswer::No}).save();
-        EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
-        EXPECT_EQ(contentOf(rig.path), "old");
-        EXPECT_EQ(rig.services.opened, Lines());
-    }
-}
-
-TEST(Save, AReportThatFailsBehindADeletionShowsTheBoxAndNoPreview)
-{
-    SaveRig rig;
-    rig.existing({MsgBoxAnswer::Yes}).failing("DIServer.LookupService").save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-011: 440, the line is down"});
-    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("440:the line is down")}));
-    EXPECT_EQ(rig.services.opened, Lines());
-    EXPECT_EQ(rig.folder.names(), Lines());
-}
-
-TEST(Save, AnExportThatFailsBehindADeletionShowsTheBoxAndNoPreview)
-{
-    SaveRig rig(kXml);
-    rig.setUp().txtORIS.SetText("");
-    rig.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-015: 13, Type mismatch"});
-    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, failureBox("13:Type mismatch")}));
-    EXPECT_EQ(rig.services.opened, Lines());
-    EXPECT_EQ(rig.folder.names(), Lines());
-}
-
-TEST(Save, AReportThatFailsWithoutADeletionGoesOnToThePreview)
-{
-    SaveRig rig;
-    rig.failing("DIServer.LookupService").save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-011: 440, the line is down"});
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
 }
 
 TEST(Save, WritesTheReportThatAHostCanBuildToo)
@@ -253,26 +277,6 @@ TEST(Save, AFolderThatIsNotThereIsTheWritersFailure)
     }
 }
 
-TEST(Save, AFailedRowIsNoFailureOfTheReport)
-{
-    SaveRig rig;
-    rig.test().dictCals->Item("2024/03/03 08:15")->InstrumentSpan =
-        std::numeric_limits<float>::infinity();
-    rig.existing({MsgBoxAnswer::Yes}).save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-013: 6, Overflow"});
-    EXPECT_EQ(rig.services.boxes, Boxes{kDeleteQuestion});
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
-}
-
-TEST(Save, AFailingViewerPostsTheLineOfTheClick)
-{
-    SaveRig rig;
-    rig.services.openError = Error(errors::kFileNotFound);
-    rig.save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-002: 53, File not found"});
-    EXPECT_EQ(rig.services.boxes, Boxes());
-}
-
 TEST(SaveExport, HoldsTheRunsOfTheTestThatTheDisplayShows)
 {
     auto site = siteWithDailyCals(9);
@@ -291,29 +295,6 @@ TEST(SaveExport, HoldsTheRunsOfTheTestThatTheDisplayShows)
     EXPECT_NE(text.find("<TestResultCode>PASSED</TestResultCode>"), std::string::npos);
 }
 
-TEST(SaveExport, AsksAboutATestThatIsNotCompleted)
-{
-    SaveRig rig(kXml, siteWithDailyCals(6));
-    rig.services.answers = {MsgBoxAnswer::Yes};
-    rig.save();
-    EXPECT_EQ(rig.services.boxes, Boxes{kFailedQuestion});
-    EXPECT_EQ(rig.folder.names(), Lines{"7.xml"});
-    EXPECT_EQ(rig.services.opened, Lines{rig.path});
-}
-
-TEST(SaveExport, AnyAnswerButYesEndsTheClick)
-{
-    for (const MsgBoxAnswer answer : {MsgBoxAnswer::No, MsgBoxAnswer::OK}) {
-        SaveRig rig(kXml, siteWithDailyCals(6));
-        rig.services.answers = {answer};
-        rig.save();
-        EXPECT_EQ(rig.services.boxes, Boxes{kFailedQuestion});
-        EXPECT_EQ(rig.folder.names(), Lines());
-        EXPECT_EQ(rig.services.opened, Lines());
-        EXPECT_EQ(rig.messages->lines(), Lines());
-    }
-}
-
 TEST(SaveExport, AsksAboutATestPassedWithTheAllowedFailureToo)
 {
     SixOfSevenRig rig;
@@ -321,33 +302,6 @@ TEST(SaveExport, AsksAboutATestPassedWithTheAllowedFailureToo)
     rig.services.answers = {MsgBoxAnswer::No};
     rig.save();
     EXPECT_EQ(rig.services.boxes, Boxes{kFailedQuestion});
-}
-
-TEST(SaveExport, AsksAboutTheFileFirstAndThatFileIsGoneWhateverTheSecondAnswer)
-{
-    SaveRig rig(kXml, siteWithDailyCals(6));
-    rig.existing({MsgBoxAnswer::Yes, MsgBoxAnswer::No}).save();
-    EXPECT_EQ(rig.services.boxes, (Boxes{kDeleteQuestion, kFailedQuestion}));
-    EXPECT_EQ(rig.folder.names(), Lines());
-    EXPECT_EQ(rig.services.opened, Lines());
-    EXPECT_EQ(rig.messages->lines(), Lines());
-}
-
-TEST(SaveExport, TheReportOfATestThatIsNotCompletedIsWrittenWithoutAQuestion)
-{
-    SaveRig rig(kPdf, siteWithDailyCals(6));
-    rig.save();
-    EXPECT_EQ(rig.services.boxes, Boxes());
-    EXPECT_EQ(rig.beginning(5), "%PDF-");
-}
-
-TEST(SaveExport, AFailingQuestionPostsTheLineOfTheClickAndWritesNothing)
-{
-    SaveRig rig(kXml, siteWithDailyCals(6));
-    rig.services.msgBoxError = Error(440, "no box");
-    rig.save();
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-002: 440, no box"});
-    EXPECT_EQ(rig.folder.names(), Lines());
 }
 
 } // namespace k7deval::test

@@ -163,21 +163,36 @@ struct FailingSetup : SetUpRig {
 
 } // namespace
 
-TEST(SetUpFailure, AFailingCollectionLeavesAnEmptyList)
-{
-    const FailingSetup rig("DIServer.ParametersOfUnit");
-    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines());
-    EXPECT_EQ(rig.messages->posted,
-              (std::vector<std::pair<std::int32_t, std::string>>{{4, "DEval-018: " + kFailure}}));
-}
+/// The member whose call fails, how many calls of it pass before, and what stands on the page.
+struct FailingCallCase {
+    const char* call;
+    std::size_t passing;
+    Lines analyzers;
+    const char* orisCode;
+    bool isPicked; ///< The first analyzer, with its specification.
+    const char* line;
+};
 
-TEST(SetUpFailure, AFailingSecondParameterLeavesTheFirstInTheListAndNoneSelected)
+TEST(SetUpFailure, LeavesWhatStoodOnThePageBeforeIt)
 {
-    const FailingSetup rig("DIParameter.GetAttribute(-300)", 1);
-    EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
-    EXPECT_EQ(rig.page.cmbAnalyzer.ListIndex(), -1);
-    EXPECT_EQ(rig.page.txtORIS.Text(), "");
-    EXPECT_FALSE(rig.page.Is40CFR75());
+    const FailingCallCase rows[] = {
+        {"DIServer.ParametersOfUnit", 0, {}, "", false, "DEval-018: "},
+        {"DIParameter.GetAttribute(-300)", 1, {"NOX/H"}, "", false, "DEval-018: "},
+        {"DIParameter.GetAttribute(-97)", 0, {"NOX/H", "CO/H"}, "50292", false, "DEval-018: "},
+        {"DIParameters.Exists", 0, {"NOX/H", "CO/H"}, "50292", true, "DEval-019: "},
+    };
+    for (const FailingCallCase& row : rows) {
+        SCOPED_TRACE(row.call);
+        const FailingSetup rig(row.call, row.passing);
+        EXPECT_EQ(rig.page.cmbAnalyzer.List(), row.analyzers);
+        EXPECT_EQ(rig.page.cmbAnalyzer.ListIndex(), row.isPicked ? 0 : -1);
+        EXPECT_EQ(rig.page.txtORIS.Text(), row.orisCode);
+        EXPECT_EQ(rig.page.opt025Span.isSelected(), row.isPicked);
+        EXPECT_EQ(rig.page.chkUseAPS.isChecked(), row.isPicked);
+        EXPECT_FALSE(rig.page.Is40CFR75());
+        const std::vector<std::pair<std::int32_t, std::string>> posted = {{4, row.line + kFailure}};
+        EXPECT_EQ(rig.messages->posted, posted);
+    }
 }
 
 TEST(SetUpFailure, AListLeftPartlyFilledCanBePickedFrom)
@@ -197,24 +212,6 @@ TEST(SetUpFailure, AnAnalyzerWhosePIDFailsStandsInTheListWithoutAParameterBehind
     EXPECT_TRUE(rig.page.optOtherSpan.isSelected());
     EXPECT_EQ(errorOf([&] { return rig.page.AnalyzedPID(); }), 91);
     EXPECT_EQ(rig.messages->lines(), Lines{"DEval-018: " + kFailure});
-}
-
-TEST(SetUpFailure, FailingUnitFactsLeaveTheWholeListAndNoneSelected)
-{
-    const FailingSetup rig("DIParameter.GetAttribute(-97)");
-    EXPECT_EQ(rig.page.cmbAnalyzer.List(), (Lines{"NOX/H", "CO/H"}));
-    EXPECT_EQ(rig.page.cmbAnalyzer.ListIndex(), -1);
-    EXPECT_EQ(rig.page.txtORIS.Text(), "50292");
-    EXPECT_EQ(rig.page.txtStackID.Text(), "");
-}
-
-TEST(SetUpFailure, AFailingAnalyzerHasItsSpecificationAlready)
-{
-    const FailingSetup rig("DIParameters.Exists");
-    EXPECT_TRUE(rig.page.opt025Span.isSelected());
-    EXPECT_TRUE(rig.page.chkUseAPS.isChecked());
-    EXPECT_FALSE(rig.page.Is40CFR75());
-    EXPECT_EQ(rig.messages->lines(), Lines{"DEval-019: " + kFailure});
 }
 
 TEST(SetUpFailure, ANullInAUnitsFactsPostsTheUnitsLine)

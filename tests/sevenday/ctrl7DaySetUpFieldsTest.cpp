@@ -88,28 +88,19 @@ class SetUpLimitField : public ::testing::TestWithParam<LimitTextCase>
 {
 };
 
-TEST_P(SetUpLimitField, TakesANumberForTheSpanLimitOrReturnsToTheLastOne)
+TEST_P(SetUpLimitField, TakesANumberOrReturnsToTheLastOneAndLeavesTheOtherLimit)
 {
-    SetUpRig rig;
-    auto& page = rig.page;
-    page.optOtherSpan.Press();
-    SetUpRig::enter(page.txtOtherSpanValue, "8");
-    SetUpRig::enter(page.txtOtherSpanValue, GetParam().typed);
-    EXPECT_EQ(page.txtOtherSpanValue.Text(), GetParam().shown) << GetParam().what;
-    EXPECT_EQ(page.PercentOfSpanLimit(), GetParam().limit) << GetParam().what;
-    EXPECT_EQ(page.AbsoluteLimit(), 5) << "the other limit stays";
-}
-
-TEST_P(SetUpLimitField, TakesANumberForTheAbsoluteLimitOrReturnsToTheLastOne)
-{
-    SetUpRig rig;
-    auto& page = rig.page;
-    page.optOtherAbsolute.Press();
-    SetUpRig::enter(page.txtOtherAbsoluteValue, "8");
-    SetUpRig::enter(page.txtOtherAbsoluteValue, GetParam().typed);
-    EXPECT_EQ(page.txtOtherAbsoluteValue.Text(), GetParam().shown) << GetParam().what;
-    EXPECT_EQ(page.AbsoluteLimit(), GetParam().limit) << GetParam().what;
-    EXPECT_EQ(page.PercentOfSpanLimit(), 3) << "the other limit stays";
+    for (const bool ofSpan : {true, false}) {
+        SetUpRig rig;
+        auto& page = rig.page;
+        auto& field = ofSpan ? page.txtOtherSpanValue : page.txtOtherAbsoluteValue;
+        (ofSpan ? page.optOtherSpan : page.optOtherAbsolute).Press();
+        SetUpRig::enter(field, "8");
+        SetUpRig::enter(field, GetParam().typed);
+        EXPECT_EQ(field.Text(), GetParam().shown) << GetParam().what;
+        EXPECT_EQ(page.PercentOfSpanLimit(), ofSpan ? GetParam().limit : 3) << GetParam().what;
+        EXPECT_EQ(page.AbsoluteLimit(), ofSpan ? 5 : GetParam().limit) << GetParam().what;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, SetUpLimitField, ::testing::ValuesIn(kLimitTexts));

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 /// The test information of a parameter under 40 CFR 75.
 namespace k7deval::test
 {
@@ -37,45 +39,24 @@ TEST(SetUpTestInfo, AStackIDWithASemicolonBecomesAList)
     }
 }
 
-TEST(SetUpTestInfo, TheStackIDIsTheSelectedOrTypedStackOfTheList)
-{
-    SetUpRig rig;
-    auto& page = rig.setup().page;
-    page.SetStackID("CS1;CS2");
-    page.cmbStackID.Pick(1);
-    EXPECT_EQ(page.StackID(), "CS2");
-    page.cmbStackID.Type("MS9");
-    EXPECT_EQ(page.StackID(), "MS9");
-}
-
-TEST(SetUpTestInfo, ASingleStackBringsTheTextFieldBack)
-{
-    SetUpRig rig;
-    auto& page = rig.setup().page;
-    page.SetStackID("CS1;CS2");
-    page.SetStackID("CS3");
-    EXPECT_EQ(page.StackID(), "CS3");
-    EXPECT_TRUE(page.txtStackID.Visible());
-    EXPECT_FALSE(page.cmbStackID.Visible());
-}
-
-TEST(SetUpTestInfo, ANewListTakesThePlaceOfTheOld)
-{
-    SetUpRig rig;
-    auto& page = rig.setup().page;
-    page.SetStackID("CS1;CS2");
-    page.cmbStackID.Pick(1);
-    page.SetStackID("MS1;MS2;MS3");
-    EXPECT_EQ(page.cmbStackID.List(), (Lines{"MS1", "MS2", "MS3"}));
-    EXPECT_EQ(page.StackID(), "MS1");
-}
-
-TEST(SetUpTestInfo, TheTypedStackIsTheStackID)
+TEST(SetUpTestInfo, TheStackIDIsTheOneSelectedOrTypedLast)
 {
     SetUpRig rig;
     auto& page = rig.setup().page;
     page.txtStackID.Type("CS12345");
     EXPECT_EQ(page.StackID(), "CS1234");
+    page.SetStackID("CS1;CS2");
+    page.cmbStackID.Pick(1);
+    EXPECT_EQ(page.StackID(), "CS2");
+    page.cmbStackID.Type("MS9");
+    EXPECT_EQ(page.StackID(), "MS9");
+    page.SetStackID("MS1;MS2;MS3");
+    EXPECT_EQ(page.cmbStackID.List(), (Lines{"MS1", "MS2", "MS3"})) << "a new list";
+    EXPECT_EQ(page.StackID(), "MS1");
+    page.SetStackID("CS3");
+    EXPECT_EQ(page.StackID(), "CS3");
+    EXPECT_TRUE(page.txtStackID.Visible()) << "a single stack";
+    EXPECT_FALSE(page.cmbStackID.Visible());
 }
 
 struct ReasonCase {
@@ -99,19 +80,13 @@ TEST(SetUpTestInfo, RecertificationAndDiagnosticGoOutCrossed)
     }
 }
 
-TEST(SetUpTestInfo, AnyOtherReasonIsAnInitialCertification)
+TEST(SetUpTestInfo, AnotherReasonIsAnInitialCertificationAndATypedOneAnError)
 {
     SetUpRig rig;
     auto& page = rig.setup().page;
     page.cmbTestReason.addItem("Quality Assurance", 4);
     page.cmbTestReason.Pick(3);
     EXPECT_EQ(page.TestReason(), "INITIAL");
-}
-
-TEST(SetUpTestInfo, ATypedReasonIsNoEntryAndAnError)
-{
-    SetUpRig rig;
-    auto& page = rig.setup().page;
     page.cmbTestReason.Type("Diagnostic");
     EXPECT_EQ(errorOf([&] { return page.TestReason(); }), 381);
 }
@@ -139,18 +114,10 @@ TEST(SetUpTestInfo, TheOrisCodeIsTheNumberOfItsField)
     EXPECT_EQ(page.OrisCode(), 54);
     page.txtORIS.Type("00123");
     EXPECT_EQ(page.OrisCode(), 123);
-}
-
-TEST(SetUpTestInfo, AnOrisCodeThatIsNoNumberIsAnError)
-{
-    SetUpRig rig;
-    auto& page = rig.setup().page;
-    page.txtORIS.SetText("");
-    EXPECT_EQ(errorOf([&] { return page.OrisCode(); }), 13);
-    page.txtORIS.SetText("GT3");
-    EXPECT_EQ(errorOf([&] { return page.OrisCode(); }), 13);
-    page.txtORIS.SetText("9999999999");
-    EXPECT_EQ(errorOf([&] { return page.OrisCode(); }), 6);
+    for (const auto& [text, error] : {std::pair("", 13), {"GT3", 13}, {"9999999999", 6}}) {
+        page.txtORIS.SetText(text);
+        EXPECT_EQ(errorOf([&] { return page.OrisCode(); }), error) << text;
+    }
 }
 
 TEST(SetUpTestInfo, TheFlagShowsAndHidesTheFrame)

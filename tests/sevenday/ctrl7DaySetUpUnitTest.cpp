@@ -70,13 +70,40 @@ TEST(SetUpUnit, TheScaleIsAppendedToTheNameOfTheAnalyzer)
     }
 }
 
-TEST(SetUpUnit, ListsTheCalibrationParametersOfTheUnitInTheirOrder)
+struct ListingCase {
+    const char* what;
+    std::vector<AnalyzerFacts> analyzers;
+    Lines listed;
+};
+
+TEST(SetUpUnit, ListsItsNamedCalibrationParametersInTheirOrder)
 {
+    const AnalyzerFacts nox = analyzer("NOX", kHigh);
     AnalyzerFacts ofOtherUnit = analyzer("SO2", kHigh);
     ofOtherUnit.unit = 2;
-    EXPECT_EQ(listOf({analyzer("O2", kHigh), ofOtherUnit, analyzer("CO", kHigh, 2),
-                      analyzer("NOX", std::string("SINGLE"), 3)}),
-              (Lines{"O2/H", "CO/H", "NOX"}));
+    AnalyzerFacts otherTable = analyzer("CO", kHigh, 2);
+    otherTable.table = std::string("K7CALX");
+    AnalyzerFacts noTable = analyzer("SO2", kHigh, 3);
+    noTable.table = Null{};
+    AnalyzerFacts leftOut = analyzer("CO", kHigh, 2);
+    leftOut.leftOut = true;
+    AnalyzerFacts notConfigured = analyzer("SO2", kHigh, 3);
+    notConfigured.leftOut = Null{};
+    const Variant single = std::string("SINGLE");
+    const ListingCase rows[] = {
+        {"in their order, of the unit alone",
+         {analyzer("O2", kHigh), ofOtherUnit, analyzer("CO", kHigh, 2), analyzer("NOX", single, 3)},
+         {"O2/H", "CO/H", "NOX"}},
+        {"without what is no calibration", {otherTable, noTable, nox}, {"NOX/H"}},
+        {"without what is marked so", {leftOut, notConfigured, nox}, {"SO2/H", "NOX/H"}},
+        {"without a name it is passed over",
+         {analyzer("", single), analyzer("NOX", kHigh, 2)},
+         {"NOX/H"}},
+        {"a scale alone is a name", {analyzer("", kHigh)}, {"/H"}},
+        {"names differ by case", {nox, analyzer("NOx", kHigh, 2)}, {"NOX/H", "NOx/H"}},
+    };
+    for (const ListingCase& row : rows)
+        EXPECT_EQ(listOf(row.analyzers), row.listed) << row.what;
 }
 
 TEST(SetUpUnit, AsksForTheParametersOfTypeThreeOnly)
@@ -90,41 +117,6 @@ TEST(SetUpUnit, AsksForTheParametersOfTypeThreeOnly)
     SetUpRig rig(site);
     rig.setup();
     EXPECT_EQ(rig.page.cmbAnalyzer.List(), Lines{"NOX/H"});
-}
-
-TEST(SetUpUnit, LeavesOutWhatIsNoCalibration)
-{
-    AnalyzerFacts other = analyzer("CO", kHigh, 2);
-    AnalyzerFacts unconfigured = analyzer("SO2", kHigh, 3);
-    other.table = std::string("K7CALX");
-    unconfigured.table = Null{};
-    EXPECT_EQ(listOf({other, unconfigured, analyzer("NOX", kHigh)}), Lines{"NOX/H"});
-}
-
-TEST(SetUpUnit, LeavesOutWhatIsMarkedSoAndListsWhatIsNotConfigured)
-{
-    AnalyzerFacts leftOut = analyzer("CO", kHigh, 2);
-    AnalyzerFacts unconfigured = analyzer("SO2", kHigh, 3);
-    leftOut.leftOut = true;
-    unconfigured.leftOut = Null{};
-    EXPECT_EQ(listOf({leftOut, unconfigured, analyzer("NOX", kHigh)}), (Lines{"SO2/H", "NOX/H"}));
-}
-
-TEST(SetUpUnit, PassesOverAnAnalyzerWithoutAName)
-{
-    EXPECT_EQ(listOf({analyzer("", std::string("SINGLE")), analyzer("NOX", kHigh, 2)}),
-              Lines{"NOX/H"});
-}
-
-TEST(SetUpUnit, AScaleAloneIsAName)
-{
-    EXPECT_EQ(listOf({analyzer("", kHigh)}), Lines{"/H"});
-}
-
-TEST(SetUpUnit, TellsNamesApartByCase)
-{
-    EXPECT_EQ(listOf({analyzer("NOX", kHigh), analyzer("NOx", kHigh, 2)}),
-              (Lines{"NOX/H", "NOx/H"}));
 }
 
 TEST(SetUpUnit, OfTwoOfOneNameTheLaterOneWithAComponentReplacesTheFirst)
@@ -158,18 +150,13 @@ TEST(SetUpUnit, TheLaterOneReplacesTheAnalyzerListedLastAndNotItsNamesake)
     EXPECT_EQ(measuredPIDOfEntry(rig, 1), secondNox.measuredPID());
 }
 
-TEST(SetUpUnit, WithAnAnalyzerTheUnitsFactsAreTaken)
+TEST(SetUpUnit, WithAnAnalyzerTheUnitsFactsAreTakenWithoutTrailingBlanks)
 {
     SetUpRig rig;
     rig.setup();
     EXPECT_EQ(rig.page.txtORIS.Text(), "50292");
     EXPECT_EQ(rig.page.StackID(), "GT3");
     EXPECT_TRUE(rig.page.txtStackID.Visible());
-}
-
-TEST(SetUpUnit, OnlyTrailingBlanksOfTheIdentifierGo)
-{
-    SetUpRig rig;
     rig.site->parameter(kGT3).attributes[attribute::kUnitIdentifier] = std::string(" CS 1  ");
     rig.setup();
     EXPECT_EQ(rig.page.StackID(), " CS 1");

@@ -1,10 +1,9 @@
 #include "foundation/FileFunctions.h"
 
 #include "foundation/ExpectError.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 namespace k7deval
 {
@@ -14,36 +13,15 @@ namespace
 
 namespace fs = std::filesystem;
 
-// A folder of its own for each case, gone afterwards.
-class FileFunctions : public testing::Test
-{
-protected:
-    FileFunctions()
-    {
-        const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::path(testing::TempDir()) / (std::string("k7deval-") + info->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-    }
+struct FileFunctions : testing::Test {
+    test::TemporaryFolder folder;
 
-    ~FileFunctions() override { fs::remove_all(folder_); }
-
-    FileFunctions(const FileFunctions&) = delete;
-    FileFunctions& operator=(const FileFunctions&) = delete;
-
-    [[nodiscard]] std::string pathOf(const std::string& name) const
-    {
-        return (folder_ / filePath(name)).string();
-    }
-
+    /// A file of this name, written.
     [[nodiscard]] std::string fileNamed(const std::string& name) const
     {
-        std::ofstream(folder_ / filePath(name)) << "drift";
-        return pathOf(name);
+        test::writeFile(folder.file(name), "drift");
+        return folder.file(name);
     }
-
-private:
-    fs::path folder_;
 };
 
 } // namespace
@@ -51,13 +29,13 @@ private:
 TEST_F(FileFunctions, AFileOfThatNameExists)
 {
     EXPECT_TRUE(fileExists(fileNamed("Übersicht.pdf")));
-    EXPECT_FALSE(fileExists(pathOf("other.pdf")));
+    EXPECT_FALSE(fileExists(folder.file("other.pdf")));
 }
 
 TEST_F(FileFunctions, AFolderIsNoFile)
 {
-    fs::create_directory(filePath(pathOf("reports")));
-    EXPECT_FALSE(fileExists(pathOf("reports")));
+    fs::create_directory(filePath(folder.file("reports")));
+    EXPECT_FALSE(fileExists(folder.file("reports")));
 }
 
 TEST_F(FileFunctions, ADeletedFileIsGone)
@@ -69,7 +47,8 @@ TEST_F(FileFunctions, ADeletedFileIsGone)
 
 TEST_F(FileFunctions, AFileThatIsNotThereCannotBeDeleted)
 {
-    EXPECT_EQ(errorOf([&] { return deleteFile(pathOf("absent.pdf")), 0; }), errors::kFileNotFound);
+    EXPECT_EQ(errorOf([&] { return deleteFile(folder.file("absent.pdf")), 0; }),
+              errors::kFileNotFound);
 }
 
 TEST_F(FileFunctions, AWriteProtectedFileStays)

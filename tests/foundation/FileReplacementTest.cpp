@@ -26,6 +26,10 @@ using test::writeFile;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+struct ReplaceFile : testing::Test {
+    const TemporaryFolder folder;
+};
+
 int failureOf(const std::string& path, std::string_view content = "new")
 {
     try {
@@ -37,26 +41,23 @@ int failureOf(const std::string& path, std::string_view content = "new")
     return 0;
 }
 
-TEST(ReplaceFile, WritesANewFileAndNothingElse)
+TEST_F(ReplaceFile, WritesANewFileAndNothingElse)
 {
-    const TemporaryFolder folder;
     replaceFile(folder.file("report.pdf"), std::string("a\0b\r\nc", 6));
     EXPECT_EQ(contentOf(folder.file("report.pdf")), std::string("a\0b\r\nc", 6));
     EXPECT_THAT(folder.names(), ElementsAre("report.pdf"));
 }
 
-TEST(ReplaceFile, TakesThePlaceOfALongerFile)
+TEST_F(ReplaceFile, TakesThePlaceOfALongerFile)
 {
-    const TemporaryFolder folder;
     writeFile(folder.file("report.pdf"), "a much longer text that was there");
     replaceFile(folder.file("report.pdf"), "new");
     EXPECT_EQ(contentOf(folder.file("report.pdf")), "new");
     EXPECT_THAT(folder.names(), ElementsAre("report.pdf"));
 }
 
-TEST(ReplaceFile, TakesAUtf8NameAndOneAsLongAsANameCanBe)
+TEST_F(ReplaceFile, TakesAUtf8NameAndOneAsLongAsANameCanBe)
 {
-    const TemporaryFolder folder;
     const std::string greek = "\u0391\u03BD\u03B1\u03C6\u03BF\u03C1\u03AC.pdf";
     const std::string longest(255, 'x');
     replaceFile(folder.file(greek), "new");
@@ -64,9 +65,8 @@ TEST(ReplaceFile, TakesAUtf8NameAndOneAsLongAsANameCanBe)
     EXPECT_THAT(folder.names(), ElementsAre(longest, greek));
 }
 
-TEST(ReplaceFile, TakesABareNameInTheCurrentFolder)
+TEST_F(ReplaceFile, TakesABareNameInTheCurrentFolder)
 {
-    const TemporaryFolder folder;
     const fs::path before = fs::current_path();
     fs::current_path(folder.path());
     replaceFile("report.pdf", "new");
@@ -74,9 +74,8 @@ TEST(ReplaceFile, TakesABareNameInTheCurrentFolder)
     EXPECT_EQ(contentOf(folder.file("report.pdf")), "new");
 }
 
-TEST(ReplaceFile, ReplacesTheFileBehindALinkAndKeepsTheLink)
+TEST_F(ReplaceFile, ReplacesTheFileBehindALinkAndKeepsTheLink)
 {
-    const TemporaryFolder folder;
     fs::create_directory(folder.path() / "archive");
     writeFile(folder.file("archive/report.pdf"), "old");
     fs::create_symlink("archive/report.pdf", folder.path() / "latest.pdf");
@@ -85,44 +84,39 @@ TEST(ReplaceFile, ReplacesTheFileBehindALinkAndKeepsTheLink)
     EXPECT_EQ(contentOf(folder.file("archive/report.pdf")), "new");
 }
 
-TEST(ReplaceFile, RefusesAFolderThatDoesNotExist)
+TEST_F(ReplaceFile, RefusesAFolderThatDoesNotExist)
 {
-    const TemporaryFolder folder;
     EXPECT_EQ(failureOf(folder.file("missing/report.pdf")), errors::kPathNotFound);
     EXPECT_EQ(failureOf(folder.file("missing/")), errors::kPathNotFound);
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST(ReplaceFile, RefusesAFileInThePlaceOfAFolder)
+TEST_F(ReplaceFile, RefusesAFileInThePlaceOfAFolder)
 {
-    const TemporaryFolder folder;
     writeFile(folder.file("plant"), "old");
     EXPECT_EQ(failureOf(folder.file("plant/report.pdf")), errors::kPathNotFound);
     EXPECT_EQ(contentOf(folder.file("plant")), "old");
 }
 
-TEST(ReplaceFile, RefusesToReplaceAFolder)
+TEST_F(ReplaceFile, RefusesToReplaceAFolder)
 {
-    const TemporaryFolder folder;
     fs::create_directory(folder.path() / "report.pdf");
     EXPECT_EQ(failureOf(folder.file("report.pdf")), errors::kPathAccess);
     EXPECT_EQ(failureOf(folder.file("report.pdf/")), errors::kPathAccess);
     EXPECT_THAT(folder.names(), ElementsAre("report.pdf"));
 }
 
-TEST(ReplaceFile, RefusesToReplaceWhatIsNoOrdinaryFile)
+TEST_F(ReplaceFile, RefusesToReplaceWhatIsNoOrdinaryFile)
 {
-    const TemporaryFolder folder;
     const std::string pipe = folder.file("pipe");
     ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
     EXPECT_EQ(failureOf(pipe), errors::kPathAccess);
     EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-TEST(ReplaceFile, RefusesANameThatIsNone)
+TEST_F(ReplaceFile, RefusesANameThatIsNone)
 {
     EXPECT_EQ(failureOf(""), errors::kPathAccess);
-    const TemporaryFolder folder;
     EXPECT_EQ(failureOf(folder.file("a") + std::string("\0b", 2)), errors::kPathAccess);
     EXPECT_EQ(failureOf(folder.file(std::string(256, 'x'))), errors::kPathAccess);
     EXPECT_THAT(folder.names(), IsEmpty());
@@ -137,11 +131,10 @@ std::string forbiddenFolder(const TemporaryFolder& folder)
     return folder.path().string();
 }
 
-TEST(ReplaceFile, TellsAFolderThatItMayNotWriteInto)
+TEST_F(ReplaceFile, TellsAFolderThatItMayNotWriteInto)
 {
     if (geteuid() == 0 && !fs::exists("/sys/kernel"))
         GTEST_SKIP() << "nothing here that the administrator may not write into";
-    const TemporaryFolder folder;
     EXPECT_EQ(failureOf(forbiddenFolder(folder) + "/report.pdf"), errors::kPermissionDenied);
     fs::permissions(folder.path(), fs::perms::owner_all);
 }
@@ -157,9 +150,8 @@ TEST(ReplaceFile, TellsAFolderThatItMayNotWriteInto)
     std::exit(failureOf(path, std::string(100000, 'x')));
 }
 
-TEST(ReplaceFile, KeepsTheOldFileWhenThereIsNoRoomForTheNewOne)
+TEST_F(ReplaceFile, KeepsTheOldFileWhenThereIsNoRoomForTheNewOne)
 {
-    const TemporaryFolder folder;
     writeFile(folder.file("report.pdf"), "old");
     EXPECT_EXIT(replaceWithoutRoom(folder.file("report.pdf")),
                 ::testing::ExitedWithCode(errors::kDiskFull), "");

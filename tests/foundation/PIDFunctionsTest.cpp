@@ -34,6 +34,69 @@ const Variant kInUse[] = {std::int32_t{100000},
                           std::string("5-001-0-00-00"),
                           std::string("12-345-7-78-90")};
 
+struct PIDTextCase {
+    const char* text;
+    PID pid; ///< 0 for none.
+};
+
+constexpr PIDTextCase kTexts[] = {
+    // Whatever separates the fields.
+    {"5-001-0-75-01", 500107501},
+    {"500107501", 500107501},
+    {"5 / 001 . 0 _ 75 : 01 ;", 500107501},
+    {"5·001·0·75·01", 500107501},
+    {"5-1-0-0-1", 500100001},
+    {"Stack 5-001-0-75-01", 500107501},
+    // A missing unit is unit zero, also behind a separator ahead of the parameter code.
+    {"123-4-56-78", 12345678},
+    {"-12-4-56-78", 1245678},
+    {"·12-4-56-78", 1245678},
+    // Too few fields.
+    {"", 0},
+    {"-", 0},
+    {"78", 0},
+    {"4-56-78", 0},
+    {"NOx-4-56-78", 0},
+    // A unit that cannot be read, and one too large.
+    {"U-123-4-56-78", 0},
+    {"20-123-4-56-78", 0},
+};
+
+constexpr PIDTextCase kLabels[] = {
+    {"[5-001-0-75-01] Stack NOx [ppm]", 500107501},
+    {"  [  5-001-0-75-01  ]  ", 500107501},
+    // An at sign opens the bracket.
+    {"[@5-001-0-75-01]", 0},
+    {"[ @5-001-0-75-01]", 0},
+    // A bracket is missing, or does not come first, or holds nothing.
+    {"[5-001-0-75-01", 0},
+    {"5-001-0-75-01]", 0},
+    {"NOx [5-001-0-75-01]", 0},
+    {"[]", 0},
+    {"", 0},
+};
+
+struct FieldCase {
+    const char* what;
+    const char* text;
+    int mostDigits;
+    std::int32_t field; ///< -1 for none.
+    const char* rest;
+};
+
+constexpr FieldCase kFields[] = {
+    {"the most digits, and the separator is left", "123-4-56-78", 2, 78, "123-4-56-"},
+    {"a separator ahead of the field is skipped", "123-4-56-", 2, 56, "123-4-"},
+    {"the separator behind a shorter field is consumed", "123-4", 2, 4, "123"},
+    {"it ends with the text", "07", 3, 7, ""},
+    {"no digit", "abc", 2, -1, ""},
+    {"no text", "", 2, -1, ""},
+    {"the largest of its type", "2147483647", 20, 2147483647, ""},
+    {"one too large for its type", "2147483648", 20, -1, ""},
+    {"far too large for its type", "10000000000000000000000000", 30, -1, ""},
+    {"many digits of a small one", "00000000000000000000000012", 30, 12, ""},
+};
+
 constexpr int kDigitsInUse[] = {0, 1, 2, 3, 4, 5, 7, 8};
 
 } // namespace
@@ -120,104 +183,25 @@ TEST(PIDToText, APIDThatIsNotValidHasNoText)
     EXPECT_EQ(PIDToText(-500100000), "");
 }
 
-TEST(TextToPID, AMissingUnitIsUnitZero)
+TEST(TextToPID, ReadsTheFieldsFromTheRight)
 {
-    EXPECT_EQ(TextToPID("123-4-56-78", false), 12345678);
-}
-
-TEST(TextToPID, ReadsTheFieldsWhateverSeparatesThem)
-{
-    EXPECT_EQ(TextToPID("5-001-0-75-01", false), 500107501);
-    EXPECT_EQ(TextToPID("500107501", false), 500107501);
-    EXPECT_EQ(TextToPID("5 / 001 . 0 _ 75 : 01 ;", false), 500107501);
-    EXPECT_EQ(TextToPID("5·001·0·75·01", false), 500107501);
-    EXPECT_EQ(TextToPID("5-1-0-0-1", false), 500100001);
-    EXPECT_EQ(TextToPID("Stack 5-001-0-75-01", false), 500107501);
-}
-
-TEST(TextToPID, ASeparatorAheadOfTheParameterCodeLeavesNoUnit)
-{
-    EXPECT_EQ(TextToPID("-12-4-56-78", false), 1245678);
-    EXPECT_EQ(TextToPID("·12-4-56-78", false), 1245678);
-}
-
-TEST(TextToPID, ATextWithTooFewFieldsHoldsNoPID)
-{
-    EXPECT_EQ(TextToPID("", false), 0);
-    EXPECT_EQ(TextToPID("-", false), 0);
-    EXPECT_EQ(TextToPID("78", false), 0);
-    EXPECT_EQ(TextToPID("4-56-78", false), 0);
-    EXPECT_EQ(TextToPID("NOx-4-56-78", false), 0);
-}
-
-TEST(TextToPID, AUnitThatCannotBeReadGivesNoPID)
-{
-    EXPECT_EQ(TextToPID("U-123-4-56-78", false), 0);
-    EXPECT_EQ(TextToPID("20-123-4-56-78", false), 0);
+    for (const PIDTextCase& row : kTexts)
+        EXPECT_EQ(TextToPID(row.text, false), row.pid) << row.text;
 }
 
 TEST(TextToPID, ReadsTheBracketsThatOpenALabel)
 {
-    EXPECT_EQ(TextToPID("[5-001-0-75-01] Stack NOx [ppm]", true), 500107501);
-    EXPECT_EQ(TextToPID("  [  5-001-0-75-01  ]  ", true), 500107501);
+    for (const PIDTextCase& row : kLabels)
+        EXPECT_EQ(TextToPID(row.text, true), row.pid) << row.text;
 }
 
-TEST(TextToPID, ALabelWhoseBracketStartsWithAnAtSignHoldsNoPID)
+TEST(TakeFieldFromRight, TakesTheDigitsAndWhatEndsThem)
 {
-    EXPECT_EQ(TextToPID("[@5-001-0-75-01]", true), 0);
-    EXPECT_EQ(TextToPID("[ @5-001-0-75-01]", true), 0);
-}
-
-TEST(TextToPID, ALabelWithoutABracketAtEitherEndHoldsNoPID)
-{
-    EXPECT_EQ(TextToPID("[5-001-0-75-01", true), 0);
-    EXPECT_EQ(TextToPID("5-001-0-75-01]", true), 0);
-    EXPECT_EQ(TextToPID("NOx [5-001-0-75-01]", true), 0);
-    EXPECT_EQ(TextToPID("[]", true), 0);
-    EXPECT_EQ(TextToPID("", true), 0);
-}
-
-TEST(TakeFieldFromRight, StopsAtTheMostDigitsAndLeavesTheSeparator)
-{
-    const auto taken = TakeFieldFromRight("123-4-56-78", 2);
-    EXPECT_EQ(taken.field, 78);
-    EXPECT_EQ(taken.rest, "123-4-56-");
-}
-
-TEST(TakeFieldFromRight, SkipsASeparatorAheadOfTheField)
-{
-    const auto taken = TakeFieldFromRight("123-4-56-", 2);
-    EXPECT_EQ(taken.field, 56);
-    EXPECT_EQ(taken.rest, "123-4-");
-}
-
-TEST(TakeFieldFromRight, ConsumesTheSeparatorBehindAShorterField)
-{
-    const auto taken = TakeFieldFromRight("123-4", 2);
-    EXPECT_EQ(taken.field, 4);
-    EXPECT_EQ(taken.rest, "123");
-}
-
-TEST(TakeFieldFromRight, EndsWithTheText)
-{
-    const auto taken = TakeFieldFromRight("07", 3);
-    EXPECT_EQ(taken.field, 7);
-    EXPECT_EQ(taken.rest, "");
-}
-
-TEST(TakeFieldFromRight, ATextWithoutADigitHasNoField)
-{
-    EXPECT_EQ(TakeFieldFromRight("abc", 2).field, -1);
-    EXPECT_EQ(TakeFieldFromRight("abc", 2).rest, "");
-    EXPECT_EQ(TakeFieldFromRight("", 2).field, -1);
-}
-
-TEST(TakeFieldFromRight, AFieldTooLargeForItsTypeIsNone)
-{
-    EXPECT_EQ(TakeFieldFromRight("2147483647", 20).field, 2147483647);
-    EXPECT_EQ(TakeFieldFromRight("2147483648", 20).field, -1);
-    EXPECT_EQ(TakeFieldFromRight("10000000000000000000000000", 30).field, -1);
-    EXPECT_EQ(TakeFieldFromRight("00000000000000000000000012", 30).field, 12);
+    for (const FieldCase& row : kFields) {
+        const auto taken = TakeFieldFromRight(row.text, row.mostDigits);
+        EXPECT_EQ(taken.field, row.field) << row.what;
+        EXPECT_EQ(taken.rest, row.rest) << row.what;
+    }
 }
 
 TEST(UnitPID, IsTheSameFromTheUnitAndFromAnyPIDOfIt)

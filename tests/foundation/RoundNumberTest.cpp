@@ -20,43 +20,78 @@ Currency amount(double value)
     return Currency{static_cast<std::int64_t>(std::llround(value * 10000))};
 }
 
+struct RoundCase {
+    Variant value;
+    int digits;
+    Variant rounded;
+};
+
+Variant integer(std::int32_t value)
+{
+    return value;
+}
+
+const RoundCase kRounded[] = {
+    // Halves go away from zero.
+    {2.5, 0, 3.0},
+    {-2.5, 0, -3.0},
+    {2.5F, 0, 3.0F},
+    {-2.5F, 0, -3.0F},
+    {2.49, 0, 2.0},
+    {3.5, 0, 4.0},
+    // As a single, 0.35 x 10 is 3.5, although 0.35 lies below it in binary.
+    {0.35F, 1, 0.4F},
+    // As a double, 1.15 - 1 lies below 0.15.
+    {1.15, 1, 1.1},
+    {0.15, 1, 0.2},
+    // Decimal places are rounded in the fraction.
+    {12.3456, 2, 12.35},
+    {-12.3456, 2, -12.35},
+    {0.996F, 2, 1.0F},
+    {7.0, 9, 7.0},
+    // Negative digits round ahead of the mark; only the whole part counts, so 4.9 is no five.
+    {1250.0, -2, 1300.0},
+    {1249.9, -2, 1200.0},
+    {-1250.0F, -2, -1300.0F},
+    {49.9, -2, 0.0},
+    {4.9, -1, 0.0},
+    // An integer stands unchanged unless digits are negative.
+    {integer(-12345), 0, integer(-12345)},
+    {integer(12345), 3, integer(12345)},
+    {std::int16_t{-32768}, 0, std::int16_t{-32768}},
+    {integer(12345), -1, integer(12350)},
+    {integer(12344), -1, integer(12340)},
+    {integer(-12345), -1, integer(-12350)},
+    {integer(12345), -3, integer(12000)},
+    {std::int16_t{-150}, -2, std::int16_t{-200}},
+    {std::uint8_t{44}, -1, std::uint8_t{40}},
+    {integer(4), -1, integer(0)},
+    {integer(9), -1, integer(10)},
+    // True counts as -1.
+    {true, 0, true},
+    {false, 0, false},
+    {true, 2, true},
+    {true, -1, false},
+    // An amount has four places, and ahead of the mark its whole part alone counts.
+    {amount(1.15), 1, amount(1.2)},
+    {amount(-1.15), 1, amount(-1.2)},
+    {amount(1.2345), 4, amount(1.2345)},
+    {amount(1.2345), 9, amount(1.2345)},
+    {amount(1.2345), 3, amount(1.235)},
+    {amount(2.5), 0, amount(3)},
+    {amount(1250), -2, amount(1300)},
+    {amount(49999), -5, amount(0)},
+    {amount(4.9999), -1, amount(0)},
+    {amount(5), -1, amount(10)},
+};
+
 } // namespace
 
-TEST(RoundNumber, HalvesGoAwayFromZero)
+TEST(RoundNumber, IsWorkedOutInTheValuesOwnType)
 {
-    EXPECT_EQ(RoundNumber(2.5, 0), Variant(3.0));
-    EXPECT_EQ(RoundNumber(-2.5, 0), Variant(-3.0));
-    EXPECT_EQ(RoundNumber(2.5F, 0), Variant(3.0F));
-    EXPECT_EQ(RoundNumber(-2.5F, 0), Variant(-3.0F));
-    EXPECT_EQ(RoundNumber(2.49, 0), Variant(2.0));
-    EXPECT_EQ(RoundNumber(3.5, 0), Variant(4.0));
-}
-
-TEST(RoundNumber, EachStepIsInTheValuesOwnType)
-{
-    // As a single, 0.35 x 10 is 3.5, although 0.35 lies below it in binary.
-    EXPECT_EQ(RoundNumber(0.35F, 1), Variant(0.4F));
-    // As a double, 1.15 - 1 lies below 0.15.
-    EXPECT_EQ(RoundNumber(1.15, 1), Variant(1.1));
-    EXPECT_EQ(RoundNumber(0.15, 1), Variant(0.2));
-}
-
-TEST(RoundNumber, DecimalPlacesAreRoundedInTheFraction)
-{
-    EXPECT_EQ(RoundNumber(12.3456, 2), Variant(12.35));
-    EXPECT_EQ(RoundNumber(-12.3456, 2), Variant(-12.35));
-    EXPECT_EQ(RoundNumber(0.996F, 2), Variant(1.0F));
-    EXPECT_EQ(RoundNumber(7.0, 9), Variant(7.0));
-}
-
-TEST(RoundNumber, NegativeDigitsRoundAheadOfTheMark)
-{
-    EXPECT_EQ(RoundNumber(1250.0, -2), Variant(1300.0));
-    EXPECT_EQ(RoundNumber(1249.9, -2), Variant(1200.0));
-    EXPECT_EQ(RoundNumber(-1250.0F, -2), Variant(-1300.0F));
-    EXPECT_EQ(RoundNumber(49.9, -2), Variant(0.0));
-    // Only the whole part counts, so 4.9 is no five.
-    EXPECT_EQ(RoundNumber(4.9, -1), Variant(0.0));
+    for (const RoundCase& row : kRounded)
+        EXPECT_EQ(RoundNumber(row.value, row.digits), row.rounded)
+            << toText(row.value, RegionalSettings()) << " to " << row.digits;
 }
 
 TEST(RoundNumber, DigitsAreCutToNineOnEitherSide)
@@ -64,25 +99,6 @@ TEST(RoundNumber, DigitsAreCutToNineOnEitherSide)
     EXPECT_EQ(RoundNumber(0.1234567894, 12), RoundNumber(0.1234567894, 9));
     EXPECT_EQ(RoundNumber(1234567890123.0, -12), RoundNumber(1234567890123.0, -9));
     EXPECT_EQ(RoundNumber(std::int32_t{1500000000}, -20), Variant(std::int32_t{2000000000}));
-}
-
-TEST(RoundNumber, AnIntegerStandsUnchangedUnlessDigitsAreNegative)
-{
-    EXPECT_EQ(RoundNumber(std::int32_t{-12345}, 0), Variant(std::int32_t{-12345}));
-    EXPECT_EQ(RoundNumber(std::int32_t{12345}, 3), Variant(std::int32_t{12345}));
-    EXPECT_EQ(RoundNumber(std::int16_t{-32768}, 0), Variant(std::int16_t{-32768}));
-}
-
-TEST(RoundNumber, AnIntegerIsRoundedAtTheDigitAskedFor)
-{
-    EXPECT_EQ(RoundNumber(std::int32_t{12345}, -1), Variant(std::int32_t{12350}));
-    EXPECT_EQ(RoundNumber(std::int32_t{12344}, -1), Variant(std::int32_t{12340}));
-    EXPECT_EQ(RoundNumber(std::int32_t{-12345}, -1), Variant(std::int32_t{-12350}));
-    EXPECT_EQ(RoundNumber(std::int32_t{12345}, -3), Variant(std::int32_t{12000}));
-    EXPECT_EQ(RoundNumber(std::int16_t{-150}, -2), Variant(std::int16_t{-200}));
-    EXPECT_EQ(RoundNumber(std::uint8_t{44}, -1), Variant(std::uint8_t{40}));
-    EXPECT_EQ(RoundNumber(std::int32_t{4}, -1), Variant(std::int32_t{0}));
-    EXPECT_EQ(RoundNumber(std::int32_t{9}, -1), Variant(std::int32_t{10}));
 }
 
 TEST(RoundNumber, AResultOutsideTheTypeIsAnOverflow)
@@ -95,32 +111,6 @@ TEST(RoundNumber, AResultOutsideTheTypeIsAnOverflow)
     EXPECT_EQ(errorOf([] { return RoundNumber(std::numeric_limits<double>::infinity(), 0); }),
               errors::kOverflow);
     EXPECT_EQ(errorOf([] { return RoundNumber(std::nan(""), 0); }), errors::kOverflow);
-}
-
-TEST(RoundNumber, TrueCountsAsMinusOne)
-{
-    EXPECT_EQ(RoundNumber(true, 0), Variant(true));
-    EXPECT_EQ(RoundNumber(false, 0), Variant(false));
-    EXPECT_EQ(RoundNumber(true, 2), Variant(true));
-    EXPECT_EQ(RoundNumber(true, -1), Variant(false));
-}
-
-TEST(RoundNumber, AnAmountIsRoundedInItsOwnType)
-{
-    EXPECT_EQ(RoundNumber(amount(1.15), 1), Variant(amount(1.2)));
-    EXPECT_EQ(RoundNumber(amount(-1.15), 1), Variant(amount(-1.2)));
-    EXPECT_EQ(RoundNumber(amount(1.2345), 4), Variant(amount(1.2345)));
-    EXPECT_EQ(RoundNumber(amount(1.2345), 9), Variant(amount(1.2345)));
-    EXPECT_EQ(RoundNumber(amount(1.2345), 3), Variant(amount(1.235)));
-    EXPECT_EQ(RoundNumber(amount(2.5), 0), Variant(amount(3)));
-    EXPECT_EQ(RoundNumber(amount(1250), -2), Variant(amount(1300)));
-    EXPECT_EQ(RoundNumber(amount(49999), -5), Variant(amount(0)));
-}
-
-TEST(RoundNumber, OnlyTheWholePartOfAnAmountCountsAheadOfTheMark)
-{
-    EXPECT_EQ(RoundNumber(amount(4.9999), -1), Variant(amount(0)));
-    EXPECT_EQ(RoundNumber(amount(5), -1), Variant(amount(10)));
 }
 
 TEST(RoundNumber, AnAmountAtTheEndOfItsRangeOverflows)

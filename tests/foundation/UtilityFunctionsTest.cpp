@@ -25,6 +25,36 @@ private:
 
 constexpr double kSecond = 1.0 / 86400;
 
+struct SumCase {
+    const char* interval;
+    double amount;
+    Date date;
+    Date sum;
+};
+
+const Date kLateInFebruary = makeDate(2024, 2, 28, 23, 59, 58);
+
+const SumCase kSums[] = {
+    // A month keeps the day, cut to the last of the month.
+    {"m", 1, makeDate(2024, 1, 31), makeDate(2024, 2, 29)},
+    {"m", 1, makeDate(2023, 1, 31), makeDate(2023, 2, 28)},
+    {"m", -1, makeDate(2024, 3, 31, 7, 8, 9), makeDate(2024, 2, 29, 7, 8, 9)},
+    {"m", 1, makeDate(2024, 2, 29), makeDate(2024, 3, 29)},
+    {"m", -3, makeDate(2024, 2, 15), makeDate(2023, 11, 15)},
+    {"m", 24, makeDate(2024, 12, 1), makeDate(2026, 12, 1)},
+    {"d", 1, kLateInFebruary, makeDate(2024, 2, 29, 23, 59, 58)},
+    {"d", -28, kLateInFebruary, makeDate(2024, 1, 31, 23, 59, 58)},
+    {"h", 24, kLateInFebruary, makeDate(2024, 2, 29, 23, 59, 58)},
+    {"h", 1, makeDate(2024, 3, 10, 23), makeDate(2024, 3, 11)},
+    {"n", 1439, makeDate(2024, 3, 10), makeDate(2024, 3, 10, 23, 59)},
+    {"n", -1439, makeDate(2024, 3, 10, 23, 59), makeDate(2024, 3, 10)},
+    {"s", 3, kLateInFebruary, makeDate(2024, 2, 29, 0, 0, 1)},
+    {"s", -1, makeDate(2024, 1, 1), makeDate(2023, 12, 31, 23, 59, 59)},
+    // The letter may be a capital.
+    {"H", 1, makeDate(2024, 3, 10), makeDate(2024, 3, 10, 1)},
+    {"M", 1, makeDate(2024, 3, 10), makeDate(2024, 4, 10)},
+};
+
 } // namespace
 
 TEST(CurrentDateTime, IsTheClocksReadingToTheSecond)
@@ -41,40 +71,13 @@ TEST(SystemClock, LiesInTheCenturyOfTheProgram)
     EXPECT_EQ(CurrentDateTime(FixedClock(now)), now);
 }
 
-TEST(DateAddExact, AnHourBeforeMidnightPlusOneIsTheNextDayExactly)
+TEST(DateAddExact, AddsEachIntervalOfTheCalendarAndTheClock)
 {
-    const Date result = DateAddExact("h", 1, makeDate(2024, 3, 10, 23));
-    EXPECT_EQ(result.days, std::floor(result.days));
-    EXPECT_EQ(result, makeDate(2024, 3, 11));
-}
-
-TEST(DateAddExact, AMonthKeepsTheDayCutToTheLastOfTheMonth)
-{
-    EXPECT_EQ(DateAddExact("m", 1, makeDate(2024, 1, 31)), makeDate(2024, 2, 29));
-    EXPECT_EQ(DateAddExact("m", 1, makeDate(2023, 1, 31)), makeDate(2023, 2, 28));
-    EXPECT_EQ(DateAddExact("m", -1, makeDate(2024, 3, 31, 7, 8, 9)),
-              makeDate(2024, 2, 29, 7, 8, 9));
-    EXPECT_EQ(DateAddExact("m", 1, makeDate(2024, 2, 29)), makeDate(2024, 3, 29));
-    EXPECT_EQ(DateAddExact("m", -3, makeDate(2024, 2, 15)), makeDate(2023, 11, 15));
-    EXPECT_EQ(DateAddExact("m", 24, makeDate(2024, 12, 1)), makeDate(2026, 12, 1));
-}
-
-TEST(DateAddExact, AddsEachIntervalOfTheClockAndTheDay)
-{
-    const Date value = makeDate(2024, 2, 28, 23, 59, 58);
-    EXPECT_EQ(DateAddExact("d", 1, value), makeDate(2024, 2, 29, 23, 59, 58));
-    EXPECT_EQ(DateAddExact("d", -28, value), makeDate(2024, 1, 31, 23, 59, 58));
-    EXPECT_EQ(DateAddExact("h", 24, value), makeDate(2024, 2, 29, 23, 59, 58));
-    EXPECT_EQ(DateAddExact("n", 1439, makeDate(2024, 3, 10)), makeDate(2024, 3, 10, 23, 59));
-    EXPECT_EQ(DateAddExact("n", -1439, makeDate(2024, 3, 10, 23, 59)), makeDate(2024, 3, 10));
-    EXPECT_EQ(DateAddExact("s", 3, value), makeDate(2024, 2, 29, 0, 0, 1));
-    EXPECT_EQ(DateAddExact("s", -1, makeDate(2024, 1, 1)), makeDate(2023, 12, 31, 23, 59, 59));
-}
-
-TEST(DateAddExact, TheIntervalLetterMayBeACapital)
-{
-    EXPECT_EQ(DateAddExact("H", 1, makeDate(2024, 3, 10)), makeDate(2024, 3, 10, 1));
-    EXPECT_EQ(DateAddExact("M", 1, makeDate(2024, 3, 10)), makeDate(2024, 4, 10));
+    for (const SumCase& row : kSums)
+        EXPECT_EQ(DateAddExact(row.interval, row.amount, row.date), row.sum)
+            << row.amount << row.interval << " to " << minuteKey(row.date);
+    const double midnight = DateAddExact("h", 1, makeDate(2024, 3, 10, 23)).days;
+    EXPECT_EQ(midnight, std::floor(midnight)) << "exactly";
 }
 
 TEST(DateAddExact, ADateOffTheSecondComesBackOnIt)

@@ -84,40 +84,115 @@ constexpr DateField kDateFields[] = {
     {"txtTo", &ctrlMaxMW::txtTo, &ctrlMaxMW::EndDate, &ctrlMaxMW::cmdTo, "End of Load Analysis"},
 };
 
-std::string of(const char* field, const std::string& text)
+void PrintTo(const NumberField& field, std::ostream* out)
 {
-    return std::string(field) + " with \"" + text + "\"";
+    *out << field.name;
 }
+
+void PrintTo(const DateField& field, std::ostream* out)
+{
+    *out << field.name;
+}
+
+/// One of the fields of a calculated tool.
+template <class Field> struct LoadField : testing::TestWithParam<Field>, CalculatedRig {
+    explicit LoadField(const std::string& region = "en-US") : CalculatedRig(region) {}
+
+    screen::TextBox& box = tool.*(this->GetParam().box);
+};
+
+struct LoadNumbers : LoadField<NumberField> {
+    using LoadField::LoadField;
+    [[nodiscard]] float value() const { return results().*GetParam().value; }
+};
+
+struct LoadDates : LoadField<DateField> {
+    using LoadField::LoadField;
+    screen::Button& button = tool.*(GetParam().button);
+    [[nodiscard]] Date date() const { return (tool.*GetParam().date)(); }
+    /// Asks for the calendar, in which this date is picked.
+    void pick(Date picked)
+    {
+        services.dateAnswer = picked;
+        button.Press();
+    }
+    [[nodiscard]] bool isStaleWithoutSaving() const
+    {
+        return isCleared(tool) && tool.NeedsEvaluation() && !tool.cmdSave.Enabled();
+    }
+};
+
+struct GermanLoadNumbers : LoadNumbers {
+    GermanLoadNumbers() : LoadNumbers("de-DE") {}
+};
+
+struct GermanLoadDates : LoadDates {
+    GermanLoadDates() : LoadDates("de-DE") {}
+};
 
 } // namespace
 
-TEST(LoadNumbers, ANumberIsTakenAndStaysAsItWasTyped)
+INSTANTIATE_TEST_SUITE_P(Fields, LoadNumbers, testing::ValuesIn(kNumberFields));
+INSTANTIATE_TEST_SUITE_P(Fields, GermanLoadNumbers, testing::ValuesIn(kNumberFields));
+INSTANTIATE_TEST_SUITE_P(Fields, LoadDates, testing::ValuesIn(kDateFields));
+INSTANTIATE_TEST_SUITE_P(Fields, GermanLoadDates, testing::ValuesIn(kDateFields));
+
+TEST_P(LoadNumbers, ANumberIsTakenAndStaysAsItWasTyped)
 {
-    for (const NumberField& field : kNumberFields) {
-        for (const NumberCase& number : kNumbers) {
-            CalculatedRig rig;
-            enter(rig.tool.*field.box, number.typed);
-            EXPECT_EQ(rig.results().*field.value, number.value) << of(field.name, number.typed);
-            EXPECT_EQ((rig.tool.*field.box).Text(), number.typed);
-            EXPECT_TRUE(rig.isStaleButSavable()) << of(field.name, number.typed);
-        }
+    for (const NumberCase& number : kNumbers) {
+        calculate();
+        enter(box, number.typed);
+        EXPECT_EQ(value(), number.value) << number.typed;
+        EXPECT_EQ(box.Text(), number.typed);
+        EXPECT_TRUE(isStaleButSavable()) << number.typed;
     }
 }
 
-TEST(LoadNumbers, AnyOtherTextGivesWayToTheLastNumberAndResultsStay)
+TEST_P(LoadNumbers, AnyOtherTextGivesWayToTheLastNumberAndResultsStay)
 {
-    for (const NumberField& field : kNumberFields) {
-        for (const char* typed : kNoNumbers) {
-            CalculatedRig rig;
-            rig.range("12.5", "80").calculate();
-            const Lines changes = rig.changesBy([&] { enter(rig.tool.*field.box, typed); });
-            EXPECT_EQ(changes, Lines()) << of(field.name, typed);
-            EXPECT_TRUE(rig.isUntouched()) << of(field.name, typed);
-        }
+    range("12.5", "80").calculate();
+    for (const char* typed : kNoNumbers) {
+        EXPECT_EQ(changesBy([&] { enter(box, typed); }), Lines()) << typed;
+        EXPECT_TRUE(isUntouched()) << typed;
     }
 }
 
-TEST(LoadNumbers, AnyOtherTextAfterAStaleOneChangesNothingEither)
+TEST_P(LoadNumbers, LeavingAnUnchangedNumberMakesResultsStaleToo)
+{
+    box.Leave();
+    EXPECT_TRUE(isStaleButSavable());
+}
+
+TEST_P(LoadNumbers, TypingAloneChangesNothing)
+{
+    const float before = value();
+    box.Type("77");
+    EXPECT_TRUE(isUntouched());
+    EXPECT_EQ(value(), before);
+}
+
+TEST_P(LoadNumbers, OutOfASinglesRangeIsAnOverflow)
+{
+    const float before = value();
+    EXPECT_EQ(errorOf([&] { enter(box, "1e39"); }), 6);
+    EXPECT_EQ(value(), before);
+    EXPECT_EQ(box.Text(), "1e39");
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_P(GermanLoadNumbers, AreReadAndWrittenAsTheRegionDoes)
+{
+    enter(box, "12,5");
+    EXPECT_EQ(value(), 12.5F);
+    enter(box, "x");
+    EXPECT_EQ(box.Text(), "12,5");
+    enter(box, "1.000,5");
+    EXPECT_EQ(value(), 1000.5F);
+    enter(box, "12.5");
+    EXPECT_EQ(value(), 125) << "points group digits";
+}
+
+TEST(LoadNumbersLater, AnyOtherTextAfterAStaleOneChangesNothingEither)
 {
     LoadRig rig;
     enter(rig.tool.txtMinSafe, "12.50");
@@ -127,7 +202,7 @@ TEST(LoadNumbers, AnyOtherTextAfterAStaleOneChangesNothingEither)
     EXPECT_FALSE(rig.tool.cmdSave.Enabled());
 }
 
-TEST(LoadNumbers, TheLastNumberComesBackAsASingleInGeneralForm)
+TEST(LoadNumbersLater, TheLastNumberComesBackAsASingleInGeneralForm)
 {
     LoadRig rig;
     enter(rig.tool.txtCapacity, "1234567.89");
@@ -138,113 +213,51 @@ TEST(LoadNumbers, TheLastNumberComesBackAsASingleInGeneralForm)
     EXPECT_EQ(rig.tool.txtCapacity.Text(), "1.234568E+08");
 }
 
-TEST(LoadNumbers, LeavingAnUnchangedNumberMakesResultsStaleToo)
+TEST_P(LoadDates, ADateIsTakenAndRewrittenAsAShortDate)
 {
-    for (const NumberField& field : kNumberFields) {
-        CalculatedRig rig;
-        (rig.tool.*field.box).Leave();
-        EXPECT_TRUE(rig.isStaleButSavable()) << field.name;
+    for (const DateCase& row : kTypedDates) {
+        calculate();
+        enter(box, row.typed);
+        EXPECT_EQ(box.Text(), row.shown) << row.typed;
+        EXPECT_EQ(date(), row.date) << row.typed;
+        EXPECT_TRUE(isStaleButSavable()) << row.typed;
     }
 }
 
-TEST(LoadNumbers, TypingAloneChangesNothing)
+TEST_P(LoadDates, AnyOtherTextGivesWayToTheLastDateAndResultsStay)
 {
-    for (const NumberField& field : kNumberFields) {
-        CalculatedRig rig;
-        const float before = rig.results().*field.value;
-        (rig.tool.*field.box).Type("77");
-        EXPECT_TRUE(rig.isUntouched()) << field.name;
-        EXPECT_EQ(rig.results().*field.value, before) << field.name;
+    for (const char* typed : kNoDates) {
+        EXPECT_EQ(changesBy([&] { enter(box, typed); }), Lines()) << typed;
+        EXPECT_TRUE(isUntouched()) << typed;
     }
 }
 
-TEST(LoadNumbers, OutOfASinglesRangeIsAnOverflow)
+TEST_P(LoadDates, LeavingAnUnchangedDateMakesResultsStaleToo)
 {
-    for (const NumberField& field : kNumberFields) {
-        CalculatedRig rig;
-        const float before = rig.results().*field.value;
-        EXPECT_EQ(errorOf([&] { enter(rig.tool.*field.box, "1e39"); }), 6) << field.name;
-        EXPECT_EQ(rig.results().*field.value, before) << field.name;
-        EXPECT_EQ((rig.tool.*field.box).Text(), "1e39") << field.name;
-        EXPECT_TRUE(rig.isUntouched()) << field.name;
-    }
+    const Date before = date();
+    box.Leave();
+    EXPECT_TRUE(isStaleButSavable());
+    EXPECT_EQ(date(), before);
 }
 
-TEST(LoadNumbers, AreReadAndWrittenAsTheRegionDoes)
+TEST_P(LoadDates, TypingAloneChangesNothing)
 {
-    for (const NumberField& field : kNumberFields) {
-        CalculatedRig rig("de-DE");
-        enter(rig.tool.*field.box, "12,5");
-        EXPECT_EQ(rig.results().*field.value, 12.5F) << field.name;
-        enter(rig.tool.*field.box, "x");
-        EXPECT_EQ((rig.tool.*field.box).Text(), "12,5") << field.name;
-        enter(rig.tool.*field.box, "1.000,5");
-        EXPECT_EQ(rig.results().*field.value, 1000.5F) << field.name;
-        enter(rig.tool.*field.box, "12.5");
-        EXPECT_EQ(rig.results().*field.value, 125) << field.name << ": points group digits";
-    }
+    const Date before = date();
+    box.Type("2/5/2024");
+    EXPECT_TRUE(isUntouched());
+    EXPECT_EQ(date(), before);
 }
 
-TEST(LoadDates, ADateIsTakenAndRewrittenAsAShortDate)
+TEST_P(GermanLoadDates, AreReadAndWrittenAsTheRegionDoes)
 {
-    for (const DateField& field : kDateFields) {
-        for (const DateCase& date : kTypedDates) {
-            CalculatedRig rig;
-            enter(rig.tool.*field.box, date.typed);
-            EXPECT_EQ((rig.tool.*field.box).Text(), date.shown) << of(field.name, date.typed);
-            EXPECT_EQ((rig.tool.*field.date)(), date.date) << of(field.name, date.typed);
-            EXPECT_TRUE(rig.isStaleButSavable()) << of(field.name, date.typed);
-        }
-    }
+    enter(box, "5.2.24");
+    EXPECT_EQ(box.Text(), "05.02.2024");
+    EXPECT_EQ(date(), makeDate(2024, 2, 5));
+    enter(box, "x");
+    EXPECT_EQ(box.Text(), "05.02.2024");
 }
 
-TEST(LoadDates, AnyOtherTextGivesWayToTheLastDateAndResultsStay)
-{
-    for (const DateField& field : kDateFields) {
-        for (const char* typed : kNoDates) {
-            CalculatedRig rig;
-            const Lines changes = rig.changesBy([&] { enter(rig.tool.*field.box, typed); });
-            EXPECT_EQ(changes, Lines()) << of(field.name, typed);
-            EXPECT_TRUE(rig.isUntouched()) << of(field.name, typed);
-        }
-    }
-}
-
-TEST(LoadDates, LeavingAnUnchangedDateMakesResultsStaleToo)
-{
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        const Date before = (rig.tool.*field.date)();
-        (rig.tool.*field.box).Leave();
-        EXPECT_TRUE(rig.isStaleButSavable()) << field.name;
-        EXPECT_EQ((rig.tool.*field.date)(), before) << field.name;
-    }
-}
-
-TEST(LoadDates, TypingAloneChangesNothing)
-{
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        const Date before = (rig.tool.*field.date)();
-        (rig.tool.*field.box).Type("2/5/2024");
-        EXPECT_TRUE(rig.isUntouched()) << field.name;
-        EXPECT_EQ((rig.tool.*field.date)(), before) << field.name;
-    }
-}
-
-TEST(LoadDates, AreReadAndWrittenAsTheRegionDoes)
-{
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig("de-DE");
-        enter(rig.tool.*field.box, "5.2.24");
-        EXPECT_EQ((rig.tool.*field.box).Text(), "05.02.2024") << field.name;
-        EXPECT_EQ((rig.tool.*field.date)(), makeDate(2024, 2, 5)) << field.name;
-        enter(rig.tool.*field.box, "x");
-        EXPECT_EQ((rig.tool.*field.box).Text(), "05.02.2024") << field.name;
-    }
-}
-
-TEST(LoadDates, TheOtherDateStaysAsItIs)
+TEST(LoadDatesLater, TheOtherDateStaysAsItIs)
 {
     CalculatedRig rig;
     enter(rig.tool.txtFrom, "2/5/2024");
@@ -255,78 +268,46 @@ TEST(LoadDates, TheOtherDateStaysAsItIs)
     EXPECT_EQ(rig.tool.StartDate(), makeDate(2024, 2, 5));
 }
 
-TEST(LoadCalendar, OpensAtTheDateOfItsBox)
+TEST_P(LoadDates, TheCalendarOpensAtTheDateOfItsBox)
 {
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        enter(rig.tool.*field.box, "2/5/2024");
-        (rig.tool.*field.button).Press();
-        ASSERT_EQ(rig.services.dateRequests.size(), 1U) << field.name;
-        EXPECT_EQ(rig.services.dateRequests[0].first, field.title);
-        EXPECT_EQ(rig.services.dateRequests[0].second, makeDate(2024, 2, 5)) << field.name;
+    enter(box, "2/5/2024");
+    button.Press();
+    ASSERT_EQ(services.dateRequests.size(), 1U);
+    EXPECT_EQ(services.dateRequests[0].first, GetParam().title);
+    EXPECT_EQ(services.dateRequests[0].second, makeDate(2024, 2, 5));
+}
+
+TEST_P(LoadDates, APickedDateGoesIntoTheBoxWithoutItsTimeAndThereIsNothingToSave)
+{
+    for (const Date picked : {makeDate(2023, 11, 7), makeDate(2023, 11, 7, 23, 59, 59)}) {
+        calculate();
+        pick(picked);
+        EXPECT_EQ(box.Text(), "11/7/2023");
+        EXPECT_EQ(date(), makeDate(2023, 11, 7));
+        EXPECT_TRUE(isStaleWithoutSaving());
     }
 }
 
-TEST(LoadCalendar, APickedDateGoesIntoTheBoxAndThereIsNothingToSave)
+TEST_P(LoadDates, TheSameDatePickedMakesResultsStaleToo)
 {
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        rig.services.dateAnswer = makeDate(2023, 11, 7);
-        (rig.tool.*field.button).Press();
-        EXPECT_EQ((rig.tool.*field.box).Text(), "11/7/2023") << field.name;
-        EXPECT_EQ((rig.tool.*field.date)(), makeDate(2023, 11, 7)) << field.name;
-        EXPECT_TRUE(rig.tool.NeedsEvaluation()) << field.name;
-        EXPECT_TRUE(isCleared(rig.tool)) << field.name;
-        EXPECT_FALSE(rig.tool.cmdSave.Enabled()) << field.name;
-    }
+    pick(date());
+    EXPECT_TRUE(isStaleWithoutSaving());
 }
 
-TEST(LoadCalendar, TheTimeOfAPickedDateIsLost)
+TEST_P(LoadDates, WithoutAPickedDateTheDateStaysAsItWas)
 {
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        rig.services.dateAnswer = makeDate(2023, 11, 7, 23, 59, 59);
-        (rig.tool.*field.button).Press();
-        EXPECT_EQ((rig.tool.*field.box).Text(), "11/7/2023") << field.name;
-        EXPECT_EQ((rig.tool.*field.date)(), makeDate(2023, 11, 7)) << field.name;
-    }
+    const Date before = date();
+    const std::string text = box.Text();
+    button.Press();
+    EXPECT_EQ(date(), before);
+    EXPECT_EQ(box.Text(), text);
 }
 
-TEST(LoadCalendar, TheSameDateMakesResultsStaleToo)
+TEST_P(LoadDates, AFailureOfTheCalendarReachesTheHostAndChangesNothing)
 {
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        rig.services.dateAnswer = (rig.tool.*field.date)();
-        (rig.tool.*field.button).Press();
-        EXPECT_TRUE(rig.tool.NeedsEvaluation()) << field.name;
-        EXPECT_TRUE(isCleared(rig.tool)) << field.name;
-        EXPECT_FALSE(rig.tool.cmdSave.Enabled()) << field.name;
-    }
-}
-
-TEST(LoadCalendar, WithoutAPickedDateTheDateStaysAsItWas)
-{
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        const Date before = (rig.tool.*field.date)();
-        const std::string text = (rig.tool.*field.box).Text();
-        (rig.tool.*field.button).Press();
-        EXPECT_EQ((rig.tool.*field.date)(), before) << field.name;
-        EXPECT_EQ((rig.tool.*field.box).Text(), text) << field.name;
-    }
-}
-
-TEST(LoadCalendar, AFailureReachesTheHostAndChangesNothing)
-{
-    for (const DateField& field : kDateFields) {
-        CalculatedRig rig;
-        rig.services.dateError = Error(440);
-        const Lines changes = rig.changesBy([&] {
-            EXPECT_EQ(errorOf([&] { (rig.tool.*field.button).Press(); }), 440) << field.name;
-        });
-        EXPECT_EQ(changes, Lines()) << field.name;
-        EXPECT_TRUE(rig.isUntouched()) << field.name;
-    }
+    services.dateError = Error(440);
+    EXPECT_EQ(changesBy([&] { EXPECT_EQ(errorOf([&] { button.Press(); }), 440); }), Lines());
+    EXPECT_TRUE(isUntouched());
 }
 
 TEST(LoadCalendar, CannotBeOpenedWhileFourQuartersAreLookedFor)

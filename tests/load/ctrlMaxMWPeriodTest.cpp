@@ -1,9 +1,11 @@
+#include "foundation/DateText.h"
 #include "load/LoadRig.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
-#include <numeric>
+#include <utility>
 
 /// The period of a load evaluation, and what makes its results stale.
 namespace k7deval::test
@@ -20,6 +22,10 @@ screen::MsgBoxRequest resettingTo(const std::string& day)
             "Resetting Evaluation Period", screen::MsgBoxButtons::OK, screen::MsgBoxIcon::None};
 }
 
+/// The first hour that was read, and how many.
+using HoursRead = std::pair<Date, std::int64_t>;
+const Date kLastDate = makeDate(9999, 12, 31);
+
 /// The load tool on specified dates, with a minimum that needs no verification.
 struct DatesRig : LoadRig {
     DatesRig(const std::string& from, const std::string& to)
@@ -28,14 +34,51 @@ struct DatesRig : LoadRig {
         specify(from, to);
     }
     [[nodiscard]] Lines dates() const { return {tool.txtFrom.Text(), tool.txtTo.Text()}; }
-    std::int64_t hoursRead()
+    HoursRead hoursRead()
     {
-        const auto reads = takeReads();
-        return std::accumulate(
-            reads.begin(), reads.end(), std::int64_t{0},
-            [](std::int64_t sum, const ReadRequest& read) { return sum + read.count; });
+        HoursRead all{kLastDate, 0};
+        for (const ReadRequest& read : takeReads())
+            all = {std::min(all.first, read.start), all.second + read.count};
+        return all;
     }
 };
+
+struct LimitCase {
+    const char* what;
+    const char* from;
+    const char* to;
+    int calculations;
+    const char* said; ///< The new start, as the box writes it; empty without a box.
+    const char* start;
+    const char* end;
+    const char* firstDayRead; ///< By the first calculation; another one reads nothing.
+    std::int64_t daysRead;
+};
+
+constexpr LimitCase kLimits[] = {
+    {"one day", "2/5/2024", "2/5/2024", 1, "", "2/5/2024", "2/5/2024", "2/5/2024", 1},
+    {"457 days apart pass in silence", "1/1/2024", "4/2/2025", 1, "", "1/1/2024", "4/2/2025",
+     "1/1/2024", 458},
+    {"at 458 days apart the start moves a day", "1/1/2024", "4/3/2025", 1, "01/02/24", "1/2/2024",
+     "4/3/2025", "1/2/2024", 458},
+    {"which is said once", "1/1/2024", "4/3/2025", 2, "01/02/24", "1/2/2024", "4/3/2025",
+     "1/2/2024", 458},
+    {"a start of years ago", "1/1/1999", "3/31/2024", 1, "12/30/22", "12/30/2022", "3/31/2024",
+     "12/30/2022", 458},
+    {"in reverse order they are swapped", "2/9/2024", "2/5/2024", 1, "", "2/5/2024", "2/9/2024",
+     "2/5/2024", 5},
+    {"and pass however far apart", "8/23/2025", "1/1/2024", 1, "", "1/1/2024", "8/23/2025",
+     "1/1/2024", 601},
+    {"until the next calculation", "8/23/2025", "1/1/2024", 2, "05/23/24", "5/23/2024", "8/23/2025",
+     "1/1/2024", 601},
+};
+
+std::vector<screen::MsgBoxRequest> boxesOf(const LimitCase& row)
+{
+    if (*row.said == '\0')
+        return {};
+    return {resettingTo(row.said)};
+}
 
 using Action = std::function<void(LoadRig&)>;
 
@@ -151,77 +194,21 @@ TEST(LoadPeriodOption, WhatWasEnteredStays)
     EXPECT_EQ(rig.tool.txtTo.Text(), "2/9/2024");
 }
 
-TEST(LoadDatesLimit, UpTo457DaysApartPassInSilence)
+TEST(LoadDatesLimit, MovesAStartMoreThan457DaysBeforeTheEnd)
 {
-    DatesRig rig("1/1/2024", "4/2/2025");
-    rig.calculate();
-    EXPECT_TRUE(rig.services.boxes.empty());
-    EXPECT_EQ(rig.dates(), (Lines{"1/1/2024", "4/2/2025"}));
-    EXPECT_EQ(rig.hoursRead(), 458 * 24);
-}
-
-TEST(LoadDatesLimit, At458DaysApartTheStartMovesADay)
-{
-    DatesRig rig("1/1/2024", "4/3/2025");
-    rig.calculate();
-    EXPECT_EQ(rig.services.boxes, std::vector{resettingTo("01/02/24")});
-    EXPECT_EQ(rig.dates(), (Lines{"1/2/2024", "4/3/2025"}));
-    EXPECT_EQ(rig.tool.StartDate(), makeDate(2024, 1, 2));
-    EXPECT_EQ(rig.tool.EndDate(), makeDate(2025, 4, 3));
-    EXPECT_EQ(rig.hoursRead(), 458 * 24);
-}
-
-TEST(LoadDatesLimit, AStartOfYearsAgoMovesTo457DaysBeforeTheEnd)
-{
-    DatesRig rig("1/1/1999", "3/31/2024");
-    rig.calculate();
-    EXPECT_EQ(rig.services.boxes, std::vector{resettingTo("12/30/22")});
-    EXPECT_EQ(rig.dates(), (Lines{"12/30/2022", "3/31/2024"}));
-    EXPECT_FALSE(rig.tool.NeedsEvaluation());
-}
-
-TEST(LoadDatesLimit, IsSaidOnce)
-{
-    DatesRig rig("1/1/2024", "4/3/2025");
-    rig.calculate().calculate();
-    EXPECT_EQ(rig.services.boxes.size(), 1U);
-}
-
-TEST(LoadDatesLimit, DatesInReverseOrderAreSwapped)
-{
-    DatesRig rig("2/9/2024", "2/5/2024");
-    rig.calculate();
-    EXPECT_TRUE(rig.services.boxes.empty());
-    EXPECT_EQ(rig.dates(), (Lines{"2/5/2024", "2/9/2024"}));
-    EXPECT_EQ(rig.tool.StartDate(), makeDate(2024, 2, 5));
-    EXPECT_EQ(rig.tool.EndDate(), makeDate(2024, 2, 9));
-    EXPECT_EQ(rig.takeReads(),
-              (std::vector<ReadRequest>{{kGT1Load, makeDate(2024, 2, 5), 5 * 24}}));
-}
-
-TEST(LoadDatesLimit, DatesInReverseOrderPassHoweverFarApart)
-{
-    DatesRig rig("8/23/2025", "1/1/2024");
-    rig.calculate();
-    EXPECT_TRUE(rig.services.boxes.empty());
-    EXPECT_EQ(rig.dates(), (Lines{"1/1/2024", "8/23/2025"}));
-    EXPECT_EQ(rig.hoursRead(), 601 * 24);
-}
-
-TEST(LoadDatesLimit, SwappedDatesAreHeldToTheLimitByTheNextCalculation)
-{
-    DatesRig rig("8/23/2025", "1/1/2024");
-    rig.calculate().calculate();
-    EXPECT_EQ(rig.services.boxes, std::vector{resettingTo("05/23/24")});
-    EXPECT_FALSE(rig.tool.NeedsEvaluation()) << "the dates alone do not make results stale";
-}
-
-TEST(LoadDatesLimit, OneDayIsAPeriod)
-{
-    DatesRig rig("2/5/2024", "2/5/2024");
-    rig.calculate();
-    EXPECT_TRUE(rig.services.boxes.empty());
-    EXPECT_EQ(rig.takeReads(), (std::vector<ReadRequest>{{kGT1Load, makeDate(2024, 2, 5), 24}}));
+    for (const LimitCase& row : kLimits) {
+        SCOPED_TRACE(row.what);
+        DatesRig rig(row.from, row.to);
+        for (int time = 0; time < row.calculations; ++time)
+            rig.calculate();
+        const auto dateOf = [&](const char* text) { return ToDate(text, rig.regional, {}); };
+        EXPECT_EQ(rig.services.boxes, boxesOf(row));
+        EXPECT_EQ(rig.dates(), (Lines{row.start, row.end}));
+        EXPECT_EQ(rig.tool.StartDate(), dateOf(row.start));
+        EXPECT_EQ(rig.tool.EndDate(), dateOf(row.end));
+        EXPECT_EQ(rig.hoursRead(), (HoursRead{dateOf(row.firstDayRead), row.daysRead * 24}));
+        EXPECT_FALSE(rig.tool.NeedsEvaluation());
+    }
 }
 
 TEST(LoadDatesLimit, DoesNotHoldWhileFourQuartersAreLookedFor)

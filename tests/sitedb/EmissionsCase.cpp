@@ -16,13 +16,9 @@ std::string smallEmissions()
     return readFile(k7deval::test::projectFile("tests/sitedb/data/ecmps_emissions_small.json"));
 }
 
-std::string patchedEmissions(const std::string& operation, const std::string& path,
-                             const std::string& value)
+std::string patchedEmissions(const std::string& path, const std::string& value)
 {
-    json step{{"op", operation}, {"path", path}};
-    if (!value.empty())
-        step["value"] = json::parse(value);
-    return json::parse(smallEmissions()).patch(json::array({step})).dump(1);
+    return patchedJson(smallEmissions(), path, value);
 }
 
 json emissionsHour(const std::string& day, int hour, double value)
@@ -57,11 +53,6 @@ std::string emissionsOfUnits(int units, int hours)
         }
     }
     return text + "]}";
-}
-
-ImportReport importEmissions(EmptySite& held, const std::string& text, const ImportOptions& options)
-{
-    return importFile(held.site, held.directory.write("emissions.json", text), options);
 }
 
 std::vector<std::string> hoursFrom(const SiteDatabase& site, PID pid, Date start,

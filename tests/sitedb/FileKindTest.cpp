@@ -119,8 +119,7 @@ TEST(ImportCancel, TakesNothingOfAnyFileUpToItsEnd)
     SmallSite held;
     expectNothingTaken(held, smallQa());
     expectNothingTaken(held, smallEmissions());
-    expectNothingTaken(held, "unit_id,component_id,component_type,span_scale,span_value,units\n"
-                             "U2,010,NOX,H,100,PPM\n");
+    expectNothingTaken(held, kSpanColumns + "U2,010,NOX,H,100,PPM\n");
     expectNothingTaken(held, "date,hour,gross_load_mw\n2019-01-01,0,5\n");
     expectNothingTaken(held, "date,hour,parameter,unadjusted_hourly_value,modc\n"
                              "2019-01-01,0,NOXC,5,01\n");

@@ -1,8 +1,10 @@
 #include "sitedb/ImportCase.h"
 
+#include "foundation/TextFunctions.h"
+
 #include <nlohmann/json.hpp>
 
-#include <map>
+#include <algorithm>
 
 namespace k7deval::sitedb::test
 {
@@ -52,6 +54,25 @@ const std::string& bytesOfSite(const std::string& spans)
     return bytes;
 }
 
+std::string fullPath(const std::string& path, const JsonParts& parts)
+{
+    const std::size_t end = std::min(path.find('/'), path.size());
+    return end == 0 ? path : parts.at(path.substr(0, end)) + path.substr(end);
+}
+
+/// "a[0].b" for "/a/0/b".
+std::string fieldAt(const std::string& path)
+{
+    std::string field;
+    for (const auto step : splitAt('/', std::string_view(path).substr(1))) {
+        const bool isIndex = isDigit(step.front());
+        field += isIndex ? "[" : field.empty() ? "" : ".";
+        field += step;
+        field += isIndex ? "]" : "";
+    }
+    return field;
+}
+
 } // namespace
 
 EmptySite::EmptySite() : EmptySite(bytesOfSite("")) {}
@@ -80,24 +101,52 @@ std::string refusal(EmptySite& held, const std::filesystem::path& file,
     return sentence;
 }
 
+ImportReport importText(EmptySite& held, const std::string& name, const std::string& text,
+                        const ImportOptions& options)
+{
+    return importFile(held.site, held.directory.write(name, text), options);
+}
+
+void PrintTo(const TableFault& fault, std::ostream* stream)
+{
+    *stream << fault.what;
+}
+
+void PrintTo(const JsonFault& fault, std::ostream* stream)
+{
+    *stream << fault.what;
+}
+
+std::string pathOf(const JsonFault& fault, const JsonParts& parts)
+{
+    return fullPath(fault.path, parts);
+}
+
+std::string sentenceOf(const JsonFault& fault, const JsonParts& parts)
+{
+    const char* named = fault.named != nullptr ? fault.named : fault.path;
+    return fieldAt(fullPath(named, parts)) + ": " + fault.sentence;
+}
+
 std::string smallQa()
 {
     return kSmallQa;
 }
 
-std::string patchedQa(const std::string& operation, const std::string& path,
-                      const std::string& value)
+std::string patchedQa(const std::string& path, const std::string& value)
 {
-    return patchedJson(kSmallQa, operation, path, value);
+    return patchedJson(kSmallQa, path, value);
 }
 
-std::string patchedJson(const std::string& text, const std::string& operation,
-                        const std::string& path, const std::string& value)
+std::string patchedJson(const std::string& text, const std::string& path, const std::string& value)
 {
-    nlohmann::json step{{"op", operation}, {"path", path}};
-    if (!value.empty())
-        step["value"] = nlohmann::json::parse(value);
-    return nlohmann::json::parse(text).patch(nlohmann::json::array({step})).dump(1);
+    auto document = nlohmann::json::parse(text);
+    if (!value.empty()) {
+        document[nlohmann::json::json_pointer(path)] = nlohmann::json::parse(value);
+        return document.dump(1);
+    }
+    const nlohmann::json step{{"op", "remove"}, {"path", path}};
+    return document.patch(nlohmann::json::array({step})).dump(1);
 }
 
 } // namespace k7deval::sitedb::test

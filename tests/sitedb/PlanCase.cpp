@@ -83,16 +83,9 @@ std::string smallPlan()
     return kSmallPlan;
 }
 
-std::string patchedPlan(const std::string& operation, const std::string& path,
-                        const std::string& value)
+std::string patchedPlan(const std::string& path, const std::string& value)
 {
-    return patchedJson(kSmallPlan, operation, path, value);
-}
-
-ImportReport importText(EmptySite& held, const std::string& name, const std::string& text,
-                        const ImportOptions& options)
-{
-    return importFile(held.site, held.directory.write(name, text), options);
+    return patchedJson(kSmallPlan, path, value);
 }
 
 std::vector<std::string> parametersOfType(const SiteDatabase& site, std::int32_t type)

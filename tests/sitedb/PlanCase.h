@@ -13,13 +13,8 @@ namespace k7deval::sitedb::test
 /// monitor 030, with loads in MW; common stack CS1 with the SO2 component 100; pipe CP1 without
 /// analyzers. Spans and loads of former times stand beside those in force.
 std::string smallPlan();
-/// smallPlan with one JSON patch operation applied.
-std::string patchedPlan(const std::string& operation, const std::string& path,
-                        const std::string& value);
-
-/// Imports a text as a file of this name.
-ImportReport importText(EmptySite& held, const std::string& name, const std::string& text,
-                        const ImportOptions& options = {});
+/// smallPlan with one field patched.
+std::string patchedPlan(const std::string& path, const std::string& value);
 
 /// "1-110-0-75-01 NOX 010" of every parameter of a type, in order.
 std::vector<std::string> parametersOfType(const SiteDatabase& site, std::int32_t type);

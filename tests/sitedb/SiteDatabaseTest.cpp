@@ -26,6 +26,9 @@ Error openingError(const std::filesystem::path& path, OpenMode mode)
     return Error(0);
 }
 
+using SiteWithoutUnits = ImportTest<EmptySite>;
+using SiteOfOneUnit = ImportTest<SmallSite>;
+
 TEST(SiteDatabase, ANewSiteIsEmptyAndKeepsWhatIsPutIn)
 {
     TemporaryDirectory directory;
@@ -58,24 +61,22 @@ TEST(SiteDatabase, AnEmptyFileBecomesASite)
     EXPECT_TRUE(SiteDatabase::open(path, OpenMode::ReadWrite).server()->Units().empty());
 }
 
-TEST(SiteDatabase, TheFacilityNameCanBeSetAnew)
+TEST_F(SiteWithoutUnits, TheFacilityNameCanBeSetAnew)
 {
-    EmptySite held;
-    EXPECT_EQ(facilityName(*held.site.server()), "<Facility Name>");
-    held.site.setFacilityName("Old");
-    held.site.setFacilityName("Bethpage \xE2\x80\x93 O'Neill");
-    EXPECT_EQ(facilityName(*held.site.server()), "Bethpage \xE2\x80\x93 O'Neill");
+    EXPECT_EQ(facilityName(*site.server()), "<Facility Name>");
+    site.setFacilityName("Old");
+    site.setFacilityName("Bethpage \xE2\x80\x93 O'Neill");
+    EXPECT_EQ(facilityName(*site.server()), "Bethpage \xE2\x80\x93 O'Neill");
 }
 
-TEST(SiteDatabase, AnEmptyFacilityNameIsNone)
+TEST_F(SiteWithoutUnits, AnEmptyFacilityNameIsNone)
 {
-    EmptySite held;
-    EXPECT_EQ(held.site.facilityName(), std::nullopt);
-    held.site.setFacilityName("Old");
-    EXPECT_EQ(held.site.facilityName(), "Old");
-    held.site.setFacilityName("");
-    EXPECT_EQ(held.site.facilityName(), std::nullopt);
-    EXPECT_EQ(facilityName(*held.site.server()), "<Facility Name>");
+    EXPECT_EQ(site.facilityName(), std::nullopt);
+    site.setFacilityName("Old");
+    EXPECT_EQ(site.facilityName(), "Old");
+    site.setFacilityName("");
+    EXPECT_EQ(site.facilityName(), std::nullopt);
+    EXPECT_EQ(facilityName(*site.server()), "<Facility Name>");
 }
 
 TEST(SiteDatabase, AFileThatIsNotThereIsNotRead)
@@ -106,10 +107,9 @@ TEST(SiteDatabase, AFileOfAnotherKindIsRefusedAndLeftAlone)
     EXPECT_EQ(readFile(path), content);
 }
 
-TEST(SiteDatabase, ADatabaseOfAnotherProgramIsRefusedAndLeftAlone)
+TEST_F(SiteWithoutUnits, ADatabaseOfAnotherProgramIsRefusedAndLeftAlone)
 {
-    EmptySite held;
-    held.site.connection().execute("PRAGMA application_id = 0");
+    site.connection().execute("PRAGMA application_id = 0");
     const std::string before = readFile(held.path);
     for (const auto mode : {OpenMode::ReadOnly, OpenMode::ReadWrite})
         EXPECT_EQ(openingError(held.path, mode).description(),
@@ -117,10 +117,9 @@ TEST(SiteDatabase, ADatabaseOfAnotherProgramIsRefusedAndLeftAlone)
     EXPECT_TRUE(readFile(held.path) == before);
 }
 
-TEST(SiteDatabase, TablesOfAnotherVersionAreRefused)
+TEST_F(SiteWithoutUnits, TablesOfAnotherVersionAreRefused)
 {
-    EmptySite held;
-    held.site.connection().execute("PRAGMA user_version = 7");
+    site.connection().execute("PRAGMA user_version = 7");
     for (const auto mode : {OpenMode::ReadOnly, OpenMode::ReadWrite}) {
         const Error error = openingError(held.path, mode);
         EXPECT_EQ(error.number(), errors::kPathAccess);
@@ -159,22 +158,18 @@ TEST(SiteDatabase, TheServerOutlivesTheObjectThatOpenedTheSite)
     EXPECT_TRUE(server->StatusCodes()->IsValid(1));
 }
 
-TEST(SiteDatabase, AServerSeesWhatIsImportedLater)
+TEST_F(SiteWithoutUnits, AServerSeesWhatIsImportedLater)
 {
-    EmptySite held;
-    const auto server = held.site.server();
-    importFile(held.site,
-               held.directory.write("l.csv", "date,hour,gross_load_mw\n2020-01-01,0,5\n"),
-               forUnit("U1"));
+    const auto server = site.server();
+    take("l.csv", "date,hour,gross_load_mw\n2020-01-01,0,5\n", forUnit("U1"));
     EXPECT_EQ(server->Units().size(), 1U);
 }
 
-TEST(SiteDatabase, ACapacityIsAConstantThatTheLoadToolFinds)
+TEST_F(SiteOfOneUnit, ACapacityIsAConstantThatTheLoadToolFinds)
 {
-    SmallSite held;
-    held.site.setCapacity("U1", 79.9);
-    held.site.setCapacity("U1", 84.5);
-    const auto constants = held.site.server()->ConstantsOfUnitTypes({4, 34}, 1, {0, 3});
+    site.setCapacity("U1", 79.9);
+    site.setCapacity("U1", 84.5);
+    const auto constants = site.server()->ConstantsOfUnitTypes({4, 34}, 1, {0, 3});
     ASSERT_EQ(constants.size(), 1U);
     EXPECT_EQ(PIDPart(constants[0]->PID(), pidpart::kParameterCode), 602);
     EXPECT_EQ(PIDPart(constants[0]->PID(), pidpart::kProgramCode), 0);
@@ -183,83 +178,77 @@ TEST(SiteDatabase, ACapacityIsAConstantThatTheLoadToolFinds)
     auto point = constants[0]->CurrentPoint(0, 0, 0);
     EXPECT_EQ(point.Count(), 1);
     EXPECT_EQ(point.ItemByIndex(1).Value(), Variant(84.5));
-    EXPECT_TRUE(held.site.server()->StatusCodes()->IsValid(point.ItemByIndex(1).Status()));
+    EXPECT_TRUE(site.server()->StatusCodes()->IsValid(point.ItemByIndex(1).Status()));
 }
 
-TEST(SiteDatabase, ConstantsAreToldApartByUnitTypeAndSubset)
+TEST_F(SiteOfOneUnit, ConstantsAreToldApartByUnitTypeAndSubset)
 {
-    SmallSite held;
-    held.site.setCapacity("U1", 80);
-    const auto server = held.site.server();
+    site.setCapacity("U1", 80);
+    const auto server = site.server();
     EXPECT_TRUE(server->ConstantsOfUnitTypes({4, 34}, 2, {0, 3}).empty());
     EXPECT_TRUE(server->ConstantsOfUnitTypes({34}, 1, {0, 3}).empty());
     EXPECT_TRUE(server->ConstantsOfUnitTypes({4}, 1, {3}).empty());
     EXPECT_TRUE(server->ConstantsOfUnitTypes({4}, 1, {}).empty());
 }
 
-TEST(SiteDatabase, AParameterThatIsNoConstantHasNoPresentValue)
+TEST_F(SiteOfOneUnit, AParameterThatIsNoConstantHasNoPresentValue)
 {
-    SmallSite held;
-    auto point = parameter(held.site, 111'007'501)->CurrentPoint(0, 0, 0);
+    auto point = parameter(site, 111'007'501)->CurrentPoint(0, 0, 0);
     EXPECT_EQ(point.Count(), 1);
     EXPECT_EQ(point.ItemByIndex(1).Value(), Variant(Null{}));
 }
 
-TEST(SiteDatabase, ACapacityNeedsAUnitAndANumberAboveZero)
+TEST_F(SiteOfOneUnit, ACapacityNeedsAUnitAndANumberAboveZero)
 {
-    SmallSite held;
-    const std::string before = dump(held.site);
+    const std::string before = dump(site);
     for (const double capacity : {0.0, -5.0, std::numeric_limits<double>::quiet_NaN(),
                                   std::numeric_limits<double>::infinity()}) {
         try {
-            held.site.setCapacity("U1", capacity);
+            site.setCapacity("U1", capacity);
             ADD_FAILURE() << capacity;
         } catch (const Error& error) {
             EXPECT_EQ(error.description(), "A capacity is a number of MW above 0, at most 999999.");
         }
     }
     try {
-        held.site.setCapacity("U9", 80);
+        site.setCapacity("U9", 80);
         FAIL();
     } catch (const Error& error) {
         EXPECT_EQ(error.number(), errors::kInvalidCall);
         EXPECT_EQ(error.description(), "The site has no unit U9.");
     }
-    EXPECT_EQ(dump(held.site), before);
+    EXPECT_EQ(dump(site), before);
 }
 
-TEST(SiteDatabase, TellsTheCapacityOfEachUnitAndTheMaximumLoadOfItsPlan)
+TEST_F(SiteWithoutUnits, TellsTheCapacityOfEachUnitAndTheMaximumLoadOfItsPlan)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    held.site.setCapacity("CS1", 84.5);
+    take("plan.json", smallPlan());
+    site.setCapacity("CS1", 84.5);
     const std::vector<UnitPower> powers{{"U1", std::nullopt, 150}, {"CS1", 84.5, std::nullopt}};
-    EXPECT_EQ(held.site.unitPowers(), powers);
+    EXPECT_EQ(site.unitPowers(), powers);
 }
 
-TEST(SiteDatabase, ACapacityCanBeTakenBack)
+TEST_F(SiteWithoutUnits, ACapacityCanBeTakenBack)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    const std::string before = dump(held.site);
-    held.site.setCapacity("U1", 140);
-    EXPECT_NE(dump(held.site), before);
-    held.site.change({std::nullopt, {{"U1", std::nullopt}}});
-    EXPECT_EQ(dump(held.site), before);
-    held.site.change({std::nullopt, {{"U1", std::nullopt}}});
-    EXPECT_EQ(dump(held.site), before);
+    take("plan.json", smallPlan());
+    const std::string before = dump(site);
+    site.setCapacity("U1", 140);
+    EXPECT_NE(dump(site), before);
+    site.change({std::nullopt, {{"U1", std::nullopt}}});
+    EXPECT_EQ(dump(site), before);
+    site.change({std::nullopt, {{"U1", std::nullopt}}});
+    EXPECT_EQ(dump(site), before);
 }
 
-TEST(SiteDatabase, MakesAllChangesOrNone)
+TEST_F(SiteOfOneUnit, MakesAllChangesOrNone)
 {
-    SmallSite held;
-    const std::string before = dump(held.site);
-    EXPECT_THROW(held.site.change({"Other", {{"U1", 80}, {"U9", 80}}}), Error);
-    EXPECT_THROW(held.site.change({"Other", {{"U1", 80}, {"U1", 1'000'000}}}), Error);
-    EXPECT_EQ(dump(held.site), before);
-    held.site.change({"Other", {{"U1", 999'999}}});
-    EXPECT_EQ(held.site.facilityName(), "Other");
-    EXPECT_EQ(held.site.unitPowers().front().capacity, 999'999);
+    const std::string before = dump(site);
+    EXPECT_THROW(site.change({"Other", {{"U1", 80}, {"U9", 80}}}), Error);
+    EXPECT_THROW(site.change({"Other", {{"U1", 80}, {"U1", 1'000'000}}}), Error);
+    EXPECT_EQ(dump(site), before);
+    site.change({"Other", {{"U1", 999'999}}});
+    EXPECT_EQ(site.facilityName(), "Other");
+    EXPECT_EQ(site.unitPowers().front().capacity, 999'999);
 }
 
 struct WordCase {

@@ -36,9 +36,15 @@ QStringList unitsIn(const std::filesystem::path& site)
     return units;
 }
 
+/// An operator at the import into a site of one unit.
+struct Import : testing::Test {
+    SmallSite held;
+    ImportRig rig{held.path};
+};
+
 } // namespace
 
-TEST(Import, TakesDroppedFilesIntoANewSite)
+TEST(ImportDialogs, TakesDroppedFilesIntoANewSite)
 {
     const TemporaryDirectory directory;
     const auto site = directory / "plant.k7site";
@@ -66,10 +72,8 @@ TEST(Import, TakesDroppedFilesIntoANewSite)
     rig.hands.photograph("import-taken");
 }
 
-TEST(Import, AFileThatTakesNoUnitIsNotAskedForOne)
+TEST_F(Import, AFileThatTakesNoUnitIsNotAskedForOne)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(held.directory.write("spans.csv", kSpans));
     rig.add(held.directory.write("load.csv", kLoad));
     EXPECT_EQ(rig.files().cellWidget(0, 3), nullptr);
@@ -83,10 +87,8 @@ TEST(Import, AFileThatTakesNoUnitIsNotAskedForOne)
     EXPECT_EQ(rig.hands.view<QLineEdit>("component of hours.csv").text(), "");
 }
 
-TEST(Import, ARefusedFileCanBeCorrectedAndIsTakenAlone)
+TEST_F(Import, ARefusedFileCanBeCorrectedAndIsTakenAlone)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(held.directory.write("spans.csv", kSpans));
     rig.add(held.directory.write("load.csv", kLoad));
     rig.import();
@@ -107,14 +109,11 @@ TEST(Import, ARefusedFileCanBeCorrectedAndIsTakenAlone)
     EXPECT_EQ(sitedb::test::count(held.site, "SELECT COUNT(*) FROM import_log"), 3);
 }
 
-TEST(Import, AQaFileIsRefusedUnlessUnreadableInjectionsAreLeftOut)
+TEST_F(Import, AQaFileIsRefusedUnlessUnreadableInjectionsAreLeftOut)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(held.directory.write(
-        "qa.json",
-        sitedb::test::patchedQa(
-            "replace", "/testSummaryData/1/calibrationInjectionData/0/zeroInjectionHour", "24")));
+        "qa.json", sitedb::test::patchedQa(
+                       "/testSummaryData/1/calibrationInjectionData/0/zeroInjectionHour", "24")));
     rig.import();
     EXPECT_EQ(rig.row(0)[2], "refused");
     EXPECT_THAT(rig.report(), HasSubstr("24 is no hour from 0 to 23."));
@@ -126,10 +125,8 @@ TEST(Import, AQaFileIsRefusedUnlessUnreadableInjectionsAreLeftOut)
     EXPECT_TRUE(rig.dialog->hasTaken());
 }
 
-TEST(Import, AFileOfNoKnownFormatIsNotAddedButTold)
+TEST_F(Import, AFileOfNoKnownFormatIsNotAddedButTold)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     const auto notes = held.directory.write("notes.txt", "Dear operator\n");
     dropFiles(*rig.dialog, {notes, held.directory.write("load.csv", kLoad)});
     EXPECT_EQ(rig.files().rowCount(), 1);
@@ -137,10 +134,8 @@ TEST(Import, AFileOfNoKnownFormatIsNotAddedButTold)
                             "be imported.");
 }
 
-TEST(Import, TheReportCanBeCopiedWithTheKeys)
+TEST_F(Import, TheReportCanBeCopiedWithTheKeys)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(held.directory.write("notes.txt", "Dear operator\n"));
     auto& report = rig.hands.view<QTextEdit>("report");
     rig.hands.pressMnemonic(Qt::Key_P);
@@ -150,10 +145,8 @@ TEST(Import, TheReportCanBeCopiedWithTheKeys)
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), rig.report());
 }
 
-TEST(Import, AFileIsOnTheListOnceAndCanBeRemoved)
+TEST_F(Import, AFileIsOnTheListOnceAndCanBeRemoved)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     const auto file = held.directory.write("load.csv", kLoad);
     rig.add(file);
     rig.add(file);
@@ -166,7 +159,7 @@ TEST(Import, AFileIsOnTheListOnceAndCanBeRemoved)
     EXPECT_FALSE(rig.hands.view<QPushButton>("import").isEnabled());
 }
 
-TEST(Import, ProgressIsSeenAndCancelledInTheMiddleNothingOfTheFileIsKept)
+TEST(ImportDialogs, ProgressIsSeenAndCancelledInTheMiddleNothingOfTheFileIsKept)
 {
     LongImport task;
     ImportRig rig(task.held.path);
@@ -186,7 +179,7 @@ TEST(Import, ProgressIsSeenAndCancelledInTheMiddleNothingOfTheFileIsKept)
     EXPECT_TRUE(rig.hands.view<QPushButton>("import").isEnabled());
 }
 
-TEST(Import, FilesTakenBeforeACancelStayAndThoseBehindWait)
+TEST(ImportDialogs, FilesTakenBeforeACancelStayAndThoseBehindWait)
 {
     LongImport task;
     ImportRig rig(task.held.path);
@@ -203,7 +196,7 @@ TEST(Import, FilesTakenBeforeACancelStayAndThoseBehindWait)
     EXPECT_TRUE(rig.dialog->hasTaken());
 }
 
-TEST(Import, ClosingTheDialogInTheMiddleLeavesTheSiteAsItWas)
+TEST(ImportDialogs, ClosingTheDialogInTheMiddleLeavesTheSiteAsItWas)
 {
     LongImport task;
     ImportRig rig(task.held.path);
@@ -215,7 +208,7 @@ TEST(Import, ClosingTheDialogInTheMiddleLeavesTheSiteAsItWas)
     EXPECT_FALSE(rig.dialog->hasTaken());
 }
 
-TEST(Import, TheEndOfTheDialogInTheMiddleLeavesTheSiteAsItWas)
+TEST(ImportDialogs, TheEndOfTheDialogInTheMiddleLeavesTheSiteAsItWas)
 {
     LongImport task;
     ImportRig rig(task.held.path);
@@ -226,7 +219,7 @@ TEST(Import, TheEndOfTheDialogInTheMiddleLeavesTheSiteAsItWas)
     settle();
 }
 
-TEST(Import, TheSiteCanBeOpenForReadingMeanwhile)
+TEST(ImportDialogs, TheSiteCanBeOpenForReadingMeanwhile)
 {
     SmallSite held;
     const auto server = sitedb::SiteDatabase::open(held.path, sitedb::OpenMode::ReadOnly).server();
@@ -238,7 +231,7 @@ TEST(Import, TheSiteCanBeOpenForReadingMeanwhile)
     EXPECT_EQ(server->Units().size(), 2U);
 }
 
-TEST(Import, ANewSiteIsRemovedWhenNothingWasTaken)
+TEST(ImportDialogs, ANewSiteIsRemovedWhenNothingWasTaken)
 {
     const TemporaryDirectory directory;
     const auto site = directory / "plant.k7site";
@@ -252,7 +245,7 @@ TEST(Import, ANewSiteIsRemovedWhenNothingWasTaken)
     EXPECT_EQ(unitsIn(site), QStringList("U1"));
 }
 
-TEST(Import, AFileThatIsNoSiteIsToldAndLeftAlone)
+TEST(ImportDialogs, AFileThatIsNoSiteIsToldAndLeftAlone)
 {
     const TemporaryDirectory directory;
     const auto site = directory.write("plant.k7site", "no site");
@@ -265,7 +258,7 @@ TEST(Import, AFileThatIsNoSiteIsToldAndLeftAlone)
     EXPECT_EQ(sitedb::test::readFile(site), "no site");
 }
 
-TEST(Import, TheUnitsOfAnImportCanBePickedAfterIt)
+TEST(ImportDialogs, TheUnitsOfAnImportCanBePickedAfterIt)
 {
     EmptySite held;
     ImportRig rig(held.path);
@@ -276,10 +269,8 @@ TEST(Import, TheUnitsOfAnImportCanBePickedAfterIt)
     EXPECT_EQ(rig.hands.view<QComboBox>("unit of load.csv").itemText(0), "U2");
 }
 
-TEST(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
+TEST_F(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(held.directory.write("load.csv", kLoad));
     rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
@@ -293,20 +284,16 @@ TEST(Import, TheTabulatorGoesThroughTheFieldsOfTheListInTheirOrder)
                      "leaveOut; report; import; close; ");
 }
 
-TEST(Import, NoPartKeepsADropFromTheDialog)
+TEST_F(Import, NoPartKeepsADropFromTheDialog)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));
     for (const QWidget* part : rig.dialog->findChildren<QWidget*>())
         EXPECT_FALSE(part->acceptDrops()) << part->objectName().toStdString();
 }
 
-TEST(Import, EveryPartHasAName)
+TEST_F(Import, EveryPartHasAName)
 {
-    SmallSite held;
-    ImportRig rig(held.path);
     rig.add(held.directory.write("load.csv", kLoad));
     rig.add(
         held.directory.write("hours.csv", "date,hour,parameter,unadjusted_hourly_value,modc\n"));

@@ -26,42 +26,41 @@ Date lateOnLeapDay()
     return makeDate(2020, 2, 29, 22);
 }
 
-TEST(EmissionsImport, BringsOperatingTimeLoadAndMonitorsOfEachHour)
+using EmissionsImport = ImportTest<SmallSite>;
+using EmissionsImportIntoANewSite = ImportTest<EmptySite>;
+
+TEST_F(EmissionsImport, BringsOperatingTimeLoadAndMonitorsOfEachHour)
 {
-    SmallSite held;
-    importEmissions(held, smallEmissions());
-    EXPECT_THAT(hoursFrom(held.site, kOperatingTime, lateOnLeapDay(), 4),
+    take("emissions.json", smallEmissions());
+    EXPECT_THAT(hoursFrom(site, kOperatingTime, lateOnLeapDay(), 4),
                 ElementsAre("1/1", "0.25/1", "0/2", "-/0"));
-    EXPECT_THAT(hoursFrom(held.site, kLoad, lateOnLeapDay(), 4),
+    EXPECT_THAT(hoursFrom(site, kLoad, lateOnLeapDay(), 4),
                 ElementsAre("50/1", "10/1", "-/2", "-/0"));
-    EXPECT_THAT(hoursFrom(held.site, kNox, lateOnLeapDay(), 4),
+    EXPECT_THAT(hoursFrom(site, kNox, lateOnLeapDay(), 4),
                 ElementsAre("12.5/101", "-/106", "-/2", "-/0"));
-    EXPECT_THAT(hoursFrom(held.site, kCo2, lateOnLeapDay(), 4),
+    EXPECT_THAT(hoursFrom(site, kCo2, lateOnLeapDay(), 4),
                 ElementsAre("8.1/102", "40/36", "-/2", "-/0"));
-    EXPECT_EQ(attributeOf(held.site, 100'100'000, attribute::kOrisCode), Variant(54));
+    EXPECT_EQ(attributeOf(site, 100'100'000, attribute::kOrisCode), Variant(54));
 }
 
-TEST(EmissionsImport, AValueInExponentNotationIsANumber)
+TEST_F(EmissionsImport, AValueInExponentNotationIsANumber)
 {
-    SmallSite held;
-    importEmissions(held, smallEmissions());
-    EXPECT_THAT(hoursFrom(held.site, kMercury, lateOnLeapDay(), 3),
+    take("emissions.json", smallEmissions());
+    EXPECT_THAT(hoursFrom(site, kMercury, lateOnLeapDay(), 3),
                 ElementsAre("-/0", "0.0144/117", "-/2"));
 }
 
-TEST(EmissionsImport, ALoadThatIsNotInMegawattsMakesNoLoad)
+TEST_F(EmissionsImport, ALoadThatIsNotInMegawattsMakesNoLoad)
 {
-    SmallSite held;
-    importEmissions(held, smallEmissions());
-    EXPECT_THAT(hoursFrom(held.site, kStackOperatingTime, lateOnLeapDay(), 1), ElementsAre("1/1"));
-    EXPECT_THAT(hoursFrom(held.site, kStackFlow, lateOnLeapDay(), 1), ElementsAre("500000/101"));
-    EXPECT_FALSE(held.site.server()->Parameters()->Exists(kStackLoad));
+    take("emissions.json", smallEmissions());
+    EXPECT_THAT(hoursFrom(site, kStackOperatingTime, lateOnLeapDay(), 1), ElementsAre("1/1"));
+    EXPECT_THAT(hoursFrom(site, kStackFlow, lateOnLeapDay(), 1), ElementsAre("500000/101"));
+    EXPECT_FALSE(site.server()->Parameters()->Exists(kStackLoad));
 }
 
-TEST(EmissionsImport, ReportsWhatItTookAndWhatItSteppedOver)
+TEST_F(EmissionsImport, ReportsWhatItTookAndWhatItSteppedOver)
 {
-    SmallSite held;
-    const auto report = importEmissions(held, smallEmissions());
+    const auto report = take("emissions.json", smallEmissions());
     EXPECT_EQ(report.format, "ECMPS emissions data");
     EXPECT_THAT(report.counts,
                 ElementsAre("4 hours", "6 monitor values", "3 calibration injections"));
@@ -74,11 +73,10 @@ TEST(EmissionsImport, ReportsWhatItTookAndWhatItSteppedOver)
     EXPECT_THAT(report.leftOut, IsEmpty());
 }
 
-TEST(EmissionsImport, ADailyCalibrationIsARunAsThoseOfAQaFile)
+TEST_F(EmissionsImport, ADailyCalibrationIsARunAsThoseOfAQaFile)
 {
-    SmallSite held;
-    importEmissions(held, smallEmissions());
-    const auto records = allRecords(held.site, kNox, "HIGH");
+    take("emissions.json", smallEmissions());
+    const auto records = allRecords(site, kNox, "HIGH");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0]->RunTime(), makeDate(2020, 2, 29, 5, 2));
     EXPECT_EQ(records[0]->GasLevelCode(), 0);
@@ -90,14 +88,13 @@ TEST(EmissionsImport, ADailyCalibrationIsARunAsThoseOfAQaFile)
     EXPECT_EQ(records[1]->MeasuredValue(), Variant(50.5));
     EXPECT_EQ(records[1]->CalStatus(), status::kOnlineCalibration);
     EXPECT_EQ(records[1]->Span(), Variant(100.0));
-    EXPECT_EQ(attributeOf(held.site, 111'047'501, attribute::kDecimals), Variant(2));
+    EXPECT_EQ(attributeOf(site, 111'047'501, attribute::kDecimals), Variant(2));
 }
 
-TEST(EmissionsImport, AnUpscaleInjectionAloneHasItsOwnTimeAndTheOnlyScaleOfTheAnalyzer)
+TEST_F(EmissionsImport, AnUpscaleInjectionAloneHasItsOwnTimeAndTheOnlyScaleOfTheAnalyzer)
 {
-    SmallSite held;
-    importEmissions(held, smallEmissions());
-    const auto records = allRecords(held.site, kCo2, "SINGLE");
+    take("emissions.json", smallEmissions());
+    const auto records = allRecords(site, kCo2, "SINGLE");
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0]->RunTime(), makeDate(2020, 2, 29, 6, 30));
     EXPECT_EQ(records[0]->GasLevelCode(), 2);
@@ -105,47 +102,41 @@ TEST(EmissionsImport, AnUpscaleInjectionAloneHasItsOwnTimeAndTheOnlyScaleOfTheAn
     EXPECT_EQ(records[0]->Span(), Variant(20.0));
 }
 
-TEST(EmissionsImport, BothSpellingsOfTheCalibrationFieldsAreRead)
+TEST_F(EmissionsImport, BothSpellingsOfTheCalibrationFieldsAreRead)
 {
-    SmallSite held;
     std::string text = smallEmissions();
     for (const auto& [name, other] :
          {std::pair{"\"onlineOfflineIndicator\"", "\"onLineOffLineIndicator\""},
           std::pair{"\"upscaleGasCode\"", "\"upscaleGasLevelCode\""}})
         text.replace(text.find(name), std::string(name).size(), other);
-    importEmissions(held, text);
-    EXPECT_EQ(allRecords(held.site, kNox, "HIGH").size(), 2U);
+    take("emissions.json", text);
+    EXPECT_EQ(allRecords(site, kNox, "HIGH").size(), 2U);
 }
 
-TEST(EmissionsImport, AnEmptySiteGetsUnitsAndComponentsWhoseSpansAreNotKnown)
+TEST_F(EmissionsImportIntoANewSite, AnEmptySiteGetsUnitsAndComponentsWhoseSpansAreNotKnown)
 {
-    EmptySite held;
-    importEmissions(held, smallEmissions());
-    EXPECT_THAT(pidsOf(held.site.server()->Units()), ElementsAre(100'100'000, 200'100'000));
-    EXPECT_EQ(parameter(held.site, 200'100'000)->Name(0), "CS1");
-    EXPECT_EQ(parameter(held.site, kNox)->Name(0), "NOX 010");
-    const auto records = allRecords(held.site, kNox, "HIGH");
+    take("emissions.json", smallEmissions());
+    EXPECT_THAT(pidsOf(site.server()->Units()), ElementsAre(100'100'000, 200'100'000));
+    EXPECT_EQ(parameter(site, 200'100'000)->Name(0), "CS1");
+    EXPECT_EQ(parameter(site, kNox)->Name(0), "NOX 010");
+    const auto records = allRecords(site, kNox, "HIGH");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0]->Span(), Variant(Null{}));
-    const auto definitions = recordsOf(held.site, 111'047'501, "K7CAL");
+    const auto definitions = recordsOf(site, 111'047'501, "K7CAL");
     ASSERT_EQ(definitions.size(), 1U);
     EXPECT_EQ(definitions[0]->Span(), Variant(Null{}));
 }
 
-TEST(EmissionsImport, ASpanTableAfterwardsGivesTheSpansThatWereNotKnown)
+TEST_F(EmissionsImportIntoANewSite, ASpanTableAfterwardsGivesTheSpansThatWereNotKnown)
 {
-    EmptySite held;
-    importEmissions(held, smallEmissions());
-    importFile(held.site,
-               held.directory.write("spans.csv", "unit_id,component_id,component_type,span_scale,"
-                                                 "span_value,units\nU1,010,NOX,H,100,PPM\n"),
-               {});
-    EXPECT_EQ(recordsOf(held.site, 111'047'501, "K7CAL").front()->Span(), Variant(100.0));
-    for (const auto& record : allRecords(held.site, kNox, "HIGH"))
+    take("emissions.json", smallEmissions());
+    take("spans.csv", kSpanColumns + "U1,010,NOX,H,100,PPM\n");
+    EXPECT_EQ(recordsOf(site, 111'047'501, "K7CAL").front()->Span(), Variant(100.0));
+    for (const auto& record : allRecords(site, kNox, "HIGH"))
         EXPECT_EQ(record->Span(), Variant(100.0));
 }
 
-TEST(EmissionsImport, TheOrderOfTheFieldsIsNoMatter)
+TEST_F(EmissionsImport, TheOrderOfTheFieldsIsNoMatter)
 {
     const json document = json::parse(smallEmissions());
     std::string reversed;
@@ -154,10 +145,11 @@ TEST(EmissionsImport, TheOrderOfTheFieldsIsNoMatter)
                    (reversed.empty() ? "" : ", ") + reversed;
     EmptySite first;
     EmptySite second;
-    importEmissions(first, "{\"hourlyOperatingData\": " + document["hourlyOperatingData"].dump() +
-                               ", \"dailyTestSummaryData\": " +
-                               document["dailyTestSummaryData"].dump() + ", \"orisCode\": 54}");
-    importEmissions(second, "{" + reversed + "}");
+    importText(first, "emissions.json",
+               "{\"hourlyOperatingData\": " + document["hourlyOperatingData"].dump() +
+                   ", \"dailyTestSummaryData\": " + document["dailyTestSummaryData"].dump() +
+                   ", \"orisCode\": 54}");
+    importText(second, "emissions.json", "{" + reversed + "}");
     for (const char* table : {"hourly_value", "parameter", "attribute", "calibration_record"})
         EXPECT_EQ(count(first.site, std::string("SELECT COUNT(*) FROM ") + table),
                   count(second.site, std::string("SELECT COUNT(*) FROM ") + table))
@@ -169,79 +161,70 @@ TEST(EmissionsImport, TheOrderOfTheFieldsIsNoMatter)
     EXPECT_EQ(allRecords(second.site, kNox, "HIGH").size(), 2U);
 }
 
-TEST(EmissionsImport, AnHourWithoutAComponentIsMissingForEachAnalyzerThatHasNoneOfItsOwn)
+TEST_F(EmissionsImport, AnHourWithoutAComponentIsMissingForEachAnalyzerThatHasNoneOfItsOwn)
 {
-    SmallSite held;
-    importFile(held.site,
-               held.directory.write("more.csv", "unit_id,component_id,component_type,span_scale,"
-                                                "span_value,units\nU1,011,NOX,H,100,PPM\n"),
-               {});
+    take("more.csv", kSpanColumns + "U1,011,NOX,H,100,PPM\n");
     auto second = emissionsHour("2021-01-01", 1, 30);
     auto unnamed = second["monitorHourlyValueData"][0];
     unnamed["componentId"] = nullptr;
     unnamed["unadjustedHourlyValue"] = 40.5;
     unnamed["modcCode"] = "08";
     second["monitorHourlyValueData"].push_back(unnamed);
-    importEmissions(held, emissionsOf({emissionsHour("2021-01-01", 0, 20), second}));
-    EXPECT_THAT(hoursFrom(held.site, kNox, makeDate(2021, 1, 1), 2),
-                ElementsAre("20/101", "30/101"));
-    EXPECT_THAT(hoursFrom(held.site, kSecondNox, makeDate(2021, 1, 1), 2),
+    take("emissions.json", emissionsOf({emissionsHour("2021-01-01", 0, 20), second}));
+    EXPECT_THAT(hoursFrom(site, kNox, makeDate(2021, 1, 1), 2), ElementsAre("20/101", "30/101"));
+    EXPECT_THAT(hoursFrom(site, kSecondNox, makeDate(2021, 1, 1), 2),
                 ElementsAre("-/0", "40.5/108"));
 }
 
-TEST(EmissionsImport, AGasWhoseHoursNeverNameAComponentIsKeptUnderItsOwnName)
+TEST_F(EmissionsImport, AGasWhoseHoursNeverNameAComponentIsKeptUnderItsOwnName)
 {
-    SmallSite held;
     auto hour = emissionsHour("2021-01-01", 0, 3);
     hour["monitorHourlyValueData"][0]["parameterCode"] = "O2C";
     hour["monitorHourlyValueData"][0].erase("componentId");
-    importEmissions(held, emissionsOf({hour}));
-    EXPECT_EQ(parameter(held.site, 122'007'501)->Name(0), "O2");
-    EXPECT_THAT(hoursFrom(held.site, 122'007'501, makeDate(2021, 1, 1), 1), ElementsAre("3/101"));
+    take("emissions.json", emissionsOf({hour}));
+    EXPECT_EQ(parameter(site, 122'007'501)->Name(0), "O2");
+    EXPECT_THAT(hoursFrom(site, 122'007'501, makeDate(2021, 1, 1), 1), ElementsAre("3/101"));
 }
 
-TEST(EmissionsImport, OfWetAndDryOxygenOfOneAnalyzerTheFirstIsKept)
+TEST_F(EmissionsImport, OfWetAndDryOxygenOfOneAnalyzerTheFirstIsKept)
 {
-    SmallSite held;
     auto hour = emissionsHour("2021-01-01", 0, 3);
     auto& values = hour["monitorHourlyValueData"];
     values[0]["moistureBasis"] = "D";
     values.push_back(values[0]);
     values[1]["moistureBasis"] = "W";
     values[1]["unadjustedHourlyValue"] = 2;
-    const auto report = importEmissions(held, emissionsOf({hour}));
-    EXPECT_THAT(hoursFrom(held.site, kNox, makeDate(2021, 1, 1), 1), ElementsAre("3/101"));
+    const auto report = take("emissions.json", emissionsOf({hour}));
+    EXPECT_THAT(hoursFrom(site, kNox, makeDate(2021, 1, 1), 1), ElementsAre("3/101"));
     EXPECT_THAT(report.steppedOver,
                 ElementsAre("hourlyOperatingData.monitorHourlyValueData: 1 value of a component "
                             "that has one on another moisture basis."));
 }
 
-TEST(EmissionsImport, AnHourWithoutOperatingTimeHasNone)
+TEST_F(EmissionsImport, AnHourWithoutOperatingTimeHasNone)
 {
-    SmallSite held;
     auto hour = emissionsHour("2021-01-01", 0, 3);
     hour["operatingTime"] = nullptr;
-    importEmissions(held, emissionsOf({hour}));
-    EXPECT_THAT(hoursFrom(held.site, kOperatingTime, makeDate(2021, 1, 1), 1), ElementsAre("-/0"));
-    EXPECT_THAT(hoursFrom(held.site, kNox, makeDate(2021, 1, 1), 1), ElementsAre("3/101"));
+    take("emissions.json", emissionsOf({hour}));
+    EXPECT_THAT(hoursFrom(site, kOperatingTime, makeDate(2021, 1, 1), 1), ElementsAre("-/0"));
+    EXPECT_THAT(hoursFrom(site, kNox, makeDate(2021, 1, 1), 1), ElementsAre("3/101"));
 }
 
-TEST(EmissionsImport, AValueOfAnHourOffLineIsNotMeasuredByARunningUnit)
+TEST_F(EmissionsImport, AValueOfAnHourOffLineIsNotMeasuredByARunningUnit)
 {
-    SmallSite held;
     auto hour = emissionsHour("2021-01-01", 0, 3);
     hour["operatingTime"] = 0.0;
     hour["hourLoad"] = 7;
-    importEmissions(held, emissionsOf({hour}));
-    EXPECT_THAT(hoursFrom(held.site, kNox, makeDate(2021, 1, 1), 1), ElementsAre("3/2"));
-    EXPECT_FALSE(held.site.server()->Parameters()->Exists(kLoad));
+    take("emissions.json", emissionsOf({hour}));
+    EXPECT_THAT(hoursFrom(site, kNox, makeDate(2021, 1, 1), 1), ElementsAre("3/2"));
+    EXPECT_FALSE(site.server()->Parameters()->Exists(kLoad));
 }
 
 // The clocks are not changed: the days on which daylight saving time begins and ends have 24 hours.
-TEST(EmissionsImport, EveryDayHas24Hours)
+TEST_F(EmissionsImport, EveryDayHas24Hours)
 {
     for (const Date start : {makeDate(2021, 3, 11), makeDate(2021, 11, 4), makeDate(2020, 2, 26)}) {
-        SmallSite held;
+        SmallSite fresh;
         std::vector<json> hours;
         std::vector<std::string> expected;
         for (int index = 0; index < 7 * 24; ++index) {
@@ -249,55 +232,48 @@ TEST(EmissionsImport, EveryDayHas24Hours)
             hours.push_back(emissionsHour(isoDate(day), index % 24, index));
             expected.push_back(std::to_string(index) + "/101");
         }
-        importEmissions(held, emissionsOf(hours));
-        EXPECT_EQ(hoursFrom(held.site, kNox, start, 7 * 24), expected);
+        importText(fresh, "emissions.json", emissionsOf(hours));
+        EXPECT_EQ(hoursFrom(fresh.site, kNox, start, 7 * 24), expected);
     }
 }
 
-TEST(EmissionsImport, TheNextQuarterGoesOnWhereTheFirstEnded)
+TEST_F(EmissionsImport, TheNextQuarterGoesOnWhereTheFirstEnded)
 {
-    SmallSite held;
-    importEmissions(held, emissionsOf({emissionsHour("2021-03-31", 23, 1)}));
-    importEmissions(held, emissionsOf({emissionsHour("2021-04-01", 0, 2)}));
-    EXPECT_THAT(hoursFrom(held.site, kNox, makeDate(2021, 3, 31, 23), 2),
-                ElementsAre("1/101", "2/101"));
+    take("emissions.json", emissionsOf({emissionsHour("2021-03-31", 23, 1)}));
+    take("emissions.json", emissionsOf({emissionsHour("2021-04-01", 0, 2)}));
+    EXPECT_THAT(hoursFrom(site, kNox, makeDate(2021, 3, 31, 23), 2), ElementsAre("1/101", "2/101"));
 }
 
-TEST(EmissionsImport, AFileWithNothingForASiteLeavesNoTrace)
+TEST_F(EmissionsImport, AFileWithNothingForASiteLeavesNoTrace)
 {
-    SmallSite held;
-    const std::string before = dump(held.site);
+    const std::string before = dump(site);
     const auto report =
-        importEmissions(held, R"({"orisCode": 99, "quarter": 1, "summaryValueData": [{}]})");
+        take("emissions.json", R"({"orisCode": 99, "quarter": 1, "summaryValueData": [{}]})");
     EXPECT_THAT(report.steppedOver, ElementsAre("summaryValueData: 1 entry."));
-    EXPECT_EQ(dump(held.site), before);
+    EXPECT_EQ(dump(site), before);
 }
 
-TEST(EmissionsImport, AGzipFileAndAByteOrderMarkAreNoMatter)
+TEST_F(EmissionsImport, AGzipFileAndAByteOrderMarkAreNoMatter)
 {
-    SmallSite held;
     const auto file =
         held.directory.write("emissions.json.gz", gzip("\xEF\xBB\xBF" + smallEmissions()));
-    importFile(held.site, file, {});
-    EXPECT_THAT(hoursFrom(held.site, kNox, lateOnLeapDay(), 1), ElementsAre("12.5/101"));
+    importFile(site, file, {});
+    EXPECT_THAT(hoursFrom(site, kNox, lateOnLeapDay(), 1), ElementsAre("12.5/101"));
 }
 
-TEST(EmissionsImport, ADailyCalibrationOfAComponentThatTheSiteDoesNotHaveIsSteppedOver)
+TEST_F(EmissionsImport, ADailyCalibrationOfAComponentThatTheSiteDoesNotHaveIsSteppedOver)
 {
-    SmallSite held;
-    const auto report = importEmissions(
-        held, patchedEmissions("replace", "/dailyTestSummaryData/0/componentId", R"("077")"));
+    const auto report =
+        take("emissions.json", patchedEmissions("/dailyTestSummaryData/0/componentId", R"("077")"));
     EXPECT_EQ(report.steppedOver.front(),
               "dailyTestSummaryData: 1 test of component 077 of U1, which the site does not have.");
-    EXPECT_THAT(allRecords(held.site, kNox, "HIGH"), IsEmpty());
+    EXPECT_THAT(allRecords(site, kNox, "HIGH"), IsEmpty());
 }
 
-TEST(EmissionsImport, ADailyCalibrationOnANewScaleMakesTheScale)
+TEST_F(EmissionsImport, ADailyCalibrationOnANewScaleMakesTheScale)
 {
-    SmallSite held;
-    importEmissions(held,
-                    patchedEmissions("add", "/dailyTestSummaryData/1/spanScaleCode", R"("L")"));
-    const auto records = allRecords(held.site, kCo2, "LOW");
+    take("emissions.json", patchedEmissions("/dailyTestSummaryData/1/spanScaleCode", R"("L")"));
+    const auto records = allRecords(site, kCo2, "LOW");
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0]->Span(), Variant(Null{}));
 }

@@ -15,287 +15,214 @@ using nlohmann::json;
 using testing::EndsWith;
 using testing::StartsWith;
 
-struct EmissionsRefusalCase {
-    const char* what;
-    const char* operation;
-    const char* path;
-    const char* value;
-    const char* sentence; ///< Behind the file's name.
+const JsonParts kEmissionsParts{
+    {"hour", "/hourlyOperatingData/0"},
+    {"value", "/hourlyOperatingData/0/monitorHourlyValueData/0"},
+    {"test", "/dailyTestSummaryData/0"},
+    {"row", "/dailyTestSummaryData/0/dailyCalibrationData/0"},
 };
 
-constexpr EmissionsRefusalCase kEmissionsRefusals[] = {
+constexpr JsonFault kEmissionsRefusals[] = {
     // The file.
-    {"no facility", "remove", "/orisCode", "", "orisCode: the field is missing."},
-    {"a facility in words", "replace", "/orisCode", R"("54")",
-     R"(orisCode: "54" is no ORIS code from 1 to 999999.)"},
-    {"hours that are no list", "replace", "/hourlyOperatingData", "{}",
-     "hourlyOperatingData: an object is no list."},
-    {"daily tests that are no list", "replace", "/dailyTestSummaryData", "7",
-     "dailyTestSummaryData: 7 is no list."},
+    {"no facility", "/orisCode", "", "the field is missing."},
+    {"a facility in words", "/orisCode", R"("54")", R"("54" is no ORIS code from 1 to 999999.)"},
+    {"hours that are no list", "/hourlyOperatingData", "{}", "an object is no list."},
+    {"daily tests that are no list", "/dailyTestSummaryData", "7", "7 is no list."},
     // An hour.
-    {"an hour that is nothing", "replace", "/hourlyOperatingData/0", "null",
-     "hourlyOperatingData[0]: null is no object."},
-    {"no location", "replace", "/hourlyOperatingData/0/unitId", "null",
-     "hourlyOperatingData[0]: neither a unit nor a stack or pipe is named."},
-    {"two locations", "replace", "/hourlyOperatingData/0/stackPipeId", R"("CS1")",
-     "hourlyOperatingData[0]: both the unit U1 and the stack or pipe CS1 are named."},
-    {"a location with too long a name", "replace", "/hourlyOperatingData/3/stackPipeId",
-     R"("CS00001")",
-     R"(hourlyOperatingData[3].stackPipeId: "CS00001" is no identifier of 1 to 6 characters.)"},
-    {"a numbered location", "replace", "/hourlyOperatingData/0/unitId", "1",
-     "hourlyOperatingData[0].unitId: 1 is no text."},
-    {"no date", "remove", "/hourlyOperatingData/1/date", "",
-     "hourlyOperatingData[1].date: the field is missing."},
-    {"a day that does not exist", "replace", "/hourlyOperatingData/0/date", R"("2021-02-29")",
-     R"(hourlyOperatingData[0].date: "2021-02-29" is no date.)"},
-    {"a date that is nothing", "replace", "/hourlyOperatingData/0/date", "null",
-     "hourlyOperatingData[0].date: null is no date."},
-    {"hour 24", "replace", "/hourlyOperatingData/0/hour", "24",
-     "hourlyOperatingData[0].hour: 24 is no hour from 0 to 23."},
-    {"an hour that is nothing", "replace", "/hourlyOperatingData/0/hour", "null",
-     "hourlyOperatingData[0].hour: null is no hour from 0 to 23."},
-    {"too long an operating time", "replace", "/hourlyOperatingData/0/operatingTime", "1.01",
-     "hourlyOperatingData[0].operatingTime: 1.01 lies outside 0 to 1."},
-    {"a negative operating time", "replace", "/hourlyOperatingData/0/operatingTime", "-0.5",
-     "hourlyOperatingData[0].operatingTime: -0.5 lies outside 0 to 1."},
-    {"an operating time in words", "replace", "/hourlyOperatingData/0/operatingTime", R"("1")",
-     R"(hourlyOperatingData[0].operatingTime: "1" is no number.)"},
-    {"a negative load", "replace", "/hourlyOperatingData/0/hourLoad", "-1",
-     "hourlyOperatingData[0].hourLoad: -1 lies outside 0 to 999999."},
-    {"too high a load", "replace", "/hourlyOperatingData/0/hourLoad", "1000000",
-     "hourlyOperatingData[0].hourLoad: 1000000 lies outside 0 to 999999."},
-    {"a unit of load that is no text", "replace", "/hourlyOperatingData/0/loadUnitsOfMeasureCode",
-     "5", "hourlyOperatingData[0].loadUnitsOfMeasureCode: 5 is no text."},
-    {"an hour that stands there twice", "replace", "/hourlyOperatingData/1/hour", "22",
-     "hourlyOperatingData[1]: hour 22 of 2020-02-29 stands in the file twice."},
+    {"an hour that is nothing", "hour", "null", "null is no object."},
+    {"no location", "hour/unitId", "null", "neither a unit nor a stack or pipe is named.", "hour"},
+    {"two locations", "hour/stackPipeId", R"("CS1")",
+     "both the unit U1 and the stack or pipe CS1 are named.", "hour"},
+    {"a location with too long a name", "/hourlyOperatingData/3/stackPipeId", R"("CS00001")",
+     R"("CS00001" is no identifier of 1 to 6 characters.)"},
+    {"a numbered location", "hour/unitId", "1", "1 is no text."},
+    {"no date", "/hourlyOperatingData/1/date", "", "the field is missing."},
+    {"a day that does not exist", "hour/date", R"("2021-02-29")", R"("2021-02-29" is no date.)"},
+    {"a date that is nothing", "hour/date", "null", "null is no date."},
+    {"hour 24", "hour/hour", "24", "24 is no hour from 0 to 23."},
+    {"an hour that is nothing", "hour/hour", "null", "null is no hour from 0 to 23."},
+    {"too long an operating time", "hour/operatingTime", "1.01", "1.01 lies outside 0 to 1."},
+    {"a negative operating time", "hour/operatingTime", "-0.5", "-0.5 lies outside 0 to 1."},
+    {"an operating time in words", "hour/operatingTime", R"("1")", R"("1" is no number.)"},
+    {"a negative load", "hour/hourLoad", "-1", "-1 lies outside 0 to 999999."},
+    {"too high a load", "hour/hourLoad", "1000000", "1000000 lies outside 0 to 999999."},
+    {"a unit of load that is no text", "hour/loadUnitsOfMeasureCode", "5", "5 is no text."},
+    {"an hour that stands there twice", "/hourlyOperatingData/1/hour", "22",
+     "hour 22 of 2020-02-29 stands in the file twice.", "/hourlyOperatingData/1"},
     // A value.
-    {"values that are no list", "replace", "/hourlyOperatingData/0/monitorHourlyValueData", "{}",
-     "hourlyOperatingData[0].monitorHourlyValueData: an object is no list."},
-    {"no parameter", "remove", "/hourlyOperatingData/0/monitorHourlyValueData/0/parameterCode", "",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].parameterCode: the field is missing."},
-    {"a parameter that is nothing", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/1/parameterCode", "null",
-     "hourlyOperatingData[0].monitorHourlyValueData[1].parameterCode: null is no text."},
-    {"no MODC", "remove", "/hourlyOperatingData/0/monitorHourlyValueData/0/modcCode", "",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].modcCode: the field is missing."},
-    {"a MODC that is nothing", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/modcCode", "null",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].modcCode: null is no MODC of a monitor's "
-     "hour."},
-    {"an unknown MODC", "replace", "/hourlyOperatingData/0/monitorHourlyValueData/0/modcCode",
-     R"("99")",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].modcCode: \"99\" is no MODC of a monitor's "
-     "hour."},
-    {"an unknown MODC of mercury", "replace",
-     "/hourlyOperatingData/1/matsMonitorHourlyValueData/0/modcCode", R"("36")",
-     "hourlyOperatingData[1].matsMonitorHourlyValueData[0].modcCode: \"36\" is no MODC of a "
-     "monitor's hour."},
-    {"a value in words", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/unadjustedHourlyValue", R"("low")",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].unadjustedHourlyValue: \"low\" is no "
-     "number."},
-    {"a value that is true", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/unadjustedHourlyValue", "true",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].unadjustedHourlyValue: true is no number."},
-    {"too high a value", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/unadjustedHourlyValue", "1e11",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].unadjustedHourlyValue: 100000000000.0 lies "
-     "outside -10000000000 to 10000000000."},
-    {"too high a value of mercury", "replace",
+    {"values that are no list", "hour/monitorHourlyValueData", "{}", "an object is no list."},
+    {"no parameter", "value/parameterCode", "", "the field is missing."},
+    {"a parameter that is nothing", "hour/monitorHourlyValueData/1/parameterCode", "null",
+     "null is no text."},
+    {"no MODC", "value/modcCode", "", "the field is missing."},
+    {"a MODC that is nothing", "value/modcCode", "null", "null is no MODC of a monitor's hour."},
+    {"an unknown MODC", "value/modcCode", R"("99")", R"("99" is no MODC of a monitor's hour.)"},
+    {"an unknown MODC of mercury", "/hourlyOperatingData/1/matsMonitorHourlyValueData/0/modcCode",
+     R"("36")", R"("36" is no MODC of a monitor's hour.)"},
+    {"a value in words", "value/unadjustedHourlyValue", R"("low")", R"("low" is no number.)"},
+    {"a value that is true", "value/unadjustedHourlyValue", "true", "true is no number."},
+    {"too high a value", "value/unadjustedHourlyValue", "1e11",
+     "100000000000.0 lies outside -10000000000 to 10000000000."},
+    {"too high a value of mercury",
      "/hourlyOperatingData/1/matsMonitorHourlyValueData/0/unadjustedHourlyValue", R"("1.0E11")",
-     "hourlyOperatingData[1].matsMonitorHourlyValueData[0].unadjustedHourlyValue: \"1.0E11\" lies "
-     "outside -10000000000 to 10000000000."},
-    {"a component that is no text", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/componentId", "10",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].componentId: 10 is no text."},
-    {"a component with too long a name", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/componentId", R"("0010")",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].componentId: \"0010\" is no identifier of 1 "
-     "to 3 characters."},
-    {"a component of another gas", "replace",
-     "/hourlyOperatingData/0/monitorHourlyValueData/0/componentId", R"("020")",
-     "hourlyOperatingData[0].monitorHourlyValueData[0].componentId: component 020 of U1 measures "
-     "another gas."},
-    {"a value that stands there twice", "add", "/hourlyOperatingData/0/monitorHourlyValueData/-",
+     R"("1.0E11" lies outside -10000000000 to 10000000000.)"},
+    {"a component that is no text", "value/componentId", "10", "10 is no text."},
+    {"a component with too long a name", "value/componentId", R"("0010")",
+     R"("0010" is no identifier of 1 to 3 characters.)"},
+    {"a component of another gas", "value/componentId", R"("020")",
+     "component 020 of U1 measures another gas."},
+    {"a value that stands there twice", "hour/monitorHourlyValueData/-",
      R"({"parameterCode": "NOXC", "modcCode": "01", "componentId": "010"})",
-     "hourlyOperatingData[0].monitorHourlyValueData[2]: hour 22 of 2020-02-29 stands in the file "
-     "twice."},
+     "hour 22 of 2020-02-29 stands in the file twice.", "hour/monitorHourlyValueData/2"},
     // A daily calibration.
-    {"injections that are no list", "replace", "/dailyTestSummaryData/0/dailyCalibrationData",
-     R"("none")", R"(dailyTestSummaryData[0].dailyCalibrationData: "none" is no list.)"},
-    {"an unknown scale", "replace", "/dailyTestSummaryData/0/spanScaleCode", R"("X")",
-     R"(dailyTestSummaryData[0].spanScaleCode: "X" is not H, L or null.)"},
-    {"a calibration of nobody", "replace", "/dailyTestSummaryData/0/unitId", "null",
-     "dailyTestSummaryData[0]: neither a unit nor a stack or pipe is named."},
-    {"half a time", "replace", "/dailyTestSummaryData/0/dailyCalibrationData/0/zeroInjectionHour",
-     "null",
-     "dailyTestSummaryData[0].dailyCalibrationData[0].zeroInjectionHour: null is no hour from 0 to "
-     "23."},
-    {"an unknown gas level", "replace",
-     "/dailyTestSummaryData/0/dailyCalibrationData/0/upscaleGasCode", R"("TOP")",
-     "dailyTestSummaryData[0].dailyCalibrationData[0].upscaleGasCode: \"TOP\" is not LOW, MID or "
-     "HIGH."},
+    {"injections that are no list", "test/dailyCalibrationData", R"("none")",
+     R"("none" is no list.)"},
+    {"an unknown scale", "test/spanScaleCode", R"("X")", R"("X" is not H, L or null.)"},
+    {"a calibration of nobody", "test/unitId", "null",
+     "neither a unit nor a stack or pipe is named.", "test"},
+    {"half a time", "row/zeroInjectionHour", "null", "null is no hour from 0 to 23."},
+    {"an unknown gas level", "row/upscaleGasCode", R"("TOP")", R"("TOP" is not LOW, MID or HIGH.)"},
 };
 
-void PrintTo(const EmissionsRefusalCase& entry, std::ostream* stream)
-{
-    *stream << entry.what;
-}
-
-class EmissionsRefusal : public testing::TestWithParam<EmissionsRefusalCase>
-{
-};
+using EmissionsRefusal = ImportCases<SmallSite, JsonFault>;
 
 TEST_P(EmissionsRefusal, NamesFilePathAndFieldAndLeavesTheSiteAsItWas)
 {
-    const auto& entry = GetParam();
-    SmallSite held;
-    const auto file = held.directory.write(
-        "emissions.json", patchedEmissions(entry.operation, entry.path, entry.value));
-    EXPECT_EQ(refusal(held, file, {}), std::string("emissions.json: ") + entry.sentence);
+    const std::string text =
+        patchedEmissions(pathOf(GetParam(), kEmissionsParts), GetParam().value);
+    EXPECT_EQ(refused("emissions.json", text),
+              "emissions.json: " + sentenceOf(GetParam(), kEmissionsParts));
 }
 
 INSTANTIATE_TEST_SUITE_P(Emissions, EmissionsRefusal, testing::ValuesIn(kEmissionsRefusals));
 
-/// The sentence with which a text is refused as emissions.json, without the file's name.
-std::string refusalOf(EmptySite& held, const std::string& text, const ImportOptions& options = {})
-{
-    const std::string sentence =
-        refusal(held, held.directory.write("emissions.json", text), options);
-    EXPECT_THAT(sentence, StartsWith("emissions.json: "));
-    return sentence.substr(std::string("emissions.json: ").size());
-}
+struct EmissionsRefusals : ImportTest<SmallSite> {
+    /// The sentence with which a text is refused as emissions.json, without the file's name.
+    std::string refusalOf(const std::string& text)
+    {
+        const std::string sentence = refused("emissions.json", text);
+        EXPECT_THAT(sentence, StartsWith("emissions.json: "));
+        return sentence.substr(std::string("emissions.json: ").size());
+    }
+};
+using EmissionsCancel = ImportTest<SmallSite>;
+using EmissionsProgress = ImportTest<SmallSite>;
 
-TEST(EmissionsRefusals, AnotherFacility)
+TEST_F(EmissionsRefusals, AnotherFacility)
 {
-    SmallSite held;
-    importEmissions(held, emissionsOf({emissionsHour("2021-01-01", 0, 1)}));
-    EXPECT_EQ(refusalOf(held, patchedEmissions("replace", "/orisCode", "55")),
+    take("emissions.json", emissionsOf({emissionsHour("2021-01-01", 0, 1)}));
+    EXPECT_EQ(refusalOf(patchedEmissions("/orisCode", "55")),
               "orisCode: 55 is another facility than the site's, which is 54.");
 }
 
-TEST(EmissionsRefusals, ATopLevelFieldThatStandsThereTwice)
+TEST_F(EmissionsRefusals, ATopLevelFieldThatStandsThereTwice)
 {
-    SmallSite held;
-    EXPECT_EQ(refusalOf(held, R"({"quarter": 1, "orisCode": 54, "orisCode": 55})"),
+    EXPECT_EQ(refusalOf(R"({"quarter": 1, "orisCode": 54, "orisCode": 55})"),
               "orisCode: the field stands there twice.");
 }
 
-TEST(EmissionsRefusals, AFileThatIsCutOffAnywhereBehindItsFirstNames)
+TEST_F(EmissionsRefusals, AFileThatIsCutOffAnywhereBehindItsFirstNames)
 {
-    SmallSite held;
     const std::string text = smallEmissions();
     const std::size_t end = text.rfind('}');
     for (std::size_t length = text.find("\"submissionComment\""); length < end; length += 97) {
         const auto lines =
             1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(length), '\n');
-        EXPECT_EQ(refusalOf(held, text.substr(0, length)),
+        EXPECT_EQ(refusalOf(text.substr(0, length)),
                   "line " + std::to_string(lines) + ": the JSON is cut off.")
             << length << " bytes";
     }
 }
 
-TEST(EmissionsRefusals, SomethingElseThanJsonInIt)
+TEST_F(EmissionsRefusals, SomethingElseThanJsonInIt)
 {
-    SmallSite held;
     std::string text = smallEmissions();
     text[text.find("\"hour\": 23")] = '\'';
     const auto at = text.find('\'');
     const auto line =
         1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
-    EXPECT_EQ(refusalOf(held, text), "line " + std::to_string(line) + ": this is no JSON.");
-    EXPECT_EQ(refusalOf(held, smallEmissions() + "x"),
+    EXPECT_EQ(refusalOf(text), "line " + std::to_string(line) + ": this is no JSON.");
+    EXPECT_EQ(refusalOf(smallEmissions() + "x"),
               "line " + std::to_string(1 + std::count(text.begin(), text.end(), '\n')) +
                   ": this is no JSON.");
 }
 
-TEST(EmissionsRefusals, ANumberThatIsTooLongForJson)
+TEST_F(EmissionsRefusals, ANumberThatIsTooLongForJson)
 {
-    SmallSite held;
     std::string text = smallEmissions();
     text.replace(text.find("12.5"), 4, "1e999");
-    EXPECT_THAT(refusalOf(held, text), EndsWith(": a number in the JSON is out of range."));
+    EXPECT_THAT(refusalOf(text), EndsWith(": a number in the JSON is out of range."));
 }
 
-TEST(EmissionsRefusals, AGzipFileThatIsCutOffOrDamaged)
+TEST_F(EmissionsRefusals, AGzipFileThatIsCutOffOrDamaged)
 {
-    SmallSite held;
     std::vector<json> hours;
     for (int hour = 0; hour < 24; ++hour)
         hours.push_back(emissionsHour("2021-01-01", hour, hour));
     const std::string packed = gzip(emissionsOf(hours));
     for (std::size_t length = packed.size() - 200; length < packed.size(); length += 7)
-        EXPECT_EQ(refusal(held, held.directory.write("e.json.gz", packed.substr(0, length)), {}),
+        EXPECT_EQ(refused("e.json.gz", packed.substr(0, length)),
                   "e.json.gz: the gzip file is cut off.");
     std::string damaged = packed;
     damaged[damaged.size() - 6] = static_cast<char>(damaged[damaged.size() - 6] ^ 1);
-    EXPECT_EQ(refusal(held, held.directory.write("e.json.gz", damaged), {}),
-              "e.json.gz: the gzip file is damaged.");
+    EXPECT_EQ(refused("e.json.gz", damaged), "e.json.gz: the gzip file is damaged.");
 }
 
-TEST(EmissionsRefusals, AnEntryWithoutEnd)
+TEST_F(EmissionsRefusals, AnEntryWithoutEnd)
 {
-    SmallSite held;
     std::string values = "0";
     for (int index = 0; index < 1'000'000; ++index)
         values += ",0";
-    EXPECT_EQ(refusalOf(held, "{\"quarter\": 1, \"hourlyOperatingData\": [{}, [" + values + "]]}"),
+    EXPECT_EQ(refusalOf("{\"quarter\": 1, \"hourlyOperatingData\": [{}, [" + values + "]]}"),
               "hourlyOperatingData[0]: neither a unit nor a stack or pipe is named.");
-    EXPECT_EQ(refusalOf(held, "{\"quarter\": 1, \"hourlyOperatingData\": [[" + values + "]]}"),
+    EXPECT_EQ(refusalOf("{\"quarter\": 1, \"hourlyOperatingData\": [[" + values + "]]}"),
               "hourlyOperatingData[0]: the entry is too large.");
 }
 
-TEST(EmissionsRefusals, TheSameFileAgainUnderAnyName)
+TEST_F(EmissionsRefusals, TheSameFileAgainUnderAnyName)
 {
-    SmallSite held;
-    importEmissions(held, smallEmissions());
-    EXPECT_EQ(refusal(held, held.directory.write("again.json", smallEmissions()), {}),
+    take("emissions.json", smallEmissions());
+    EXPECT_EQ(refused("again.json", smallEmissions()),
               "again.json: the site has imported this file before, as emissions.json.");
 }
 
-TEST(EmissionsRefusals, AnHourThatTheSiteHolds)
+TEST_F(EmissionsRefusals, AnHourThatTheSiteHolds)
 {
-    SmallSite held;
-    importEmissions(held, emissionsOf({emissionsHour("2021-01-01", 0, 1)}));
-    EXPECT_EQ(refusalOf(held, emissionsOf({emissionsHour("2021-01-01", 1, 1),
-                                           emissionsHour("2021-01-01", 0, 1)})),
+    take("emissions.json", emissionsOf({emissionsHour("2021-01-01", 0, 1)}));
+    EXPECT_EQ(refusalOf(emissionsOf(
+                  {emissionsHour("2021-01-01", 1, 1), emissionsHour("2021-01-01", 0, 1)})),
               "hourlyOperatingData[1]: the site already holds the operating time of U1 for hour 0 "
               "of 2021-01-01.");
 }
 
-TEST(EmissionsRefusals, AnHourOfLoadThatTheSiteHolds)
+TEST_F(EmissionsRefusals, AnHourOfLoadThatTheSiteHolds)
 {
-    SmallSite held;
-    importFile(held.site,
-               held.directory.write("load.csv", "date,hour,gross_load_mw\n2020-02-29,23,5\n"),
-               forUnit("U1"));
-    EXPECT_EQ(refusalOf(held, smallEmissions()),
+    take("load.csv", "date,hour,gross_load_mw\n2020-02-29,23,5\n", forUnit("U1"));
+    EXPECT_EQ(refusalOf(smallEmissions()),
               "hourlyOperatingData[1]: the site already holds the operating time of U1 for hour 23 "
               "of 2020-02-29.");
 }
 
-TEST(EmissionsRefusals, AnHourOfAMonitorThatTheSiteHolds)
+TEST_F(EmissionsRefusals, AnHourOfAMonitorThatTheSiteHolds)
 {
-    SmallSite held;
     const auto table = [&](const char* row) {
         return held.directory.write(
             "hours.csv",
             std::string("date,hour,parameter,modc,unadjusted_hourly_value\n") + row + "\n");
     };
-    importFile(held.site, table("2020-02-29,22,CO2C,01,5"), forUnit("U1"));
-    EXPECT_EQ(refusalOf(held, smallEmissions()),
+    importFile(site, table("2020-02-29,22,CO2C,01,5"), forUnit("U1"));
+    EXPECT_EQ(refusalOf(smallEmissions()),
               "hourlyOperatingData[0].monitorHourlyValueData[1]: the site already holds the hours "
               "of U1 020 for hour 22 of 2020-02-29.");
-    importFile(held.site, table("2020-02-29,23,NOXC,01,5"), forUnit("U1"));
-    EXPECT_EQ(refusalOf(held, patchedEmissions("remove", "/hourlyOperatingData/0", "")),
+    importFile(site, table("2020-02-29,23,NOXC,01,5"), forUnit("U1"));
+    EXPECT_EQ(refusalOf(patchedEmissions("/hourlyOperatingData/0", "")),
               "hourlyOperatingData: the site already holds the hours of U1 010 for hour 23 of "
               "2020-02-29.");
 }
 
-TEST(EmissionsRefusals, ADailyCalibrationThatAQaFileBrought)
+TEST_F(EmissionsRefusals, ADailyCalibrationThatAQaFileBrought)
 {
-    SmallSite held;
-    importFile(held.site, held.directory.write("qa.json", smallQa()), {});
+    take("qa.json", smallQa());
     std::string text = smallEmissions();
     for (const char* part : {"\"zeroInjection", "\"upscaleInjection"}) {
         const std::string date = std::string(part) + "Date\": \"2020-02-29\"";
@@ -303,10 +230,10 @@ TEST(EmissionsRefusals, ADailyCalibrationThatAQaFileBrought)
     }
     text.replace(text.find("\"zeroInjectionHour\": 5, \"zeroInjectionMinute\": 2"), 48,
                  "\"zeroInjectionHour\": 6, \"zeroInjectionMinute\": 10");
-    EXPECT_EQ(refusalOf(held, text),
+    EXPECT_EQ(refusalOf(text),
               "dailyTestSummaryData[0].dailyCalibrationData[0], zero injection: the site already "
               "holds a zero injection of U1 010 HIGH at 2020-03-01 06:10.");
-    const auto report = importEmissions(held, text, leavingOut());
+    const auto report = take("emissions.json", text, leavingOut());
     EXPECT_THAT(report.counts,
                 testing::ElementsAre("4 hours", "6 monitor values", "1 calibration injection",
                                      "2 injections left out"));
@@ -320,25 +247,23 @@ TEST(EmissionsRefusals, ADailyCalibrationThatAQaFileBrought)
                     "2020-03-01 06:10."));
 }
 
-TEST(EmissionsRefusals, ADailyCalibrationThatStandsThereTwice)
+TEST_F(EmissionsRefusals, ADailyCalibrationThatStandsThereTwice)
 {
-    SmallSite held;
     auto document = json::parse(smallEmissions());
     auto& rows = document["dailyTestSummaryData"][0]["dailyCalibrationData"];
     rows.push_back(rows[0]);
-    EXPECT_EQ(refusalOf(held, document.dump()),
+    EXPECT_EQ(refusalOf(document.dump()),
               "dailyTestSummaryData[0].dailyCalibrationData[1], zero injection: a zero injection "
               "of U1 010 HIGH at 2020-02-29 05:02 stands in the file twice.");
 }
 
-TEST(EmissionsRefusals, AnUnreadableInjectionCanBeLeftOut)
+TEST_F(EmissionsRefusals, AnUnreadableInjectionCanBeLeftOut)
 {
-    SmallSite held;
-    const auto report = importEmissions(
-        held,
-        patchedEmissions(
-            "replace", "/dailyTestSummaryData/0/dailyCalibrationData/0/zeroMeasuredValue", "true"),
-        leavingOut());
+    const auto report =
+        take("emissions.json",
+             patchedEmissions("/dailyTestSummaryData/0/dailyCalibrationData/0/zeroMeasuredValue",
+                              "true"),
+             leavingOut());
     EXPECT_THAT(report.leftOut,
                 testing::ElementsAre("emissions.json: dailyTestSummaryData[0]."
                                      "dailyCalibrationData[0].zeroMeasuredValue: true is no "
@@ -346,32 +271,29 @@ TEST(EmissionsRefusals, AnUnreadableInjectionCanBeLeftOut)
     EXPECT_EQ(report.counts.back(), "1 injection left out");
 }
 
-TEST(EmissionsRefusals, OneUnitTooMany)
+TEST_F(EmissionsRefusals, OneUnitTooMany)
 {
-    SmallSite held;
     std::vector<json> hours;
     for (int unit = 1; unit <= 20; ++unit) {
         hours.push_back(emissionsHour("2021-01-01", 0, 1));
         hours.back()["unitId"] = std::to_string(unit);
     }
-    EXPECT_EQ(refusalOf(held, emissionsOf(hours)),
+    EXPECT_EQ(refusalOf(emissionsOf(hours)),
               "hourlyOperatingData[18].unitId: 19 would be one unit too many, since a site holds "
               "at most 19.");
 }
 
-TEST(EmissionsCancel, TakesNothingAndSaysSo)
+TEST_F(EmissionsCancel, TakesNothingAndSaysSo)
 {
-    SmallSite held;
     ImportOptions options;
     options.progress = [](const ImportProgress&) { return false; };
     const auto file = held.directory.write("emissions.json", smallEmissions());
     EXPECT_EQ(refusal(held, file, options), "emissions.json: the import was cancelled.");
-    EXPECT_THROW(importFile(held.site, file, options), ImportCancelled);
+    EXPECT_THROW(importFile(site, file, options), ImportCancelled);
 }
 
-TEST(EmissionsProgress, TellsBytesAndHoursUpToTheEnd)
+TEST_F(EmissionsProgress, TellsBytesAndHoursUpToTheEnd)
 {
-    SmallSite held;
     std::vector<json> hours;
     for (int index = 0; index < 480; ++index) {
         const std::string day = std::to_string(index / 24 + 10);
@@ -384,7 +306,7 @@ TEST(EmissionsProgress, TellsBytesAndHoursUpToTheEnd)
         told.push_back(progress);
         return true;
     };
-    importEmissions(held, text, options);
+    take("emissions.json", text, options);
     ASSERT_GE(told.size(), 2U);
     for (std::size_t index = 1; index < told.size(); ++index) {
         EXPECT_GE(told[index].bytesRead, told[index - 1].bytesRead);

@@ -22,112 +22,88 @@ const std::filesystem::path kCrystalRiver =
     "span_value,full_scale_range,span_uom_cd,flow_span_value,flow_full_scale_range,begin_date,"    \
     "begin_hour,end_date,end_hour\n"
 
-TEST(LocationSpans, TakesTheSpansInForceOfOneLocation)
+using LocationSpans = ImportTest<EmptySite>;
+
+TEST_F(LocationSpans, TakesTheSpansInForceOfOneLocation)
 {
-    EmptySite held;
-    const auto report = importFile(held.site, kCrystalRiver, forUnit("4"));
+    const auto report = importFile(site, kCrystalRiver, forUnit("4"));
     EXPECT_EQ(report.format, "spans of locations");
     EXPECT_THAT(report.counts, ElementsAre("1 unit", "5 analyzers", "7 spans"));
     EXPECT_THAT(report.steppedOver, ElementsAre("9 spans of other times."));
-    EXPECT_THAT(spansOf(held.site), ElementsAre("SO2/L Calibration: 100", "SO2/H Calibration: 3000",
-                                                "NOX/L Calibration: 50", "NOX/H Calibration: 500",
-                                                "HG/H Calibration: 5", "CO2/H Calibration: 20",
-                                                "FLOW Calibration: 3300"));
-    EXPECT_EQ(attributeOf(held.site, UnitPID(1), attribute::kOrisCode), Variant(628));
+    EXPECT_THAT(spansOf(site), ElementsAre("SO2/L Calibration: 100", "SO2/H Calibration: 3000",
+                                           "NOX/L Calibration: 50", "NOX/H Calibration: 500",
+                                           "HG/H Calibration: 5", "CO2/H Calibration: 20",
+                                           "FLOW Calibration: 3300"));
+    EXPECT_EQ(attributeOf(site, UnitPID(1), attribute::kOrisCode), Variant(628));
 }
 
-TEST(LocationSpans, TakesAllNamedLocations)
+TEST_F(LocationSpans, TakesAllNamedLocations)
 {
-    EmptySite held;
-    const auto report = importFile(held.site, kCrystalRiver, {});
+    const auto report = importFile(site, kCrystalRiver, {});
     EXPECT_THAT(report.counts, ElementsAre("6 units", "22 analyzers", "28 spans"));
     EXPECT_THAT(report.steppedOver,
                 ElementsAre("29 spans of other times.", "10 rows without a location."));
-    EXPECT_THAT(parametersOfType(held.site, kUnitType),
+    EXPECT_THAT(parametersOfType(site, kUnitType),
                 ElementsAre("1-001-0-00-00 1", "2-001-0-00-00 1GTA", "3-001-0-00-00 1GTB",
                             "4-001-0-00-00 2", "5-001-0-00-00 4", "6-001-0-00-00 5"));
 }
 
-TEST(LocationSpans, KeepsWhatTheTableSaysOfMercury)
+TEST_F(LocationSpans, KeepsWhatTheTableSaysOfMercury)
 {
-    EmptySite held;
-    importFile(held.site, kCrystalRiver, forUnit("4"));
+    importFile(site, kCrystalRiver, forUnit("4"));
     constexpr PID kMercuryHigh = 115'047'501;
-    EXPECT_EQ(parameter(held.site, kMercuryHigh)->Name(0), "HG/H Calibration");
-    EXPECT_EQ(parameter(held.site, kMercuryHigh)->UnitsText(), "\xC2\xB5g/scm");
-    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, attribute::kComponentId),
-              Variant(std::string("HG")));
-    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kFullScaleRange),
+    EXPECT_EQ(parameter(site, kMercuryHigh)->Name(0), "HG/H Calibration");
+    EXPECT_EQ(parameter(site, kMercuryHigh)->UnitsText(), "\xC2\xB5g/scm");
+    EXPECT_EQ(attributeOf(site, kMercuryHigh, attribute::kComponentId), Variant(std::string("HG")));
+    EXPECT_EQ(attributeOf(site, kMercuryHigh, planattribute::kFullScaleRange),
               Variant(std::string("10")));
-    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kMaximumPotential),
+    EXPECT_EQ(attributeOf(site, kMercuryHigh, planattribute::kMaximumPotential),
               Variant(std::string("10")));
-    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kMaximumExpected),
-              Variant(Null{}));
-    EXPECT_EQ(attributeOf(held.site, kMercuryHigh, planattribute::kSpanBegin),
+    EXPECT_EQ(attributeOf(site, kMercuryHigh, planattribute::kMaximumExpected), Variant(Null{}));
+    EXPECT_EQ(attributeOf(site, kMercuryHigh, planattribute::kSpanBegin),
               Variant(std::string("2016-04-16 00:00")));
 }
 
-TEST(LocationSpans, TheTableMayComeAgainForAnotherLocation)
+TEST_F(LocationSpans, TheTableMayComeAgainForAnotherLocation)
 {
-    EmptySite held;
     const std::string rows = "1,P,A,NOX,H,,,,100,,PPM,,,2000-01-01,0,,\n"
                              "1,P,B,NOX,H,,,,200,,PPM,,,2000-01-01,0,,\n";
-    importText(held, "a.csv", HEADER + rows, forUnit("A"));
-    EXPECT_THAT(spansOf(held.site), ElementsAre("NOX/H Calibration: 100"));
-    const auto report = importText(held, "b.csv", HEADER + rows, {});
+    take("a.csv", HEADER + rows, forUnit("A"));
+    EXPECT_THAT(spansOf(site), ElementsAre("NOX/H Calibration: 100"));
+    const auto report = take("b.csv", HEADER + rows);
     EXPECT_THAT(report.counts,
                 ElementsAre("1 unit", "1 analyzer", "1 span", "1 span that the site had"));
-    EXPECT_THAT(spansOf(held.site),
-                ElementsAre("NOX/H Calibration: 100", "NOX/H Calibration: 200"));
+    EXPECT_THAT(spansOf(site), ElementsAre("NOX/H Calibration: 100", "NOX/H Calibration: 200"));
 }
 
-TEST(LocationSpans, EveryAnalyzerOfTheTypeGetsTheSpansOfItsLocation)
+TEST_F(LocationSpans, EveryAnalyzerOfTheTypeGetsTheSpansOfItsLocation)
 {
-    EmptySite held;
-    importText(held, "plan.json",
-               R"({"orisCode": 1, "locations": [{"unitId": "A", "components": [
+    take("plan.json", R"({"orisCode": 1, "locations": [{"unitId": "A", "components": [
                    {"componentId": "001", "componentTypeCode": "NOX"},
                    {"componentId": "002", "componentTypeCode": "NOX"}]}]})");
-    const auto report = importText(held, "a.csv",
-                                   HEADER "1,P,A,NOX,H,,,,100,,PPM,,,2000-01-01,0,,\n"
-                                          "1,P,A,SO2,H,,,,50,,PPM,,,2000-01-01,0,,\n");
+    const auto report = take("a.csv", HEADER "1,P,A,NOX,H,,,,100,,PPM,,,2000-01-01,0,,\n"
+                                             "1,P,A,SO2,H,,,,50,,PPM,,,2000-01-01,0,,\n");
     EXPECT_THAT(report.counts, ElementsAre("0 units", "1 analyzer", "3 spans"));
-    EXPECT_THAT(spansOf(held.site),
-                ElementsAre("SO2/H Calibration: 50", "NOX 001/H Calibration: 100",
-                            "NOX 002/H Calibration: 100"));
+    EXPECT_THAT(spansOf(site), ElementsAre("SO2/H Calibration: 50", "NOX 001/H Calibration: 100",
+                                           "NOX 002/H Calibration: 100"));
 }
 
-TEST(LocationSpans, OfSpansThatHaveEndedTheLatestHolds)
+TEST_F(LocationSpans, OfSpansThatHaveEndedTheLatestHolds)
 {
-    EmptySite held;
-    importText(held, "a.csv",
-               HEADER "1,P,A,NOX,H,,,,300,,PPM,,,2010-01-01,0,2012-12-31,23\n"
-                      "1,P,A,NOX,H,,,,200,,PPM,,,2013-01-01,0,2014-12-31,23\n"
-                      "1,P,A,NOX,H,,,,100,,PPM,,,2000-01-01,0,2009-12-31,23\n");
-    EXPECT_THAT(spansOf(held.site), ElementsAre("NOX/H Calibration: 200"));
+    take("a.csv", HEADER "1,P,A,NOX,H,,,,300,,PPM,,,2010-01-01,0,2012-12-31,23\n"
+                         "1,P,A,NOX,H,,,,200,,PPM,,,2013-01-01,0,2014-12-31,23\n"
+                         "1,P,A,NOX,H,,,,100,,PPM,,,2000-01-01,0,2009-12-31,23\n");
+    EXPECT_THAT(spansOf(site), ElementsAre("NOX/H Calibration: 200"));
 }
 
-TEST(LocationSpans, StepsOverTypesWithoutHoursAndScalesWithoutASpan)
+TEST_F(LocationSpans, StepsOverTypesWithoutHoursAndScalesWithoutASpan)
 {
-    EmptySite held;
-    const auto report = importText(held, "a.csv",
-                                   HEADER "1,P,A,PM,H,,,,10,,MGSCM,,,2000-01-01,0,,\n"
-                                          "1,P,A,NOX,H,200,,,,,,,,2000-01-01,0,,\n"
-                                          "1,P,A,NOX,L,,,,20,,PPM,,,2000-01-01,0,,\n");
+    const auto report = take("a.csv", HEADER "1,P,A,PM,H,,,,10,,MGSCM,,,2000-01-01,0,,\n"
+                                             "1,P,A,NOX,H,200,,,,,,,,2000-01-01,0,,\n"
+                                             "1,P,A,NOX,L,,,,20,,PPM,,,2000-01-01,0,,\n");
     EXPECT_THAT(report.steppedOver, ElementsAre("line 3: A NOX HIGH has no span value.",
                                                 "Spans of types without hourly values: PM."));
-    EXPECT_THAT(spansOf(held.site), ElementsAre("NOX/L Calibration: 20"));
-}
-
-struct TableFault {
-    const char* what;
-    const char* rows;
-    const char* sentence; ///< Behind "a.csv: ".
-};
-
-void PrintTo(const TableFault& fault, std::ostream* stream)
-{
-    *stream << fault.what;
+    EXPECT_THAT(spansOf(site), ElementsAre("NOX/L Calibration: 20"));
 }
 
 #define GOOD "1,P,A,NOX,H,,,,100,,PPM,,,2000-01-01,0,,\n"
@@ -167,38 +143,32 @@ constexpr TableFault kFaults[] = {
      "line 2: end_hour: the field is empty."},
 };
 
-class LocationSpansRefusal : public testing::TestWithParam<TableFault>
-{
-};
+using LocationSpansRefusal = ImportCases<EmptySite, TableFault>;
+using LocationSpansRefusals = ImportTest<EmptySite>;
 
 TEST_P(LocationSpansRefusal, NamesFileLineAndFieldAndLeavesTheSiteAsItWas)
 {
-    EmptySite held;
-    const auto file = held.directory.write("a.csv", std::string(HEADER) + GetParam().rows);
-    EXPECT_EQ(refusal(held, file, {}), std::string("a.csv: ") + GetParam().sentence);
+    EXPECT_EQ(refused("a.csv", std::string(HEADER) + GetParam().content),
+              std::string("a.csv: ") + GetParam().sentence);
 }
 
 INSTANTIATE_TEST_SUITE_P(LocationSpans, LocationSpansRefusal, testing::ValuesIn(kFaults));
 
-TEST(LocationSpansRefusals, ALocationThatTheTableLacks)
+TEST_F(LocationSpansRefusals, ALocationThatTheTableLacks)
 {
-    EmptySite held;
     EXPECT_EQ(refusal(held, kCrystalRiver, forUnit("9")),
               "spans.csv: location: the table has no location 9.");
 }
 
-TEST(LocationSpansRefusals, AMissingColumn)
+TEST_F(LocationSpansRefusals, AMissingColumn)
 {
-    EmptySite held;
-    const auto file =
-        held.directory.write("a.csv", "oris,location,component_type_cd,span_value\n1,A,NOX,100\n");
-    EXPECT_EQ(refusal(held, file, {}), "a.csv: line 1: the column facility is missing.");
+    EXPECT_EQ(refused("a.csv", "oris,location,component_type_cd,span_value\n1,A,NOX,100\n"),
+              "a.csv: line 1: the column facility is missing.");
 }
 
-TEST(LocationSpansRefusals, AnotherSpanThanTheSiteHas)
+TEST_F(LocationSpansRefusals, AnotherSpanThanTheSiteHas)
 {
-    EmptySite held;
-    importText(held, "a.csv", HEADER GOOD);
+    take("a.csv", HEADER GOOD);
     const auto file =
         held.directory.write("b.csv", HEADER "1,P,A,NOX,H,,,,90,,PPM,,,2000-01-01,0,,\n");
     EXPECT_EQ(refusal(held, file, {}),

@@ -30,27 +30,27 @@ Variant text(const char* value)
     return std::string(value);
 }
 
-TEST(PlanImport, TakesAGenuinePlanOfTheImportLayout)
+using PlanImport = ImportTest<EmptySite>;
+
+TEST_F(PlanImport, TakesAGenuinePlanOfTheImportLayout)
 {
-    EmptySite held;
-    const auto report = importFile(held.site, genuineFile(kImportLayout), {});
+    const auto report = importFile(site, genuineFile(kImportLayout), {});
     EXPECT_EQ(report.format, "monitoring plan");
     EXPECT_THAT(report.counts, ElementsAre("1 unit", "2 analyzers", "3 spans", "1 maximum load"));
-    EXPECT_THAT(parametersOfType(held.site, kUnitType), ElementsAre("1-001-0-00-00 SCT1"));
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType),
+    EXPECT_THAT(parametersOfType(site, kUnitType), ElementsAre("1-001-0-00-00 SCT1"));
+    EXPECT_THAT(parametersOfType(site, kMeasuredType),
                 ElementsAre("1-110-0-75-01 NOX 370", "1-220-0-75-01 O2 371"));
-    EXPECT_THAT(spansOf(held.site),
+    EXPECT_THAT(spansOf(site),
                 ElementsAre("NOX 370/L Calibration: 60", "NOX 370/H Calibration: 250",
                             "O2 371/H Calibration: 25"));
-    EXPECT_THAT(constantsOf(held.site, 1),
+    EXPECT_THAT(constantsOf(site, 1),
                 ElementsAre("602 75 0: 150", "603 75 0: 10", "604 75 0: 150"));
-    EXPECT_EQ(attributeOf(held.site, UnitPID(1), attribute::kOrisCode), Variant(54));
+    EXPECT_EQ(attributeOf(site, UnitPID(1), attribute::kOrisCode), Variant(54));
 }
 
-TEST(PlanImport, SaysWhatItSteppedOverOfAGenuinePlan)
+TEST_F(PlanImport, SaysWhatItSteppedOverOfAGenuinePlan)
 {
-    EmptySite held;
-    const auto report = importFile(held.site, genuineFile(kImportLayout), {});
+    const auto report = importFile(site, genuineFile(kImportLayout), {});
     EXPECT_THAT(report.steppedOver,
                 ElementsAre("reportingFrequencies: 1 entry.",
                             "monitoringLocationData[0]: components of types without hourly values: "
@@ -68,123 +68,111 @@ TEST(PlanImport, SaysWhatItSteppedOverOfAGenuinePlan)
 }
 
 // Its only spans are of a default high range, for which nothing is calibrated.
-TEST(PlanImport, TakesAGenuinePlanOfTheApiLayout)
+TEST_F(PlanImport, TakesAGenuinePlanOfTheApiLayout)
 {
-    EmptySite held;
-    const auto report = importFile(held.site, genuineFile(kApiLayout), {});
+    const auto report = importFile(site, genuineFile(kApiLayout), {});
     EXPECT_THAT(report.counts, ElementsAre("1 unit", "3 analyzers", "0 spans", "1 maximum load"));
     EXPECT_THAT(
-        parametersOfType(held.site, kMeasuredType),
+        parametersOfType(site, kMeasuredType),
         ElementsAre("1-110-0-75-01 NOX 723", "1-110-0-75-02 NOX 720", "1-220-0-75-01 O2 721"));
-    EXPECT_THAT(spansOf(held.site), IsEmpty());
-    EXPECT_THAT(constantsOf(held.site, 1),
-                ElementsAre("602 75 0: 98", "603 75 0: 10", "604 75 0: 98"));
+    EXPECT_THAT(spansOf(site), IsEmpty());
+    EXPECT_THAT(constantsOf(site, 1), ElementsAre("602 75 0: 98", "603 75 0: 10", "604 75 0: 98"));
     EXPECT_THAT(report.steppedOver,
                 Contains("locations[0].spans[1]: NOX HIGH has no span value, so its scale has no "
                          "calibrations."));
 }
 
-TEST(PlanImport, PlansOfTwoUnitsMakeOneSite)
+TEST_F(PlanImport, PlansOfTwoUnitsMakeOneSite)
 {
-    EmptySite held;
-    importFile(held.site, genuineFile(kApiLayout), {});
-    importFile(held.site, genuineFile(kImportLayout), {});
-    EXPECT_THAT(parametersOfType(held.site, kUnitType),
+    importFile(site, genuineFile(kApiLayout), {});
+    importFile(site, genuineFile(kImportLayout), {});
+    EXPECT_THAT(parametersOfType(site, kUnitType),
                 ElementsAre("1-001-0-00-00 SCT5", "2-001-0-00-00 SCT1"));
-    EXPECT_EQ(attributeOf(held.site, UnitPID(2), attribute::kOrisCode), Variant(54));
-    const auto entry = held.site.server()->LookupService()->Lookups()->Find(
-        held.site.server()->SiteKey(), 1, "K7LOOKUP", "FacilityName", "");
+    EXPECT_EQ(attributeOf(site, UnitPID(2), attribute::kOrisCode), Variant(54));
+    const auto entry = site.server()->LookupService()->Lookups()->Find(
+        site.server()->SiteKey(), 1, "K7LOOKUP", "FacilityName", "");
     ASSERT_TRUE(entry);
     EXPECT_EQ(entry->Value(), "Smith Generating Facility");
 }
 
-TEST(PlanImport, AGenuineQaFileFollowsAPlan)
+TEST_F(PlanImport, AGenuineQaFileFollowsAPlan)
 {
-    EmptySite held;
-    importFile(held.site, genuineFile(kImportLayout), {});
+    importFile(site, genuineFile(kImportLayout), {});
     const auto report =
-        importFile(held.site, genuineFile("ecmps_qa_54_SCT1_linearity_and_events.json"), {});
+        importFile(site, genuineFile("ecmps_qa_54_SCT1_linearity_and_events.json"), {});
     EXPECT_THAT(report.counts, Contains("0 tests"));
 }
 
-TEST(PlanImport, TestsFindTheAnalyzersOfAPlan)
+TEST_F(PlanImport, TestsFindTheAnalyzersOfAPlan)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    importText(held, "qa.json", smallQa());
-    const auto records = allRecords(held.site, 111'007'501, "HIGH");
+    take("plan.json", smallPlan());
+    take("qa.json", smallQa());
+    const auto records = allRecords(site, 111'007'501, "HIGH");
     ASSERT_EQ(records.size(), 4U);
     EXPECT_EQ(records[0]->Span(), Variant(200.0));
 }
 
-TEST(PlanImport, TestsFindTheAnalyzersOfAStack)
+TEST_F(PlanImport, TestsFindTheAnalyzersOfAStack)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    auto qa = patchedQa("replace", "/testSummaryData/1/unitId", "null");
-    qa = patchedJson(qa, "replace", "/testSummaryData/1/stackPipeId", R"("CS1")");
-    qa = patchedJson(qa, "replace", "/testSummaryData/1/componentId", R"("100")");
-    importText(held, "qa.json", qa);
-    EXPECT_EQ(allRecords(held.site, 210'007'501, "HIGH").size(), 4U);
+    take("plan.json", smallPlan());
+    auto qa = patchedQa("/testSummaryData/1/unitId", "null");
+    qa = patchedJson(qa, "/testSummaryData/1/stackPipeId", R"("CS1")");
+    qa = patchedJson(qa, "/testSummaryData/1/componentId", R"("100")");
+    take("qa.json", qa);
+    EXPECT_EQ(allRecords(site, 210'007'501, "HIGH").size(), 4U);
 }
 
-TEST(PlanImport, SpansInForceAreJoinedByTypeAndScale)
+TEST_F(PlanImport, SpansInForceAreJoinedByTypeAndScale)
 {
-    EmptySite held;
-    const auto report = importText(held, "plan.json", smallPlan());
+    const auto report = take("plan.json", smallPlan());
     EXPECT_THAT(report.counts, ElementsAre("2 units", "5 analyzers", "6 spans", "1 maximum load"));
-    EXPECT_THAT(spansOf(held.site),
+    EXPECT_THAT(spansOf(site),
                 ElementsAre("NOX 010/L Calibration: 20", "NOX 010/H Calibration: 200",
                             "NOX 011/H Calibration: 100", "CO2 020/H Calibration: 20",
                             "FLOW 030 Calibration: 1800", "SO2 100/H Calibration: 500"));
 }
 
-TEST(PlanImport, AnalyzersInForceAreNumberedBeforeRetiredOnes)
+TEST_F(PlanImport, AnalyzersInForceAreNumberedBeforeRetiredOnes)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType),
+    take("plan.json", smallPlan());
+    EXPECT_THAT(parametersOfType(site, kMeasuredType),
                 ElementsAre("1-110-0-75-01 NOX 010", "1-110-0-75-02 NOX 011",
                             "1-240-0-75-01 CO2 020", "1-300-0-75-01 FLOW 030",
                             "2-100-0-75-01 SO2 100"));
 }
 
-TEST(PlanImport, KeepsWhatThePlanSaysOfASpan)
+TEST_F(PlanImport, KeepsWhatThePlanSaysOfASpan)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kFullScaleRange), text("250"));
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kMaximumPotential), text("180.5"));
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kMaximumExpected), text("47"));
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh, planattribute::kSpanBegin),
-              text("2015-01-01 07:00"));
+    take("plan.json", smallPlan());
+    EXPECT_EQ(attributeOf(site, kNoxHigh, planattribute::kFullScaleRange), text("250"));
+    EXPECT_EQ(attributeOf(site, kNoxHigh, planattribute::kMaximumPotential), text("180.5"));
+    EXPECT_EQ(attributeOf(site, kNoxHigh, planattribute::kMaximumExpected), text("47"));
+    EXPECT_EQ(attributeOf(site, kNoxHigh, planattribute::kSpanBegin), text("2015-01-01 07:00"));
     constexpr PID kNoxLow = 111'027'501;
-    EXPECT_EQ(attributeOf(held.site, kNoxLow, planattribute::kMaximumPotential), Variant(Null{}));
-    EXPECT_EQ(attributeOf(held.site, kNoxLow, planattribute::kFlowSpan), Variant(Null{}));
+    EXPECT_EQ(attributeOf(site, kNoxLow, planattribute::kMaximumPotential), Variant(Null{}));
+    EXPECT_EQ(attributeOf(site, kNoxLow, planattribute::kFlowSpan), Variant(Null{}));
 }
 
-TEST(PlanImport, FlowIsCalibratedInItsOwnUnitAndKeptOffRangeEvaluation)
+TEST_F(PlanImport, FlowIsCalibratedInItsOwnUnitAndKeptOffRangeEvaluation)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
+    take("plan.json", smallPlan());
     constexpr PID kFlow = 130'017'501;
-    EXPECT_EQ(parameter(held.site, kFlow)->UnitsText(), "KSCFM");
-    EXPECT_EQ(parameter(held.site, 130'007'501)->UnitsText(), "scfh");
-    EXPECT_EQ(attributeOf(held.site, kFlow, attribute::kScale), text("SINGLE"));
-    EXPECT_EQ(attributeOf(held.site, kFlow, attribute::kRangeUse), Variant(1));
-    EXPECT_EQ(attributeOf(held.site, 111'047'501, attribute::kRangeUse), Variant(0));
-    EXPECT_EQ(attributeOf(held.site, kFlow, planattribute::kMaximumPotential), text("57600000"));
-    EXPECT_EQ(attributeOf(held.site, kFlow, planattribute::kFlowSpan), text("108000000"));
-    EXPECT_EQ(attributeOf(held.site, kFlow, planattribute::kFlowFullScale), text("120000000"));
+    EXPECT_EQ(parameter(site, kFlow)->UnitsText(), "KSCFM");
+    EXPECT_EQ(parameter(site, 130'007'501)->UnitsText(), "scfh");
+    EXPECT_EQ(attributeOf(site, kFlow, attribute::kScale), text("SINGLE"));
+    EXPECT_EQ(attributeOf(site, kFlow, attribute::kRangeUse), Variant(1));
+    EXPECT_EQ(attributeOf(site, 111'047'501, attribute::kRangeUse), Variant(0));
+    EXPECT_EQ(attributeOf(site, kFlow, planattribute::kMaximumPotential), text("57600000"));
+    EXPECT_EQ(attributeOf(site, kFlow, planattribute::kFlowSpan), text("108000000"));
+    EXPECT_EQ(attributeOf(site, kFlow, planattribute::kFlowFullScale), text("120000000"));
 }
 
-TEST(PlanImport, TheLoadInForceIsKeptInMegawatts)
+TEST_F(PlanImport, TheLoadInForceIsKeptInMegawatts)
 {
-    EmptySite held;
-    const auto report = importText(held, "plan.json", smallPlan());
-    EXPECT_THAT(constantsOf(held.site, 1),
+    const auto report = take("plan.json", smallPlan());
+    EXPECT_THAT(constantsOf(site, 1),
                 ElementsAre("602 75 0: 150", "603 75 0: 30.5", "604 75 0: 145"));
-    EXPECT_THAT(constantsOf(held.site, 2), IsEmpty());
+    EXPECT_THAT(constantsOf(site, 2), IsEmpty());
     EXPECT_THAT(report.steppedOver,
                 Contains("monitoringLocationData[1].monitoringLoadData[0]"
                          ".maximumLoadUnitsOfMeasureCode: \"KLBHR\" is not MW, the unit in which a "
@@ -192,19 +180,17 @@ TEST(PlanImport, TheLoadInForceIsKeptInMegawatts)
 }
 
 // The load tool prefers a constant of program 0 to one of program 75.
-TEST(PlanImport, TheOperatorsCapacityStandsBesideTheMaximumLoadOfThePlan)
+TEST_F(PlanImport, TheOperatorsCapacityStandsBesideTheMaximumLoadOfThePlan)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    held.site.setCapacity("U1", 155);
-    EXPECT_THAT(constantsOf(held.site, 1),
+    take("plan.json", smallPlan());
+    site.setCapacity("U1", 155);
+    EXPECT_THAT(constantsOf(site, 1),
                 ElementsAre("602 0 0: 155", "602 75 0: 150", "603 75 0: 30.5", "604 75 0: 145"));
 }
 
-TEST(PlanImport, SaysWhatItSteppedOver)
+TEST_F(PlanImport, SaysWhatItSteppedOver)
 {
-    EmptySite held;
-    const auto report = importText(held, "plan.json", smallPlan());
+    const auto report = take("plan.json", smallPlan());
     EXPECT_THAT(
         report.steppedOver,
         ElementsAre("unitStackConfigurationData: 1 entry.",
@@ -219,52 +205,48 @@ TEST(PlanImport, SaysWhatItSteppedOver)
                     "monitoringLocationData[2]: CP1 is a stack or pipe without analyzers."));
 }
 
-TEST(PlanImport, ASpanOfOtherTimesIsCounted)
+TEST_F(PlanImport, ASpanOfOtherTimesIsCounted)
 {
-    EmptySite held;
-    const auto report = importText(
-        held, "plan.json", patchedPlan("remove", "/monitoringLocationData/0/componentData/0", ""));
+    const auto report =
+        take("plan.json", patchedPlan("/monitoringLocationData/0/componentData/0", ""));
     EXPECT_THAT(report.steppedOver,
                 Contains("monitoringLocationData[0]: 1 span of other times or without an "
                          "analyzer."));
 }
 
-TEST(PlanImport, AnAnalyzerWithoutARangeHasNoSpan)
+TEST_F(PlanImport, AnAnalyzerWithoutARangeHasNoSpan)
 {
-    EmptySite held;
-    const auto report = importText(
-        held, "plan.json",
-        patchedPlan("remove", "/monitoringLocationData/0/componentData/2/analyzerRangeData", ""));
+    const auto report =
+        take("plan.json",
+             patchedPlan("/monitoringLocationData/0/componentData/2/analyzerRangeData", ""));
     EXPECT_THAT(report.steppedOver,
                 Contains("monitoringLocationData[0].componentData[2]: CO2 020 has no analyzer "
                          "range, so no span is joined to it."));
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType), Contains("1-240-0-75-01 CO2 020"));
-    EXPECT_THAT(spansOf(held.site), Not(Contains("CO2 020/H Calibration: 20")));
+    EXPECT_THAT(parametersOfType(site, kMeasuredType), Contains("1-240-0-75-01 CO2 020"));
+    EXPECT_THAT(spansOf(site), Not(Contains("CO2 020/H Calibration: 20")));
 }
 
-TEST(PlanImport, AFlowMonitorNeedsNoRangeToHaveNoSpan)
+TEST_F(PlanImport, AFlowMonitorNeedsNoRangeToHaveNoSpan)
 {
-    EmptySite held;
-    const auto report = importText(
-        held, "plan.json",
-        patchedPlan("replace", "/monitoringLocationData/0/monitoringSpanData/4/spanValue", "null"));
+    const auto report =
+        take("plan.json",
+             patchedPlan("/monitoringLocationData/0/monitoringSpanData/4/spanValue", "null"));
     EXPECT_THAT(report.steppedOver,
                 Contains("monitoringLocationData[0].monitoringSpanData[4]: FLOW SINGLE has no span "
                          "value, so its scale has no calibrations."));
     EXPECT_THAT(report.steppedOver, Not(Contains(testing::HasSubstr("no analyzer range"))));
 }
 
-TEST(PlanImport, ADefaultHighRangeLeavesTheLowScaleAlone)
+TEST_F(PlanImport, ADefaultHighRangeLeavesTheLowScaleAlone)
 {
-    EmptySite held;
-    const auto report = importText(
-        held, "plan.json",
-        patchedPlan("replace", "/monitoringLocationData/0/monitoringSpanData/1/spanValue", "null"));
+    const auto report =
+        take("plan.json",
+             patchedPlan("/monitoringLocationData/0/monitoringSpanData/1/spanValue", "null"));
     EXPECT_THAT(report.steppedOver,
                 Contains("monitoringLocationData[0].monitoringSpanData[1]: NOX HIGH has no span "
                          "value, so its scale has no calibrations."));
-    EXPECT_THAT(spansOf(held.site), Contains("NOX 010/L Calibration: 20"));
-    EXPECT_THAT(spansOf(held.site), Not(Contains(testing::StartsWith("NOX 010/H"))));
+    EXPECT_THAT(spansOf(site), Contains("NOX 010/L Calibration: 20"));
+    EXPECT_THAT(spansOf(site), Not(Contains(testing::StartsWith("NOX 010/H"))));
 }
 
 struct RangeCase {
@@ -278,20 +260,15 @@ void PrintTo(const RangeCase& range, std::ostream* stream)
     *stream << range.what;
 }
 
-class PlanRange : public testing::TestWithParam<RangeCase>
-{
-};
+using PlanRange = ImportCases<EmptySite, RangeCase>;
 
 TEST_P(PlanRange, SaysWhichScalesAnAnalyzerHas)
 {
-    EmptySite held;
-    importText(held, "plan.json",
-               patchedPlan("replace",
-                           "/monitoringLocationData/0/componentData/1/analyzerRangeData/1"
-                           "/analyzerRangeCode",
-                           GetParam().code));
+    take("plan.json", patchedPlan("/monitoringLocationData/0/componentData/1/analyzerRangeData/1"
+                                  "/analyzerRangeCode",
+                                  GetParam().code));
     std::vector<std::string> found;
-    for (const auto& span : spansOf(held.site)) {
+    for (const auto& span : spansOf(site)) {
         if (span.starts_with("NOX 010"))
             found.push_back(span);
     }
@@ -305,64 +282,56 @@ INSTANTIATE_TEST_SUITE_P(
         RangeCase{"low", R"("L")", {"NOX 010/L Calibration: 20"}},
         RangeCase{"auto", R"("A")", {"NOX 010/L Calibration: 20", "NOX 010/H Calibration: 200"}}));
 
-TEST(PlanImport, OfTwoOpenRecordsTheLaterOneHolds)
+TEST_F(PlanImport, OfTwoOpenRecordsTheLaterOneHolds)
 {
-    EmptySite held;
-    importText(
-        held, "plan.json",
-        patchedPlan("replace", "/monitoringLocationData/0/monitoringSpanData/0/endDate", "null"));
-    EXPECT_THAT(spansOf(held.site), Contains("NOX 010/H Calibration: 200"));
+    take("plan.json",
+         patchedPlan("/monitoringLocationData/0/monitoringSpanData/0/endDate", "null"));
+    EXPECT_THAT(spansOf(site), Contains("NOX 010/H Calibration: 200"));
 }
 
-TEST(PlanImport, WithoutARecordInForceTheLatestHolds)
+TEST_F(PlanImport, WithoutARecordInForceTheLatestHolds)
 {
-    EmptySite held;
-    importText(held, "plan.json",
-               patchedPlan("replace", "/monitoringLocationData/0/monitoringLoadData/1/endDate",
-                           R"("2020-12-31")"));
-    EXPECT_THAT(constantsOf(held.site, 1), Contains("602 75 0: 150"));
+    take("plan.json",
+         patchedPlan("/monitoringLocationData/0/monitoringLoadData/1/endDate", R"("2020-12-31")"));
+    EXPECT_THAT(constantsOf(site, 1), Contains("602 75 0: 150"));
 }
 
-TEST(PlanImport, AUnitWithoutLoadHasNoCapacity)
+TEST_F(PlanImport, AUnitWithoutLoadHasNoCapacity)
 {
     for (const char* value : {"null", "0"}) {
-        EmptySite held;
-        importText(held, "plan.json",
-                   patchedPlan("replace",
-                               "/monitoringLocationData/0/monitoringLoadData/1/maximumLoadValue",
-                               value));
-        EXPECT_THAT(constantsOf(held.site, 1), ElementsAre("603 75 0: 30.5", "604 75 0: 145"))
+        EmptySite fresh;
+        importText(
+            fresh, "plan.json",
+            patchedPlan("/monitoringLocationData/0/monitoringLoadData/1/maximumLoadValue", value));
+        EXPECT_THAT(constantsOf(fresh.site, 1), ElementsAre("603 75 0: 30.5", "604 75 0: 145"))
             << value;
     }
 }
 
-TEST(PlanImport, AUnitWithNothingButItsNameIsAUnit)
+TEST_F(PlanImport, AUnitWithNothingButItsNameIsAUnit)
 {
-    EmptySite held;
-    const auto report = importText(
-        held, "plan.json", R"({"orisCode": 7, "locations": [{"unitId": "1", "spans": null}]})");
+    const auto report =
+        take("plan.json", R"({"orisCode": 7, "locations": [{"unitId": "1", "spans": null}]})");
     EXPECT_THAT(report.counts, ElementsAre("1 unit", "0 analyzers", "0 spans"));
-    EXPECT_THAT(parametersOfType(held.site, kUnitType), ElementsAre("1-001-0-00-00 1"));
+    EXPECT_THAT(parametersOfType(site, kUnitType), ElementsAre("1-001-0-00-00 1"));
 }
 
-TEST(PlanImport, TheNameThatTheOperatorGaveStays)
+TEST_F(PlanImport, TheNameThatTheOperatorGaveStays)
 {
-    EmptySite held;
-    held.site.setFacilityName("My Plant");
-    importText(held, "plan.json", smallPlan());
-    const auto entry = held.site.server()->LookupService()->Lookups()->Find(
-        held.site.server()->SiteKey(), 1, "K7LOOKUP", "FacilityName", "");
+    site.setFacilityName("My Plant");
+    take("plan.json", smallPlan());
+    const auto entry = site.server()->LookupService()->Lookups()->Find(
+        site.server()->SiteKey(), 1, "K7LOOKUP", "FacilityName", "");
     ASSERT_TRUE(entry);
     EXPECT_EQ(entry->Value(), "My Plant");
 }
 
-TEST(PlanImport, ALaterPlanMayRepeatWhatTheSiteHolds)
+TEST_F(PlanImport, ALaterPlanMayRepeatWhatTheSiteHolds)
 {
-    EmptySite held;
-    importText(held, "plan.json", smallPlan());
-    const auto report = importText(
-        held, "later.json",
-        patchedPlan("add", "/monitoringLocationData/1/componentData/-",
+    take("plan.json", smallPlan());
+    const auto report = take(
+        "later.json",
+        patchedPlan("/monitoringLocationData/1/componentData/-",
                     R"({"componentId": "101", "componentTypeCode": "SO2", "analyzerRangeData": [
                         {"analyzerRangeCode": "H", "beginDate": "2022-01-01", "beginHour": 0,
                          "endDate": null, "endHour": null}]})"));
@@ -370,53 +339,42 @@ TEST(PlanImport, ALaterPlanMayRepeatWhatTheSiteHolds)
                 ElementsAre("0 units", "1 analyzer", "1 span", "6 spans that the site had"));
 }
 
-TEST(PlanImport, ASpanTableWithTheSameSpansGetsTheFactsOfThePlan)
+TEST_F(PlanImport, ASpanTableWithTheSameSpansGetsTheFactsOfThePlan)
 {
-    EmptySite held;
-    importText(held, "spans.csv",
-               "unit_id,component_id,component_type,span_scale,span_value,units\n"
-               "U1,010,NOX,H,200,PPM\n");
-    importText(held, "plan.json", smallPlan());
-    EXPECT_EQ(attributeOf(held.site, 111'047'501, planattribute::kFullScaleRange), text("250"));
+    take("spans.csv", kSpanColumns + "U1,010,NOX,H,200,PPM\n");
+    take("plan.json", smallPlan());
+    EXPECT_EQ(attributeOf(site, 111'047'501, planattribute::kFullScaleRange), text("250"));
 }
 
-TEST(PlanImport, LoadThatWasThereBeforeStaysWithItsUnit)
+TEST_F(PlanImport, LoadThatWasThereBeforeStaysWithItsUnit)
 {
-    EmptySite held;
-    importText(held, "load.csv", "date,hour,gross_load_mw\n2020-01-01,0,10\n", forUnit("CS1"));
-    importText(held, "plan.json", smallPlan());
-    EXPECT_THAT(parametersOfType(held.site, kUnitType),
+    take("load.csv", "date,hour,gross_load_mw\n2020-01-01,0,10\n", forUnit("CS1"));
+    take("plan.json", smallPlan());
+    EXPECT_THAT(parametersOfType(site, kUnitType),
                 ElementsAre("1-001-0-00-00 CS1", "2-001-0-00-00 U1"));
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType), Contains("1-100-0-75-01 SO2 100"));
+    EXPECT_THAT(parametersOfType(site, kMeasuredType), Contains("1-100-0-75-01 SO2 100"));
 }
 
 // A table of spans of locations, like a file of hours, may name no component.
-TEST(PlanImport, ThePlanGivesTheOnlyAnalyzerOfAGasItsIdentifier)
+TEST_F(PlanImport, ThePlanGivesTheOnlyAnalyzerOfAGasItsIdentifier)
 {
-    EmptySite held;
-    importText(held, "spans.csv",
-               "unit_id,component_id,component_type,span_scale,span_value,units\n"
-               "U1,NOX,NOX,H,200,PPM\n");
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType), ElementsAre("1-110-0-75-01 NOX"));
-    importText(held, "plan.json", smallPlan());
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType),
+    take("spans.csv", kSpanColumns + "U1,NOX,NOX,H,200,PPM\n");
+    EXPECT_THAT(parametersOfType(site, kMeasuredType), ElementsAre("1-110-0-75-01 NOX"));
+    take("plan.json", smallPlan());
+    EXPECT_THAT(parametersOfType(site, kMeasuredType),
                 testing::IsSupersetOf({"1-110-0-75-01 NOX 010", "1-110-0-75-02 NOX 011"}));
-    EXPECT_EQ(attributeOf(held.site, 111'047'501, attribute::kComponentId), text("010"));
-    EXPECT_EQ(attributeOf(held.site, 111'007'501, attribute::kComponentId), text("010"));
-    EXPECT_THAT(spansOf(held.site), Contains("NOX 010/H Calibration: 200"));
+    EXPECT_EQ(attributeOf(site, 111'047'501, attribute::kComponentId), text("010"));
+    EXPECT_EQ(attributeOf(site, 111'007'501, attribute::kComponentId), text("010"));
+    EXPECT_THAT(spansOf(site), Contains("NOX 010/H Calibration: 200"));
 }
 
-TEST(PlanImport, OfTwoAnalyzersNoneIsTakenForTheNamelessOne)
+TEST_F(PlanImport, OfTwoAnalyzersNoneIsTakenForTheNamelessOne)
 {
-    EmptySite held;
-    importText(held, "spans.csv",
-               "unit_id,component_id,component_type,span_scale,span_value,units\n"
-               "U1,NOX,NOX,H,50,PPM\n");
-    importText(held, "plan.json",
-               patchedPlan("replace",
-                           "/monitoringLocationData/0/componentData/0/analyzerRangeData/0/endDate",
-                           "null"));
-    EXPECT_THAT(parametersOfType(held.site, kMeasuredType),
+    take("spans.csv", kSpanColumns + "U1,NOX,NOX,H,50,PPM\n");
+    take("plan.json",
+         patchedPlan("/monitoringLocationData/0/componentData/0/analyzerRangeData/0/endDate",
+                     "null"));
+    EXPECT_THAT(parametersOfType(site, kMeasuredType),
                 testing::IsSupersetOf(
                     {"1-110-0-75-01 NOX", "1-110-0-75-02 NOX 011", "1-110-0-75-03 NOX 010"}));
 }

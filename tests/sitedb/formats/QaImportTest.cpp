@@ -12,16 +12,12 @@ namespace
 
 constexpr PID kUnit = 100'100'000;
 
-ImportReport importSmallQa(SmallSite& held, const std::string& text, const ImportOptions& options)
-{
-    return importFile(held.site, held.directory.write("qa.json", text), options);
-}
+using QaImport = ImportTest<SmallSite>;
 
-TEST(QaImport, ARowBecomesAZeroAndAnUpscaleRecordOfOneMinute)
+TEST_F(QaImport, ARowBecomesAZeroAndAnUpscaleRecordOfOneMinute)
 {
-    SmallSite held;
-    importSmallQa(held, smallQa(), {});
-    const auto records = allRecords(held.site, kNox, "HIGH");
+    take("qa.json", smallQa());
+    const auto records = allRecords(site, kNox, "HIGH");
     ASSERT_EQ(records.size(), 4U);
     EXPECT_EQ(records[0]->RunTime(), makeDate(2020, 3, 1, 6, 10));
     EXPECT_EQ(records[0]->InjectionEnd(), makeDate(2020, 3, 1, 6, 10));
@@ -37,11 +33,10 @@ TEST(QaImport, ARowBecomesAZeroAndAnUpscaleRecordOfOneMinute)
     EXPECT_EQ(records[1]->ReferenceValue(), Variant(90.0));
 }
 
-TEST(QaImport, EveryRecordCarriesScaleSpanSourceAndTheMarkOfAnAutomaticRun)
+TEST_F(QaImport, EveryRecordCarriesScaleSpanSourceAndTheMarkOfAnAutomaticRun)
 {
-    SmallSite held;
-    importSmallQa(held, smallQa(), {});
-    for (const auto& record : allRecords(held.site, kNox, "HIGH")) {
+    take("qa.json", smallQa());
+    for (const auto& record : allRecords(site, kNox, "HIGH")) {
         EXPECT_EQ(record->Scale(), "HIGH");
         EXPECT_EQ(record->Span(), Variant(100.0));
         EXPECT_EQ(record->SourceTagID(), Variant(kNox));
@@ -49,25 +44,23 @@ TEST(QaImport, EveryRecordCarriesScaleSpanSourceAndTheMarkOfAnAutomaticRun)
     }
 }
 
-TEST(QaImport, AnOfflineRowBearsTheOfflineStatus)
+TEST_F(QaImport, AnOfflineRowBearsTheOfflineStatus)
 {
-    SmallSite held;
-    importSmallQa(held, smallQa(), {});
-    const auto records = allRecords(held.site, kNox, "HIGH");
+    take("qa.json", smallQa());
+    const auto records = allRecords(site, kNox, "HIGH");
     EXPECT_NE(records[0]->CalStatus(), status::kOfflineCalibration);
     EXPECT_NE(records[1]->CalStatus(), status::kOfflineCalibration);
     EXPECT_EQ(records[2]->CalStatus(), status::kOfflineCalibration);
     EXPECT_EQ(records[3]->CalStatus(), status::kOfflineCalibration);
-    const auto codes = held.site.server()->StatusCodes();
+    const auto codes = site.server()->StatusCodes();
     EXPECT_FALSE(codes->IsUnitOffline(records[0]->CalStatus()));
     EXPECT_TRUE(codes->IsUnitOffline(records[2]->CalStatus()));
 }
 
-TEST(QaImport, AValueThatIsNullStaysNull)
+TEST_F(QaImport, AValueThatIsNullStaysNull)
 {
-    SmallSite held;
-    importSmallQa(held, smallQa(), {});
-    const auto records = allRecords(held.site, kNox, "HIGH");
+    take("qa.json", smallQa());
+    const auto records = allRecords(site, kNox, "HIGH");
     EXPECT_EQ(records[2]->ReferenceValue(), Variant(Null{}));
     EXPECT_EQ(records[2]->MeasuredValue(), Variant(-0.125));
     EXPECT_EQ(records[3]->MeasuredValue(), Variant(Null{}));
@@ -87,40 +80,36 @@ constexpr GasLevelCase kGasLevels[] = {
     {"null", 2, ""},
 };
 
-TEST(QaImport, GasLevelsHaveTheirCodes)
+TEST_F(QaImport, GasLevelsHaveTheirCodes)
 {
     for (const auto& level : kGasLevels) {
-        SmallSite held;
-        importSmallQa(held,
-                      patchedQa("replace",
-                                "/testSummaryData/1/calibrationInjectionData/0/upscaleGasLevelCode",
-                                level.json),
-                      {});
-        const auto records = allRecords(held.site, kNox, "HIGH");
+        SmallSite fresh;
+        importText(fresh, "qa.json",
+                   patchedQa("/testSummaryData/1/calibrationInjectionData/0/upscaleGasLevelCode",
+                             level.json));
+        const auto records = allRecords(fresh.site, kNox, "HIGH");
         EXPECT_EQ(records[1]->GasLevelCode(), level.code) << level.json;
         EXPECT_EQ(records[1]->GasLevelText(), level.text) << level.json;
     }
 }
 
-TEST(QaImport, TheDecimalsAreThoseOfTheLongestValueOfTheScale)
+TEST_F(QaImport, TheDecimalsAreThoseOfTheLongestValueOfTheScale)
 {
-    SmallSite held;
-    importSmallQa(held, smallQa(), {});
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh, attribute::kDecimals), Variant(3));
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh - 20'000, attribute::kDecimals), Variant(1));
+    take("qa.json", smallQa());
+    EXPECT_EQ(attributeOf(site, kNoxHigh, attribute::kDecimals), Variant(3));
+    EXPECT_EQ(attributeOf(site, kNoxHigh - 20'000, attribute::kDecimals), Variant(1));
 }
 
-TEST(QaImport, ALaterFileDoesNotTakeDecimalsAway)
+TEST_F(QaImport, ALaterFileDoesNotTakeDecimalsAway)
 {
-    SmallSite held;
-    importSmallQa(held, smallQa(), {});
+    take("qa.json", smallQa());
     auto later = smallQa();
     for (auto at = later.find("2020-03"); at != std::string::npos; at = later.find("2020-03"))
         later.replace(at, 7, "2020-04");
     later.replace(later.find("-0.125"), 6, "-0.5");
-    importSmallQa(held, later, {});
-    EXPECT_EQ(attributeOf(held.site, kNoxHigh, attribute::kDecimals), Variant(3));
-    EXPECT_EQ(allRecords(held.site, kNox, "HIGH").size(), 8U);
+    take("qa.json", later);
+    EXPECT_EQ(attributeOf(site, kNoxHigh, attribute::kDecimals), Variant(3));
+    EXPECT_EQ(allRecords(site, kNox, "HIGH").size(), 8U);
 }
 
 struct DecimalsCase {
@@ -133,41 +122,33 @@ constexpr DecimalsCase kDecimals[] = {
     {"0.1234567891", 6}, {"1e-9", 6}, {"1e3", 1},
 };
 
-TEST(QaImport, DecimalsAreAtLeastOneAndAtMostSix)
+TEST_F(QaImport, DecimalsAreAtLeastOneAndAtMostSix)
 {
     for (const auto& entry : kDecimals) {
-        SmallSite held;
+        SmallSite fresh;
         auto text = smallQa();
         text.replace(text.find("0.25,"), 4, entry.value);
         text.replace(text.find("-0.125"), 6, "0");
-        importSmallQa(held, text, {});
-        EXPECT_EQ(attributeOf(held.site, kNoxHigh, attribute::kDecimals), Variant(entry.decimals))
+        importText(fresh, "qa.json", text);
+        EXPECT_EQ(attributeOf(fresh.site, kNoxHigh, attribute::kDecimals), Variant(entry.decimals))
             << entry.value;
     }
 }
 
-TEST(QaImport, TheOrisCodeGoesToAllUnitsAlsoToThoseThatComeLater)
+TEST_F(QaImport, TheOrisCodeGoesToAllUnitsAlsoToThoseThatComeLater)
 {
-    SmallSite held;
-    importFile(held.site,
-               held.directory.write(
-                   "more.csv", "unit_id,component_id,component_type,span_scale,span_value,units\n"
-                               "U2,010,NOX,H,100,PPM\n"),
-               {});
-    EXPECT_EQ(attributeOf(held.site, kUnit, attribute::kOrisCode), Variant(Null{}));
-    importSmallQa(held, smallQa(), {});
-    importFile(held.site,
-               held.directory.write("load.csv", "date,hour,gross_load_mw\n2020-01-01,0,5\n"),
-               forUnit("U3"));
+    take("more.csv", kSpanColumns + "U2,010,NOX,H,100,PPM\n");
+    EXPECT_EQ(attributeOf(site, kUnit, attribute::kOrisCode), Variant(Null{}));
+    take("qa.json", smallQa());
+    take("load.csv", "date,hour,gross_load_mw\n2020-01-01,0,5\n", forUnit("U3"));
     for (const PID unit : {100'100'000, 200'100'000, 300'100'000})
-        EXPECT_EQ(attributeOf(held.site, unit, attribute::kOrisCode), Variant(54)) << unit;
+        EXPECT_EQ(attributeOf(site, unit, attribute::kOrisCode), Variant(54)) << unit;
 }
 
-TEST(QaImport, TestsWithoutInjectionsAreSteppedOver)
+TEST_F(QaImport, TestsWithoutInjectionsAreSteppedOver)
 {
-    SmallSite held;
-    auto text = patchedQa("add", "/certificationEventData", "[{}, {}]");
-    const auto report = importSmallQa(held, text, {});
+    auto text = patchedQa("/certificationEventData", "[{}, {}]");
+    const auto report = take("qa.json", text);
     EXPECT_EQ(report.steppedOver,
               (std::vector<std::string>{
                   R"(testSummaryData[0]: the test "LINE" has no calibration injections.)",
@@ -176,44 +157,40 @@ TEST(QaImport, TestsWithoutInjectionsAreSteppedOver)
               (std::vector<std::string>{"1 test", "2 zero injections", "2 upscale injections"}));
 }
 
-TEST(QaImport, GenuineFilesWithoutSevenDayTestsLeaveNoTrace)
+TEST_F(QaImport, GenuineFilesWithoutSevenDayTestsLeaveNoTrace)
 {
     for (const char* name :
          {"ecmps_qa_54_small.json", "ecmps_qa_54_SCT1_linearity_and_events.json"}) {
-        SmallSite held;
-        const std::string before = dump(held.site);
+        SmallSite fresh;
+        const std::string before = dump(fresh.site);
         const auto report = importFile(
-            held.site, k7deval::test::projectFile(std::string("tests/sitedb/data/") + name), {});
+            fresh.site, k7deval::test::projectFile(std::string("tests/sitedb/data/") + name), {});
         EXPECT_EQ(report.counts.front(), "0 tests") << name;
         EXPECT_GE(report.steppedOver.size(), 3U) << name;
-        EXPECT_EQ(dump(held.site), before) << name;
+        EXPECT_EQ(dump(fresh.site), before) << name;
     }
 }
 
-TEST(QaImport, TheOtherSpellingOfTheComponentFieldIsRead)
+TEST_F(QaImport, TheOtherSpellingOfTheComponentFieldIsRead)
 {
-    SmallSite held;
     auto text = smallQa();
     for (auto at = text.find("componentId"); at != std::string::npos; at = text.find("componentId"))
         text.replace(at, 11, "componentID");
-    importSmallQa(held, text, {});
-    EXPECT_EQ(allRecords(held.site, kNox, "HIGH").size(), 4U);
+    take("qa.json", text);
+    EXPECT_EQ(allRecords(site, kNox, "HIGH").size(), 4U);
 }
 
-TEST(QaImport, AGzipFileIsUnpacked)
+TEST_F(QaImport, AGzipFileIsUnpacked)
 {
-    SmallSite held;
-    const auto report =
-        importFile(held.site, held.directory.write("qa.json.gz", gzip(smallQa())), {});
+    const auto report = take("qa.json.gz", gzip(smallQa()));
     EXPECT_EQ(report.format, "ECMPS QA data");
-    EXPECT_EQ(allRecords(held.site, kNox, "HIGH").size(), 4U);
+    EXPECT_EQ(allRecords(site, kNox, "HIGH").size(), 4U);
 }
 
-TEST(QaImport, AByteOrderMarkIsNoMatter)
+TEST_F(QaImport, AByteOrderMarkIsNoMatter)
 {
-    SmallSite held;
-    importSmallQa(held, "\xEF\xBB\xBF" + smallQa(), {});
-    EXPECT_EQ(allRecords(held.site, kNox, "HIGH").size(), 4U);
+    take("qa.json", "\xEF\xBB\xBF" + smallQa());
+    EXPECT_EQ(allRecords(site, kNox, "HIGH").size(), 4U);
 }
 
 struct LeftOutCase {
@@ -250,23 +227,20 @@ void PrintTo(const LeftOutCase& entry, std::ostream* stream)
     *stream << entry.what;
 }
 
-class LeavingOut : public testing::TestWithParam<LeftOutCase>
-{
-};
+using LeavingOut = ImportCases<SmallSite, LeftOutCase>;
+using LeavingOutUnreadable = ImportTest<SmallSite>;
 
 TEST_P(LeavingOut, TakesAllButTheInjectionThatCannotBeRead)
 {
     const auto& entry = GetParam();
-    SmallSite held;
     const std::string row = "/testSummaryData/1/calibrationInjectionData/0";
-    const auto report = importSmallQa(
-        held, patchedQa(entry.operation, row + entry.field, entry.value), leavingOut());
+    const auto report = take("qa.json", patchedQa(row + entry.field, entry.value), leavingOut());
     EXPECT_EQ(report.leftOut,
               std::vector<std::string>{"qa.json: testSummaryData[1].calibrationInjectionData[0]" +
                                        std::string(entry.sentence)});
     std::size_t zeros = 0;
     std::vector<std::string> upscaleRuns;
-    for (const auto& record : allRecords(held.site, kNox, "HIGH")) {
+    for (const auto& record : allRecords(site, kNox, "HIGH")) {
         if (record->GasLevelCode() == 0)
             ++zeros;
         else
@@ -282,29 +256,25 @@ TEST_P(LeavingOut, TakesAllButTheInjectionThatCannotBeRead)
 
 INSTANTIATE_TEST_SUITE_P(Qa, LeavingOut, testing::ValuesIn(kLeftOut));
 
-TEST(LeavingOutUnreadable, DoesNotExcuseATestThatCannotBePlaced)
+TEST_F(LeavingOutUnreadable, DoesNotExcuseATestThatCannotBePlaced)
 {
-    SmallSite held;
-    const auto file = held.directory.write(
-        "qa.json", patchedQa("replace", "/testSummaryData/1/unitId", R"("U9")"));
-    EXPECT_EQ(refusal(held, file, leavingOut()),
+    EXPECT_EQ(refused("qa.json", patchedQa("/testSummaryData/1/unitId", R"("U9")"), leavingOut()),
               "qa.json: testSummaryData[1].unitId: the site has no unit U9, so its monitoring plan "
               "or span table has to "
               "be imported first.");
 }
 
-TEST(LeavingOutUnreadable, TwoFaultsOfARowAreListedApart)
+TEST_F(LeavingOutUnreadable, TwoFaultsOfARowAreListedApart)
 {
-    SmallSite held;
     auto text = smallQa();
     text.replace(text.find(R"("zeroInjectionHour": 6)"), 22, R"("zeroInjectionHour": 24)");
     text.replace(text.find(R"("upscaleInjectionHour": 6)"), 25, R"("upscaleInjectionHour": 25)");
-    const auto report = importSmallQa(held, text, leavingOut());
+    const auto report = take("qa.json", text, leavingOut());
     const std::string row = "qa.json: testSummaryData[1].calibrationInjectionData[0]";
     EXPECT_EQ(report.leftOut, (std::vector<std::string>{
                                   row + ".zeroInjectionHour: 24 is no hour from 0 to 23.",
                                   row + ".upscaleInjectionHour: 25 is no hour from 0 to 23."}));
-    EXPECT_EQ(allRecords(held.site, kNox, "HIGH").size(), 2U);
+    EXPECT_EQ(allRecords(site, kNox, "HIGH").size(), 2U);
 }
 
 } // namespace

@@ -8,21 +8,10 @@ namespace k7deval::sitedb::test
 namespace
 {
 
-struct RefusedTable {
-    const char* what;
-    const char* content;
-    const char* sentence; ///< Behind the file name.
-};
-
-void PrintTo(const RefusedTable& fault, std::ostream* stream)
-{
-    *stream << fault.what;
-}
-
 #define SPANS "unit_id,component_id,component_type,span_scale,span_value,units\n"
 
 // The site has U1 010 NOX H and L, and U1 020 CO2 with one scale.
-constexpr RefusedTable kSpanFaults[] = {
+constexpr TableFault kSpanFaults[] = {
     {"no rows", SPANS, "the table has no rows."},
     {"a column is missing",
      "unit_id,component_id,component_type,span_scale,span_value\nU2,1,NOX,H,1\n",
@@ -93,7 +82,7 @@ constexpr RefusedTable kSpanFaults[] = {
 #define LOAD "date,hour,gross_load_mw,heat_input_mmbtu\n"
 
 // The site has the hours 0 and 1 of 2020-01-01 for U1.
-constexpr RefusedTable kLoadFaults[] = {
+constexpr TableFault kLoadFaults[] = {
     {"no rows", LOAD, "the table has no rows."},
     {"a column stands twice", "date,hour,gross_load_mw,hour\n2020-01-02,0,1,0\n",
      R"(line 1: the column "hour" stands there twice.)"},
@@ -135,71 +124,62 @@ struct SiteWithLoad : SmallSite {
     }
 };
 
-class SpanTableRefusal : public testing::TestWithParam<RefusedTable>
-{
-};
+using SpanTableRefusal = ImportCases<SmallSite, TableFault>;
+using SpanTableRefusals = ImportTest<EmptySite>;
 
 TEST_P(SpanTableRefusal, NamesFileLineAndFieldAndLeavesTheSiteAsItWas)
 {
-    SmallSite held;
-    const auto file = held.directory.write("new.csv", GetParam().content);
-    EXPECT_EQ(refusal(held, file, {}), std::string("new.csv: ") + GetParam().sentence);
+    EXPECT_EQ(refused("new.csv", GetParam().content),
+              std::string("new.csv: ") + GetParam().sentence);
 }
 
 INSTANTIATE_TEST_SUITE_P(Spans, SpanTableRefusal, testing::ValuesIn(kSpanFaults));
 
-class HourlyLoadRefusal : public testing::TestWithParam<RefusedTable>
-{
-};
+using HourlyLoadRefusal = ImportCases<SiteWithLoad, TableFault>;
+using HourlyLoadRefusals = ImportTest<SiteWithLoad>;
 
 TEST_P(HourlyLoadRefusal, NamesFileLineAndFieldAndLeavesTheSiteAsItWas)
 {
-    SiteWithLoad held;
-    const auto file = held.directory.write("load.csv", GetParam().content);
-    EXPECT_EQ(refusal(held, file, forUnit("U1")), std::string("load.csv: ") + GetParam().sentence);
+    EXPECT_EQ(refused("load.csv", GetParam().content, forUnit("U1")),
+              std::string("load.csv: ") + GetParam().sentence);
 }
 
 INSTANTIATE_TEST_SUITE_P(Load, HourlyLoadRefusal, testing::ValuesIn(kLoadFaults));
 
-TEST(SpanTableRefusals, TheSameFileIsRefused)
+TEST_F(SpanTableRefusals, TheSameFileIsRefused)
 {
-    EmptySite held;
     const std::string table = SPANS "U2,010,NOX,H,100,PPM\n";
-    importFile(held.site, held.directory.write("a.csv", table), {});
-    EXPECT_EQ(refusal(held, held.directory.write("b.csv", table), {}),
-              "b.csv: the site has imported this file before, as a.csv.");
+    take("a.csv", table);
+    EXPECT_EQ(refused("b.csv", table), "b.csv: the site has imported this file before, as a.csv.");
 }
 
-TEST(SpanTableRefusals, ATwentiethUnitIsRefused)
+TEST_F(SpanTableRefusals, ATwentiethUnitIsRefused)
 {
-    EmptySite held;
     std::string table = SPANS;
     for (int unit = 1; unit <= 20; ++unit)
         table += "U" + std::to_string(unit) + ",010,NOX,H,100,PPM\n";
-    EXPECT_EQ(refusal(held, held.directory.write("spans.csv", table), {}),
+    EXPECT_EQ(refused("spans.csv", table),
               "spans.csv: line 21: unit_id: U20 would be one unit too many, since a site holds at "
               "most 19.");
     table.erase(table.find("U20,"));
-    importFile(held.site, held.directory.write("spans.csv", table), {});
-    EXPECT_EQ(held.site.server()->Units().size(), 19U);
+    take("spans.csv", table);
+    EXPECT_EQ(site.server()->Units().size(), 19U);
     const auto load = held.directory.write("load.csv", LOAD "2020-01-02,0,5,0\n");
     EXPECT_EQ(refusal(held, load, forUnit("U20")),
               "load.csv: unit: U20 would be one unit too many, since a site holds at most 19.");
 }
 
-TEST(SpanTableRefusals, AHundredthComponentOfAGasIsRefused)
+TEST_F(SpanTableRefusals, AHundredthComponentOfAGasIsRefused)
 {
-    EmptySite held;
     std::string table = SPANS;
     for (int component = 100; component < 200; ++component)
         table += "U1," + std::to_string(component) + ",NOX,H,100,PPM\n";
-    EXPECT_EQ(refusal(held, held.directory.write("spans.csv", table), {}),
+    EXPECT_EQ(refused("spans.csv", table),
               "spans.csv: line 101: component_id: a unit has at most 99 components for one gas.");
 }
 
-TEST(HourlyLoadRefusals, TheUnitHasToBeNamed)
+TEST_F(HourlyLoadRefusals, TheUnitHasToBeNamed)
 {
-    SiteWithLoad held;
     const auto file = held.directory.write("load.csv", LOAD "2020-01-02,0,5,0\n");
     EXPECT_EQ(refusal(held, file, {}),
               "load.csv: unit: the unit that the load belongs to has to be named.");
@@ -207,11 +187,10 @@ TEST(HourlyLoadRefusals, TheUnitHasToBeNamed)
               R"(load.csv: unit: "UNIT007" is no identifier of 1 to 6 characters.)");
 }
 
-TEST(HourlyLoadRefusals, TheSameFileIsRefusedForEveryUnit)
+TEST_F(HourlyLoadRefusals, TheSameFileIsRefusedForEveryUnit)
 {
-    SiteWithLoad held;
     const auto file = held.directory.write("load.csv", LOAD "2020-01-02,0,5,0\n");
-    importFile(held.site, file, forUnit("U1"));
+    importFile(site, file, forUnit("U1"));
     for (const char* unit : {"U1", "U2"})
         EXPECT_EQ(refusal(held, file, forUnit(unit)),
                   "load.csv: the site has imported this file before, as load.csv.");

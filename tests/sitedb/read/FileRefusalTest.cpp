@@ -12,20 +12,20 @@ namespace
 
 const std::string kTwoHours = "date,hour,gross_load_mw\n2020-01-01,0,10\n2020-01-01,1,0\n";
 
-TEST(FileRefusal, AFileThatIsNotThere)
+using FileRefusal = ImportTest<SmallSite>;
+
+TEST_F(FileRefusal, AFileThatIsNotThere)
 {
-    SmallSite held;
     EXPECT_EQ(refusal(held, held.directory / "none.csv", {}), "none.csv: there is no such file.");
     try {
-        importFile(held.site, held.directory / "none.csv", {});
+        importFile(site, held.directory / "none.csv", {});
     } catch (const ImportError& error) {
         EXPECT_EQ(error.number(), errors::kFileNotFound);
     }
 }
 
-TEST(FileRefusal, ADirectory)
+TEST_F(FileRefusal, ADirectory)
 {
-    SmallSite held;
     std::filesystem::create_directory(held.directory / "folder");
     EXPECT_EQ(refusal(held, held.directory / "folder", {}),
               "folder: this is no file that can be read.");
@@ -37,7 +37,7 @@ struct ContentCase {
     const char* sentence;
 };
 
-TEST(FileRefusal, AContentOfNoKnownFormat)
+TEST_F(FileRefusal, AContentOfNoKnownFormat)
 {
     const char* unknown = "this is none of the files that can be imported.";
     const ContentCase cases[] = {
@@ -52,16 +52,15 @@ TEST(FileRefusal, AContentOfNoKnownFormat)
         {"a quote without an end", R"("date,hour,gross_load_mw)", unknown},
     };
     for (const auto& entry : cases) {
-        SmallSite held;
-        const auto file = held.directory.write("file.dat", entry.content);
-        EXPECT_EQ(refusal(held, file, forUnit("U1")), std::string("file.dat: ") + entry.sentence)
+        SmallSite fresh;
+        const auto file = fresh.directory.write("file.dat", entry.content);
+        EXPECT_EQ(refusal(fresh, file, forUnit("U1")), std::string("file.dat: ") + entry.sentence)
             << entry.what;
     }
 }
 
-TEST(FileRefusal, AGzipFileThatIsCutOffAnywhere)
+TEST_F(FileRefusal, AGzipFileThatIsCutOffAnywhere)
 {
-    SmallSite held;
     const std::string packed = gzip(kTwoHours);
     for (std::size_t length = 2; length < packed.size(); ++length) {
         const auto file = held.directory.write("load.csv.gz", packed.substr(0, length));
@@ -70,44 +69,37 @@ TEST(FileRefusal, AGzipFileThatIsCutOffAnywhere)
     }
 }
 
-TEST(FileRefusal, ALongGzipFileThatIsCutOffInTheMiddle)
+TEST_F(FileRefusal, ALongGzipFileThatIsCutOffInTheMiddle)
 {
-    SmallSite held;
     const std::string packed = readFile(sampleFile("hourly_load_GT3.csv.gz"));
     const auto file = held.directory.write("load.csv.gz", packed.substr(0, packed.size() / 2));
     EXPECT_EQ(refusal(held, file, forUnit("U1")), "load.csv.gz: the gzip file is cut off.");
 }
 
-TEST(FileRefusal, AGzipFileWithAChangedByte)
+TEST_F(FileRefusal, AGzipFileWithAChangedByte)
 {
-    SmallSite held;
     std::string packed = gzip(kTwoHours);
     packed[packed.size() - 6] = static_cast<char>(packed[packed.size() - 6] ^ 1);
-    EXPECT_EQ(refusal(held, held.directory.write("load.csv.gz", packed), forUnit("U1")),
+    EXPECT_EQ(refused("load.csv.gz", packed, forUnit("U1")),
               "load.csv.gz: the gzip file is damaged.");
 }
 
-TEST(FileRefusal, AGzipFileWithSomethingBehindIt)
+TEST_F(FileRefusal, AGzipFileWithSomethingBehindIt)
 {
-    SmallSite held;
-    EXPECT_EQ(
-        refusal(held, held.directory.write("load.csv.gz", gzip(kTwoHours) + "rest"), forUnit("U1")),
-        "load.csv.gz: the gzip file is damaged.");
+    EXPECT_EQ(refused("load.csv.gz", gzip(kTwoHours) + "rest", forUnit("U1")),
+              "load.csv.gz: the gzip file is damaged.");
 }
 
-TEST(FileRefusal, AGzipFileOfTwoMembersWithSomethingBehindThem)
+TEST_F(FileRefusal, AGzipFileOfTwoMembersWithSomethingBehindThem)
 {
-    SmallSite held;
     const std::string packed = gzip("date,hour,gross_load_mw\n") + gzip("2020-01-01,0,10\n");
-    EXPECT_EQ(
-        refusal(held, held.directory.write("load.csv.gz", packed + "some bytes"), forUnit("U1")),
-        "load.csv.gz: the gzip file is damaged.");
-    importFile(held.site, held.directory.write("load.csv.gz", packed), forUnit("U1"));
+    EXPECT_EQ(refused("load.csv.gz", packed + "some bytes", forUnit("U1")),
+              "load.csv.gz: the gzip file is damaged.");
+    take("load.csv.gz", packed, forUnit("U1"));
 }
 
-TEST(FileRefusal, ASiteOpenForReadingOnlyTakesNothing)
+TEST_F(FileRefusal, ASiteOpenForReadingOnlyTakesNothing)
 {
-    SmallSite held;
     auto reader = SiteDatabase::open(held.path, OpenMode::ReadOnly);
     const std::string before = readFile(held.path);
     try {
@@ -121,14 +113,13 @@ TEST(FileRefusal, ASiteOpenForReadingOnlyTakesNothing)
     EXPECT_TRUE(readFile(held.path) == before);
 }
 
-TEST(FileRefusal, ASiteThatAnotherProgramWritesToTakesNothing)
+TEST_F(FileRefusal, ASiteThatAnotherProgramWritesToTakesNothing)
 {
-    SmallSite held;
     auto other = SiteDatabase::open(held.path, OpenMode::ReadWrite);
     const auto file = held.directory.write("load.csv", kTwoHours);
     const sql::Transaction writing(other.connection());
     try {
-        importFile(held.site, file, forUnit("U1"));
+        importFile(site, file, forUnit("U1"));
         FAIL();
     } catch (const Error& error) {
         EXPECT_EQ(error.description(), "site.k7site: another program is writing to the site.");

@@ -11,12 +11,12 @@ namespace k7deval::sitedb::test
 namespace
 {
 
-struct CountedDatabase {
+struct Sql : testing::Test {
     TemporaryDirectory directory;
     std::shared_ptr<sql::Connection> connection =
         sql::openSqlite(directory / "test.db", sql::Access::ReadWrite);
 
-    CountedDatabase()
+    Sql()
     {
         connection->execute("CREATE TABLE thing (id INTEGER PRIMARY KEY, value REAL, name TEXT)" +
                             connection->dialect().tableOptions());
@@ -41,14 +41,13 @@ template <class Call> std::string errorOf(const Call& call)
     return "no error";
 }
 
-TEST(Sql, ValuesComeBackWithTheirTypes)
+TEST_F(Sql, ValuesComeBackWithTheirTypes)
 {
-    CountedDatabase held;
-    held.connection->execute("INSERT INTO thing VALUES ($1, $2, $3)", std::int64_t{1} << 40U, 0.1,
-                             std::string("a\0b", 3));
-    held.connection->execute("INSERT INTO thing VALUES ($1, $2, $3)", std::int64_t{1}, sql::Value(),
-                             sql::Value());
-    const auto rows = held.connection->prepare("SELECT id, value, name FROM thing ORDER BY id");
+    connection->execute("INSERT INTO thing VALUES ($1, $2, $3)", std::int64_t{1} << 40U, 0.1,
+                        std::string("a\0b", 3));
+    connection->execute("INSERT INTO thing VALUES ($1, $2, $3)", std::int64_t{1}, sql::Value(),
+                        sql::Value());
+    const auto rows = connection->prepare("SELECT id, value, name FROM thing ORDER BY id");
     ASSERT_TRUE(rows->step());
     EXPECT_EQ(rows->int32(0), 1);
     EXPECT_TRUE(rows->isNull(1));
@@ -60,10 +59,9 @@ TEST(Sql, ValuesComeBackWithTheirTypes)
     EXPECT_FALSE(rows->step());
 }
 
-TEST(Sql, AColumnOfAnotherTypeIsAnError)
+TEST_F(Sql, AColumnOfAnotherTypeIsAnError)
 {
-    CountedDatabase held;
-    const auto row = held.connection->prepare("SELECT 'text', 5000000000, NULL");
+    const auto row = connection->prepare("SELECT 'text', 5000000000, NULL");
     row->step();
     EXPECT_EQ(errorOf([&] { static_cast<void>(row->integer(0)); }),
               "A column of the site database holds no whole number.");
@@ -75,84 +73,75 @@ TEST(Sql, AColumnOfAnotherTypeIsAnError)
               "A whole number in the site database is too large.");
 }
 
-TEST(Sql, AStatementRunsAgainWithOtherParameters)
+TEST_F(Sql, AStatementRunsAgainWithOtherParameters)
 {
-    CountedDatabase held;
-    const auto insert = held.connection->prepare("INSERT INTO thing (name) VALUES ($1)");
+    const auto insert = connection->prepare("INSERT INTO thing (name) VALUES ($1)");
     insert->run(std::string("a"));
     insert->run(std::string("b"));
-    const auto find = held.connection->prepare("SELECT id FROM thing WHERE name = $1");
+    const auto find = connection->prepare("SELECT id FROM thing WHERE name = $1");
     EXPECT_TRUE(find->with(std::string("b")).step());
     EXPECT_EQ(find->integer(0), 2);
     EXPECT_FALSE(find->with(std::string("c")).step());
 }
 
-TEST(Sql, ATransactionThatIsNotCommittedLeavesNothing)
+TEST_F(Sql, ATransactionThatIsNotCommittedLeavesNothing)
 {
-    CountedDatabase held;
     {
-        const sql::Transaction transaction(*held.connection);
-        held.connection->execute("INSERT INTO thing (name) VALUES ('a')");
-        EXPECT_EQ(held.count(), 1);
+        const sql::Transaction transaction(*connection);
+        connection->execute("INSERT INTO thing (name) VALUES ('a')");
+        EXPECT_EQ(count(), 1);
     }
-    EXPECT_EQ(held.count(), 0);
-    sql::Transaction transaction(*held.connection);
-    held.connection->execute("INSERT INTO thing (name) VALUES ('a')");
+    EXPECT_EQ(count(), 0);
+    sql::Transaction transaction(*connection);
+    connection->execute("INSERT INTO thing (name) VALUES ('a')");
     transaction.commit();
-    EXPECT_EQ(held.count(), 1);
+    EXPECT_EQ(count(), 1);
 }
 
-TEST(Sql, ATransactionIsTakenBackWhileAStatementIsStillReading)
+TEST_F(Sql, ATransactionIsTakenBackWhileAStatementIsStillReading)
 {
-    CountedDatabase held;
-    held.connection->execute("INSERT INTO thing (name) VALUES ('a'), ('b')");
-    const auto rows = held.connection->prepare("SELECT id FROM thing");
+    connection->execute("INSERT INTO thing (name) VALUES ('a'), ('b')");
+    const auto rows = connection->prepare("SELECT id FROM thing");
     {
-        const sql::Transaction transaction(*held.connection);
+        const sql::Transaction transaction(*connection);
         ASSERT_TRUE(rows->step());
-        held.connection->execute("DELETE FROM thing");
+        connection->execute("DELETE FROM thing");
     }
-    EXPECT_EQ(held.count(), 2);
+    EXPECT_EQ(count(), 2);
 }
 
-TEST(Sql, ATableKeepsItsTypes)
+TEST_F(Sql, ATableKeepsItsTypes)
 {
-    CountedDatabase held;
-    EXPECT_EQ(errorOf([&] { held.connection->execute("INSERT INTO thing (value) VALUES ('x')"); }),
+    EXPECT_EQ(errorOf([&] { connection->execute("INSERT INTO thing (value) VALUES ('x')"); }),
               "test.db: the database reports: cannot store TEXT value in REAL column thing.value.");
 }
 
-TEST(Sql, AWrongQueryIsAnErrorOfTheDatabase)
+TEST_F(Sql, AWrongQueryIsAnErrorOfTheDatabase)
 {
-    CountedDatabase held;
-    EXPECT_EQ(errorOf([&] { static_cast<void>(held.connection->prepare("SELECT missing")); }),
+    EXPECT_EQ(errorOf([&] { static_cast<void>(connection->prepare("SELECT missing")); }),
               "test.db: the database reports: no such column: missing.");
 }
 
-TEST(Sql, ParametersOutOfOrderAreRefused)
+TEST_F(Sql, ParametersOutOfOrderAreRefused)
 {
-    CountedDatabase held;
-    EXPECT_EQ(errorOf([&] { static_cast<void>(held.connection->prepare("SELECT $2, $1")); }),
+    EXPECT_EQ(errorOf([&] { static_cast<void>(connection->prepare("SELECT $2, $1")); }),
               "The parameters of a query are out of order: SELECT $2, $1");
 }
 
-TEST(Sql, AReferenceToAnUnknownRowIsRefused)
+TEST_F(Sql, AReferenceToAnUnknownRowIsRefused)
 {
-    CountedDatabase held;
-    held.connection->execute("CREATE TABLE part (thing INTEGER REFERENCES thing (id))");
-    EXPECT_NE(errorOf([&] { held.connection->execute("INSERT INTO part VALUES (7)"); }),
-              "no error");
+    connection->execute("CREATE TABLE part (thing INTEGER REFERENCES thing (id))");
+    EXPECT_NE(errorOf([&] { connection->execute("INSERT INTO part VALUES (7)"); }), "no error");
 }
 
-TEST(Sql, AStampIsKept)
+TEST_F(Sql, AStampIsKept)
 {
-    CountedDatabase held;
-    EXPECT_EQ(held.connection->applicationMark(), 0);
-    EXPECT_EQ(held.connection->schemaVersion(), 0);
-    held.connection->stamp(12, 34);
-    EXPECT_EQ(held.connection->applicationMark(), 12);
-    EXPECT_EQ(held.connection->schemaVersion(), 34);
-    EXPECT_TRUE(held.connection->holdsTables());
+    EXPECT_EQ(connection->applicationMark(), 0);
+    EXPECT_EQ(connection->schemaVersion(), 0);
+    connection->stamp(12, 34);
+    EXPECT_EQ(connection->applicationMark(), 12);
+    EXPECT_EQ(connection->schemaVersion(), 34);
+    EXPECT_TRUE(connection->holdsTables());
 }
 
 } // namespace

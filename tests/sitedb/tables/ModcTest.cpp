@@ -141,7 +141,7 @@ TEST(OlderSite, GetsTheMissingWordsWhenItIsOpenedForWriting)
     const std::string changed = "'left out of evaluations'";
     expected.replace(expected.find(changed), changed.size(), "'test run'");
     EXPECT_EQ(dump(opened), expected);
-    importEmissions(held, emissionsOf({emissionsHour("2021-01-01", 0, 1)}));
+    importText(held, "emissions.json", emissionsOf({emissionsHour("2021-01-01", 0, 1)}));
 }
 
 TEST(OlderSite, IsLeftAloneWhenItIsOpenedForReading)

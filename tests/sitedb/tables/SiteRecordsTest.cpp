@@ -45,10 +45,11 @@ std::vector<std::string> shown(const DIRecordList& records)
 
 using Texts = std::vector<std::string>;
 
-TEST(SiteRecords, ComeInTheOrderOfTimeZeroGasFirst)
+using SiteRecords = ImportTest<SiteWithRecords>;
+
+TEST_F(SiteRecords, ComeInTheOrderOfTimeZeroGasFirst)
 {
-    SiteWithRecords held;
-    EXPECT_EQ(shown(allRecords(held.site, kNox, "HIGH")),
+    EXPECT_EQ(shown(allRecords(site, kNox, "HIGH")),
               (Texts{"2020/03/01 06:10 0", "2020/03/01 06:10 1", "2020/03/01 12:00 0",
                      "2020/03/02 07:15 2"}));
 }
@@ -60,9 +61,8 @@ struct PeriodCase {
     std::size_t count = 0;
 };
 
-TEST(SiteRecords, BothEndsOfARangeBelongToIt)
+TEST_F(SiteRecords, BothEndsOfARangeBelongToIt)
 {
-    SiteWithRecords held;
     const PeriodCase cases[] = {
         {"the minute itself", makeDate(2020, 3, 1, 6, 10), makeDate(2020, 3, 1, 6, 10), 2},
         {"up to a second before", makeDate(2020, 3, 1), makeDate(2020, 3, 1, 6, 9, 59), 0},
@@ -74,23 +74,20 @@ TEST(SiteRecords, BothEndsOfARangeBelongToIt)
         {"before all", makeDate(2019, 1, 1), makeDate(2019, 12, 31), 0},
     };
     for (const auto& range : cases)
-        EXPECT_EQ(recordsBetween(held.site, kNox, "HIGH", range.start, range.end).size(),
-                  range.count)
+        EXPECT_EQ(recordsBetween(site, kNox, "HIGH", range.start, range.end).size(), range.count)
             << range.what;
 }
 
-TEST(SiteRecords, AreToldApartByScaleAndParameter)
+TEST_F(SiteRecords, AreToldApartByScaleAndParameter)
 {
-    SiteWithRecords held;
-    EXPECT_EQ(allRecords(held.site, kNox, "LOW").size(), 1U);
-    EXPECT_TRUE(allRecords(held.site, kNox, "").empty());
-    EXPECT_TRUE(allRecords(held.site, kNox + 1, "HIGH").empty());
+    EXPECT_EQ(allRecords(site, kNox, "LOW").size(), 1U);
+    EXPECT_TRUE(allRecords(site, kNox, "").empty());
+    EXPECT_TRUE(allRecords(site, kNox + 1, "HIGH").empty());
 }
 
-TEST(SiteRecords, OnlyTheNamedTablesAreRead)
+TEST_F(SiteRecords, OnlyTheNamedTablesAreRead)
 {
-    SiteWithRecords held;
-    const auto store = held.site.server()->RecordStore();
+    const auto store = site.server()->RecordStore();
     RangeRecordQuery query;
     query.siteKey = "site";
     query.start = makeDate(2020, 1, 1);
@@ -109,28 +106,25 @@ TEST(SiteRecords, OnlyTheNamedTablesAreRead)
     }
 }
 
-TEST(SiteRecords, ReadRecordsGivesAllOfATableForOneParameter)
+TEST_F(SiteRecords, ReadRecordsGivesAllOfATableForOneParameter)
 {
-    SiteWithRecords held;
-    EXPECT_EQ(recordsOf(held.site, kNox, "K7CAL").size(), 4U);
-    EXPECT_EQ(recordsOf(held.site, kNox, "K7PMCAL").size(), 1U);
-    EXPECT_TRUE(recordsOf(held.site, kNox, "NONE").empty());
+    EXPECT_EQ(recordsOf(site, kNox, "K7CAL").size(), 4U);
+    EXPECT_EQ(recordsOf(site, kNox, "K7PMCAL").size(), 1U);
+    EXPECT_TRUE(recordsOf(site, kNox, "NONE").empty());
 }
 
-TEST(SiteRecords, WhatWasNotRecordedIsNullOrTheZeroDate)
+TEST_F(SiteRecords, WhatWasNotRecordedIsNullOrTheZeroDate)
 {
-    SiteWithRecords held;
-    const auto records = recordsOf(held.site, kNox, "K7PMCAL");
+    const auto records = recordsOf(site, kNox, "K7PMCAL");
     EXPECT_EQ(records[0]->InjectionEnd(), Date{});
     for (const auto& value : {records[0]->ReferenceValue(), records[0]->MeasuredValue(),
                               records[0]->Manual(), records[0]->Span(), records[0]->SourceTagID()})
         EXPECT_EQ(value, Variant(Null{}));
 }
 
-TEST(SiteRecords, TheKeyOfAnotherSiteIsAnError)
+TEST_F(SiteRecords, TheKeyOfAnotherSiteIsAnError)
 {
-    SiteWithRecords held;
-    const auto server = held.site.server();
+    const auto server = site.server();
     const std::string sentence = R"(The site's key is "site", not "other".)";
     const auto expectRefused = [&](const auto& call) {
         try {

@@ -15,6 +15,21 @@ Date timeOfRuns()
     return makeDate(2021, 5, 20, 12);
 }
 
+Arguments argumentsOf(const std::string& line)
+{
+    Arguments words;
+    std::istringstream rest(line);
+    for (char first = 0; rest >> first;) {
+        std::string word;
+        if (first == '\'')
+            std::getline(rest, word, '\'');
+        else if (rest.unget())
+            rest >> word;
+        words.push_back(word);
+    }
+    return words;
+}
+
 CommandRun run(const Arguments& arguments)
 {
     std::vector<const char*> argv{"k7deval"};

@@ -12,6 +12,9 @@ namespace k7deval::cli::test
 
 using Arguments = std::vector<std::string>;
 
+/// The words of a line, as a shell takes them apart: at blanks, but not within '...'.
+Arguments argumentsOf(const std::string& line);
+
 /// What a run of the program left behind.
 struct CommandRun {
     int status = -1;

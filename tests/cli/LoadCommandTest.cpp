@@ -128,7 +128,7 @@ TEST(LoadCommand, HoldsTheScreenThatTheControlHas)
 
 struct LoadOption {
     std::string what;
-    Arguments arguments;
+    std::string arguments;
     std::string property; ///< Of a widget: "cmbUnit/Text".
     json content;
 };
@@ -136,36 +136,33 @@ struct LoadOption {
 TEST(LoadCommand, SetsAWidgetByEachOption)
 {
     const std::vector<LoadOption> cases{
-        {"the first unit", {}, "cmbUnit/Text", "U1"},
-        {"a unit", {"--unit", "U1"}, "cmbUnit/Text", "U1"},
-        {"the unit's load", {}, "cmbParam/Text", "Load"},
-        {"a parameter", {"--parameter", "Operating Time"}, "cmbParam/Text", "Operating Time"},
-        {"no PIDs", {}, "chkShowPID/Value", 0},
-        {"PIDs", {"--show-pid"}, "cmbParam/Text", "[1-602-0-75-01] Load"},
-        {"no minimum", {}, "txtMinSafe/Text", "0"},
-        {"a minimum", {"--minimum", "45"}, "txtMinSafe/Text", "45"},
-        {"a capacity", {"--capacity", "195.5"}, "txtCapacity/Text", "195.5"},
-        {"four quarters", {}, "optTimeEnd/Value", true},
-        {"the last finished quarter", {}, "cmbQTR/Text", "Q1"},
-        {"its year", {}, "cmbYear/Text", "2021"},
-        {"a quarter", {"--quarter", "Q3"}, "cmbQTR/Text", "Q3"},
-        {"a year of the list", {"--year", "2020"}, "cmbYear/ListIndex", 1},
-        {"a year that is not in the list", {"--year", "2017"}, "cmbYear/Text", "2017"},
-        {"a quarter with its year", {"--quarter", "2018Q2"}, "cmbQTR/Text", "Q2"},
-        {"the year of that", {"--quarter", "2018Q2"}, "cmbYear/Text", "2018"},
-        {"dates", {"--from", "2020-02-29"}, "optTimeSelect/Value", true},
-        {"the first day", {"--from", "2020-02-29"}, "txtFrom/Text", "2/29/2020"},
-        {"the proposed last day", {"--from", "2020-02-29"}, "txtTo/Text", "3/31/2021"},
-        {"the last day", {"--to", "6/30/2021"}, "txtTo/Text", "6/30/2021"},
-        {"days in reverse order",
-         {"--from", "2021-06-30", "--to", "2019-01-01"},
-         "txtFrom/Text",
-         "1/1/2019"},
+        {"the first unit", "", "cmbUnit/Text", "U1"},
+        {"a unit", "--unit U1", "cmbUnit/Text", "U1"},
+        {"the unit's load", "", "cmbParam/Text", "Load"},
+        {"a parameter", "--parameter 'Operating Time'", "cmbParam/Text", "Operating Time"},
+        {"no PIDs", "", "chkShowPID/Value", 0},
+        {"PIDs", "--show-pid", "cmbParam/Text", "[1-602-0-75-01] Load"},
+        {"no minimum", "", "txtMinSafe/Text", "0"},
+        {"a minimum", "--minimum 45", "txtMinSafe/Text", "45"},
+        {"a capacity", "--capacity 195.5", "txtCapacity/Text", "195.5"},
+        {"four quarters", "", "optTimeEnd/Value", true},
+        {"the last finished quarter", "", "cmbQTR/Text", "Q1"},
+        {"its year", "", "cmbYear/Text", "2021"},
+        {"a quarter", "--quarter Q3", "cmbQTR/Text", "Q3"},
+        {"a year of the list", "--year 2020", "cmbYear/ListIndex", 1},
+        {"a year that is not in the list", "--year 2017", "cmbYear/Text", "2017"},
+        {"a quarter with its year", "--quarter 2018Q2", "cmbQTR/Text", "Q2"},
+        {"the year of that", "--quarter 2018Q2", "cmbYear/Text", "2018"},
+        {"dates", "--from 2020-02-29", "optTimeSelect/Value", true},
+        {"the first day", "--from 2020-02-29", "txtFrom/Text", "2/29/2020"},
+        {"the proposed last day", "--from 2020-02-29", "txtTo/Text", "3/31/2021"},
+        {"the last day", "--to 6/30/2021", "txtTo/Text", "6/30/2021"},
+        {"days in reverse order", "--from 2021-06-30 --to 2019-01-01", "txtFrom/Text", "1/1/2019"},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.what);
         const json document =
-            printedAsJson("load", Arguments{"--site", siteOfLoad()} + row.arguments);
+            printedAsJson("load", Arguments{"--site", siteOfLoad()} + argumentsOf(row.arguments));
         EXPECT_EQ(document.at(json::json_pointer("/Screen/Widgets/" + row.property)), row.content);
     }
 }

@@ -109,47 +109,47 @@ TEST(RangeCommand, HoldsTheScreenThatTheControlHas)
 
 struct RangeOption {
     std::string what;
-    Arguments arguments;
+    std::string arguments;
     std::string property; ///< Of a widget: "cmbUnit/Text".
     json content;
 };
 
 TEST(RangeCommand, SetsAWidgetByEachOption)
 {
-    const Arguments so2High{"--scale", "HIGH"};
+    const std::string so2High = "--scale HIGH";
     const std::vector<RangeOption> cases{
-        {"the first unit", {}, "cmbUnit/Text", "U1"},
-        {"a unit", {"--unit", "U2"}, "cmbUnit/Text", "U2"},
-        {"its first parameter", {}, "cmbParam/Text", "SO2 01"},
-        {"a parameter", {"--parameter", "O2 02"}, "cmbParam/Text", "O2 02"},
-        {"PIDs", {"--show-pid"}, "cmbParam/Text", "[1-100-0-75-01] SO2 01"},
-        {"the first scale", {}, "cmbScale/Text", "LOW"},
+        {"the first unit", "", "cmbUnit/Text", "U1"},
+        {"a unit", "--unit U2", "cmbUnit/Text", "U2"},
+        {"its first parameter", "", "cmbParam/Text", "SO2 01"},
+        {"a parameter", "--parameter 'O2 02'", "cmbParam/Text", "O2 02"},
+        {"PIDs", "--show-pid", "cmbParam/Text", "[1-100-0-75-01] SO2 01"},
+        {"the first scale", "", "cmbScale/Text", "LOW"},
         {"a scale", so2High, "cmbScale/Text", "HIGH"},
         {"the span of the scale", so2High, "txtRange/Text", "100"},
-        {"a range", {"--range", "62.5"}, "txtRange/Text", "62.5"},
-        {"the proposed MEC", {}, "txtMEC/Text", "10"},
-        {"the proposed MEC counts", {}, "chkMEC/Value", 1},
+        {"a range", "--range 62.5", "txtRange/Text", "62.5"},
+        {"the proposed MEC", "", "txtMEC/Text", "10"},
+        {"the proposed MEC counts", "", "chkMEC/Value", 1},
         {"no proposed MEC", so2High, "txtMEC/Text", "N/A"},
         {"no proposed MEC counts", so2High, "chkMEC/Value", 0},
-        {"an MEC where none is proposed", so2High + Arguments{"--mec", "15"}, "txtMEC/Text", "15"},
-        {"which counts", so2High + Arguments{"--mec", "15"}, "chkMEC/Value", 1},
-        {"no MEC", {"--mec", "none"}, "chkMEC/Value", 0},
-        {"which leaves the proposal", {"--mec", "none"}, "txtMEC/Text", "10"},
-        {"the proposed MPC", {}, "txtMPC/Text", "50"},
-        {"which counts, too", {}, "chkMPC/Value", 1},
-        {"an MPC", {"--mpc", "45"}, "txtMPC/Text", "45"},
-        {"no MPC", {"--mpc", "none"}, "chkMPC/Value", 0},
-        {"limits of a percent gas", {"--parameter", "O2 02"}, "txtMPC/Text", "N/A"},
-        {"its own limit", {"--parameter", "O2 02", "--mpc", "21"}, "chkMPC/Value", 1},
-        {"the last finished quarter", {}, "cmbQTR/Text", "Q1"},
-        {"its year", {}, "cmbYear/Text", "2021"},
-        {"a quarter with its year", {"--quarter", "2018Q2"}, "cmbQTR/Text", "Q2"},
-        {"the year of that", {"--quarter", "2018Q2"}, "cmbYear/Text", "2018"},
-        {"a year", {"--year", "2020"}, "cmbYear/Text", "2020"},
+        {"an MEC where none is proposed", so2High + " --mec 15", "txtMEC/Text", "15"},
+        {"which counts", so2High + " --mec 15", "chkMEC/Value", 1},
+        {"no MEC", "--mec none", "chkMEC/Value", 0},
+        {"which leaves the proposal", "--mec none", "txtMEC/Text", "10"},
+        {"the proposed MPC", "", "txtMPC/Text", "50"},
+        {"which counts, too", "", "chkMPC/Value", 1},
+        {"an MPC", "--mpc 45", "txtMPC/Text", "45"},
+        {"no MPC", "--mpc none", "chkMPC/Value", 0},
+        {"limits of a percent gas", "--parameter 'O2 02'", "txtMPC/Text", "N/A"},
+        {"its own limit", "--parameter 'O2 02' --mpc 21", "chkMPC/Value", 1},
+        {"the last finished quarter", "", "cmbQTR/Text", "Q1"},
+        {"its year", "", "cmbYear/Text", "2021"},
+        {"a quarter with its year", "--quarter 2018Q2", "cmbQTR/Text", "Q2"},
+        {"the year of that", "--quarter 2018Q2", "cmbYear/Text", "2018"},
+        {"a year", "--year 2020", "cmbYear/Text", "2020"},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.what + ": " + row.property);
-        const json document = printedAsJson("range", gas() + row.arguments);
+        const json document = printedAsJson("range", gas() + argumentsOf(row.arguments));
         EXPECT_EQ(document.at(json::json_pointer("/Screen/Widgets/" + row.property)), row.content);
     }
 }

@@ -3,6 +3,7 @@
 #include "cli/CommandRun.h"
 #include "cli/PrintedJson.h"
 #include "cli/SampleSites.h"
+#include "foundation/TextFunctions.h"
 #include "sevenday/ctrl7Day.h"
 #include "support/FakeServices.h"
 #include "support/FakeSite.h"
@@ -22,93 +23,42 @@ using nlohmann::json;
 using Names = std::set<std::string>;
 using k7deval::test::TemporaryFolder;
 
-const Names kWizard{"ctrl7DaySetUp1", "ctrl7DayResult1", "cmdBack",      "cmdNext",
-                    "cmdSave",        "chkPreview",      "CommonDialog1"};
+/// The names in a text, a blank between them.
+Names namesOf(std::string_view text)
+{
+    const auto words = splitAt(' ', text);
+    return {words.begin(), words.end()};
+}
 
-const Names kSetUp{"cmbUnit",
-                   "cmbAnalyzer",
-                   "fraTargetTime",
-                   "lblFromDate",
-                   "txtFromDate",
-                   "cmdFromDate",
-                   "lblToDate",
-                   "txtToDate",
-                   "cmdToDate",
-                   "fraCriteria",
-                   "chkManualCals",
-                   "chk6of7",
-                   "fraDisplay",
-                   "optShowInterval",
-                   "optShowAllCals",
-                   "optShowDriftTestCals",
-                   "chkShowSummary",
-                   "fraPerfSpec",
-                   "opt025Span",
-                   "lbl025Span",
-                   "chkUseAPS",
-                   "opt05Span",
-                   "lbl05Span",
-                   "opt005Absolute",
-                   "lbl005Absolute",
-                   "optOtherSpan",
-                   "lblOtherSpan",
-                   "txtOtherSpanValue",
-                   "lblOtherSpanValue",
-                   "optOtherAbsolute",
-                   "lblOtherAbsolute",
-                   "txtOtherAbsoluteValue",
-                   "lblOtherAbsoluteValue",
-                   "optPS9GC",
-                   "lblPS9GC",
-                   "fraTestInfo",
-                   "lblORIS",
-                   "txtORIS",
-                   "lblStackID",
-                   "txtStackID",
-                   "cmbStackID",
-                   "lblComponentID",
-                   "txtComponentID",
-                   "lblTestReason",
-                   "cmbTestReason",
-                   "lblTestNumber",
-                   "txtTestNumber"};
+const Names kWizard =
+    namesOf("ctrl7DaySetUp1 ctrl7DayResult1 cmdBack cmdNext cmdSave chkPreview CommonDialog1");
 
-const Names kResult{
-    "tvwCalTimes",       "imgOnOffLine",     "fraSummary",        "lblSummary",
-    "lblAnalyzerLabel",  "imgOnlinePass",    "lblOnlinePass",     "imgOfflinePass",
-    "lblOfflinePass",    "imgOnlineFail",    "lblOnlineFail",     "imgOfflineFail",
-    "lblOfflineFail",    "imgOpDayNoCals",   "lblOpDayNoCals",    "lblCalTimeLabel",
-    "lblCalTimeData",    "lblInstSpanLabel", "lblInstSpanData",   "lblCalResultLabel",
-    "lblCalOnline",      "fraZero",          "lblZeroRefLabel",   "lblZeroRefData",
-    "lblZeroMeasLabel",  "lblZeroMeasData",  "lblZeroDriftLabel", "lblZeroDriftData",
-    "lblZeroLimitLabel", "lblZeroLimitData", "lblZeroAPSLabel",   "fraSpan",
-    "lblSpanRefLabel",   "lblSpanRefData",   "lblSpanMeasLabel",  "lblSpanMeasData",
-    "lblSpanDriftLabel", "lblSpanDriftData", "lblSpanLimitLabel", "lblSpanLimitData",
-    "lblSpanAPSLabel"};
+const Names kSetUp =
+    namesOf("cmbUnit cmbAnalyzer fraTargetTime lblFromDate txtFromDate cmdFromDate lblToDate "
+            "txtToDate cmdToDate fraCriteria chkManualCals chk6of7 fraDisplay optShowInterval "
+            "optShowAllCals optShowDriftTestCals chkShowSummary fraPerfSpec opt025Span lbl025Span "
+            "chkUseAPS opt05Span lbl05Span opt005Absolute lbl005Absolute optOtherSpan lblOtherSpan "
+            "txtOtherSpanValue lblOtherSpanValue optOtherAbsolute lblOtherAbsolute "
+            "txtOtherAbsoluteValue lblOtherAbsoluteValue optPS9GC lblPS9GC fraTestInfo lblORIS "
+            "txtORIS lblStackID txtStackID cmbStackID lblComponentID txtComponentID lblTestReason "
+            "cmbTestReason lblTestNumber txtTestNumber");
 
-const Names kTest{"lngAnalyzedPID",
-                  "strAnalyzedScale",
-                  "dtStart",
-                  "dtEnd",
-                  "sngPercentOfSpanLimit",
-                  "sngPercentOfRefLimit",
-                  "sngAbsoluteLimit",
-                  "lngLimitRule",
-                  "blnSixOfSeven",
-                  "blnIncludeManualCals",
-                  "blnUseZeroCals",
-                  "blnRetrieveCals",
-                  "blnApplyLimits",
-                  "lngOpTimePID",
-                  "lngGoodCals",
-                  "lngFailedCals",
-                  "lngLastFailDay",
-                  "lngPrevFailDay",
-                  "lngUndeterminedDays",
-                  "strSummary",
-                  "dictCals",
-                  "dictDays",
-                  "objDaysToDisplay"};
+const Names kResult = namesOf(
+    "tvwCalTimes imgOnOffLine fraSummary lblSummary lblAnalyzerLabel imgOnlinePass "
+    "lblOnlinePass imgOfflinePass lblOfflinePass imgOnlineFail lblOnlineFail "
+    "imgOfflineFail lblOfflineFail imgOpDayNoCals lblOpDayNoCals lblCalTimeLabel "
+    "lblCalTimeData lblInstSpanLabel lblInstSpanData lblCalResultLabel lblCalOnline "
+    "fraZero lblZeroRefLabel lblZeroRefData lblZeroMeasLabel lblZeroMeasData "
+    "lblZeroDriftLabel lblZeroDriftData lblZeroLimitLabel lblZeroLimitData lblZeroAPSLabel "
+    "fraSpan lblSpanRefLabel lblSpanRefData lblSpanMeasLabel lblSpanMeasData "
+    "lblSpanDriftLabel lblSpanDriftData lblSpanLimitLabel lblSpanLimitData lblSpanAPSLabel");
+
+const Names kTest =
+    namesOf("lngAnalyzedPID strAnalyzedScale dtStart dtEnd sngPercentOfSpanLimit "
+            "sngPercentOfRefLimit sngAbsoluteLimit lngLimitRule blnSixOfSeven blnIncludeManualCals "
+            "blnUseZeroCals blnRetrieveCals blnApplyLimits lngOpTimePID lngGoodCals lngFailedCals "
+            "lngLastFailDay lngPrevFailDay lngUndeterminedDays strSummary dictCals dictDays "
+            "objDaysToDisplay");
 
 Names namesIn(const json& object)
 {

@@ -11,7 +11,6 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -73,142 +72,128 @@ struct Rig {
     Operator hands{view};
 };
 
+struct Binding : testing::Test, Rig {
+};
+
 } // namespace
 
-TEST(Binding, AChangeByCodeIsNoActionOfTheUser)
+TEST_F(Binding, AChangeByCodeIsNoActionOfTheUser)
 {
-    Rig rig;
-    rig.screen.field.SetText("code");
-    rig.screen.list.SetListIndex(1);
-    rig.screen.box.setChecked(true);
+    screen.field.SetText("code");
+    screen.list.SetListIndex(1);
+    screen.box.setChecked(true);
     settle();
-    EXPECT_EQ(rig.hands.view<QLineEdit>("field").text(), "code");
-    EXPECT_EQ(rig.hands.view<QComboBox>("list").currentIndex(), 1);
-    EXPECT_TRUE(rig.hands.view<QCheckBox>("box").isChecked());
-    EXPECT_EQ(rig.screen.changes, 1);
-    EXPECT_EQ(rig.screen.picks, 1);
-    EXPECT_EQ(rig.screen.typings, 0);
-    EXPECT_EQ(rig.screen.clicks, 1);
+    EXPECT_EQ(hands.view<QLineEdit>("field").text(), "code");
+    EXPECT_EQ(hands.view<QComboBox>("list").currentIndex(), 1);
+    EXPECT_TRUE(hands.view<QCheckBox>("box").isChecked());
+    EXPECT_EQ(screen.changes, 1);
+    EXPECT_EQ(screen.picks, 1);
+    EXPECT_EQ(screen.typings, 0);
+    EXPECT_EQ(screen.clicks, 1);
 }
 
-TEST(Binding, EachKeyIsTypedOnce)
+TEST_F(Binding, EachKeyIsTypedOnce)
 {
-    Rig rig;
-    rig.hands.type("field", "12345");
-    EXPECT_EQ(rig.screen.field.Text(), "1234");
-    EXPECT_EQ(rig.screen.changes, 4);
-    EXPECT_EQ(rig.screen.leavings, 0);
-    rig.hands.press(Qt::Key_Tab);
-    EXPECT_EQ(rig.screen.leavings, 1);
+    hands.type("field", "12345");
+    EXPECT_EQ(screen.field.Text(), "1234");
+    EXPECT_EQ(screen.changes, 4);
+    EXPECT_EQ(screen.leavings, 0);
+    hands.press(Qt::Key_Tab);
+    EXPECT_EQ(screen.leavings, 1);
 }
 
-TEST(Binding, APickOfTheSameEntryIsAPick)
+TEST_F(Binding, APickOfTheSameEntryIsAPick)
 {
-    Rig rig;
-    rig.screen.list.SetListIndex(1);
-    auto& list = rig.hands.view<QComboBox>("list");
+    screen.list.SetListIndex(1);
+    auto& list = hands.view<QComboBox>("list");
     list.showPopup();
     settle();
     QTest::keyClick(list.view(), Qt::Key_Return);
     settle();
-    EXPECT_EQ(rig.screen.picks, 2);
+    EXPECT_EQ(screen.picks, 2);
 }
 
-TEST(Binding, TheWheelPicksOnlyInTheListThatTheUserIsIn)
+TEST_F(Binding, TheWheelPicksOnlyInTheListThatTheUserIsIn)
 {
-    Rig rig;
-    rig.screen.list.SetListIndex(0);
-    auto& list = rig.hands.view<QComboBox>("list");
+    screen.list.SetListIndex(0);
+    auto& list = hands.view<QComboBox>("list");
     const auto turn = [&list] {
         const QPointF middle = list.rect().center();
         QWheelEvent wheel(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&list, &wheel);
     };
-    rig.hands.view<QLineEdit>("field").setFocus();
+    hands.view<QLineEdit>("field").setFocus();
     turn();
-    EXPECT_EQ(rig.screen.list.ListIndex(), 0);
+    EXPECT_EQ(screen.list.ListIndex(), 0);
     list.setFocus();
     turn();
-    EXPECT_EQ(rig.screen.list.ListIndex(), 1);
-    EXPECT_EQ(rig.screen.picks, 2);
+    EXPECT_EQ(screen.list.ListIndex(), 1);
+    EXPECT_EQ(screen.picks, 2);
 }
 
-TEST(Binding, TypingTheTextOfAnEntryIsNoPick)
+TEST_F(Binding, TypingTheTextOfAnEntryIsNoPick)
 {
-    Rig rig;
-    rig.hands.enter("list", "two");
-    EXPECT_EQ(rig.screen.list.Text(), "two");
-    EXPECT_EQ(rig.screen.list.ListIndex(), -1);
-    EXPECT_EQ(rig.hands.view<QComboBox>("list").currentIndex(), -1);
-    EXPECT_EQ(rig.screen.picks, 0);
-    EXPECT_EQ(rig.screen.typings, 3);
+    hands.enter("list", "two");
+    EXPECT_EQ(screen.list.Text(), "two");
+    EXPECT_EQ(screen.list.ListIndex(), -1);
+    EXPECT_EQ(hands.view<QComboBox>("list").currentIndex(), -1);
+    EXPECT_EQ(screen.picks, 0);
+    EXPECT_EQ(screen.typings, 3);
 }
 
-TEST(Binding, TypingIntoTheTextOfAnEntryKeepsTheCursor)
+TEST_F(Binding, TypingIntoTheTextOfAnEntryKeepsTheCursor)
 {
-    Rig rig;
-    rig.screen.list.SetListIndex(1);
-    auto& list = rig.hands.view<QComboBox>("list");
+    screen.list.SetListIndex(1);
+    auto& list = hands.view<QComboBox>("list");
     list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&list, Qt::Key_Home);
     QTest::keyClicks(&list, "12");
-    EXPECT_EQ(rig.screen.list.Text(), "12two");
-    EXPECT_EQ(rig.screen.list.ListIndex(), -1);
+    EXPECT_EQ(screen.list.Text(), "12two");
+    EXPECT_EQ(screen.list.ListIndex(), -1);
 }
 
-TEST(Binding, TypingInTheMiddleOfAFieldKeepsTheCursor)
+TEST_F(Binding, TypingInTheMiddleOfAFieldKeepsTheCursor)
 {
-    Rig rig;
-    rig.screen.field.SetText("ad");
-    auto& field = rig.hands.view<QLineEdit>("field");
+    screen.field.SetText("ad");
+    auto& field = hands.view<QLineEdit>("field");
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Home);
     QTest::keyClick(&field, Qt::Key_Right);
     QTest::keyClicks(&field, "bc");
-    EXPECT_EQ(rig.screen.field.Text(), "abcd");
+    EXPECT_EQ(screen.field.Text(), "abcd");
 }
 
-TEST(Binding, ATextByCodeMayBeLongerThanWhatCanBeTyped)
+TEST_F(Binding, ATextByCodeMayBeLongerThanWhatCanBeTyped)
 {
-    Rig rig;
-    rig.screen.field.SetText("123456");
-    EXPECT_EQ(rig.hands.view<QLineEdit>("field").text(), "123456");
-    rig.hands.type("field", "98765");
-    EXPECT_EQ(rig.screen.field.Text(), "9876");
+    screen.field.SetText("123456");
+    EXPECT_EQ(hands.view<QLineEdit>("field").text(), "123456");
+    hands.type("field", "98765");
+    EXPECT_EQ(screen.field.Text(), "9876");
 }
 
-TEST(Binding, ShowsWhatTheModelMadeOfAPress)
+TEST_F(Binding, ShowsWhatTheModelMadeOfAPress)
 {
-    Rig rig;
     // The model goes back on the user.
-    rig.screen.box.Clicked.Connect([&rig] { rig.screen.box.setChecked(false); });
-    rig.hands.click("box");
-    EXPECT_FALSE(rig.hands.view<QCheckBox>("box").isChecked());
+    screen.box.Clicked.Connect([this] { screen.box.setChecked(false); });
+    hands.click("box");
+    EXPECT_FALSE(hands.view<QCheckBox>("box").isChecked());
 }
 
-TEST(Binding, TellsAFailureByNumberAndDescription)
+TEST_F(Binding, TellsAFailureByNumberAndDescription)
 {
-    Rig rig;
-    rig.screen.failure = Error(381);
-    QString told;
-    whenDialogComes([&told](QDialog& dialog) {
-        told = dynamic_cast<QMessageBox&>(dialog).text();
-        dialog.accept();
-    });
-    rig.hands.click("button");
-    EXPECT_EQ(told, "Error 381: Invalid property array index");
+    screen.failure = Error(381);
+    EXPECT_EQ(told([&] { hands.click("button"); }), "Error 381: Invalid property array index");
 }
 
-TEST(Binding, AMnemonicPressesTheButton)
+TEST_F(Binding, AMnemonicPressesTheButton)
 {
-    Rig rig;
-    EXPECT_EQ(rig.hands.view<QPushButton>("button").text(), "Salt && &Pepper");
-    rig.hands.pressMnemonic(Qt::Key_P);
-    EXPECT_EQ(rig.screen.presses, 1);
+    EXPECT_EQ(hands.view<QPushButton>("button").text(), "Salt && &Pepper");
+    hands.pressMnemonic(Qt::Key_P);
+    EXPECT_EQ(screen.presses, 1);
 }
 
-TEST(Binding, TheModelOutlivesItsView)
+TEST(BindingAlone, TheModelOutlivesItsView)
 {
     Screen screen;
     {
@@ -220,7 +205,7 @@ TEST(Binding, TheModelOutlivesItsView)
     EXPECT_EQ(screen.changes, 1);
 }
 
-TEST(Binding, AViewMayCloseWhileItsButtonIsPressed)
+TEST(BindingAlone, AViewMayCloseWhileItsButtonIsPressed)
 {
     Screen screen;
     auto view = std::make_unique<View>(screen);
@@ -230,7 +215,7 @@ TEST(Binding, AViewMayCloseWhileItsButtonIsPressed)
     EXPECT_EQ(screen.presses, 1);
 }
 
-TEST(Binding, AMnemonicIsALetterOfTheCaption)
+TEST(BindingAlone, AMnemonicIsALetterOfTheCaption)
 {
     EXPECT_EQ(withMnemonic("Unit:", 'U'), "&Unit:");
     EXPECT_EQ(withMnemonic("Show PID", 'd'), "Show PI&D");

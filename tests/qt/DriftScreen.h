@@ -1,7 +1,6 @@
 #pragma once
 
-#include "qt/Operator.h"
-#include "qt/ScreenComparison.h"
+#include "qt/ScreenOperator.h"
 #include "qt/ctrl7DayView.h"
 #include "sevenday/ToolRig.h"
 
@@ -28,24 +27,15 @@ inline std::shared_ptr<k7deval::test::SiteData> siteWithOneFailure()
 }
 
 /// An operator at the 7-Day tool.
-struct DriftScreen {
+struct DriftScreen : ScreenOperator<k7deval::test::ToolRig, ctrl7DayView> {
     explicit DriftScreen(
         std::shared_ptr<k7deval::test::SiteData> site = k7deval::test::siteWithDailyCals(7))
-        : rig(std::move(site))
+        : ScreenOperator(std::move(site))
     {
     }
-
-    k7deval::test::ToolRig rig;
-    ctrl7DayView view{rig.tool};
-    Operator hands{view};
 
     [[nodiscard]] QLabel& label(const std::string& name) const { return hands.view<QLabel>(name); }
     [[nodiscard]] QTreeWidget& tree() const { return hands.view<QTreeWidget>("tvwCalTimes"); }
-    [[nodiscard]] std::vector<std::string> differences() const
-    {
-        settle();
-        return test::differences(rig.tool, view);
-    }
     void clickEntry(QTreeWidgetItem& entry) const
     {
         tree().scrollToItem(&entry);

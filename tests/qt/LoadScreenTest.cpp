@@ -1,6 +1,5 @@
 #include "load/LoadRig.h"
-#include "qt/Operator.h"
-#include "qt/ScreenComparison.h"
+#include "qt/ScreenOperator.h"
 #include "qt/ScreenReader.h"
 #include "qt/ctrlMaxMWView.h"
 
@@ -9,7 +8,6 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace k7deval::qt::test
@@ -24,120 +22,98 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 /// An operator at the load tool on GT1: ten hours of load on the bounds of bins and levels.
-struct LoadScreen {
-    LoadScreen()
+struct LoadOperator : ScreenOperator<LoadRig, ctrlMaxMWView> {
+    LoadOperator()
     {
         rig.hours({5, 10, 15, 16, 30, 31, 60, 61, 99, 100, 110});
         rig.addHours(20, 42);
     }
+};
 
-    LoadRig rig;
-    ctrlMaxMWView view{rig.tool};
-    Operator hands{view};
+struct LoadScreen : testing::Test, LoadOperator {
 };
 
 } // namespace
 
-TEST(LoadScreen, ShowsItsToolFromTheStart)
+TEST_F(LoadScreen, ShowsItsToolFromTheStart)
 {
-    const LoadScreen screen;
-    screen.hands.photograph("load-start");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.photograph("load-start");
 }
 
-TEST(LoadScreen, EvaluatesWithMouseAndKeys)
+TEST_F(LoadScreen, EvaluatesWithMouseAndKeys)
 {
-    const LoadScreen screen;
-    screen.hands.enter("txtMinSafe", "10");
-    screen.hands.enter("txtCapacity", "100");
-    screen.hands.click("cmdCalculate");
-    screen.hands.photograph("load-results");
+    hands.enter("txtMinSafe", "10");
+    hands.enter("txtCapacity", "100");
+    hands.click("cmdCalculate");
+    hands.photograph("load-results");
 
-    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
-    EXPECT_EQ(screen.hands.text("lblBelow"), "1 hour(s) under 10");
-    EXPECT_EQ(screen.hands.text("lblAbove"), "1 hour(s) over 100 - Maximum 110");
-    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    EXPECT_EQ(hands.text("lblHeader"), "GT1 GT1 Load");
+    EXPECT_EQ(hands.text("lblBelow"), "1 hour(s) under 10");
+    EXPECT_EQ(hands.text("lblAbove"), "1 hour(s) over 100 - Maximum 110");
+    EXPECT_TRUE(hands.view<QPushButton>("cmdSave").isEnabled());
 }
 
-TEST(LoadScreen, AMnemonicLeavesTheFieldBeforeItCalculates)
+TEST_F(LoadScreen, AMnemonicLeavesTheFieldBeforeItCalculates)
 {
-    const LoadScreen screen;
-    screen.hands.type("txtMinSafe", "10");
-    screen.hands.pressMnemonic(Qt::Key_C);
-    EXPECT_EQ(screen.hands.text("lblMinSafe"), "10");
+    hands.type("txtMinSafe", "10");
+    hands.pressMnemonic(Qt::Key_C);
+    EXPECT_EQ(hands.text("lblMinSafe"), "10");
 }
 
-TEST(LoadScreen, BadInputIsPutBackWhenTheFieldIsLeft)
+TEST_F(LoadScreen, BadInputIsPutBackWhenTheFieldIsLeft)
 {
-    const LoadScreen screen;
-    screen.hands.type("txtCapacity", "abc");
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtCapacity").text(), "abc");
-    screen.hands.press(Qt::Key_Tab);
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtCapacity").text(), "100");
+    hands.type("txtCapacity", "abc");
+    EXPECT_EQ(hands.view<QLineEdit>("txtCapacity").text(), "abc");
+    hands.press(Qt::Key_Tab);
+    EXPECT_EQ(hands.view<QLineEdit>("txtCapacity").text(), "100");
 }
 
-TEST(LoadScreen, AnotherWindowDoesNotEndTheTyping)
+TEST_F(LoadScreen, AnotherWindowDoesNotEndTheTyping)
 {
-    const LoadScreen screen;
-    screen.hands.type("txtCapacity", "abc");
+    hands.type("txtCapacity", "abc");
     QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-    QApplication::sendEvent(&screen.hands.view<QLineEdit>("txtCapacity"), &away);
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtCapacity").text(), "abc");
+    QApplication::sendEvent(&hands.view<QLineEdit>("txtCapacity"), &away);
+    EXPECT_EQ(hands.view<QLineEdit>("txtCapacity").text(), "abc");
 }
 
-TEST(LoadScreen, ThePeriodGoesWithItsOption)
+TEST_F(LoadScreen, ThePeriodGoesWithItsOption)
 {
-    const LoadScreen screen;
-    screen.hands.click("optTimeSelect");
-    screen.hands.enter("txtFrom", "1/1/2024");
-    screen.hands.enter("txtTo", "2024-01-02");
-    EXPECT_FALSE(screen.hands.view<QWidget>("cmbYear").isEnabled());
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtTo").text(), "1/2/2024");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("optTimeSelect");
+    hands.enter("txtFrom", "1/1/2024");
+    hands.enter("txtTo", "2024-01-02");
+    EXPECT_FALSE(hands.view<QWidget>("cmbYear").isEnabled());
+    EXPECT_EQ(hands.view<QLineEdit>("txtTo").text(), "1/2/2024");
 }
 
-TEST(LoadScreen, ATypedYearIsNotTakenForAPick)
+TEST_F(LoadScreen, ATypedYearIsNotTakenForAPick)
 {
-    const LoadScreen screen;
-    screen.hands.enter("cmbYear", "2023");
-    EXPECT_EQ(screen.rig.tool.cmbYear.ListIndex(), -1);
-    EXPECT_EQ(screen.rig.tool.cmbYear.Text(), "2023");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.enter("cmbYear", "2023");
+    EXPECT_EQ(rig.tool.cmbYear.ListIndex(), -1);
+    EXPECT_EQ(rig.tool.cmbYear.Text(), "2023");
 }
 
-TEST(LoadScreen, AnotherUnitBringsItsOwnParameters)
+TEST_F(LoadScreen, AnotherUnitBringsItsOwnParameters)
 {
-    const LoadScreen screen;
-    screen.hands.pick("cmbUnit", "GT2");
-    screen.hands.click("chkShowPID");
-    EXPECT_EQ(screen.rig.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.pick("cmbUnit", "GT2");
+    hands.click("chkShowPID");
+    EXPECT_EQ(rig.tool.cmbParam.Text(), "[2-602-0-75-01] GT2 Load");
 }
 
-TEST(LoadScreen, AFailureIsToldAndTheHourglassStays)
+TEST_F(LoadScreen, AFailureIsToldAndTheHourglassStays)
 {
-    const LoadScreen screen;
-    failAt(*screen.rig.site, "DIServer.Parameters");
-    QString told;
-    whenDialogComes([&told](QDialog& dialog) {
-        told = dynamic_cast<QMessageBox&>(dialog).text();
-        dialog.accept();
-    });
-    screen.hands.click("cmdCalculate");
-    EXPECT_EQ(told, "Error 440: the line is down");
-    EXPECT_EQ(screen.view.cursor().shape(), Qt::WaitCursor);
+    failAt(*rig.site, "DIServer.Parameters");
+    EXPECT_EQ(told([&] { hands.click("cmdCalculate"); }), "Error 440: the line is down");
+    EXPECT_EQ(view.cursor().shape(), Qt::WaitCursor);
 }
 
-TEST(LoadScreen, AScreenReaderMakesSenseOfIt)
+TEST_F(LoadScreen, AScreenReaderMakesSenseOfIt)
 {
-    const LoadScreen screen;
-    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
-    screen.hands.click("cmdCalculate");
-    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
+    hands.click("cmdCalculate");
+    EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
 }
 
-TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
+TEST(LoadScreens, AFieldThatGoesWithItsScreenIsNotLeft)
 {
     LoadRig rig;
     QWidget window;
@@ -147,84 +123,75 @@ TEST(LoadScreen, AFieldThatGoesWithItsScreenIsNotLeft)
     EXPECT_EQ(rig.tool.txtCapacity.Text(), "abc");
 }
 
-TEST(LoadScreen, EvaluatesDates)
+TEST_F(LoadScreen, EvaluatesDates)
 {
-    LoadScreen screen;
-    screen.hands.click("optTimeSelect");
-    screen.rig.services.dateAnswer = makeDate(2024, 1, 1);
-    screen.hands.click("cmdFrom");
-    screen.hands.enter("txtTo", "2024-01-01");
-    screen.hands.click("cmdCalculate");
-    screen.hands.photograph("load-dates");
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtFrom").text(), "1/1/2024");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("optTimeSelect");
+    rig.services.dateAnswer = makeDate(2024, 1, 1);
+    hands.click("cmdFrom");
+    hands.enter("txtTo", "2024-01-01");
+    hands.click("cmdCalculate");
+    hands.photograph("load-dates");
+    EXPECT_EQ(hands.view<QLineEdit>("txtFrom").text(), "1/1/2024");
+    EXPECT_EQ(hands.text("lblHeader"), "GT1 GT1 Load");
 }
 
-TEST(LoadScreen, AQuarterFromTheListLeavesTheResults)
+TEST_F(LoadScreen, AQuarterFromTheListLeavesTheResults)
 {
-    const LoadScreen screen;
-    screen.hands.click("cmdCalculate");
-    screen.hands.pick("cmbQTR", "Q3");
-    screen.hands.pick("cmbYear", "2022");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 GT1 Load");
-    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("cmdCalculate");
+    hands.pick("cmbQTR", "Q3");
+    hands.pick("cmbYear", "2022");
+    EXPECT_EQ(hands.text("lblHeader"), "GT1 GT1 Load");
+    EXPECT_TRUE(hands.view<QPushButton>("cmdSave").isEnabled());
 }
 
-TEST(LoadScreen, ALeftFieldTakesTheResultsOffTheScreenButNotTheButton)
+TEST_F(LoadScreen, ALeftFieldTakesTheResultsOffTheScreenButNotTheButton)
 {
-    const LoadScreen screen;
-    screen.hands.click("cmdCalculate");
-    screen.hands.type("txtMinSafe", "10");
-    screen.hands.click("chkPreview");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "");
-    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("cmdCalculate");
+    hands.type("txtMinSafe", "10");
+    hands.click("chkPreview");
+    EXPECT_EQ(hands.text("lblHeader"), "");
+    EXPECT_TRUE(hands.view<QPushButton>("cmdSave").isEnabled());
 }
 
-TEST(LoadScreen, TheHourglassIsSeenDuringTheWork)
+TEST_F(LoadScreen, TheHourglassIsSeenDuringTheWork)
 {
-    LoadScreen screen;
     std::vector<Qt::CursorShape> seen;
-    screen.rig.tool.Changed.Connect([&] { seen.push_back(screen.view.cursor().shape()); });
-    screen.hands.click("cmdCalculate");
+    rig.tool.Changed.Connect([&] { seen.push_back(view.cursor().shape()); });
+    hands.click("cmdCalculate");
     EXPECT_THAT(seen, ElementsAre(Qt::WaitCursor, Qt::ArrowCursor));
 }
 
-TEST(LoadScreen, TheTabulatorReadsTheScreen)
+TEST_F(LoadScreen, TheTabulatorReadsTheScreen)
 {
-    const LoadScreen screen;
     const QStringList below{"cmdCalculate", "chkPreview", "cmdClose"};
     const QStringList range{"cmbUnit", "cmbParam", "chkShowPID", "txtMinSafe", "txtCapacity"};
-    const QStringList way = screen.hands.walk("cmbUnit");
+    const QStringList way = hands.walk("cmbUnit");
     EXPECT_EQ(way.mid(0, 11), range + QStringList({"optTimeEnd", "cmbYear", "cmbQTR"}) + below);
-    screen.hands.click("optTimeSelect");
-    EXPECT_EQ(screen.hands.walk("cmbUnit").mid(0, 13),
+    hands.click("optTimeSelect");
+    EXPECT_EQ(hands.walk("cmbUnit").mid(0, 13),
               range + QStringList({"optTimeSelect", "txtFrom", "cmdFrom", "txtTo", "cmdTo"}) +
                   below);
 }
 
-TEST(LoadScreen, CloseIsTheHostsBusiness)
+TEST_F(LoadScreen, CloseIsTheHostsBusiness)
 {
-    LoadScreen screen;
     int closings = 0;
-    screen.rig.tool.CloseClicked.Connect([&closings] { ++closings; });
-    screen.hands.click("cmdClose");
+    rig.tool.CloseClicked.Connect([&closings] { ++closings; });
+    hands.click("cmdClose");
     EXPECT_EQ(closings, 1);
-    EXPECT_TRUE(screen.view.isVisible());
+    EXPECT_TRUE(view.isVisible());
 }
 
-TEST(LoadScreen, GrowsWithLargeLetters)
+TEST(LoadScreens, GrowsWithLargeLetters)
 {
     const LargeLetters letters;
-    const LoadScreen screen;
+    const LoadOperator screen;
     screen.hands.click("cmdCalculate");
     screen.hands.photograph("load-large");
     EXPECT_THAT(cutOff(screen.view), IsEmpty());
 }
 
-TEST(LoadScreen, AToolWithoutASiteIsEmpty)
+TEST(LoadScreens, AToolWithoutASiteIsEmpty)
 {
     k7deval::test::LoadTool rig;
     ctrlMaxMWView view(rig.tool);
@@ -232,7 +199,7 @@ TEST(LoadScreen, AToolWithoutASiteIsEmpty)
     EXPECT_THAT(differences(rig.tool, view), IsEmpty());
 }
 
-TEST(LoadScreen, TheToolGoesOnWithoutItsScreen)
+TEST(LoadScreens, TheToolGoesOnWithoutItsScreen)
 {
     LoadRig rig;
     {

@@ -8,6 +8,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QRadioButton>
 #include <QTest>
@@ -192,6 +193,22 @@ void whenDialogComes(std::function<void(QDialog&)> deal)
         else
             whenDialogComes(deal);
     });
+}
+
+void readBox(std::string& text)
+{
+    whenDialogComes([&text](QDialog& dialog) {
+        text = dynamic_cast<QMessageBox&>(dialog).text().toStdString();
+        dialog.accept();
+    });
+}
+
+std::string told(const std::function<void()>& act)
+{
+    std::string text;
+    readBox(text);
+    act();
+    return text;
 }
 
 } // namespace k7deval::qt::test

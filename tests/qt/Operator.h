@@ -92,5 +92,9 @@ void dropFiles(QWidget& target, const std::vector<std::filesystem::path>& files)
 /// Does something with the next dialog that comes up, over whatever runs then. Each dialog has to
 /// be dealt with so that the program goes on.
 void whenDialogComes(std::function<void(QDialog&)> deal);
+/// Closes the next message box, and keeps what it said.
+void readBox(std::string& text);
+/// Does something that brings up a message box, and gives its text.
+std::string told(const std::function<void()>& act);
 
 } // namespace k7deval::qt::test

@@ -1,5 +1,4 @@
-#include "qt/Operator.h"
-#include "qt/ScreenComparison.h"
+#include "qt/ScreenOperator.h"
 #include "qt/ScreenReader.h"
 #include "qt/ctrlRangeEvalView.h"
 #include "range/RangeRig.h"
@@ -21,135 +20,119 @@ using k7deval::test::siteOfTwoUnits;
 using ::testing::IsEmpty;
 
 /// An operator at the range tool, on GT1 with its scales and GT2.
-struct RangeScreen {
-    RangeScreen() { rig.hours({5, 10, 10.5, 20, 30, 39.5, 40, 45, 50, 60, 12, 12, 12}); }
+struct RangeOperator : ScreenOperator<RangeRig, ctrlRangeEvalView> {
+    RangeOperator() : ScreenOperator(siteOfTwoUnits())
+    {
+        rig.hours({5, 10, 10.5, 20, 30, 39.5, 40, 45, 50, 60, 12, 12, 12});
+    }
+};
 
-    RangeRig rig{siteOfTwoUnits()};
-    ctrlRangeEvalView view{rig.tool};
-    Operator hands{view};
+struct RangeScreen : testing::Test, RangeOperator {
 };
 
 } // namespace
 
-TEST(RangeScreen, ShowsItsToolFromTheStart)
+TEST_F(RangeScreen, ShowsItsToolFromTheStart)
 {
-    const RangeScreen screen;
-    screen.hands.photograph("range-start");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.photograph("range-start");
 }
 
-TEST(RangeScreen, EvaluatesWithMouseAndKeys)
+TEST_F(RangeScreen, EvaluatesWithMouseAndKeys)
 {
-    const RangeScreen screen;
-    screen.hands.enter("txtMEC", "11");
-    screen.hands.click("cmdCalculate");
-    screen.hands.photograph("range-results");
+    hands.enter("txtMEC", "11");
+    hands.click("cmdCalculate");
+    hands.photograph("range-results");
 
-    EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  9");
-    EXPECT_EQ(screen.hands.text("lblOverRange"), "Hours over Range:  1");
-    EXPECT_EQ(screen.hands.text("lblLowOpPercent"), "16.7%");
-    EXPECT_TRUE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    EXPECT_EQ(hands.text("lblAboveMEC"), "Hours above MEC:  9");
+    EXPECT_EQ(hands.text("lblOverRange"), "Hours over Range:  1");
+    EXPECT_EQ(hands.text("lblLowOpPercent"), "16.7%");
+    EXPECT_TRUE(hands.view<QPushButton>("cmdSave").isEnabled());
 }
 
-TEST(RangeScreen, APickGoesDownToTheRange)
+TEST_F(RangeScreen, APickGoesDownToTheRange)
 {
-    const RangeScreen screen;
-    screen.hands.pick("cmbScale", "HIGH");
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "500");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
-    screen.hands.pick("cmbUnit", "GT2");
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "250");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.pick("cmbScale", "HIGH");
+    EXPECT_EQ(hands.view<QLineEdit>("txtRange").text(), "500");
+    EXPECT_THAT(differences(), IsEmpty());
+    hands.pick("cmbUnit", "GT2");
+    EXPECT_EQ(hands.view<QLineEdit>("txtRange").text(), "250");
 }
 
-TEST(RangeScreen, TypingALimitTakesTheResultsOffTheScreen)
+TEST_F(RangeScreen, TypingALimitTakesTheResultsOffTheScreen)
 {
-    const RangeScreen screen;
-    screen.hands.click("cmdCalculate");
-    screen.hands.type("txtMPC", "48");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "");
-    EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
+    hands.click("cmdCalculate");
+    hands.type("txtMPC", "48");
+    EXPECT_EQ(hands.text("lblHeader"), "");
+    EXPECT_FALSE(hands.view<QPushButton>("cmdSave").isEnabled());
 }
 
-TEST(RangeScreen, ALimitThatIsOffIsNotCounted)
+TEST_F(RangeScreen, ALimitThatIsOffIsNotCounted)
 {
-    const RangeScreen screen;
-    screen.hands.click("chkMEC");
-    screen.hands.click("chkMPC");
-    screen.hands.click("cmdCalculate");
-    EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  N/A");
-    EXPECT_EQ(screen.hands.text("lblAboveMPC"), "Hours above MPC:  N/A");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("chkMEC");
+    hands.click("chkMPC");
+    hands.click("cmdCalculate");
+    EXPECT_EQ(hands.text("lblAboveMEC"), "Hours above MEC:  N/A");
+    EXPECT_EQ(hands.text("lblAboveMPC"), "Hours above MPC:  N/A");
+    EXPECT_THAT(differences(), IsEmpty());
 
-    screen.hands.click("chkMEC");
-    screen.hands.click("cmdCalculate");
-    EXPECT_EQ(screen.hands.text("lblAboveMEC"), "Hours above MEC:  0") << "it was not counted";
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("chkMEC");
+    hands.click("cmdCalculate");
+    EXPECT_EQ(hands.text("lblAboveMEC"), "Hours above MEC:  0") << "it was not counted";
 }
 
-TEST(RangeScreen, AGasInPercentHasNoLimits)
+TEST_F(RangeScreen, AGasInPercentHasNoLimits)
 {
-    const RangeScreen screen;
-    screen.hands.pick("cmbParam", "CO2");
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtMEC").text(), "N/A");
-    EXPECT_FALSE(screen.hands.view<QCheckBox>("chkMPC").isChecked());
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.pick("cmbParam", "CO2");
+    EXPECT_EQ(hands.view<QLineEdit>("txtMEC").text(), "N/A");
+    EXPECT_FALSE(hands.view<QCheckBox>("chkMPC").isChecked());
 }
 
-TEST(RangeScreen, BadInputIsPutBackWhenTheFieldIsLeft)
+TEST_F(RangeScreen, BadInputIsPutBackWhenTheFieldIsLeft)
 {
-    const RangeScreen screen;
-    screen.hands.click("cmdCalculate");
-    screen.hands.type("txtRange", "abc");
-    screen.hands.click("chkShowPID");
-    EXPECT_EQ(screen.hands.view<QLineEdit>("txtRange").text(), "50");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 NOX") << "the results stay";
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("cmdCalculate");
+    hands.type("txtRange", "abc");
+    hands.click("chkShowPID");
+    EXPECT_EQ(hands.view<QLineEdit>("txtRange").text(), "50");
+    EXPECT_EQ(hands.text("lblHeader"), "GT1 NOX") << "the results stay";
 }
 
-TEST(RangeScreen, AFieldThatIsLeftForTheButtonThatSavesTakesItAway)
+TEST_F(RangeScreen, AFieldThatIsLeftForTheButtonThatSavesTakesItAway)
 {
-    RangeScreen screen;
-    screen.hands.click("cmdCalculate");
-    screen.hands.type("txtRange", "60");
-    screen.hands.click("cmdSave");
-    EXPECT_FALSE(screen.hands.view<QPushButton>("cmdSave").isEnabled());
-    EXPECT_THAT(screen.rig.services.filters, IsEmpty()) << "nobody asked for a file";
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("cmdCalculate");
+    hands.type("txtRange", "60");
+    hands.click("cmdSave");
+    EXPECT_FALSE(hands.view<QPushButton>("cmdSave").isEnabled());
+    EXPECT_THAT(rig.services.filters, IsEmpty()) << "nobody asked for a file";
 }
 
-TEST(RangeScreen, AYearIsTypedOrPicked)
+TEST_F(RangeScreen, AYearIsTypedOrPicked)
 {
-    const RangeScreen screen;
-    screen.hands.click("cmdCalculate");
-    screen.hands.pick("cmbYear", "2023");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "GT1 NOX") << "a pick leaves the results";
-    screen.hands.type("cmbYear", "2022");
-    EXPECT_EQ(screen.hands.text("lblHeader"), "");
-    EXPECT_EQ(screen.rig.tool.cmbYear.ListIndex(), -1);
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.click("cmdCalculate");
+    hands.pick("cmbYear", "2023");
+    EXPECT_EQ(hands.text("lblHeader"), "GT1 NOX") << "a pick leaves the results";
+    hands.type("cmbYear", "2022");
+    EXPECT_EQ(hands.text("lblHeader"), "");
+    EXPECT_EQ(rig.tool.cmbYear.ListIndex(), -1);
 }
 
-TEST(RangeScreen, TheTabulatorReadsTheScreen)
+TEST_F(RangeScreen, TheTabulatorReadsTheScreen)
 {
-    const RangeScreen screen;
-    EXPECT_EQ(screen.hands.walk("cmbUnit").mid(0, 13),
+    EXPECT_EQ(hands.walk("cmbUnit").mid(0, 13),
               QStringList({"cmbUnit", "cmbParam", "chkShowPID", "cmbScale", "txtRange", "chkMEC",
                            "txtMEC", "chkMPC", "txtMPC", "cmbYear", "cmbQTR", "cmdCalculate",
                            "chkPreview"}));
 }
 
-TEST(RangeScreen, GrowsWithLargeLetters)
+TEST(RangeScreens, GrowsWithLargeLetters)
 {
     const LargeLetters letters;
-    const RangeScreen screen;
+    const RangeOperator screen;
     screen.hands.click("cmdCalculate");
     screen.hands.photograph("range-large");
     EXPECT_THAT(cutOff(screen.view), IsEmpty());
 }
 
-TEST(RangeScreen, AToolWithoutASiteIsEmpty)
+TEST(RangeScreens, AToolWithoutASiteIsEmpty)
 {
     k7deval::test::RangeTool rig;
     ctrlRangeEvalView view(rig.tool);
@@ -158,10 +141,9 @@ TEST(RangeScreen, AToolWithoutASiteIsEmpty)
     EXPECT_THAT(differences(rig.tool, view), IsEmpty());
 }
 
-TEST(RangeScreen, AScreenReaderMakesSenseOfIt)
+TEST_F(RangeScreen, AScreenReaderMakesSenseOfIt)
 {
-    const RangeScreen screen;
-    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
 }
 
 } // namespace k7deval::qt::test

@@ -1,5 +1,4 @@
-#include "qt/Operator.h"
-#include "qt/ScreenComparison.h"
+#include "qt/ScreenOperator.h"
 #include "qt/ScreenReader.h"
 #include "qt/SelectionViews.h"
 #include "selection/SelectionRig.h"
@@ -30,17 +29,13 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 /// An operator at the list of five parameters of two units, under the filter of units.
-struct ListScreen {
-    ListScreen()
+struct ListOperator : ScreenOperator<ParamSelectRig, ParamSelectView> {
+    ListOperator()
     {
         rig.filtered().list(kFiveParameters);
         view.resize(300, 300);
         settle();
     }
-
-    ParamSelectRig rig;
-    ParamSelectView view{rig.tool};
-    Operator hands{view};
 
     [[nodiscard]] QTableView& table() const { return hands.view<QTableView>("jgexGrid"); }
     [[nodiscard]] QModelIndex cell(int row, int column) const
@@ -82,177 +77,158 @@ struct ListScreen {
     }
 };
 
+struct ListScreen : testing::Test, ListOperator {
+};
+
 } // namespace
 
-TEST(ListScreen, ShowsTheRowsAndTheFilter)
+TEST_F(ListScreen, ShowsTheRowsAndTheFilter)
 {
-    const ListScreen screen;
-    screen.hands.photograph("selection-list");
-    EXPECT_EQ(screen.table().model()->rowCount(), 7);
-    EXPECT_EQ(screen.text(1), "NOx");
-    EXPECT_EQ(screen.table().columnSpan(0, 0), 2);
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.photograph("selection-list");
+    EXPECT_EQ(table().model()->rowCount(), 7);
+    EXPECT_EQ(text(1), "NOx");
+    EXPECT_EQ(table().columnSpan(0, 0), 2);
 }
 
-TEST(ListScreen, AHeaderFillsTheWidth)
+TEST_F(ListScreen, AHeaderFillsTheWidth)
 {
-    const ListScreen screen;
-    const QString header = screen.text(0);
+    const QString header = text(0);
     EXPECT_TRUE(header.startsWith("-----") && header.contains("- GT1 -")) << header.toStdString();
-    const int width = screen.table().fontMetrics().horizontalAdvance(header);
-    EXPECT_LE(width, screen.table().viewport()->width());
-    EXPECT_GE(width, screen.table().viewport()->width() * 3 / 4);
+    const int width = table().fontMetrics().horizontalAdvance(header);
+    EXPECT_LE(width, table().viewport()->width());
+    EXPECT_GE(width, table().viewport()->width() * 3 / 4);
 }
 
-TEST(ListScreen, TicksWithMouseAndKeys)
+TEST_F(ListScreen, TicksWithMouseAndKeys)
 {
-    const ListScreen screen;
-    screen.tick(1);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox));
-    screen.table().setCurrentIndex(screen.cell(2, 0));
-    QTest::keyClick(&screen.table(), Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox, kCo));
-    EXPECT_EQ(screen.cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
-    screen.tick(1);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kCo));
+    tick(1);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kNox));
+    table().setCurrentIndex(cell(2, 0));
+    QTest::keyClick(&table(), Qt::Key_Space);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kNox, kCo));
+    EXPECT_EQ(cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
+    tick(1);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kCo));
 }
 
-TEST(ListScreen, TheSpaceBarTicksARowByItsName)
+TEST_F(ListScreen, TheSpaceBarTicksARowByItsName)
 {
-    const ListScreen screen;
-    screen.click(1, 1);
-    screen.hands.press(Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox));
-    screen.hands.press(Qt::Key_Down);
-    screen.hands.press(Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox, kCo));
-    screen.hands.press(Qt::Key_Space);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox));
+    click(1, 1);
+    hands.press(Qt::Key_Space);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kNox));
+    hands.press(Qt::Key_Down);
+    hands.press(Qt::Key_Space);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kNox, kCo));
+    hands.press(Qt::Key_Space);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kNox));
 }
 
-TEST(ListScreen, ADoubleClickOnANameTicksIt)
+TEST_F(ListScreen, ADoubleClickOnANameTicksIt)
 {
-    const ListScreen screen;
-    screen.doubleClick(5, 1);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kLoad));
-    screen.doubleClick(0, 1);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kLoad));
+    doubleClick(5, 1);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kLoad));
+    doubleClick(0, 1);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kLoad));
 }
 
-TEST(ListScreen, ADoubleClickOnAMarkIsTheMarksBusiness)
+TEST_F(ListScreen, ADoubleClickOnAMarkIsTheMarksBusiness)
 {
-    const ListScreen screen;
-    screen.doubleClick(2, 1);
-    screen.doubleTick(1);
-    EXPECT_THAT(selectionOf(screen.rig.tool), ElementsAre(kNox, kCo));
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    doubleClick(2, 1);
+    doubleTick(1);
+    EXPECT_THAT(selectionOf(rig.tool), ElementsAre(kNox, kCo));
 }
 
-TEST(ListScreen, APressBesideTheRowsTicksNothing)
+TEST_F(ListScreen, APressBesideTheRowsTicksNothing)
 {
-    const ListScreen screen;
-    screen.table().setCurrentIndex(screen.cell(1, 1));
-    const QPoint below(20, screen.table().viewport()->height() - 5);
-    ASSERT_FALSE(screen.table().indexAt(below).isValid());
-    QTest::mouseClick(screen.table().viewport(), Qt::LeftButton, {}, below);
-    QTest::mouseDClick(screen.table().viewport(), Qt::LeftButton, {}, below);
-    EXPECT_THAT(selectionOf(screen.rig.tool), IsEmpty());
+    table().setCurrentIndex(cell(1, 1));
+    const QPoint below(20, table().viewport()->height() - 5);
+    ASSERT_FALSE(table().indexAt(below).isValid());
+    QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, below);
+    QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, below);
+    EXPECT_THAT(selectionOf(rig.tool), IsEmpty());
 }
 
-TEST(ListScreen, ShowsPIDsWhenTheHostWantsThem)
+TEST_F(ListScreen, ShowsPIDsWhenTheHostWantsThem)
 {
-    ListScreen screen;
-    const QString header = screen.text(0);
-    screen.rig.tool.SetShowPIDNumber(true);
-    EXPECT_EQ(screen.text(1), "[1-100-0-75-00] NOx");
-    EXPECT_EQ(screen.text(0), header);
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    const QString header = text(0);
+    rig.tool.SetShowPIDNumber(true);
+    EXPECT_EQ(text(1), "[1-100-0-75-00] NOx");
+    EXPECT_EQ(text(0), header);
 }
 
-TEST(ListScreen, SeveralRowsCanBeSelectedWhenTheHostAllowsIt)
+TEST_F(ListScreen, SeveralRowsCanBeSelectedWhenTheHostAllowsIt)
 {
-    ListScreen screen;
-    const auto selectThree = [&screen] {
-        screen.click(1, 1);
-        QTest::keyClick(&screen.table(), Qt::Key_Down, Qt::ShiftModifier);
-        QTest::keyClick(&screen.table(), Qt::Key_Down, Qt::ShiftModifier);
-        return screen.table().selectionModel()->selectedRows().size();
+    const auto selectThree = [this] {
+        click(1, 1);
+        QTest::keyClick(&table(), Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(&table(), Qt::Key_Down, Qt::ShiftModifier);
+        return table().selectionModel()->selectedRows().size();
     };
     EXPECT_EQ(selectThree(), 1);
-    screen.rig.tool.SetMultiSelect(true);
+    rig.tool.SetMultiSelect(true);
     EXPECT_EQ(selectThree(), 3);
 }
 
-TEST(ListScreen, TicksOfTheHostAreSeen)
+TEST_F(ListScreen, TicksOfTheHostAreSeen)
 {
-    ListScreen screen;
-    screen.rig.tool.SelectAll();
-    EXPECT_EQ(screen.cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
-    screen.rig.tool.SetOffsetUnits(false);
-    EXPECT_EQ(screen.table().model()->rowCount(), 5);
-    EXPECT_EQ(screen.table().columnSpan(0, 0), 1);
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    rig.tool.SelectAll();
+    EXPECT_EQ(cell(1, 0).data(Qt::CheckStateRole), Qt::Checked);
+    EXPECT_THAT(differences(), IsEmpty());
+    rig.tool.SetOffsetUnits(false);
+    EXPECT_EQ(table().model()->rowCount(), 5);
+    EXPECT_EQ(table().columnSpan(0, 0), 1);
 }
 
-TEST(ListScreen, AFilterOfOneUnitIsTakenAway)
+TEST_F(ListScreen, AFilterOfOneUnitIsTakenAway)
 {
-    ListScreen screen;
-    screen.rig.list({kNox, kCo});
-    EXPECT_FALSE(screen.hands.view<QWidget>("cmbUnit").isVisible());
+    rig.list({kNox, kCo});
+    EXPECT_FALSE(hands.view<QWidget>("cmbUnit").isVisible());
     settle();
-    EXPECT_EQ(screen.table().height(), screen.view.height());
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    EXPECT_EQ(table().height(), view.height());
 }
 
-TEST(ListScreen, AHeaderFillsTheWidthInOtherLetters)
+TEST_F(ListScreen, AHeaderFillsTheWidthInOtherLetters)
 {
-    ListScreen screen;
-    const auto before = screen.text(0).size();
-    QFont large = screen.view.font();
+    const auto before = text(0).size();
+    QFont large = view.font();
     large.setPointSizeF(large.pointSizeF() * 2);
-    screen.view.setFont(large);
-    screen.view.resize(301, 300);
+    view.setFont(large);
+    view.resize(301, 300);
     settle();
-    EXPECT_LT(screen.text(0).size(), before * 3 / 4);
+    EXPECT_LT(text(0).size(), before * 3 / 4);
 }
 
-TEST(ListScreen, GrowsWithLargeLetters)
+TEST(ListScreens, GrowsWithLargeLetters)
 {
     const LargeLetters letters;
-    const ListScreen screen;
+    const ListOperator screen;
     screen.hands.photograph("selection-large");
     EXPECT_GE(screen.table().rowHeight(1), screen.view.fontMetrics().height());
 }
 
-TEST(ListScreen, TheTabulatorGoesOnFromTheList)
+TEST_F(ListScreen, TheTabulatorGoesOnFromTheList)
 {
-    const ListScreen screen;
-    EXPECT_EQ(screen.hands.walk("cmbUnit"), QStringList({"cmbUnit", "jgexGrid"}));
+    EXPECT_EQ(hands.walk("cmbUnit"), QStringList({"cmbUnit", "jgexGrid"}));
 }
 
-TEST(ListScreen, TheFilterShowsOneUnit)
+TEST_F(ListScreen, TheFilterShowsOneUnit)
 {
-    const ListScreen screen;
-    screen.hands.pick("cmbUnit", "GT2");
-    EXPECT_EQ(screen.table().model()->rowCount(), 2);
-    EXPECT_EQ(screen.text(0), "Load");
-    EXPECT_THAT(differences(screen.rig.tool, screen.view), IsEmpty());
+    hands.pick("cmbUnit", "GT2");
+    EXPECT_EQ(table().model()->rowCount(), 2);
+    EXPECT_EQ(text(0), "Load");
 }
 
-TEST(ListScreen, KnowsItsKeysCell)
+TEST_F(ListScreen, KnowsItsKeysCell)
 {
-    const ListScreen screen;
-    screen.table().setFocus();
-    screen.table().setCurrentIndex(screen.cell(2, 1));
-    QTest::keyClick(&screen.table(), Qt::Key_Down);
-    EXPECT_EQ(screen.rig.tool.jgexGrid.Row(), 4);
+    table().setFocus();
+    table().setCurrentIndex(cell(2, 1));
+    QTest::keyClick(&table(), Qt::Key_Down);
+    EXPECT_EQ(rig.tool.jgexGrid.Row(), 4);
 }
 
-TEST(ListScreen, AScreenReaderMakesSenseOfIt)
+TEST_F(ListScreen, AScreenReaderMakesSenseOfIt)
 {
-    const ListScreen screen;
-    EXPECT_THAT(faultsForAScreenReader(screen.view), IsEmpty());
+    EXPECT_THAT(faultsForAScreenReader(view), IsEmpty());
 }
 
 TEST(SingleScreen, PicksOneParameter)

@@ -18,7 +18,6 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
@@ -35,7 +34,9 @@ using k7deval::test::SiteData;
 using k7deval::test::TemporaryFolder;
 using qt::test::faultsForAScreenReader;
 using qt::test::Operator;
+using qt::test::readBox;
 using qt::test::settle;
+using qt::test::told;
 using qt::test::whenDialogComes;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -129,24 +130,6 @@ std::shared_ptr<SiteData> siteOfOneAnalyzer()
     nox.hours = {makeDate(2024, 3, 1), {12.5, std::nullopt, 0.1, 1e6}, {0, 2, 1, 0}};
     site->parameters = {unit, nox};
     return site;
-}
-
-/// Closes the next message box, and keeps what it said.
-void readBox(std::string& text)
-{
-    whenDialogComes([&text](QDialog& dialog) {
-        text = dynamic_cast<QMessageBox&>(dialog).text().toStdString();
-        dialog.accept();
-    });
-}
-
-/// Does something that brings up a message box, and gives its text.
-std::string told(const std::function<void()>& act)
-{
-    std::string text;
-    readBox(text);
-    act();
-    return text;
 }
 
 /// Names the file in the save dialog that comes next, and then does something else.

@@ -18,7 +18,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTextBrowser>
@@ -32,6 +31,7 @@ namespace
 
 using qt::test::Operator;
 using qt::test::settle;
+using qt::test::told;
 using qt::test::whenDialogComes;
 
 const QStringList kAllTools{"7-Day Drift", "Load Evaluation", "Range Evaluation", "Data"};
@@ -103,13 +103,11 @@ TEST(Workbench, APostedLineStandsWithItsTime)
 TEST(Workbench, AFileThatIsNoSiteLeavesTheSiteOpen)
 {
     Workbench rig;
-    QString told;
-    whenDialogComes([&told](QDialog& dialog) {
-        told = dynamic_cast<QMessageBox&>(dialog).text();
-        dialog.accept();
-    });
-    rig.window.openSite(QString::fromStdString(sitedb::test::sampleFile("spans.csv").string()));
-    EXPECT_TRUE(told.startsWith("Error 75: ")) << told.toStdString();
+    EXPECT_THAT(told([&] {
+                    rig.window.openSite(
+                        QString::fromStdString(sitedb::test::sampleFile("spans.csv").string()));
+                }),
+                testing::StartsWith("Error 75: "));
     EXPECT_EQ(rig.titles(), kAllTools);
     EXPECT_EQ(rig.window.windowTitle(), "bethpage - K7DEval");
 }
@@ -154,13 +152,8 @@ TEST(Workbench, ARecentSiteThatIsGoneIsToldAndForgotten)
 {
     Workbench rig("");
     rig.window.offerSite("/nowhere/lost.site");
-    QString told;
-    whenDialogComes([&told](QDialog& dialog) {
-        told = dynamic_cast<QMessageBox&>(dialog).text();
-        dialog.accept();
-    });
-    rig.window.openSite("/nowhere/lost.site");
-    EXPECT_TRUE(told.startsWith("Error 53: ")) << told.toStdString();
+    EXPECT_THAT(told([&] { rig.window.openSite("/nowhere/lost.site"); }),
+                testing::StartsWith("Error 53: "));
     EXPECT_TRUE(rig.memory->settings.recentSites().isEmpty());
     EXPECT_FALSE(rig.window.findChild<QListWidget*>("recentSites")->isVisible());
     EXPECT_EQ(rig.label("startTitle").text(), "No site is open");
@@ -191,13 +184,8 @@ TEST(Workbench, ANewSiteNeverTakesThePlaceOfAFile)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("kept");
     file.close();
-    QString told;
-    whenDialogComes([&told](QDialog& dialog) {
-        told = dynamic_cast<QMessageBox&>(dialog).text();
-        dialog.accept();
-    });
-    rig.window.newSite(file.fileName());
-    EXPECT_TRUE(told.endsWith("Open it, or choose another name.")) << told.toStdString();
+    EXPECT_THAT(told([&] { rig.window.newSite(file.fileName()); }),
+                testing::EndsWith("Open it, or choose another name."));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "kept");
 }

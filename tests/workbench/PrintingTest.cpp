@@ -15,7 +15,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
@@ -368,16 +367,11 @@ TEST(PrintButtons, TellWhatKeepsAReportFromBeingBuilt)
         return nullptr;
     });
     const Operator hands(view);
-    QStringList told;
-    for (const char* name : {"cmdPrint", "cmdPrintPreview"}) {
-        whenDialogComes([&](QDialog& dialog) {
-            told << dynamic_cast<QMessageBox&>(dialog).text();
-            dialog.accept();
-        });
-        hands.view<QPushButton>(name).click();
-    }
-    EXPECT_EQ(told, QStringList({"Error 91: Object variable or With block variable not set",
-                                 "Error 5: There is nothing to print."}));
+    const auto toldBy = [&](const char* name) {
+        return qt::test::told([&] { hands.view<QPushButton>(name).click(); });
+    };
+    EXPECT_EQ(toldBy("cmdPrint"), "Error 91: Object variable or With block variable not set");
+    EXPECT_EQ(toldBy("cmdPrintPreview"), "Error 5: There is nothing to print.");
 }
 
 } // namespace k7deval::workbench::test

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMessageBox>
 
 namespace k7deval::workbench::test
 {
@@ -18,6 +17,7 @@ namespace
 
 using qt::test::dropFiles;
 using qt::test::Operator;
+using qt::test::told;
 using qt::test::whenDialogComes;
 using sitedb::test::sampleFile;
 
@@ -37,15 +37,15 @@ void importAllWhenAsked()
     });
 }
 
-/// The text of the message box that comes, which is closed.
-std::shared_ptr<QString> textOfNextBox()
+/// Enters the facility of the site as an operator does.
+void nameThePlant(const Workbench& rig)
 {
-    auto text = std::make_shared<QString>();
-    whenDialogComes([text](QDialog& dialog) {
-        *text = dynamic_cast<QMessageBox&>(dialog).text();
-        dialog.accept();
+    whenDialogComes([](QDialog& dialog) {
+        const Operator hands(dialog);
+        hands.type("facility", "Plant of the North");
+        hands.press(Qt::Key_Return);
     });
-    return text;
+    rig.choose({"File", "Site Properties..."});
 }
 
 } // namespace
@@ -99,21 +99,15 @@ TEST(SiteFlow, ADroppedSiteIsOpened)
 TEST(SiteFlow, FilesDroppedWithoutASiteAreAskedToWait)
 {
     Workbench rig("");
-    const auto told = textOfNextBox();
-    dropFiles(rig.window, {sampleFile("spans.csv")});
-    EXPECT_EQ(*told, "Open a site first, or make a new one, to take the files into.");
+    EXPECT_EQ(told([&] { dropFiles(rig.window, {sampleFile("spans.csv")}); }),
+              "Open a site first, or make a new one, to take the files into.");
 }
 
 TEST(SiteFlow, TheFacilityOfTheSiteIsShown)
 {
     sitedb::test::SmallSite held;
     const Workbench rig(held.path.string());
-    whenDialogComes([](QDialog& dialog) {
-        const Operator hands(dialog);
-        hands.type("facility", "Plant of the North");
-        hands.press(Qt::Key_Return);
-    });
-    rig.choose({"File", "Site Properties..."});
+    nameThePlant(rig);
     EXPECT_THAT(rig.label("siteLine").text().toStdString(),
                 testing::StartsWith("Plant of the North   "));
 }
@@ -124,9 +118,8 @@ TEST(SiteFlow, ASiteThatCanNotBeReadIsToldAndLeavesTheOneBefore)
     sitedb::test::SmallSite damaged;
     damaged.site.connection().execute("DROP TABLE lookup");
     Workbench rig(held.path.string());
-    const auto told = textOfNextBox();
-    rig.window.openSite(QString::fromStdString(damaged.path.string()));
-    EXPECT_TRUE(told->contains("lookup")) << told->toStdString();
+    EXPECT_THAT(told([&] { rig.window.openSite(QString::fromStdString(damaged.path.string())); }),
+                testing::HasSubstr("lookup"));
     EXPECT_EQ(rig.tabs().count(), 4);
     EXPECT_EQ(rig.label("siteLine").toolTip(), QString::fromStdString(held.path.string()));
 }
@@ -135,12 +128,7 @@ TEST(SiteFlow, AnEmptySiteCanBeNamed)
 {
     Workbench rig("");
     rig.window.newSite(rig.memory->folder.filePath("plant.site"));
-    whenDialogComes([](QDialog& dialog) {
-        const Operator hands(dialog);
-        hands.type("facility", "Plant of the North");
-        hands.press(Qt::Key_Return);
-    });
-    rig.choose({"File", "Site Properties..."});
+    nameThePlant(rig);
     EXPECT_EQ(rig.label("siteLine").text(), "Plant of the North   plant.site");
 }
 

@@ -23,7 +23,8 @@ foreign='<(Q[A-Za-z/]*|sqlite3\.h|libpq-fe\.h|zlib\.h|nlohmann/.*|CLI/.*|pybind1
 
 # The project's own text, of the given patterns.
 files() {
-    git ls-files --cached --others --exclude-standard -- "$@" | while IFS= read -r file; do
+    # The checkout may belong to another user than the one who checks it.
+    git -c safe.directory='*' ls-files --cached --others --exclude-standard -- "$@" | while IFS= read -r file; do
         if [ -f "$file" ]; then printf '%s\n' "$file"; fi
     done
 }
